@@ -1,0 +1,58 @@
+// Carries out command lines, one answer for each.
+#pragma once
+
+#include <optional>
+
+#include <QJsonObject>
+#include <QString>
+
+#include "batch/line.h"
+#include "batch/session.h"
+
+namespace vanzer::batch {
+
+class Interpreter {
+  public:
+    explicit Interpreter(Ambiente surroundings) : session_(std::move(surroundings)) {}
+
+    void setClock(const QDateTime& time) { session_.clock.set(time); }
+
+    /// The answer to a line; none for an empty line or a comment. Never throws for what a command does.
+    [[nodiscard]] std::optional<QJsonObject> run(const QString& line);
+    /// "stop" was read; window and archive are closed.
+    [[nodiscard]] bool finished() const { return finished_; }
+
+  private:
+    struct WordCommand {
+        QStringView word;
+        QJsonObject (Interpreter::*run)(const QString& rest);
+    };
+    static const WordCommand* wordCommand(QStringView word);
+
+    [[nodiscard]] QJsonObject execute(const QString& text);
+    [[nodiscard]] QJsonObject carryOut(const Line& line);
+    [[nodiscard]] QJsonObject onControl(const Line& line);
+    /// False while the window would refuse the command, or isn't there yet.
+    [[nodiscard]] bool possibleNow(const Line& line) const;
+
+    QJsonObject start(const QString& rest);
+    QJsonObject stop(const QString& rest);
+    QJsonObject answers(const QString& rest);
+    QJsonObject file(const QString& rest);
+    QJsonObject during(const QString& rest);
+    QJsonObject now(const QString& rest);
+    QJsonObject vars(const QString& rest);
+    QJsonObject table(const QString& rest);
+    QJsonObject cat(const QString& rest);
+    QJsonObject pages(const QString& rest);
+
+    Session session_;
+    std::optional<QString> forNext_; ///< waits for a yield of the next command
+    int depth_ = 0;                  ///< commands that are running, one inside the other
+    bool finished_ = false;
+};
+
+/// "2003-07-05T08:20"; nothing if that is no time.
+[[nodiscard]] std::optional<QDateTime> clockTime(const QString& text);
+
+} // namespace vanzer::batch

@@ -1,0 +1,106 @@
+// vanzer-batch: reads commands, one a line, and writes a JSON object a line for each.
+
+#include <cstdio>
+#include <fstream>
+#include <iostream>
+#include <string>
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+#include <QJsonDocument>
+#include <QLocale>
+
+#include "batch/interpreter.h"
+
+namespace {
+
+using namespace vanzer;
+
+constexpr int badUsage = 2;
+
+void say(const QString& text) {
+    std::fputs((text + u'\n').toLocal8Bit().constData(), stderr);
+}
+
+/// What the arguments ask for.
+struct Request {
+    QString directory; ///< absolute
+    std::optional<QDateTime> now;
+    QString script; ///< absolute; empty for standard input
+};
+
+std::optional<Request> requested(const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.addOptions(
+        {{QStringLiteral("dir"), QStringLiteral("The program's directory."), QStringLiteral("DIR")},
+         {QStringLiteral("now"), QStringLiteral("Fixes the clock."), QStringLiteral("YYYY-MM-DDTHH:MM")},
+         {QStringLiteral("script"), QStringLiteral("Reads the commands from a file."), QStringLiteral("FILE")}});
+    if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty()) {
+        say(parser.errorText() + u'\n' + parser.helpText());
+        return std::nullopt;
+    }
+    Request request;
+    const QString directory =
+        parser.isSet(QStringLiteral("dir")) ? parser.value(QStringLiteral("dir")) : QStringLiteral(".");
+    request.directory = QDir::cleanPath(QDir(directory).absolutePath());
+    if (directory.isEmpty() || !QDir(request.directory).exists()) {
+        say(QStringLiteral("no such directory: ") + directory);
+        return std::nullopt;
+    }
+    if (parser.isSet(QStringLiteral("now"))) {
+        request.now = batch::clockTime(parser.value(QStringLiteral("now")));
+        if (!request.now) {
+            say(QStringLiteral("not a time: ") + parser.value(QStringLiteral("now")));
+            return std::nullopt;
+        }
+    }
+    if (parser.isSet(QStringLiteral("script")))
+        request.script = QDir::current().absoluteFilePath(parser.value(QStringLiteral("script")));
+    return request;
+}
+
+void write(const QJsonObject& answer) {
+    const QByteArray line = QJsonDocument(answer).toJson(QJsonDocument::Compact) + '\n';
+    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stdout);
+    std::fflush(stdout);
+}
+
+void serve(batch::Interpreter& interpreter, std::istream& commands) {
+    std::string bytes;
+    while (!interpreter.finished() && std::getline(commands, bytes)) {
+        if (bytes.ends_with('\r'))
+            bytes.pop_back();
+        if (const auto answer = interpreter.run(QString::fromStdString(bytes)))
+            write(*answer);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    const auto request = requested(QCoreApplication::arguments());
+    if (!request)
+        return badUsage;
+    std::ifstream script;
+    if (!request->script.isEmpty()) {
+        script.open(QFile::encodeName(request->script).toStdString());
+        if (!script.is_open()) {
+            say(QStringLiteral("can't read ") + request->script);
+            return badUsage;
+        }
+    }
+    // Relative paths of file dialogs are taken from the program's directory.
+    if (!QDir::setCurrent(request->directory)) {
+        say(QStringLiteral("can't enter ") + request->directory);
+        return badUsage;
+    }
+    batch::Interpreter interpreter({.directory = request->directory,
+                                    .decimalMark = QLocale::system().decimalPoint().at(0),
+                                    .versione = QStringLiteral("1.0.0")});
+    if (request->now)
+        interpreter.setClock(*request->now);
+    serve(interpreter, request->script.isEmpty() ? std::cin : script);
+    return 0;
+}

@@ -1,0 +1,81 @@
+#include "batch/queue_ports.h"
+
+#include <QJsonObject>
+#include <QProcess>
+
+namespace vanzer::batch {
+
+namespace {
+
+template<typename T> std::optional<T> taken(std::deque<T>& queue) {
+    if (queue.empty())
+        return std::nullopt;
+    const T front = queue.front();
+    queue.pop_front();
+    return front;
+}
+
+int unasked(Pulsanti buttons) {
+    switch (buttons) {
+    case Pulsanti::Ok: return rispostaOk;
+    case Pulsanti::SiNo: return rispostaNo;
+    default: return rispostaAnnulla;
+    }
+}
+
+QString nameOf(Pulsanti buttons) {
+    switch (buttons) {
+    case Pulsanti::Ok: return QStringLiteral("ok");
+    case Pulsanti::SiNo: return QStringLiteral("yesno");
+    default: return QStringLiteral("yesnocancel");
+    }
+}
+
+QString nameOf(Icona icon) {
+    switch (icon) {
+    case Icona::Informazione: return QStringLiteral("information");
+    case Icona::Avviso: return QStringLiteral("warning");
+    default: return {};
+    }
+}
+
+QString withPlainBreaks(QString text) {
+    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+
+} // namespace
+
+int QueuedBoxes::show(const QString& text, const QString& title, Pulsanti buttons, Icona icon) {
+    const int answer = taken(answers_).value_or(unasked(buttons));
+    shown({{"text", withPlainBreaks(text)},
+           {"title", title},
+           {"buttons", nameOf(buttons)},
+           {"icon", nameOf(icon)},
+           {"answer", answer}});
+    return answer;
+}
+
+QString QueuedDialogs::next(const QString& kind, const QString& filter) {
+    const QString path = taken(paths_).value_or(QString());
+    shown({{"kind", kind}, {"filter", filter}, {"path", path}});
+    return path;
+}
+
+void VisitedYield::letIn() {
+    Visitor visitor = std::exchange(visitor_, {});
+    // One that found no moment waits on, unless another has come in its place.
+    if (!visitor() && !visitor_)
+        visitor_ = std::move(visitor);
+}
+
+bool DetachedStarter::start(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.setProgram(program);
+    process.setArguments(arguments);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    return process.startDetached();
+}
+
+} // namespace vanzer::batch

@@ -1,0 +1,26 @@
+#include "core/place_name.h"
+
+#include "core/text.h"
+
+namespace vanzer {
+
+QString taglia(const QString& name, QChar mark) {
+    const qsizetype at = name.indexOf(mark);
+    return at < 0 ? name : Trim(name.left(at));
+}
+
+QString PulisceNomeLocalita(const QString& name) {
+    QString s = taglia(name, u'(');
+    if (iniziaCon(s, u"near "))
+        s = Trim(Mid(s, 5));
+    if (iniziaCon(s, u"vicino "))
+        s = Trim(Mid(s, 7));
+    if (iniziaCon(s, u"CVL "))
+        s = Mid(s, 5);
+    s = taglia(s, u'[');
+    return taglia(s, u'(');
+}
+
+QString RiPulisceNomeLocalita(const QString& name) { return PrimoMaiuscolo(Trim(taglia(name, u'[')), false); }
+
+} // namespace vanzer

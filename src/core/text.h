@@ -1,0 +1,77 @@
+// Text helpers of the whole system. Positions count from 1 as in the system's own words (Left, Mid, Right), case is
+// ignored letter by letter (simple folding: "ß" stays one letter, an accent counts).
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+namespace vanzer {
+
+/// The first n characters; all of the text if it is shorter.
+[[nodiscard]] QString Left(const QString& s, qsizetype n);
+/// From position p (from 1) to the end.
+[[nodiscard]] QString Mid(const QString& s, qsizetype p);
+/// n characters from position p (from 1).
+[[nodiscard]] QString Mid(const QString& s, qsizetype p, qsizetype n);
+/// The last n characters.
+[[nodiscard]] QString Right(const QString& s, qsizetype n);
+/// Without blanks at either end; tabs and line breaks stay.
+[[nodiscard]] QString Trim(const QString& s);
+
+/// The longest leading number: blanks are skipped, the point is the decimal mark, 0 for anything else.
+[[nodiscard]] double Val(QStringView s);
+
+/// Rounding towards minus infinity.
+[[nodiscard]] double Int(double x);
+/// Rounding of a fraction that is assigned to a whole number: to the nearest, halves to the even one.
+[[nodiscard]] int arrotonda(double x);
+
+/// Shortest decimal form of a number, with the given decimal mark. A float keeps a float's digits.
+[[nodiscard]] QString testoNumero(double x, QChar decimalMark = u'.');
+[[nodiscard]] QString testoNumero(float x, QChar decimalMark = u'.');
+[[nodiscard]] QString testoNumero(int x);
+
+/// Whole number with points as thousands marks; 0 is the empty text ("#,###").
+[[nodiscard]] QString migliaia(double x);
+/// The same, but 0 is "0" ("#,##0").
+[[nodiscard]] QString migliaiaZero(double x);
+
+/// The text without outer blanks, with zeros in front, cut to its last `width` characters.
+[[nodiscard]] QString Zero(const QString& value, int width);
+[[nodiscard]] QString Zero(double value, int width);
+
+/// Padded on the right and cut to `width`. A fill above 9 as a number is a character code, else its first character.
+[[nodiscard]] QString AggStr(const QString& s, int width, const QString& fill);
+/// Padded on the left, the last `width` characters kept.
+[[nodiscard]] QString AntStr(const QString& s, int width, const QString& fill);
+
+[[nodiscard]] double Maggiore(double a, double b);
+[[nodiscard]] double Minore(double a, double b);
+[[nodiscard]] int Maggiore(int a, int b);
+[[nodiscard]] int Minore(int a, int b);
+
+/// True from a third of `tolerance` below b to all of it above b, both ends included; bounds in single precision.
+[[nodiscard]] bool QuasiUguale(float a, float b, int tolerance);
+
+/// A name as a LIKE pattern: cut at the first "(" with "*" behind, and "?" for every character that would break a query.
+[[nodiscard]] QString LikeTesto(const QString& s);
+
+/// Capitals normalised: the first letter upper, letters behind an unaccented letter lower, letters behind anything
+/// else upper if `capitals` is true, else as they are.
+[[nodiscard]] QString PrimoMaiuscolo(const QString& s, bool capitals);
+
+/// The number made of the digits alone.
+[[nodiscard]] double ValoreSenzaPunti(const QString& s);
+
+/// Upper and lower case letter by letter, so that the length never changes.
+[[nodiscard]] QString maiuscolo(const QString& s);
+[[nodiscard]] QString minuscolo(const QString& s);
+
+/// Equal, beginning, holding: all without regard to case.
+[[nodiscard]] bool uguale(QStringView a, QStringView b);
+[[nodiscard]] bool iniziaCon(QStringView s, QStringView start);
+[[nodiscard]] bool contiene(QStringView s, QStringView part);
+/// Position from 1 of the first occurrence, case ignored; 0 if there is none.
+[[nodiscard]] int posizione(QStringView s, QStringView part);
+
+} // namespace vanzer

@@ -1,0 +1,172 @@
+#include "core/place_name.h"
+#include "core/text.h"
+#include "guide/entries.h"
+#include "guide/guide_screen.h"
+#include "itinerary/leg_editor_screen.h"
+
+namespace vanzer {
+
+namespace {
+
+constexpr int righeInVista = 13;
+
+QString cellOfRow(const Form& form, ColonnaGuida column) {
+    return form.mfgTab.cell(form.stato.RigaCorrente, column);
+}
+
+QString placeOfRow(const Form& form) {
+    return form.stato.RigaCorrente < 1 ? QString() : Trim(RiPulisceNomeLocalita(cellOfRow(form, guidaLuogo)));
+}
+
+VoceDigitata typedEntry(const Form& form) {
+    const int code = CodiceTipoGuida(form.TipiGuidaDescrizione, form.cmbGTipo.text());
+    return {
+        .luogo = placeOfRow(form),
+        .descrizione = form.txtGDescr.text(),
+        .codice = code,
+        .tempoObbligatorio = code > 0 && form.TipiGuidaTempoObbligatorio[static_cast<std::size_t>(code)],
+        .tempo = tempoDigitato(form.cmbGH.text(), form.cmbGM.text()),
+    };
+}
+
+/// Opens the entries of the places that a pattern finds, by their description; none for an empty description.
+store::Recordset& openEntries(Form& form, const QString& places, const QString& description) {
+    using enum store::Condition::Test;
+    form.archivio.RecordSetImposta(
+        0, store::GuidaCitta,
+        {store::TabelleNomi(store::GuidaCitta),
+         {{QStringLiteral("Localita"), Like, places}, {QStringLiteral("Descrizione"), Like, LikeTesto(description)}},
+         {}});
+    return form.archivio.Rs(store::GuidaCitta);
+}
+
+template<typename Test> bool moveTo(store::Recordset& records, const Test& wanted) {
+    for (records.MoveFirst(); !records.EOF_(); records.MoveNext()) {
+        if (wanted())
+            return true;
+    }
+    return false;
+}
+
+/// Moves to the entry that the row shows. A pattern may find more than that: the very description goes first, and of
+/// several the very place.
+bool moveToOld(store::Recordset& records, const QString& place, const QString& description) {
+    const auto sameText = [&] { return uguale(Trim(records.testo(u"Descrizione")), Trim(description)); };
+    const auto samePlace = [&] { return uguale(records.testo(u"Localita"), place); };
+    if (moveTo(records, [&] { return sameText() && samePlace(); }) || moveTo(records, sameText))
+        return true;
+    records.MoveFirst();
+    return !records.EOF_();
+}
+
+void storeEntry(Form& form, const VoceDigitata& entry) {
+    const QString old = cellOfRow(form, guidaDescrizione);
+    store::Recordset& records = openEntries(form, LikeTesto(form.txtGCitta.text()), old);
+    if (!old.isEmpty() && moveToOld(records, entry.luogo, old))
+        records.Edit();
+    else
+        records.AddNew();
+    if (form.txtGGruppo.text().isEmpty())
+        form.txtGGruppo.setText(QStringLiteral(" "));
+    records.scrive(u"Localita", entry.luogo);
+    records.scrive(u"CodiceGuida", Zero(entry.codice, 2));
+    records.scrive(u"Gruppo", form.txtGGruppo.text());
+    records.scrive(u"Descrizione", PrimoMaiuscolo(Trim(entry.descrizione), false));
+    records.scrive(u"TempoSosta", entry.tempo);
+    records.scrive(u"FlagVisto", QStringLiteral("0"));
+    records.Update();
+}
+
+/// The list anew, with the same part of it in view.
+void rebuildList(Form& form) {
+    const SenzaRidisegno quiet(form.mfgTab);
+    const int top = form.mfgTab.topRow();
+    CreaLaListadellaGuida(form);
+    form.mfgTab.setTopRow(top);
+    AggiornaNumeroRiga(form);
+}
+
+void askAndDelete(Form& form, store::Recordset& records) {
+    for (; !records.EOF_(); records.MoveNext()) {
+        if (records.testo(u"Localita").contains(u'('))
+            continue;
+        if (form.txtGCitta.text().size() >= 2 && !stessoGruppo(records.testo(u"Gruppo"), form.txtGGruppo.text()))
+            continue;
+        if (form.domanda(QStringLiteral("Vuoi cancellare questa riga?"), QStringLiteral("Cancella riga"),
+                         Pulsanti::SiNo) == rispostaSi)
+            records.Delete();
+    }
+}
+
+bool applyShortForm(Form& form, const std::optional<FormaBreve>& shortForm) {
+    if (!shortForm)
+        return false;
+    form.txtGDescr.setText(shortForm->descrizione);
+    form.cmbGTipo.setText(shortForm->tipo);
+    return true;
+}
+
+void scrollDownTo(Form& form, int row) {
+    Grid& grid = form.mfgTab;
+    if (row > grid.topRow() + righeInVista)
+        grid.setTopRow(Maggiore(Minore(grid.rows() - 2, row - righeInVista), 1));
+}
+
+} // namespace
+
+void CmdSalvaRiga_Click(Form& form) {
+    SalvaLaRigaGuidaCitta(form, true);
+}
+
+void SalvaLaRigaGuidaCitta(Form& form, bool avvisa) {
+    const VoceDigitata entry = typedEntry(form);
+    const EsitoVoce result = controllaVoce(entry);
+    if (result != EsitoVoce::Buona) {
+        if (avvisa)
+            form.messaggio(messaggioVoce(result));
+        return;
+    }
+    storeEntry(form, entry);
+    rebuildList(form);
+    if (Trim(cellOfRow(form, guidaGruppo)).isEmpty())
+        form.txtGDescr.setText({});
+    form.setFocus(form.txtGDescr);
+}
+
+void cmdCancellaRiga_Click(Form& form) {
+    if (!form.txtGDescr.text().isEmpty())
+        askAndDelete(form, openEntries(form, LikeTesto(form.txtGCitta.text()) + u'*', form.txtGDescr.text()));
+    rebuildList(form);
+    if (Trim(cellOfRow(form, guidaDescrizione)).isEmpty()) {
+        form.txtGDescr.setText({});
+        form.cmdCancellaRiga.setEnabled(false);
+    } else {
+        form.stato.RigaCorrente = form.mfgTab.rowSel();
+        AggiornaTabellaRigaCorrenteItinerario(form);
+    }
+    form.setFocus(form.txtGDescr);
+}
+
+void txtGDescr_KeyDown(Form& form, int code) {
+    int& row = form.stato.RigaCorrente;
+    const int next = rigaDopoTasto(row, code, form.mfgTab.rows());
+    scrollDownTo(form, next);
+    if (next == row) {
+        applyShortForm(form, formaBreve(form.txtGDescr.text()));
+        return;
+    }
+    SalvaLaRigaGuidaCitta(form, false);
+    row = next;
+    AggiornaTabellaRigaCorrenteItinerario(form);
+}
+
+void txtGDescr_KeyPress(Form& form, int& code) {
+    if (applyShortForm(form, formaDiario(form.txtGDescr.text())))
+        code = 0;
+}
+
+void txtGGruppo_KeyPress(Form& /*form*/, int& code) {
+    code = carattereGruppo(code);
+}
+
+} // namespace vanzer

@@ -1,0 +1,91 @@
+#include "core/text.h"
+#include "guide/entries.h"
+#include "guide/guide_screen.h"
+#include "itinerary/leg_table_screen.h"
+#include "window/destination_screen.h"
+#include "window/modes.h"
+
+namespace vanzer {
+
+namespace {
+
+constexpr int altezzaGrigliaTappe = 4055;
+constexpr int larghezzaNome = 30;
+
+void enableEditor(Form& form, bool on) {
+    form.frmframe(24).setEnabled(on);
+    form.mfgTab.setEnabled(on);
+}
+
+/// Each place of the grid once, with its row behind the name.
+void offerPlaces(Form& form) {
+    QStringList places;
+    QString above;
+    for (int r = 1; r < form.mfgTab.rows(); ++r) {
+        const QString& place = form.mfgTab.cell(r, guidaLuogo);
+        if (!Trim(place).isEmpty() && !uguale(place, above))
+            places << AggStr(place, larghezzaNome, QStringLiteral(" ")) + Zero(r, 4);
+        above = place;
+    }
+    form.cmbRicercaTappa.place(450, 3100, 4200, 3400);
+    form.cmbRicercaTappa.clear();
+    form.cmbRicercaTappa.setEntries(places);
+    form.cmbRicercaTappa.setVisible(true);
+}
+
+/// Stores the group of a row with its marks in order, unless the row's entry can't be told from another one.
+void sortGroup(Form& form, int row) {
+    using enum store::Condition::Test;
+    const Grid& grid = form.mfgTab;
+    const QString& group = grid.cell(row, guidaGruppo);
+    const QString sorted = gruppoOrdinato(group);
+    if (Trim(group).isEmpty() || uguale(sorted, Trim(group)))
+        return;
+    const QString places = LikeTesto(grid.cell(row, guidaLuogo)) + u'*';
+    const QString description = LikeTesto(grid.cell(row, guidaDescrizione));
+    form.archivio.RecordSetImposta(0, store::GuidaCitta,
+                                   {store::TabelleNomi(store::GuidaCitta),
+                                    {{QStringLiteral("Localita"), Like, places},
+                                     {QStringLiteral("Gruppo"), Equal, group},
+                                     {QStringLiteral("Descrizione"), Like, description}},
+                                    {}});
+    store::Recordset& records = form.archivio.Rs(store::GuidaCitta);
+    if (records.RecordCount() != 1)
+        return;
+    records.Edit();
+    records.scrive(u"Gruppo", sorted);
+    records.Update();
+}
+
+} // namespace
+
+void cmdFind_Click(Form& form) {
+    form.stato.FiltroGuida = form.txtGDescr.text();
+    form.stato.ModoRicerca = 2;
+    enableEditor(form, false);
+    CercaLocalitaGuida(form);
+}
+
+void CercaLocalitaGuida(Form& form) {
+    if (form.stato.FiltroGuida.isEmpty()) {
+        offerPlaces(form);
+        return;
+    }
+    CreaLaListadellaGuida(form);
+    enableEditor(form, true);
+}
+
+void cmdFineInserimento_Click(Form& form) {
+    for (int r = 1; r < form.mfgTab.rows(); ++r)
+        sortGroup(form, r);
+    CaricaDatiAnagraficiMeta(form);
+    CaricaTappeItinerario(form);
+    form.mfgTab.setHeight(altezzaGrigliaTappe);
+    form.frmframe(24).setVisible(false);
+    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    form.yield();
+    form.stato.ModoGuida = false;
+    form.stato.ModoRicerca = 0;
+}
+
+} // namespace vanzer

@@ -1,0 +1,63 @@
+#include "itinerary/leg_editor.h"
+
+#include "core/place_name.h"
+#include "core/text.h"
+
+namespace vanzer {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Running totals are typed only from here on; below it a distance and a total can't be told apart.
+constexpr double sogliaProgressivi = 100;
+
+Rifiuto refusal(const TappaDigitata& typed, const QString& km, const QString& stop) {
+    const bool tooFar = Val(km) > 999;
+    const bool noPlace = Trim(typed.luogo).isEmpty();
+    if (tooFar || noPlace)
+        return tooFar && noPlace ? Rifiuto::KmELuogo : tooFar ? Rifiuto::KmTroppi : Rifiuto::LuogoMancante;
+    const bool nothing = Val(km) == 0 && stop.isEmpty() && !typed.fineGiornata && !contiene(typed.strada, u"TRAGH");
+    return nothing && typed.riga >= 2 ? Rifiuto::NienteDaSegnare : Rifiuto::Nessuno;
+}
+
+} // namespace
+
+LuogoConMarche separaMarche(const QString& cell) {
+    LuogoConMarche place{Trim(cell)};
+    const auto cut = [&place](QStringView mark) {
+        const int at = posizione(place.nome, mark);
+        if (at > 0)
+            place.nome = Trim(Left(place.nome, at - 1));
+        return at > 0;
+    };
+    place.start = cut(marcaStart);
+    place.end = cut(marcaEnd);
+    return place;
+}
+
+QString senzaMarca(const QString& cell, QStringView mark) {
+    return contiene(cell, mark) ? Trim(QString(cell).remove(mark.toString(), Qt::CaseInsensitive)) : Trim(cell);
+}
+
+bool kmProgressivi(double kmPrecedenti) { return kmPrecedenti > sogliaProgressivi; }
+
+TappaControllata controllaTappa(const TappaDigitata& typed) {
+    TappaControllata row;
+    const double km = Val(typed.km);
+    row.km = typed.riga > 2 && kmProgressivi(typed.kmPrecedenti) && km > typed.kmPrecedenti
+                 ? testoNumero(km - typed.kmPrecedenti)
+                 : typed.km;
+    const QString stop = typed.sosta == u"00:00:00" ? QString() : typed.sosta;
+    row.rifiuto = refusal(typed, row.km, stop);
+    row.luogo = typed.luogo;
+    if (typed.primaMeta)
+        row.luogo += u" [Start]"_s;
+    if (typed.ultimaMeta)
+        row.luogo += u" [End]"_s;
+    row.lettera = Val(row.km) == 0 ? QString() : typed.lettera;
+    row.sosta = typed.fineGiornata ? u'*' + stop : stop;
+    return row;
+}
+
+} // namespace vanzer

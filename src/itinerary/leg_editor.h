@@ -1,0 +1,54 @@
+// The rules of the leg editor, apart from the window.
+#pragma once
+
+#include <QString>
+
+namespace vanzer {
+
+/// The place of a row taken apart: its name and the marks of the stretch.
+struct LuogoConMarche {
+    QString nome;
+    bool start = false;
+    bool end = false;
+};
+[[nodiscard]] LuogoConMarche separaMarche(const QString& cell);
+
+/// Without every occurrence of the mark, case ignored, trimmed.
+[[nodiscard]] QString senzaMarca(const QString& cell, QStringView mark);
+
+/// What the user typed for a row, and what stands above it.
+struct TappaDigitata {
+    int riga = 1;
+    QString luogo;
+    QString km;
+    QString strada;
+    QString lettera; ///< road type
+    QString sosta;   ///< gg:hh:mm, "00:00:00" for none
+    bool fineGiornata = false;
+    bool primaMeta = false;
+    bool ultimaMeta = false;
+    double kmPrecedenti = 0; ///< running kilometres of the row above
+};
+
+enum class Rifiuto {
+    Nessuno,
+    KmTroppi,       ///< above 999
+    LuogoMancante,
+    KmELuogo,       ///< both of these
+    NienteDaSegnare ///< a later row without kilometres, stop, end of day or ferry
+};
+
+struct TappaControllata {
+    Rifiuto rifiuto = Rifiuto::Nessuno;
+    QString km;    ///< as typed, or less what stands above where a running total was typed
+    QString luogo; ///< with its marks
+    QString lettera;
+    QString sosta; ///< the cell: empty for none, "*" in front for the end of the day
+};
+
+[[nodiscard]] TappaControllata controllaTappa(const TappaDigitata& typed);
+
+/// Whether running kilometres are typed behind a row that shows so many.
+[[nodiscard]] bool kmProgressivi(double kmPrecedenti);
+
+} // namespace vanzer

@@ -1,0 +1,367 @@
+#include "itinerary/leg_editor_screen.h"
+
+#include "core/place_name.h"
+#include "core/text.h"
+#include "itinerary/leg_editor.h"
+#include "itinerary/leg_table_screen.h"
+#include "schedule/totals_screen.h"
+#include "window/destination_screen.h"
+#include "window/grid_layouts.h"
+#include "window/modes.h"
+
+namespace vanzer {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int largoIntero = 14280;
+constexpr int largoAccanto = 10560;
+constexpr int righeInVista = 14;
+
+void focusPlace(Form& form) {
+    if (form.frmframe(12).visible())
+        form.setFocus(form.txtTappa);
+}
+
+double kmAbove(const Form& form) { return ValoreSenzaPunti(form.mfgTab.cell(form.stato.RigaCorrente - 1, 5)); }
+
+QString roadLetter(const Serie<OptionButton>& options) {
+    for (int i = 0; i < options.count(); ++i) {
+        if (options(i).value())
+            return Mid(QStringLiteral("ASPL"), i + 1, 1);
+    }
+    return {};
+}
+
+/// The table always ends in one empty row, and in no more than that beyond its least length.
+void tidyLength(Form& form) {
+    Grid& grid = form.mfgTab;
+    StatoViaggio& s = form.stato;
+    int rows = grid.rows();
+    while (rows > s.RigheMinime && grid.cell(rows - 1, 1).isEmpty())
+        --rows;
+    grid.setRows(rows);
+    grid.setRows(rows + 1);
+    s.NumeroTappe = grid.rows() - 1;
+    while (s.NumeroTappe >= 1 && grid.cell(s.NumeroTappe, 1).isEmpty())
+        --s.NumeroTappe;
+}
+
+void scrollToRow(Form& form) {
+    Grid& grid = form.mfgTab;
+    const int row = form.stato.RigaCorrente;
+    if (row > grid.topRow() + righeInVista)
+        grid.setTopRow(row - righeInVista);
+    if (row < grid.topRow())
+        grid.setTopRow(Maggiore(row, 1));
+}
+
+void showPlace(Form& form, const QString& cell) {
+    const LuogoConMarche place = separaMarche(cell);
+    if (place.start)
+        form.chkMeta(0).setValue(true);
+    if (place.end)
+        form.chkMeta(1).setValue(true);
+    form.txtTappa.setText(place.nome);
+}
+
+void showStop(Form& form, const QString& cell) {
+    QString stop = cell.isEmpty() ? QStringLiteral("00:00:00") : cell;
+    const bool endOfDay = stop.startsWith(u'*');
+    form.chkEndDay.setValue(endOfDay);
+    if (endOfDay)
+        stop = Mid(stop, 2);
+    for (int i = 0; i < 3; ++i)
+        form.cmbSosta(i).setText(Mid(stop, 1 + 3 * i, 2));
+}
+
+void showRow(Form& form) {
+    const Grid& grid = form.mfgTab;
+    const int row = form.stato.RigaCorrente;
+    showPlace(form, grid.cell(row, 1));
+    QString road = Trim(grid.cell(row, 2));
+    if (road.isEmpty() && row >= 2)
+        road = Trim(grid.cell(row - 1, 2));
+    form.txtNumStrada.setText(road);
+    form.txtKm.setText(Trim(grid.cell(row, 3)));
+    showStop(form, grid.cell(row, 7));
+}
+
+QString stopTyped(const Form& form) {
+    return Zero(Val(form.cmbSosta(0).text()), 2) + u':' + Zero(Val(form.cmbSosta(1).text()), 2) + u':' +
+           Zero(Val(form.cmbSosta(2).text()), 2);
+}
+
+/// Tells why a row is refused; true if it is.
+bool refused(Form& form, Rifiuto reason) {
+    const QString impossible = QStringLiteral("Impossibile:\n");
+    if (reason == Rifiuto::KmTroppi || reason == Rifiuto::KmELuogo)
+        form.messaggio(impossible + QStringLiteral("Indica un valore compreso tra 1 e 999"));
+    if (reason == Rifiuto::LuogoMancante || reason == Rifiuto::KmELuogo)
+        form.messaggio(impossible + QStringLiteral("Indica il nome della località!"));
+    if (reason == Rifiuto::NienteDaSegnare)
+        form.messaggio(QStringLiteral("Chilometri (o sosta): dato obbligatorio!"), QStringLiteral("Dato obbligatorio"));
+    return reason != Rifiuto::Nessuno;
+}
+
+void writeRow(Form& form, const TappaControllata& row) {
+    Grid& grid = form.mfgTab;
+    const int r = form.stato.RigaCorrente;
+    if (r >= grid.rows())
+        grid.setRows(r + 2);
+    if (form.chkMeta(0).value())
+        CancellaFlagStartEnd(form, 0);
+    if (form.chkMeta(1).value())
+        CancellaFlagStartEnd(form, 1);
+    form.chkMeta(0).setValue(false);
+    form.chkMeta(1).setValue(false);
+    grid.setCell(r, 0, QString::number(r));
+    grid.setCell(r, 1, row.luogo);
+    grid.setCell(r, 2, form.txtNumStrada.text());
+    grid.setCell(r, 3, form.txtKm.text());
+    grid.setCell(r, 4, row.lettera);
+    grid.setCell(r, 7, row.sosta);
+}
+
+void showProgressiveBox(Form& form) {
+    form.chkKm.setVisible(false);
+    form.chkKm.setValue(false);
+    if (!form.frmframe(12).visible())
+        return;
+    if (form.stato.RigaCorrente >= 3) {
+        form.chkKm.setValue(kmProgressivi(kmAbove(form)));
+        form.chkKm.setVisible(true);
+        form.chkKm.setEnabled(true);
+    }
+    form.setFocus(form.txtTappa);
+}
+
+void reloadDestination(Form& form) {
+    CaricaDatiAnagraficiMeta(form);
+    CaricaTappeItinerario(form);
+    form.stato.RigaCorrente = 1;
+}
+
+void closeLists(Form& form) {
+    form.cmbRicercaTappa.setVisible(false);
+    form.frmframe(17).setVisible(false);
+    form.mfgTab.setEnabled(true);
+    form.frmframe(28).setEnabled(true);
+    form.stato.PulsantiItinerario = QStringLiteral("all");
+}
+
+} // namespace
+
+void cmdItinerario_Click(Form& form) {
+    AttivaFormMeta(form, true);
+    form.colonne(0) = QStringLiteral("Ricalcola");
+    AttivitaInserimentoItinerario(form);
+    form.setDefault(form.cmdFine);
+}
+
+void AttivitaInserimentoItinerario(Form& form) {
+    RimetteTappe(form);
+    form.cmdCalcola.setCaption(QStringLiteral("&Calcola"));
+    AggiornaNumeroRiga(form);
+    form.stato.PulsantiItinerario = QStringLiteral("all");
+    AbilitaPulsantiMeta(form, QStringLiteral("zz"));
+    if (form.colonne(0) != u"Ricalcola")
+        return;
+    form.frmframe(12).setVisible(true);
+    form.mfgTab.setWidth(largoAccanto);
+    form.cmbRicercaTappa.setVisible(false);
+    form.cmdMapPoint.setEnabled(form.stato.NumeroTappe < 2);
+    form.setFocus(form.txtTappa);
+    form.colonne(0).clear();
+}
+
+void RimetteTappe(Form& form) {
+    if (!form.tappeConservate)
+        return;
+    form.mfgTab.setContents(*form.tappeConservate);
+    form.tappeConservate.reset();
+    CalcolaKmTempiItinerario(form);
+}
+
+void AggiornaNumeroRiga(Form& form) {
+    StatoViaggio& s = form.stato;
+    tidyLength(form);
+    s.RigaCorrente = Maggiore(s.RigaCorrente, 1);
+    if (s.RigaCorrente > s.NumeroTappe)
+        s.RigaCorrente = Maggiore(s.NumeroTappe + 1, 1);
+    scrollToRow(form);
+    showRow(form);
+    SelezionaRiga(form, s.RigaCorrente);
+    form.txtRiga.setText(QString::number(s.RigaCorrente));
+    const bool several = s.NumeroTappe >= 2;
+    form.cmdMapPoint.setEnabled(!several);
+    form.cmdRicalcola.setEnabled(several);
+    form.cmdRitorno.setEnabled(several);
+    form.cmdCancella.setEnabled(several);
+    form.yield();
+}
+
+void AggiornaTabellaRigaCorrenteItinerario(Form& form) {
+    AggiornaNumeroRiga(form);
+    showProgressiveBox(form);
+    if (form.stato.ModoGuida && form.guideRowShown)
+        form.guideRowShown();
+}
+
+void cmdInserisce_Click(Form& form) {
+    StatoViaggio& s = form.stato;
+    if (s.RigaCorrente > 2) {
+        form.chkKm.setVisible(true);
+        form.chkKm.setEnabled(true);
+    }
+    const TappaControllata row = controllaTappa({
+        .riga = s.RigaCorrente,
+        .luogo = form.txtTappa.text(),
+        .km = form.txtKm.text(),
+        .strada = form.txtNumStrada.text(),
+        .lettera = roadLetter(form.optStrada),
+        .sosta = stopTyped(form),
+        .fineGiornata = form.chkEndDay.value(),
+        .primaMeta = form.chkMeta(0).value(),
+        .ultimaMeta = form.chkMeta(1).value(),
+        .kmPrecedenti = kmAbove(form),
+    });
+    form.txtKm.setText(row.km);
+    if (refused(form, row.rifiuto))
+        return;
+    writeRow(form, row);
+    if (s.RigaCorrente > form.mfgTab.rows() - 3)
+        form.mfgTab.setRows(Maggiore(s.RigaCorrente + 5, s.RigheMinime));
+    ++s.RigaCorrente;
+    SelezionaRiga(form, s.RigaCorrente);
+    AggiornaNumeroRiga(form);
+    form.cmdMapPoint.setEnabled(s.NumeroTappe == 0);
+    focusPlace(form);
+    CalcolaKmTempiItinerario(form);
+}
+
+void CancellaFlagStartEnd(Form& form, int which) {
+    const QStringView mark = which == 0 ? marcaStart : marcaEnd;
+    for (int r = 1; r < form.mfgTab.rows(); ++r)
+        form.mfgTab.setCell(r, 1, senzaMarca(form.mfgTab.cell(r, 1), mark));
+}
+
+void InserisciRigheItinerario(Form& form, int n) {
+    StatoViaggio& s = form.stato;
+    Grid& grid = form.mfgTab;
+    const SenzaRidisegno quiet(grid);
+    grid.setRows(grid.rows() + n);
+    for (int r = s.NumeroTappe; r >= s.RigaCorrente; --r) {
+        grid.copyRow(r, r + n, 1);
+        grid.setCell(r + n, 0, QString::number(r + n));
+    }
+    for (int r = s.RigaCorrente; r < s.RigaCorrente + n; ++r)
+        grid.clearRow(r, 1);
+    s.NumeroTappe += n;
+}
+
+void cmdAggiunge_Click(Form& form) {
+    InserisciRigheItinerario(form, 1);
+    AggiornaNumeroRiga(form);
+    focusPlace(form);
+}
+
+void cmdCancella_Click(Form& form) {
+    Grid& grid = form.mfgTab;
+    {
+        const SenzaRidisegno quiet(grid);
+        for (int r = form.stato.RigaCorrente; r <= grid.rows() - 2; ++r)
+            grid.copyRow(r + 1, r, 1);
+        grid.clearRow(grid.rows() - 1, 1);
+    }
+    focusPlace(form);
+    CalcolaKmTempiItinerario(form);
+}
+
+void cmdCerca_Click(Form& form) {
+    form.stato.ModoRicerca = 2;
+    form.stato.PulsantiItinerario = QStringLiteral("Fi");
+    AbilitaPulsantiComando(form);
+    form.mfgTab.setEnabled(false);
+    form.frmframe(28).setEnabled(false);
+    form.cmbRicercaTappa.clear();
+    QStringList places;
+    for (int r = 1; r < form.mfgTab.rows(); ++r) {
+        const QString& place = form.mfgTab.cell(r, 1);
+        if (!Trim(place).isEmpty())
+            places << AggStr(place, 31, QStringLiteral(" ")) + Zero(r, 4);
+    }
+    form.cmbRicercaTappa.setEntries(places);
+    form.cmbRicercaTappa.setVisible(true);
+}
+
+void cmdMemorizza_Click(Form& form) {
+    const QString title = QStringLiteral("Salvataggio itinerario");
+    const int answer = form.domanda(QStringLiteral("Vuoi salvare l'itinerario?"), title, Pulsanti::SiNoAnnulla);
+    if (answer == rispostaSi) {
+        MemorizzaTappeItinerario(form);
+        form.stato.PulsantiItinerario = QStringLiteral("all");
+        AbilitaPulsantiMeta(form, QStringLiteral("ZZ"));
+    } else if (answer == rispostaNo &&
+               form.domanda(QStringLiteral("Vuoi recuperare l'itinerario originale?"), title, Pulsanti::SiNo) ==
+                   rispostaSi) {
+        reloadDestination(form);
+    }
+}
+
+void cmdFine_Click(Form& form) {
+    if (form.cmbRicercaTappa.visible() || form.frmframe(17).visible()) {
+        closeLists(form);
+        AbilitaPulsantiComando(form);
+        return;
+    }
+    const QString question = QStringLiteral("Hai chiesto di uscire dalla funzione 'Itinerari':\n\n"
+                                            "Vuoi salvare le eventuali modifiche?");
+    const int answer = form.domanda(question, QStringLiteral("Fine inserimento"), Pulsanti::SiNoAnnulla);
+    if (answer == rispostaSi)
+        MemorizzaTappeItinerario(form);
+    if (answer != rispostaAnnulla) {
+        form.frmframe(12).setVisible(false);
+        form.mfgTab.setWidth(largoIntero);
+        reloadDestination(form);
+        AggiornaNumeroRiga(form);
+        form.stato.PulsantiMeta = QStringLiteral("all");
+    }
+    AbilitaPulsantiComando(form);
+}
+
+void mfgTab_Click(Form& form) {
+    form.chkMeta(0).setValue(false);
+    form.chkMeta(1).setValue(false);
+    form.stato.RigaCorrente = form.mfgTab.row();
+    AggiornaTabellaRigaCorrenteItinerario(form);
+}
+
+void mfgTab_DblClick(Form& form) {
+    const Grid& grid = form.mfgTab;
+    QString text = QStringLiteral("Dati relativi a:\n\n");
+    for (int c = 1; c < grid.columns(); ++c) {
+        text += grid.cell(0, c) + u":\t"_s + QString(c == 2 ? u""_s : u"\t"_s) + u' ' + grid.cell(grid.row(), c) + u'\n';
+        if (contiene(grid.cell(0, c), u"NOTE"))
+            break;
+    }
+    form.messaggio(text);
+}
+
+void mfgTab_KeyPress(Form& form, int code) {
+    constexpr int pagina = 18;
+    int& row = form.stato.RigaCorrente;
+    switch (code) {
+    case 38: --row; break;
+    case 40: ++row; break;
+    case 33: row -= pagina; break;
+    case 34: row += pagina; break;
+    default: break;
+    }
+    AggiornaNumeroRiga(form);
+    if (form.stato.ModoGuida && form.guideRowShown)
+        form.guideRowShown();
+}
+
+} // namespace vanzer

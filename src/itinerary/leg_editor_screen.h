@@ -1,0 +1,36 @@
+// The leg editor in the window: the fields always mirror the current row; nothing reaches the archive before a save.
+#pragma once
+
+#include "window/form.h"
+
+namespace vanzer {
+
+/// Enters the mode.
+void cmdItinerario_Click(Form& form);
+/// Brings the fields up to date and sets the buttons; opens the frame if that was asked for. Legs that a schedule had
+/// replaced come back first.
+void AttivitaInserimentoItinerario(Form& form);
+/// The legs that a schedule has replaced come back into the table, saved or not, with their totals.
+void RimetteTappe(Form& form);
+
+/// Tidies the table's length, refreshes the fields from the current row, sets the buttons that depend on it.
+void AggiornaNumeroRiga(Form& form);
+/// After a change of row: the above, and what else belongs to the row.
+void AggiornaTabellaRigaCorrenteItinerario(Form& form);
+
+void cmdInserisce_Click(Form& form);
+/// Takes "[Start]" (0) or "[End]" (1) from every row.
+void CancellaFlagStartEnd(Form& form, int which);
+/// Opens n blank rows at the current one.
+void InserisciRigheItinerario(Form& form, int n);
+void cmdAggiunge_Click(Form& form);
+void cmdCancella_Click(Form& form);
+void cmdCerca_Click(Form& form);
+void cmdMemorizza_Click(Form& form);
+void cmdFine_Click(Form& form);
+
+void mfgTab_Click(Form& form);
+void mfgTab_DblClick(Form& form);
+void mfgTab_KeyPress(Form& form, int code);
+
+} // namespace vanzer

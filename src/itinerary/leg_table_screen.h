@@ -1,0 +1,24 @@
+// The leg table in the window: emptied, loaded from the archive, stored in it.
+#pragma once
+
+#include "window/form.h"
+
+namespace vanzer {
+
+/// Empties the table and the totals.
+void CancellaMatrice(Form& form);
+
+/// Fills the table with the legs of the current destination.
+void CaricaTappeItinerario(Form& form);
+
+/// Clears the marks of use of the whole guide.
+void SettaAZeroFlaGVisto(Form& form);
+
+/// Replaces the stored legs of the current destination by the table's rows. More records than a destination takes are
+/// refused with a message, and what was stored stays.
+void MemorizzaTappeItinerario(Form& form);
+
+/// Deletes the records of a table whose field matches the value, with progress.
+void CancellaTabella(Form& form, int table, const QString& field, const QString& value);
+
+} // namespace vanzer

@@ -1,0 +1,48 @@
+#include "itinerary/list_pick_screen.h"
+
+#include "core/text.h"
+#include "itinerary/leg_editor_screen.h"
+#include "window/grid_layouts.h"
+#include "window/modes.h"
+
+namespace vanzer {
+
+namespace {
+
+constexpr int righeSopra = 8;
+
+void showAround(Form& form) { form.mfgTab.setTopRow(Maggiore(form.stato.RigaCorrente - righeSopra, 1)); }
+
+} // namespace
+
+void cmbRicercaTappa_Click(Form& form) {
+    StatoViaggio& s = form.stato;
+    form.cmbRicercaTappa.setVisible(false);
+    form.mfgTab.setEnabled(true);
+    form.frmframe(28).setEnabled(true);
+    if (s.ModoRicerca != 2)
+        return;
+    showAround(form);
+    form.frmframe(24).setEnabled(true);
+    s.RigaCorrente = static_cast<int>(Val(Right(form.cmbRicercaTappa.text(), 4)));
+    if (s.ModoGuida) {
+        showAround(form);
+        s.PulsantiItinerario = QStringLiteral("all");
+        AbilitaPulsantiComando(form);
+    }
+    SelezionaRiga(form, s.RigaCorrente);
+    if (form.frmframe(24).visible()) {
+        if (form.guideRowShown)
+            form.guideRowShown();
+        form.setFocus(form.txtGDescr);
+    }
+    if (form.frmframe(12).visible()) {
+        form.setFocus(form.txtTappa);
+        s.PulsantiItinerario = QStringLiteral("all");
+        AbilitaPulsantiComando(form);
+        s.RigaCorrente = form.mfgTab.row();
+        AggiornaNumeroRiga(form);
+    }
+}
+
+} // namespace vanzer

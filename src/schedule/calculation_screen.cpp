@@ -1,0 +1,305 @@
+#include "schedule/calculation_screen.h"
+
+#include "core/text.h"
+#include "core/time_values.h"
+#include "itinerary/leg_editor_screen.h"
+#include "itinerary/leg_table_screen.h"
+#include "schedule/fitting.h"
+#include "schedule/preparation_screen.h"
+#include "schedule/simulation.h"
+#include "schedule/totals_screen.h"
+#include "window/destination_screen.h"
+#include "window/modes.h"
+#include "window/parameters.h"
+
+namespace vanzer {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+store::Recordset& openDestination(Form& form) {
+    form.archivio.StringaSQL = QStringLiteral("SELECT * FROM MeteVanzer WHERE CodiceMeta = '") +
+                               store::quotato(form.stato.CodiceMeta) + u'\'';
+    form.archivio.RecordSetImposta(0, store::MeteVanzer);
+    return form.archivio.Rs(store::MeteVanzer);
+}
+
+double storedCoefficient(Form& form) {
+    const store::Recordset& record = openDestination(form);
+    return record.EOF_() ? 0 : Val(record.testo(QStringLiteral("Coefficiente")).replace(u',', u'.'));
+}
+
+void storeCoefficient(Form& form) {
+    store::Recordset& record = openDestination(form);
+    if (record.EOF_())
+        return;
+    record.Edit();
+    record.scrive(QStringLiteral("Coefficiente"), testoNumero(form.stato.Coefficiente, form.ambiente.decimalMark));
+    record.Update();
+}
+
+ParametriSimulazione simulationParameters(const Form& form, int range) {
+    const StatoViaggio& s = form.stato;
+    return {
+        .oraColazione = s.OraColazione,
+        .oraPranzo = s.OraPranzo,
+        .durataPranzo = s.DurataPranzo,
+        .oraCena = s.OraCena,
+        .durataCena = s.DurataCena,
+        .oraNotte = s.OraNotte,
+        .inizioVisita = s.InizioVisita,
+        .fineVisita = s.FineVisita,
+        .oreVisitaGiorno = s.OreVisitaGiorno,
+        .oreGuidaGiorno = s.OreGuidaGiorno,
+        .riposoMinuti = s.RiposoMinuti,
+        .riposoOre = s.RiposoOre,
+        .riposoGiorno = s.RiposoGiorno,
+        .riposoDopoGiorni = s.RiposoDopoGiorni,
+        .oraInizioViaggio = s.OraInizioViaggio,
+        .giulianoInizio = s.GiulianoInizio,
+        .giorniDesiderati = s.GiorniDesiderati,
+        .range = range,
+        .medie = medieMostrate(form),
+    };
+}
+
+void showProgressText(Form& form) {
+    const StatoViaggio& s = form.stato;
+    QString text = QStringLiteral("Calcolo della viandoria, test n. %1/20").arg(s.NumeroTest);
+    if (s.GiorniCalcolati > 0)
+        text += QStringLiteral(" [%1/%2").arg(s.GiorniCalcolati).arg(s.GiorniDesiderati);
+    form.lblElaborazione.setCaption(text + u"*I="_s + testoNumero(s.Coefficiente, form.ambiente.decimalMark) + u']');
+}
+
+void showPanel(Form& form, const PannelloViandoria& panel) {
+    const StatoViaggio& s = form.stato;
+    const Medie speeds = medieMostrate(form);
+    float time = 0;
+    for (int i = 0; i < 4; ++i) {
+        const auto type = static_cast<std::size_t>(i);
+        const auto typeTime = static_cast<float>(tempoTratta(panel.km[type], speeds[type]));
+        time += typeTime;
+        form.txtKmTot(i).setText(migliaiaZero(panel.km[type]));
+        form.txtTempo(i).setText(ghmCentesimi2Stringa(typeTime, s.OreGuidaGiorno));
+    }
+    form.txtKmTot(4).setText(migliaiaZero(panel.kmTotali));
+    form.txtTempo(4).setText(ghmCentesimi2Stringa(time, s.OreGuidaGiorno));
+    form.txtTragh.setText(QString::number(panel.traghetti));
+    const Gma date = Giul2Data(panel.giuliano);
+    form.txtFine(0).setText(Zero(date.giorno, 2));
+    form.txtFine(1).setText(Zero(date.mese, 2));
+    form.txtFine(2).setText(Zero(date.anno, 4));
+    const QString hour = oraMostrata(panel.ora);
+    if (!hour.isEmpty()) {
+        form.txtFine(3).setText(Left(hour, 2));
+        form.txtFine(4).setText(Right(hour, 2));
+    }
+    form.txtFine(5).setText(GiornoSettimana(Gma2Data(date)));
+}
+
+/// The table as the last test leaves it, closed and tidied; the rows of totals stay.
+void showSchedule(Form& form, const CalcoloPreparato& prepared, const Viandoria& schedule) {
+    const TestiViandoria texts{
+        .tappa = [&prepared](int row) { return prepared.tappe[static_cast<std::size_t>(row)]; },
+        .minutiPausa = form.cmbRipM.text(),
+        .oreGuidaGiorno = form.stato.OreGuidaGiorno,
+        .oreVisitaGiorno = form.stato.OreVisitaGiorno,
+    };
+    std::vector<CelleViandoria> rows = celleViandoria(schedule, prepared.lavoro.righe, texts);
+    const std::array<QString, righeTotali> totals = chiudeViandoria(rows, schedule, texts);
+    std::erase_if(rows, [](const CelleViandoria& cells) {
+        return rigaVuota([&cells](int column) -> const QString& { return cells[static_cast<std::size_t>(column)]; });
+    });
+
+    Grid& grid = form.mfgTab;
+    const SenzaRidisegno quiet(grid);
+    grid.setRows(1);
+    grid.setRows(static_cast<int>(rows.size()) + 1 + righeTotali);
+    int r = 0;
+    for (const CelleViandoria& cells : rows) {
+        ++r;
+        for (std::size_t c = 0; c < cells.size(); ++c)
+            grid.setCell(r, static_cast<int>(c), cells[c]);
+    }
+    for (const QString& total : totals)
+        grid.setCell(++r, colTappa, total);
+    grid.setTopRow(1);
+}
+
+void tellResult(Form& form) {
+    const StatoViaggio& s = form.stato;
+    if (form.colonne(0) == u"Stampa" || s.GiorniDesiderati <= 0)
+        return;
+    const QString text =
+        s.GiorniDesiderati == s.GiorniCalcolati
+            ? QStringLiteral("Elaborazione conclusa in %1 tentativi!").arg(s.NumeroTest)
+            : QStringLiteral("Elaborazione impossibile! (tentativi effettuati n. %1)").arg(s.NumeroTest);
+    form.messaggio(text, QStringLiteral("Calcolo viandoria"), Icona::Informazione);
+}
+
+/// The half-built schedule goes; the editor's unsaved legs come back, else the stored ones.
+void abandon(Form& form) {
+    if (form.colonne(0) == u"Ricalcola") {
+        AttivitaInserimentoItinerario(form);
+        AttivaFormMeta(form, true);
+    } else {
+        AttivaFormMeta(form, true);
+        form.stato.ModoRicerca = 1;
+        form.cmbRicerca.setText(form.txtLocalita.text());
+        CaricaDatiAnagraficiMeta(form);
+        CaricaTappeItinerario(form);
+        form.cmbRicerca.setVisible(false);
+    }
+    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    AzzeraPercentuale(form);
+}
+
+class Calcolo {
+  public:
+    explicit Calcolo(Form& form) : form_(form), s_(form.stato), prepared_(PreparaTabellaPerCalcoloViandoria(form)) {
+        AbilitaPulsantiMeta(form_, QStringLiteral("Es"));
+        range_ = static_cast<int>(Int(Val(form_.cmbRange.text()) * 100 / 60));
+    }
+
+    /// The tests, until one fits or they are used up; false if the user stopped them.
+    bool prove() {
+        Adeguamento search(fittingData());
+        s_.GiorniCalcolati = 0;
+        beginSeries(search);
+        do {
+            if (search.prossimo(s_.GiorniCalcolati, s_.GiorniDesiderati, conSoste()) ==
+                Adeguamento::Passo::NuovaSerie) {
+                beginSeries(search);
+                continue;
+            }
+            if (!conSoste())
+                s_.GiorniDesiderati = 0;
+            s_.Coefficiente = search.coefficiente();
+            s_.NumeroTest = search.numeroTest();
+            if (!prova())
+                return false;
+        } while (search.numeroTest() == 0 ||
+                 search.esito(s_.GiorniCalcolati, s_.GiorniDesiderati) == Adeguamento::Fine::InCorso);
+        return true;
+    }
+
+    void chiude() {
+        if (s_.Coefficiente != 1)
+            storeCoefficient(form_);
+        showPanel(form_, last_.pannello);
+        form_.txtFine(6).setText(QString::number(s_.GiorniCalcolati));
+        showSchedule(form_, prepared_, last_);
+        form_.cmdCalcola.setCaption(QStringLiteral("&Sblocca"));
+        s_.ViandoriaCalcolata = true;
+        AzzeraPercentuale(form_);
+        tellResult(form_);
+        AbilitaPulsantiMeta(form_, QStringLiteral("CaSt"));
+    }
+
+  private:
+    [[nodiscard]] bool conSoste() const {
+        return static_cast<double>(prepared_.lavoro.sosteGuida) +
+                   static_cast<double>(prepared_.lavoro.sosteItinerario) !=
+               0;
+    }
+
+    DatiAdeguamento fittingData() {
+        const int driving = arrotonda(
+            static_cast<double>(ghmStringa2Centesimi(form_.txtTempo(4).text(), s_.OreGuidaGiorno)));
+        DatiAdeguamento data;
+        data.valoreMemorizzato = storedCoefficient(form_);
+        data.giorniGuida = giorniDiGuida(driving, s_.OreGuidaGiorno);
+        data.oreGuidaGiorno = s_.OreGuidaGiorno;
+        if (data.giorniGuida <= s_.GiorniDesiderati)
+            data.sosteTotali = prepared_.lavoro.sosteGuida + prepared_.lavoro.sosteItinerario;
+        return data;
+    }
+
+    void beginSeries(Adeguamento& search) {
+        search.iniziaSerie();
+        s_.Coefficiente = search.coefficiente();
+        s_.NumeroTest = 0;
+        Aggiorna(form_, false);
+        ControllaVariabiliConvertite(form_);
+    }
+
+    bool prova() {
+        showProgressText(form_);
+        s_.PercentualeTotale = static_cast<double>(prepared_.lavoro.righe.size());
+        last_ = simula(prepared_.lavoro.righe, simulationParameters(form_, range_), s_.Coefficiente, [this](int row) {
+            if (s_.InterrompiCalcolo)
+                return true;
+            s_.PercentualeCorrente = row;
+            AggiornaPercentuale(form_);
+            return false;
+        });
+        s_.GiulianoCorrente = last_.giuliano;
+        s_.OraCorrente = last_.ora;
+        s_.NumeroTraghetti = last_.traghetti;
+        s_.RigaCaricata = static_cast<int>(last_.righe.size());
+        if (last_.esito == Viandoria::Esito::Interrotta)
+            return false;
+        s_.GiorniCalcolati = last_.giorni;
+        return true;
+    }
+
+    Form& form_;
+    StatoViaggio& s_;
+    CalcoloPreparato prepared_;
+    Viandoria last_;
+    int range_ = 0;
+};
+
+void calculate(Form& form) {
+    AbilitaPulsantiMeta(form, QStringLiteral("zz"));
+    if (form.stato.ViandoriaCalcolata) {
+        AttivaFormMeta(form, true);
+        CalcolaKmTempiItinerario(form);
+        tellResult(form);
+        AbilitaPulsantiMeta(form, QStringLiteral("CaSt"));
+        return;
+    }
+    RimetteTappe(form);
+    Calcolo calculation(form);
+    if (calculation.prove())
+        calculation.chiude();
+    else
+        abandon(form);
+}
+
+} // namespace
+
+void cmdCalcola_Click(Form& form) {
+    form.frmframe(15).setEnabled(false);
+    form.stato.ModoRicerca = 1;
+    AbilitaPulsantiMeta(form, QStringLiteral("zz"));
+    form.cmbRicerca.setText(form.txtLocalita.text());
+    AbilitaPulsantiMeta(form, QStringLiteral("zz"));
+    if (!uguale(form.cmdCalcola.caption(), u"&Calcola")) {
+        AttivitaInserimentoItinerario(form);
+        AbilitaPulsantiMeta(form, QStringLiteral("all"));
+        AttivaFormMeta(form, true);
+    } else {
+        form.cmbRicerca.setVisible(false);
+        CalcolaViandoria(form);
+    }
+    form.frmframe(15).setEnabled(true);
+}
+
+void cmdRicalcola_Click(Form& form) {
+    form.mfgTab.setWidth(14280);
+    form.frmframe(12).setVisible(false);
+    form.colonne(0) = QStringLiteral("Ricalcola");
+    CalcolaViandoria(form);
+    AbilitaPulsantiMeta(form, QStringLiteral("Ca"));
+}
+
+void CalcolaViandoria(Form& form) {
+    form.stato.InterrompiCalcolo = false;
+    calculate(form);
+    if (form.colonne(0) == u"Stampa")
+        form.colonne(0).clear();
+}
+
+} // namespace vanzer

@@ -1,0 +1,165 @@
+#include "schedule/preparation.h"
+
+#include "core/place_name.h"
+#include "core/text.h"
+#include "core/time_values.h"
+#include "itinerary/leg_editor.h"
+#include "schedule/totals.h"
+
+namespace vanzer {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What is left of a stop that gives way to the other source: the user still sees it.
+constexpr float sostaRidotta = 1;
+
+bool holdsMark(const QString& place, QStringView mark) { return place.contains(u'[') && contiene(place, mark); }
+
+void makeMarksConsistent(std::vector<TappaDaPreparare>& legs) {
+    bool started = false;
+    for (TappaDaPreparare& leg : legs) {
+        started = started || holdsMark(leg.luogo, marcaStart);
+        if (!started && holdsMark(leg.luogo, marcaEnd))
+            leg.luogo = senzaMarca(leg.luogo, marcaEnd);
+    }
+    if (started)
+        return;
+    for (TappaDaPreparare& leg : legs) {
+        if (!leg.luogo.isEmpty()) {
+            leg.luogo += u" [Start]"_s;
+            return;
+        }
+    }
+}
+
+QString nameOfEntry(const VoceGuida& entry) {
+    const QString group = Trim(entry.gruppo);
+    const QString description = Trim(entry.descrizione);
+    return group.isEmpty() || group == u"0" ? u" > "_s + description : u" > "_s + group + u" * "_s + description;
+}
+
+class Preparatore {
+  public:
+    explicit Preparatore(const Preparazione& with) : with_(with) {}
+
+    void tappa(const TappaDaPreparare& leg) {
+        if (with_.avanza)
+            with_.avanza(leg.riga);
+        if (leg.luogo.isEmpty())
+            return;
+        inside_ = inside_ || holdsMark(leg.luogo, marcaStart);
+        const std::size_t first = result_.righe.size();
+        RigaDiLavoro& row = aggiunge(RigaDiLavoro::Tipo::Tappa, leg, leg.luogo);
+        row.km = leg.km;
+        row.strada = indiceStrada(leg.tipoStrada);
+        row.traghetto = contiene(leg.strada, u"TRAGH");
+        const float planned = sostaItinerario(leg);
+        const float visited = inside_ && !past_ && conGuida() ? vociGuida(leg) : 0;
+        if (leg.sosta.startsWith(u'*'))
+            result_.righe.back().fineGiorno = true;
+        if (planned > 0 && visited > 0)
+            riduce(first, planned, visited);
+        past_ = past_ || holdsMark(leg.luogo, marcaEnd);
+    }
+
+    [[nodiscard]] RigheDiLavoro risultato() && {
+        double planned = 0;
+        double visited = 0;
+        for (const RigaDiLavoro& row : result_.righe) {
+            planned += static_cast<double>(row.sostaFissa);
+            visited += static_cast<double>(row.sostaGuida);
+        }
+        result_.sosteItinerario = static_cast<float>(planned);
+        result_.sosteGuida = static_cast<float>(visited);
+        return std::move(result_);
+    }
+
+  private:
+    [[nodiscard]] bool conItinerario() const {
+        using enum FonteSoste;
+        return with_.fonte == Itinerario || with_.fonte == Entrambe || with_.fonte == Maggiore ||
+               with_.fonte == Minore;
+    }
+    [[nodiscard]] bool conGuida() const {
+        using enum FonteSoste;
+        return with_.fonte == Guida || with_.fonte == Entrambe || with_.fonte == Maggiore || with_.fonte == Minore;
+    }
+
+    RigaDiLavoro& aggiunge(RigaDiLavoro::Tipo type, const TappaDaPreparare& leg, const QString& name) {
+        RigaDiLavoro row;
+        row.tipo = type;
+        row.tappa = leg.riga;
+        row.nome = name;
+        result_.righe.push_back(std::move(row));
+        return result_.righe.back();
+    }
+
+    float sostaItinerario(const TappaDaPreparare& leg) {
+        if (leg.sosta.isEmpty() || !conItinerario())
+            return 0;
+        RigaDiLavoro& row = aggiunge(RigaDiLavoro::Tipo::SostaItinerario, leg, u" > a "_s + leg.luogo);
+        row.sostaFissa = ghmStringa2Centesimi(leg.sosta, with_.oreVisitaGiorno);
+        return row.sostaFissa;
+    }
+
+    float vociGuida(const TappaDaPreparare& leg) {
+        double sum = 0;
+        for (const VoceGuida& entry : with_.guida(PulisceNomeLocalita(leg.luogo))) {
+            const float stop = sostaDellaVoce(entry.tempoSosta, with_.oreVisitaGiorno);
+            const bool mention = stop == 0;
+            RigaDiLavoro& row =
+                mention ? aggiunge(RigaDiLavoro::Tipo::Menzione, leg, u" > "_s + Trim(entry.descrizione))
+                        : aggiunge(RigaDiLavoro::Tipo::SostaGuida, leg, nameOfEntry(entry));
+            row.nota = with_.categoria(entry.codice);
+            row.sostaGuida = stop;
+            sum += static_cast<double>(stop);
+        }
+        return static_cast<float>(sum);
+    }
+
+    /// The choices of the larger and the smaller sum: the stops of the other source shrink.
+    void riduce(std::size_t first, float planned, float visited) {
+        const bool larger = with_.fonte == FonteSoste::Maggiore;
+        if (!larger && with_.fonte != FonteSoste::Minore)
+            return;
+        const bool guideGivesWay = larger ? planned > visited : planned <= visited;
+        const auto type = guideGivesWay ? RigaDiLavoro::Tipo::SostaGuida : RigaDiLavoro::Tipo::SostaItinerario;
+        for (std::size_t r = first; r < result_.righe.size(); ++r) {
+            RigaDiLavoro& row = result_.righe[r];
+            if (row.tipo == type)
+                (guideGivesWay ? row.sostaGuida : row.sostaFissa) = sostaRidotta;
+        }
+    }
+
+    const Preparazione& with_;
+    RigheDiLavoro result_;
+    bool inside_ = false; ///< a "[Start]" was met
+    bool past_ = false;   ///< an "[End]" was met in an earlier row
+};
+
+} // namespace
+
+FonteSoste fonteSoste(const QString& choice) {
+    const int digit = choice.isEmpty() ? 0 : choice[0].digitValue();
+    return digit >= 1 && digit <= 6 ? static_cast<FonteSoste>(digit) : FonteSoste::Nessuna;
+}
+
+RigheDiLavoro preparaRighe(std::vector<TappaDaPreparare> legs, const Preparazione& with) {
+    makeMarksConsistent(legs);
+    Preparatore maker(with);
+    for (const TappaDaPreparare& leg : legs)
+        maker.tappa(leg);
+    return std::move(maker).risultato();
+}
+
+float sostaDellaVoce(const QString& tempoSosta, float oreVisitaGiorno) {
+    if (!iniziaCon(tempoSosta, u"G"))
+        return ghmStringa2Centesimi(tempoSosta, oreVisitaGiorno);
+    const double days = Val(Mid(tempoSosta, 2));
+    const double minutes = Val(Mid(tempoSosta, 4, 2));
+    return static_cast<float>(days * static_cast<double>(oreVisitaGiorno) + Int(minutes * 100 / 60 + 0.5));
+}
+
+} // namespace vanzer

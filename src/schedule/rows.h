@@ -1,0 +1,66 @@
+// The schedule as the table shows it: numbers turned into texts, once, for the test that stands.
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include <QString>
+
+#include "schedule/simulation.h"
+
+namespace vanzer {
+
+/// Columns of a schedule row.
+enum ColonnaViandoria {
+    colNumero,
+    colTappa,
+    colStrada,
+    colKm,
+    colTipo,
+    colKmProgressivi,
+    colTempo,
+    colSostaGuida,
+    colSosta,
+    colGiorno,
+    colData,
+    colOra,
+    colNote,
+    colFine, ///< on one row only: day and hour of the end
+    numeroColonneViandoria
+};
+
+using CelleViandoria = std::array<QString, numeroColonneViandoria>;
+
+/// What a leg's row takes over from the leg table.
+struct TestiTappa {
+    QString strada;
+    QString tipoStrada;
+};
+
+struct TestiViandoria {
+    std::function<TestiTappa(int row)> tappa; ///< by the leg's row in the table
+    QString minutiPausa;                      ///< length of a break, as its list shows it
+    float oreGuidaGiorno = 0;
+    float oreVisitaGiorno = 0;
+};
+
+/// "Lun", "gg/mm", "hh:mm" of a day and a clock.
+[[nodiscard]] QString giornoEMese(float giuliano);
+[[nodiscard]] QString oraMostrata(float ora);
+
+/// Rows with notes of the days, the mark of the end, and the seven rows of totals behind one spare row are not in here:
+/// only what the simulation wrote.
+[[nodiscard]] std::vector<CelleViandoria> celleViandoria(const Viandoria& schedule,
+                                                         const std::vector<RigaDiLavoro>& work,
+                                                         const TestiViandoria& texts);
+
+/// Closes the schedule: the end's mark and the notes of the days into its rows; the result are the rows of totals.
+inline constexpr int righeTotali = 7;
+[[nodiscard]] std::array<QString, righeTotali> chiudeViandoria(std::vector<CelleViandoria>& rows,
+                                                               const Viandoria& schedule,
+                                                               const TestiViandoria& texts);
+
+/// A row that says nothing beyond its name; the tidying takes it away.
+[[nodiscard]] bool rigaVuota(const std::function<const QString&(int column)>& cell);
+
+} // namespace vanzer

@@ -1,0 +1,96 @@
+// One walk through the working rows with a simulated clock and calendar: a test.
+//
+// The day is a chain of milestones (lunch, dinner, night), not a span of 24 hours: driving is cut so that an arrival
+// falls on the next milestone, and an arrival near one counts as reaching it, from a third of the range before it to
+// all of the range after it. Clock times are single-precision hundredths of an hour; sums and products run in double
+// precision and are rounded when a variable takes them.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "schedule/totals.h"
+#include "schedule/working_rows.h"
+
+namespace vanzer {
+
+struct ParametriSimulazione {
+    float oraColazione = 0; ///< activity starts
+    float oraPranzo = 0;
+    float durataPranzo = 0;
+    float oraCena = 0;
+    float durataCena = 0;
+    float oraNotte = 0;
+    float inizioVisita = 0;
+    float fineVisita = 0;
+    float oreVisitaGiorno = 0;
+    float oreGuidaGiorno = 0;
+    int riposoMinuti = 0; ///< a break, hundredths
+    int riposoOre = 0;
+    int riposoGiorno = 0;
+    int riposoDopoGiorni = 0;
+    float oraInizioViaggio = 0;
+    float giulianoInizio = 0;
+    int giorniDesiderati = 0; ///< 0: the walk goes to the end
+    int range = 0;            ///< hundredths
+    Medie medie{};
+};
+
+/// A row of the schedule, in numbers.
+struct RigaViandoria {
+    enum class Tipo { Tratto, Sosta, Menzione, NuovoGiorno };
+    /// Why a driven piece ended where it did.
+    enum class Fine { Arrivo, Pranzo, Cena, Notte, Pausa };
+
+    Tipo tipo = Tipo::Tratto;
+    Fine fine = Fine::Arrivo;
+    int lavoro = 0;            ///< index of the working row it comes from
+    bool verso = false;        ///< on the way: the leg goes on behind this piece
+    bool pranzo = false;       ///< lunch, dinner, night follow this piece
+    bool cena = false;
+    bool notte = false;
+    bool pausa = false;        ///< a break follows
+    bool riposoDopo = false;   ///< a long rest falls behind this row
+    bool domani = false;       ///< the stop waited for the next day's visiting hours
+    bool spezzata = false;     ///< the stop went on over more than one day
+    int km = 0;
+    int kmTotali = 0;
+    float tempo = 0;    ///< of the piece, hundredths
+    float ora = 0;      ///< the clock at the arrival, behind the stop, at the new start
+    float giuliano = 0; ///< the day of that
+    float sosta = 0;    ///< length of the stop, rounded to whole minutes
+    float sostaGuida = 0; ///< length that the guide asks for
+};
+
+/// What the panel shows: refreshed behind each driven piece, so that later stops don't count.
+struct PannelloViandoria {
+    float ora = 0; ///< arrival of the last piece
+    float giuliano = 0;
+    int kmTotali = 0;
+    int traghetti = 0;
+    std::array<int, 4> km{}; ///< by road type
+};
+
+struct Viandoria {
+    enum class Esito {
+        Completa,       ///< all rows were walked
+        TroppiGiorni,   ///< ended as soon as it passed the wanted days
+        Interrotta
+    };
+    Esito esito = Esito::Completa;
+    std::vector<RigaViandoria> righe;
+    PannelloViandoria pannello;
+    int giorni = 0;     ///< days of the trip
+    float ora = 0;      ///< clock at the end
+    float giuliano = 0;
+    int traghetti = 0;
+};
+
+/// Called before each working row with its number from 1; true asks to stop.
+using FermaRiga = std::function<bool(int row)>;
+
+/// `coefficiente` stretches the guide's stops and nothing else.
+[[nodiscard]] Viandoria simula(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& with,
+                               float coefficiente, const FermaRiga& stop = {});
+
+} // namespace vanzer

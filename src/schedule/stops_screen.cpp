@@ -1,0 +1,57 @@
+#include "schedule/stops_screen.h"
+
+#include "core/text.h"
+#include "guide/marks.h"
+#include "itinerary/leg_table_screen.h"
+#include "schedule/stops.h"
+#include "window/modes.h"
+
+namespace vanzer {
+
+namespace {
+
+constexpr int colonnaSosta = 7;
+
+void addGuideStops(Form& form) {
+    Grid& grid = form.mfgTab;
+    SettaAZeroFlaGVisto(form);
+    form.stato.PercentualeTotale = grid.rows() - 1;
+    SegniGuida guide(form.archivio);
+    for (int r = 1; r < grid.rows(); ++r) {
+        form.stato.PercentualeCorrente = r;
+        AggiornaPercentuale(form);
+        if (grid.cell(r, 1).isEmpty())
+            continue;
+        std::vector<QString> times;
+        for (const VoceGuida& entry : guide.usaModello(LikeTesto(grid.cell(r, 1))))
+            times.push_back(entry.tempoSosta);
+        if (!times.empty())
+            grid.setCell(r, colonnaSosta, sostaConGuida(grid.cell(r, colonnaSosta), times, form.stato.OreVisitaGiorno));
+    }
+    guide.scrive();
+}
+
+} // namespace
+
+void cmdTrasferisce_Click(Form& form) {
+    const QString question =
+        QStringLiteral("Vuoi copiare le soste indicate nella Guida nelle tappe dell'itinerario?\n\n"
+                       "I tempi traghetto e riposi non sono influenzati e la\n"
+                       "modifica sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?");
+    if (form.domanda(question, QStringLiteral("Copia soste Guida -> Itinerario"), Pulsanti::SiNo) == rispostaSi)
+        addGuideStops(form);
+    AzzeraPercentuale(form);
+}
+
+void cmdAzzeraSoste_Click(Form& form) {
+    const QString question =
+        QStringLiteral("Vuoi azzerare le soste indicate nell'itinerario?\n\n"
+                       "I tempi traghetto e riposi non sono influenzati e la\n"
+                       "cancellazione sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?");
+    if (form.domanda(question, QStringLiteral("Azzera soste itinerario"), Pulsanti::SiNo) != rispostaSi)
+        return;
+    for (int r = 1; r < form.mfgTab.rows(); ++r)
+        form.mfgTab.setCell(r, colonnaSosta, {});
+}
+
+} // namespace vanzer

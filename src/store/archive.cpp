@@ -1,0 +1,233 @@
+#include "store/archive.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QDir>
+#include <QFileInfo>
+
+#include "core/text.h"
+#include "store/field_values.h"
+#include "store/query_sql.h"
+
+namespace vanzer::store {
+
+namespace {
+
+const QString& markField() {
+    static const QString name = QStringLiteral("FlagVisto");
+    return name;
+}
+
+bool passes(const TableInfo& stored, const FieldDef& declared) {
+    const int position = stored.campo(declared.name);
+    if (position < 0)
+        return false;
+    const FieldDef& field = stored.campi[static_cast<std::size_t>(position)];
+    return field.kind != FieldKind::Text || field.size == declared.size;
+}
+
+TabellaLetta::Cella cellOf(const Recordset& records, int field) {
+    if (records.kind(field) == FieldKind::YesNo)
+        return records.siNo(field);
+    return records.haValore(field) ? TabellaLetta::Cella(records.testo(field)) : TabellaLetta::Cella();
+}
+
+} // namespace
+
+Comando::Comando(const Archive& archive) : Transaction(archive.archive()) {}
+
+Archive::Archive(const QString& directory) : PercorsoProgramma(QDir::fromNativeSeparators(directory)) {
+    if (!PercorsoProgramma.endsWith(u'/'))
+        PercorsoProgramma += u'/';
+}
+
+Archive::~Archive() {
+    chiudi();
+}
+
+Database& Archive::database(int index) const {
+    Database* const found = Db(index);
+    if (found == nullptr)
+        throw StoreError(StoreError::Kind::Other, PercorsoDatabase, QStringLiteral("l'archivio è chiuso"));
+    return *found;
+}
+
+std::shared_ptr<const TableInfo> Archive::storedTable(int db, int table) const {
+    return database(db).tabella(TabelleNomi(table));
+}
+
+void Archive::closeSlots() {
+    for (Recordset& records : slots_)
+        records = Recordset();
+}
+
+void Archive::chiudi() {
+    closeSlots();
+    found_ = 0;
+    for (auto& database : databases_)
+        database.reset();
+}
+
+void Archive::DatabaseCrea(int db, bool& created) {
+    created = !QFileInfo::exists(PercorsoDatabase);
+    if (!created)
+        return;
+    auto& handle = databases_.at(static_cast<std::size_t>(db));
+    handle.reset();
+    handle = Database::crea(PercorsoDatabase);
+}
+
+void Archive::DatabaseApre(int db) {
+    auto& handle = databases_.at(static_cast<std::size_t>(db));
+    handle.reset(); // first: a file that is open can't be opened again
+    handle = Database::apre(PercorsoDatabase);
+}
+
+void Archive::DatabaseTabelleCreazione(int db) {
+    Transaction all(database(db));
+    for (int table = primaTabella; table <= ultimaTabella; ++table)
+        DatabaseTabellaCrea(db, table);
+    all.commit();
+}
+
+void Archive::DatabaseTabellaCrea(int db, int table) {
+    database(db).creaTabella(TabelleNomi(table), campiDescritti(TabelleCampi(table)));
+}
+
+void Archive::DataBaseTabelleAggiorna(int db) {
+    for (int table = primaTabella; table <= ultimaTabella; ++table) {
+        Rettifica = true;
+        const auto stored = storedTable(db, table);
+        if (stored == nullptr)
+            return;
+        const std::vector<FieldDef> declared = campiDescritti(TabelleCampi(table));
+        if (!std::all_of(declared.begin(), declared.end(), [&](const FieldDef& f) { return passes(*stored, f); }))
+            return;
+        Rettifica = false;
+        DataBaseVerificaIndici(db, table);
+    }
+}
+
+void Archive::DataBaseVerificaIndici(int db, int table) {
+    Database& file = database(db);
+    const auto stored = storedTable(db, table);
+    if (stored == nullptr)
+        return;
+    QStringList wanted = TabelleIndici(table).split(u',', Qt::SkipEmptyParts);
+    for (const QString& index : file.indici(stored->nome))
+        wanted.removeIf([&](const QString& name) { return uguale(name, index); });
+    for (const FieldDef& field : stored->campi) {
+        if (wanted.contains(field.name, Qt::CaseInsensitive))
+            file.cambiaSchema(createIndexSql(stored->nome, field.name));
+    }
+    if (table == GuidaCitta && stored->campo(markField()) >= 0)
+        file.cambiaSchema(createMarkIndexSql(stored->nome, markField()));
+}
+
+void Archive::RecordSetImposta(int db, int slot) {
+    RecordSetImposta(db, slot, analizza(StringaSQL));
+}
+
+void Archive::RecordSetImposta(int db, int slot, const Query& query) {
+    Rs(slot) = Recordset(database(db), query);
+    found_.reset();
+    lastSlot_ = slot;
+}
+
+double Archive::NumeroRecord() {
+    if (!found_)
+        found_ = Rs(lastSlot_).RecordCount();
+    return static_cast<double>(*found_);
+}
+
+void Archive::RecordSetImpostaDefault() {
+    (void)NumeroRecord(); // it is the last query's, which may be about to be closed
+    for (int table = primaTabella; table <= ultimaTabella; ++table)
+        Rs(table) = Recordset(archive(), {TabelleNomi(table), {}, {}});
+}
+
+std::optional<int> Archive::CercaCampoTabella(int slot, const QString& name) {
+    const Recordset& records = Rs(slot);
+    std::optional<int> found;
+    for (int field = 0; field < records.count(); ++field) {
+        if (uguale(records.name(field), name))
+            found = field;
+    }
+    return found;
+}
+
+QString Archive::CaricaRiferimentiVettoreCampiTabelleDatabase(int slot, const QStringList& columns) {
+    const Recordset& records = Rs(slot);
+    QString references;
+    for (qsizetype column = 0; column < columns.size(); ++column) {
+        const int field = records.campo(columns[column]);
+        if (field >= 0)
+            references += Zero(testoNumero(static_cast<int>(column) + 1), 2) + Zero(testoNumero(field), 2) + u'\\';
+    }
+    return references;
+}
+
+void Archive::CancellaTabella(int table, const QString& field, const QString& value, const Progress& progress) {
+    StringaSQL = QStringLiteral("SELECT * FROM ") + TabelleNomi(table);
+    if (!field.isEmpty())
+        StringaSQL += QStringLiteral(" WHERE ") + field + QStringLiteral(" LIKE '") + LikeTesto(value) + u'\'';
+    const Query query = analizza(StringaSQL);
+    RecordSetImposta(0, slotAppoggio, query);
+    const auto total = static_cast<qint64>(NumeroRecord());
+    if (total == 0)
+        return;
+    if (progress)
+        progress(0, total);
+    const TranslatedQuery translated = traduce(archive(), query);
+    const StatementLease statement = archive().prepara(translated.form->deleteAll);
+    translated.bind(*statement);
+    archive().scrive(*translated.form->tabella, *statement);
+    Rs(slotAppoggio) = Recordset(archive(), query);
+    if (progress)
+        progress(total, total);
+}
+
+void Archive::azzeraFlagVisto() {
+    const auto guide = storedTable(0, GuidaCitta);
+    const QByteArray marked = " WHERE " + quotedName(markField()) + " IS NOT '0'";
+    const StatementLease any = archive().prepara("SELECT 1 FROM " + quotedName(guide->nome) + marked + " LIMIT 1");
+    if (!any->step())
+        return;
+    any->reset();
+    const StatementLease clear =
+        archive().prepara("UPDATE " + quotedName(guide->nome) + " SET " + quotedName(markField()) + "='0'" + marked);
+    archive().scrive(*guide, *clear);
+}
+
+void Archive::segnaVisti(const std::vector<qint64>& rowids) {
+    const auto guide = storedTable(0, GuidaCitta);
+    const StatementLease mark = archive().prepara("UPDATE " + quotedName(guide->nome) + " SET " +
+                                                  quotedName(markField()) + "='1' WHERE rowid=?");
+    Transaction all(archive());
+    for (const qint64 rowid : rowids) {
+        mark->bind(1, rowid);
+        archive().scrive(*guide, *mark);
+    }
+    all.commit();
+}
+
+void Archive::rollbackCommand() noexcept {
+    if (Database* const file = databases_.front().get(); file != nullptr)
+        file->rollbackCommand();
+}
+
+TabellaLetta Archive::tabella(const QString& name) {
+    Recordset records(archive(), {name, {}, {}});
+    TabellaLetta table;
+    for (int field = 0; field < records.count(); ++field)
+        table.campi += records.name(field);
+    for (; !records.EOF_(); records.MoveNext()) {
+        auto& row = table.record.emplace_back();
+        for (int field = 0; field < records.count(); ++field)
+            row.push_back(cellOf(records, field));
+    }
+    return table;
+}
+
+} // namespace vanzer::store

@@ -1,0 +1,123 @@
+// The archive as the rest of the system sees it: one file beside the program, its tables, and numbered slots of records
+// opened by query texts.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <variant>
+#include <vector>
+
+#include <QString>
+#include <QStringList>
+
+#include "store/database.h"
+#include "store/query.h"
+#include "store/recordset.h"
+#include "store/schema.h"
+
+namespace vanzer::store {
+
+/// One table as a whole, records in the order in which they were added: text, yes/no, or no value.
+struct TabellaLetta {
+    using Cella = std::variant<std::monostate, bool, QString>;
+    QStringList campi;
+    std::vector<std::vector<Cella>> record;
+};
+
+/// Every operation throws StoreError when it fails.
+class Archive {
+  public:
+    using Progress = std::function<void(qint64 done, qint64 total)>;
+
+    static constexpr int numeroDatabase = 3;
+    static constexpr int numeroSlot = 11;
+    static constexpr int slotAppoggio = 7; ///< for whatever a loop needs beside the slots of the tables
+
+    /// Nothing is opened yet. The directory gets a separator at its end.
+    explicit Archive(const QString& directory);
+    Archive(const Archive&) = delete;
+    Archive& operator=(const Archive&) = delete;
+    ~Archive();
+
+    QString PercorsoProgramma;
+    QString PercorsoDatabase; ///< the file to make or open next
+    QString StringaSQL;       ///< the query to open next
+    bool Rettifica = false;   ///< the file must be rebuilt
+
+    /// 0 is the archive in use, 1 the old file during a rebuild. Null while closed.
+    [[nodiscard]] Database* Db(int index) const { return databases_.at(static_cast<std::size_t>(index)).get(); }
+    /// The number of a slot is the number of the table that it serves.
+    [[nodiscard]] Recordset& Rs(int slot) { return slots_.at(static_cast<std::size_t>(slot)); }
+
+    /// Makes "Vanzer.mdb" if there is none, else opens it and rebuilds it where its tables aren't the declared ones,
+    /// then opens slots 1 to 6. A rebuild works in "DBTemp.mdb"; the old file stays until the new one is whole and safe
+    /// on the disk.
+    void apriArchivio();
+    void chiudi();
+
+    void DatabaseCrea(int db, bool& created);
+    void DatabaseApre(int db);
+    /// All six tables, or none.
+    void DatabaseTabelleCreazione(int db);
+    void DatabaseTabellaCrea(int db, int table);
+    /// Sets `Rettifica` if a table or a declared field is missing or a text has another size; fields that aren't
+    /// declared don't count. Adds missing indexes.
+    void DataBaseTabelleAggiorna(int db);
+    void DataBaseVerificaIndici(int db, int table);
+
+    /// Opens `StringaSQL`, or a query put together before, in a slot.
+    void RecordSetImposta(int db, int slot);
+    void RecordSetImposta(int db, int slot, const Query& query);
+    /// Records found by the last RecordSetImposta. Counted when first asked: to be asked before that slot is written.
+    [[nodiscard]] double NumeroRecord();
+    /// Slots 1 to 6 on their whole tables.
+    void RecordSetImpostaDefault();
+
+    /// Position of a field in an open slot; nothing if there is none.
+    [[nodiscard]] std::optional<int> CercaCampoTabella(int slot, const QString& name);
+    /// For each column name that is a field of the slot, its number from 1 and the field's position from 0 as two
+    /// digits each, and "\".
+    [[nodiscard]] QString CaricaRiferimentiVettoreCampiTabelleDatabase(int slot, const QStringList& columns);
+
+    /// Deletes the records of a table whose field is like the value (the whole table if the field is empty). `progress`
+    /// hears the begin and the end if there is anything to delete.
+    void CancellaTabella(int table, const QString& field, const QString& value, const Progress& progress = {});
+
+    /// Clears the marks of use of all guide entries; costs what is marked, not the whole guide.
+    void azzeraFlagVisto();
+    /// Marks guide entries as used.
+    void segnaVisti(const std::vector<qint64>& rowids);
+
+    /// Commands on the archive in use, see Database.
+    void beginCommand() { archive().beginCommand(); }
+    void commitCommand() { archive().commitCommand(); }
+    void rollbackCommand() noexcept;
+
+    [[nodiscard]] TabellaLetta tabella(const QString& name);
+    [[nodiscard]] QStringList indici(const QString& table) { return archive().indici(table); }
+
+  private:
+    friend class Comando;
+
+    [[nodiscard]] Database& database(int index) const;
+    [[nodiscard]] Database& archive() const { return database(0); }
+    [[nodiscard]] std::shared_ptr<const TableInfo> storedTable(int db, int table) const;
+    void closeSlots();
+    void ricostruisce();
+    void copiaTabelle();
+
+    std::array<std::unique_ptr<Database>, numeroDatabase> databases_;
+    std::array<Recordset, numeroSlot> slots_;
+    std::optional<qint64> found_;
+    int lastSlot_ = 0;
+};
+
+/// A command on the archive in use that is rolled back unless it was committed.
+class Comando : public Transaction {
+  public:
+    explicit Comando(const Archive& archive);
+};
+
+} // namespace vanzer::store

@@ -1,0 +1,262 @@
+#include "store/database.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <sqlite3.h>
+
+#include "store/collation.h"
+#include "store/query_sql.h"
+
+namespace vanzer::store {
+
+namespace {
+
+int collate(void* /*unused*/, int sizeA, const void* a, int sizeB, const void* b) {
+    return confronta({static_cast<const char*>(a), static_cast<std::size_t>(sizeA)},
+                     {static_cast<const char*>(b), static_cast<std::size_t>(sizeB)});
+}
+
+std::string_view textOf(sqlite3_value* value) {
+    const auto* const utf8 = reinterpret_cast<const char*>(sqlite3_value_text(value));
+    return utf8 == nullptr ? std::string_view()
+                           : std::string_view(utf8, static_cast<std::size_t>(sqlite3_value_bytes(value)));
+}
+
+void likeFunction(sqlite3_context* context, int /*count*/, sqlite3_value** arguments) {
+    const bool found =
+        sqlite3_value_type(arguments[1]) != SQLITE_NULL && somiglia(textOf(arguments[0]), textOf(arguments[1]));
+    sqlite3_result_int(context, static_cast<int>(found));
+}
+
+/// The system's reason for a file that can't be opened.
+StoreError::Kind kindOfOpening(int resultCode, const QFileInfo& file) {
+    if ((resultCode & 0xff) != SQLITE_CANTOPEN)
+        return kindOfResult(resultCode);
+    if (!QFileInfo(file.path()).isDir())
+        return StoreError::Kind::NotFound;
+    if (file.exists())
+        return file.isFile() && !file.isReadable() ? StoreError::Kind::ReadOnly : StoreError::Kind::Io;
+    return QFileInfo(file.path()).isWritable() ? StoreError::Kind::Io : StoreError::Kind::ReadOnly;
+}
+
+} // namespace
+
+void Database::Closer::operator()(sqlite3* connection) const {
+    sqlite3_close_v2(connection);
+}
+
+std::unique_ptr<Database> Database::apre(const QString& path) {
+    const QFileInfo file(path);
+    if (!file.exists())
+        throw StoreError(StoreError::Kind::NotFound, path);
+    // Without a journal beside the file nothing could be written, so this shows now and not in mid-work.
+    if (!QFileInfo(file.path()).isWritable())
+        throw StoreError(StoreError::Kind::ReadOnly, path);
+    return std::unique_ptr<Database>(new Database(path, SQLITE_OPEN_READWRITE));
+}
+
+std::unique_ptr<Database> Database::crea(const QString& path) {
+    return std::unique_ptr<Database>(new Database(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE));
+}
+
+// The lock is taken with the first transaction and, in exclusive mode, kept to the end. That transaction also rolls
+// back what a killed program left half done, and refuses a file that is no archive.
+Database::Database(const QString& path, int flags) : path_(path) {
+    sqlite3* connection = nullptr;
+    const int result =
+        sqlite3_open_v2(QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath()).toUtf8().constData(), &connection,
+                        flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
+    connection_.reset(connection);
+    if (result != SQLITE_OK)
+        throw StoreError(kindOfOpening(result, QFileInfo(path)), path_, lastError(result).what());
+    sqlite3_create_collation_v2(connection, "VANZER", SQLITE_UTF8, nullptr, collate, nullptr);
+    sqlite3_create_function_v2(connection, "somiglia", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, likeFunction,
+                               nullptr, nullptr, nullptr);
+    run("PRAGMA locking_mode=EXCLUSIVE");
+    run("PRAGMA synchronous=FULL");
+    run("PRAGMA temp_store=MEMORY");
+    run("PRAGMA cache_size=-16000");
+    run("BEGIN EXCLUSIVE");
+    run("SELECT count(*) FROM sqlite_schema");
+    run("COMMIT");
+    run("PRAGMA journal_mode=DELETE");
+}
+
+Database::~Database() {
+    for (LiveSet* const set : std::exchange(sets_, {}))
+        set->abbandona();
+    rollbackNow();
+    statements_.clear();
+    // In exclusive mode an emptied journal stays beside the file; back in normal mode the engine takes it away.
+    sqlite3_exec(connection_.get(),
+                 "PRAGMA locking_mode=NORMAL; SELECT count(*) FROM sqlite_schema; "
+                 "PRAGMA journal_mode=DELETE",
+                 nullptr, nullptr, nullptr);
+}
+
+StoreError Database::lastError(int resultCode) const {
+    return {kindOfResult(resultCode), path_, QString::fromUtf8(sqlite3_errmsg(connection_.get()))};
+}
+
+void Database::run(const char* sql) {
+    const int result = sqlite3_exec(connection_.get(), sql, nullptr, nullptr, nullptr);
+    if (result != SQLITE_OK)
+        throw lastError(result);
+}
+
+QStringList Database::tabelle() {
+    QStringList names;
+    const StatementLease list = prepara("SELECT name FROM sqlite_schema WHERE type='table' ORDER BY rowid");
+    while (list->step())
+        names += list->text(0);
+    return names;
+}
+
+std::shared_ptr<const TableInfo> Database::tabella(const QString& name) {
+    const QString key = name.toCaseFolded();
+    if (const auto known = tables_.constFind(key); known != tables_.cend())
+        return *known;
+    const QStringList names = tabelle();
+    const auto found = std::find_if(names.begin(), names.end(),
+                                    [&](const QString& n) { return n.compare(name, Qt::CaseInsensitive) == 0; });
+    if (found == names.end())
+        return nullptr;
+    auto table = std::make_shared<TableInfo>();
+    table->nome = *found;
+    const StatementLease fields = prepara("SELECT name, type FROM pragma_table_info(?)");
+    fields->bindText(1, QStringView(*found));
+    while (fields->step())
+        table->campi.push_back(fieldOfType(fields->text(0), fields->text(1)));
+    tables_.insert(key, table);
+    return table;
+}
+
+QStringList Database::indici(const QString& table) {
+    QStringList names;
+    const StatementLease list =
+        prepara("SELECT name FROM sqlite_schema WHERE type='index' AND tbl_name=? COLLATE VANZER ORDER BY rowid");
+    list->bindText(1, QStringView(table));
+    while (list->step()) {
+        const QString name = logicalIndexName(table, list->text(0));
+        if (!name.isEmpty())
+            names += name;
+    }
+    return names;
+}
+
+void Database::creaTabella(const QString& name, const std::vector<FieldDef>& fields) {
+    cambiaSchema(createTableSql(name, fields));
+}
+
+void Database::cambiaSchema(const QByteArray& sql) {
+    const StatementLease change = prepara(sql);
+    scrive(TableInfo(), *change);
+    tables_.clear();
+    translations_.clear();
+}
+
+StatementLease Database::prepara(const QByteArray& sql) {
+    StatementPool& pool = statements_[sql.toStdString()];
+    if (pool.empty())
+        return {std::make_unique<Statement>(connection_.get(), sql, path_), pool};
+    std::unique_ptr<Statement> statement = std::move(pool.back());
+    pool.pop_back();
+    return {std::move(statement), pool};
+}
+
+void Database::beforeWrite(const TableInfo& table) {
+    if (depth_ > 0 && spoiled_)
+        throw StoreError(*spoiled_);
+    for (LiveSet* const set : sets_)
+        set->primaDiScrivere(table);
+    if (depth_ > 0 && !inTransaction())
+        run("BEGIN");
+}
+
+qint64 Database::scrive(const TableInfo& table, Statement& statement) {
+    try {
+        beforeWrite(table);
+        statement.step();
+        statement.reset();
+    } catch (const StoreError& error) {
+        if (depth_ > 0 && !spoiled_)
+            spoiled_ = error;
+        throw;
+    }
+    return sqlite3_changes64(connection_.get());
+}
+
+qint64 Database::ultimoRowid() const {
+    return sqlite3_last_insert_rowid(connection_.get());
+}
+
+void Database::commitCommand() {
+    if (depth_ == 0)
+        throw StoreError(StoreError::Kind::Other, path_, QStringLiteral("nessun comando in corso"));
+    if (--depth_ > 0)
+        return;
+    std::optional<StoreError> failure = std::exchange(spoiled_, std::nullopt);
+    if (!failure && inTransaction()) {
+        const int result = sqlite3_exec(connection_.get(), "COMMIT", nullptr, nullptr, nullptr);
+        if (result != SQLITE_OK)
+            failure = lastError(result);
+    }
+    if (failure) {
+        rollbackNow();
+        throw StoreError(*failure);
+    }
+}
+
+void Database::rollbackCommand() noexcept {
+    if (depth_ == 0)
+        return;
+    rollbackNow();
+    if (--depth_ == 0)
+        spoiled_.reset();
+    else if (!spoiled_)
+        spoiled_.emplace(StoreError::Kind::Other, path_, QStringLiteral("comando annullato"));
+}
+
+void Database::rollbackNow() noexcept {
+    if (inTransaction())
+        sqlite3_exec(connection_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
+    for (LiveSet* const set : sets_)
+        set->annullato();
+    tables_.clear();
+    translations_.clear();
+}
+
+bool Database::inTransaction() const {
+    return sqlite3_get_autocommit(connection_.get()) == 0;
+}
+
+void Database::aggiunge(LiveSet& set) {
+    sets_.push_back(&set);
+}
+
+void Database::toglie(LiveSet& set) noexcept {
+    sets_.erase(std::remove(sets_.begin(), sets_.end(), &set), sets_.end());
+}
+
+QStringList Database::piano(const QByteArray& sql) {
+    QStringList lines;
+    Statement plan(connection_.get(), "EXPLAIN QUERY PLAN " + sql, path_);
+    while (plan.step())
+        lines += plan.text(3);
+    return lines;
+}
+
+qint64 Database::lavoro() const {
+    qint64 steps = 0;
+    for (sqlite3_stmt* s = sqlite3_next_stmt(connection_.get(), nullptr); s != nullptr;
+         s = sqlite3_next_stmt(connection_.get(), s))
+        steps += sqlite3_stmt_status(s, SQLITE_STMTSTATUS_VM_STEP, 0);
+    return steps;
+}
+
+} // namespace vanzer::store

@@ -1,0 +1,132 @@
+// One connection to an archive file: held alone for its whole life, safe against a crash at any point.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include "store/error.h"
+#include "store/statement.h"
+#include "store/table_info.h"
+
+namespace vanzer::store {
+
+struct Translation;
+
+/// A set that is being walked. It must step aside before its table is written.
+class LiveSet {
+  public:
+    LiveSet() = default;
+    LiveSet(const LiveSet&) = delete;
+    LiveSet& operator=(const LiveSet&) = delete;
+    virtual ~LiveSet() = default;
+
+    /// Reads what it still needs of its table.
+    virtual void primaDiScrivere(const TableInfo& table) = 0;
+    /// What was written last was rolled back.
+    virtual void annullato() noexcept = 0;
+    /// The connection goes; nothing of it may be used any more.
+    virtual void abbandona() noexcept = 0;
+};
+
+class Database {
+  public:
+    /// Opens an existing file. Throws NotFound; Busy if any other connection has it; Corrupt if it is no archive;
+    /// ReadOnly if the file or its directory can't be written.
+    [[nodiscard]] static std::unique_ptr<Database> apre(const QString& path);
+    /// Makes a new empty file. The same failures.
+    [[nodiscard]] static std::unique_ptr<Database> crea(const QString& path);
+
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+    /// Rolls back an open command, lets go of the file and leaves nothing beside it.
+    ~Database();
+
+    [[nodiscard]] const QString& percorso() const { return path_; }
+
+    [[nodiscard]] QStringList tabelle();
+    /// The stored table of that name, case ignored; null if there is none.
+    [[nodiscard]] std::shared_ptr<const TableInfo> tabella(const QString& name);
+    /// Logical names of a table's indexes, in the order of their making; internal ones aren't told.
+    [[nodiscard]] QStringList indici(const QString& table);
+    void creaTabella(const QString& name, const std::vector<FieldDef>& fields);
+    /// Runs a statement that changes the schema.
+    void cambiaSchema(const QByteArray& sql);
+
+    /// A statement for exclusive use; prepared once and kept (the system has a few dozen different ones).
+    [[nodiscard]] StatementLease prepara(const QByteArray& sql);
+    /// Runs a statement that writes `table`: first all sets on it step aside and, within a command, the transaction
+    /// begins. Returns the number of records changed. A failure spoils the command.
+    qint64 scrive(const TableInfo& table, Statement& statement);
+    [[nodiscard]] qint64 ultimoRowid() const;
+
+    /// Commands may be nested. The first write within one begins a transaction, the end of the outermost commits it.
+    void beginCommand() { ++depth_; }
+    /// Throws what spoiled the command, if something did; then, as when the commit itself fails, nothing is stored.
+    void commitCommand();
+    /// Undoes all that the outermost command wrote; it can only be rolled back from there on.
+    void rollbackCommand() noexcept;
+    [[nodiscard]] bool inTransaction() const;
+
+    void aggiunge(LiveSet& set);
+    void toglie(LiveSet& set) noexcept;
+
+    /// Translated queries by their shape.
+    [[nodiscard]] QHash<QString, std::shared_ptr<const Translation>>& traduzioni() { return translations_; }
+
+    /// The plan that the engine has for a statement, a line for each step.
+    [[nodiscard]] QStringList piano(const QByteArray& sql);
+    /// Steps of the engine's machine that all kept statements have run so far: how much work was done.
+    [[nodiscard]] qint64 lavoro() const;
+
+  private:
+    struct Closer {
+        void operator()(sqlite3* connection) const;
+    };
+
+    Database(const QString& path, int flags);
+
+    void run(const char* sql);
+    void beforeWrite(const TableInfo& table);
+    void rollbackNow() noexcept;
+    [[nodiscard]] StoreError lastError(int resultCode) const;
+
+    QString path_;
+    std::unique_ptr<sqlite3, Closer> connection_;
+    std::unordered_map<std::string, StatementPool> statements_;
+    QHash<QString, std::shared_ptr<const TableInfo>> tables_;
+    QHash<QString, std::shared_ptr<const Translation>> translations_;
+    std::vector<LiveSet*> sets_;
+    int depth_ = 0;
+    std::optional<StoreError> spoiled_;
+};
+
+/// A command that is rolled back unless it was committed.
+class Transaction {
+  public:
+    explicit Transaction(Database& database) : database_(&database) { database.beginCommand(); }
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+    ~Transaction() {
+        if (database_ != nullptr)
+            database_->rollbackCommand();
+    }
+
+    void commit() {
+        Database* const database = database_;
+        database_ = nullptr;
+        database->commitCommand();
+    }
+
+  private:
+    Database* database_;
+};
+
+} // namespace vanzer::store

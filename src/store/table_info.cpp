@@ -1,0 +1,136 @@
+#include "store/table_info.h"
+
+#include <algorithm>
+#include <array>
+#include <type_traits>
+
+#include "core/text.h"
+
+namespace vanzer::store {
+
+namespace {
+
+struct KindName {
+    FieldKind kind;
+    const char* name;
+};
+
+// A text's type carries its size: "TEXT(30)".
+constexpr std::array<KindName, 7> kindNames{{{FieldKind::Text, "TEXT"},
+                                             {FieldKind::YesNo, "YESNO"},
+                                             {FieldKind::Binary, "BLOB"},
+                                             {FieldKind::DateTime, "DATETIME"},
+                                             {FieldKind::Integer16, "SMALLINT"},
+                                             {FieldKind::Single, "FLOAT"},
+                                             {FieldKind::Double, "DOUBLE"}}};
+
+constexpr QChar internalMark = u'#';
+
+/// The quick test of a field's name, which nearly always is given as it is stored: plain letters in the same case.
+template<typename View> bool sameSpelling(const QString& name, View view) {
+    if (name.size() != view.size())
+        return false;
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        char32_t c = 0;
+        if constexpr (std::is_same_v<View, QStringView>)
+            c = view[i].unicode();
+        else
+            c = static_cast<unsigned char>(view.data()[i]);
+        if (c != name[i].unicode() || c >= 0x80)
+            return false;
+    }
+    return true;
+}
+
+template<typename View> int positionOfSpelling(const std::vector<FieldDef>& fields, View name) {
+    const auto found = std::find_if(fields.begin(), fields.end(),
+                                    [&](const FieldDef& field) { return sameSpelling(field.name, name); });
+    return found == fields.end() ? -1 : static_cast<int>(found - fields.begin());
+}
+
+} // namespace
+
+int TableInfo::campo(QAnyStringView name) const {
+    const int known = name.visit([this](auto view) { return positionOfSpelling(campi, view); });
+    if (known >= 0)
+        return known;
+    for (std::size_t i = 0; i < campi.size(); ++i) {
+        if (QAnyStringView::compare(campi[i].name, name, Qt::CaseInsensitive) == 0)
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+QByteArray quotedName(const QString& name) {
+    return '"' + name.toUtf8().replace('"', "\"\"") + '"';
+}
+
+QByteArray declaredType(const FieldDef& field) {
+    for (const KindName& entry : kindNames) {
+        if (entry.kind == field.kind)
+            return field.kind == FieldKind::Text ? entry.name + ('(' + QByteArray::number(field.size) + ')')
+                                                 : QByteArray(entry.name);
+    }
+    return {};
+}
+
+FieldDef fieldOfType(const QString& name, const QString& declaredType) {
+    const qsizetype open = declaredType.indexOf(u'(');
+    const QString word = Trim(open < 0 ? declaredType : declaredType.left(open));
+    for (const KindName& entry : kindNames) {
+        if (word.compare(QLatin1String(entry.name), Qt::CaseInsensitive) == 0 && entry.kind != FieldKind::Text)
+            return {name, entry.kind, 0};
+    }
+    return {name, FieldKind::Text, open < 0 ? 0 : static_cast<int>(Val(QStringView(declaredType).mid(open + 1)))};
+}
+
+QByteArray createTableSql(const QString& table, const std::vector<FieldDef>& fields) {
+    QByteArray sql = "CREATE TABLE " + quotedName(table) + '(';
+    for (const FieldDef& field : fields) {
+        if (!sql.endsWith('('))
+            sql += ',';
+        sql += quotedName(field.name) + ' ' + declaredType(field);
+        if (field.kind == FieldKind::Text)
+            sql += " COLLATE VANZER";
+    }
+    return sql + ')';
+}
+
+QByteArray selectSql(const TableInfo& table) {
+    QByteArray sql = "SELECT rowid";
+    for (const FieldDef& field : table.campi)
+        sql += ',' + quotedName(field.name);
+    return sql + " FROM " + quotedName(table.nome);
+}
+
+QByteArray insertSql(const TableInfo& table) {
+    QByteArray names;
+    QByteArray places;
+    for (const FieldDef& field : table.campi) {
+        names += (names.isEmpty() ? "" : ",") + quotedName(field.name);
+        places += places.isEmpty() ? "?" : ",?";
+    }
+    return "INSERT INTO " + quotedName(table.nome) + '(' + names + ") VALUES(" + places + ')';
+}
+
+QString indexName(const QString& table, const QString& field) {
+    return table + u'.' + field;
+}
+
+QByteArray createIndexSql(const QString& table, const QString& field) {
+    return "CREATE INDEX " + quotedName(indexName(table, field)) + " ON " + quotedName(table) + '(' +
+           quotedName(field) + " COLLATE VANZER)";
+}
+
+QString logicalIndexName(const QString& table, const QString& indexName) {
+    if (iniziaCon(indexName, QString(table + internalMark)))
+        return {};
+    return iniziaCon(indexName, QString(table + u'.')) ? indexName.mid(table.size() + 1) : indexName;
+}
+
+QByteArray createMarkIndexSql(const QString& table, const QString& field) {
+    return "CREATE INDEX IF NOT EXISTS " + quotedName(table + internalMark + field) + " ON " + quotedName(table) + '(' +
+           quotedName(field) + ") WHERE " + quotedName(field) + " IS NOT '0'";
+}
+
+} // namespace vanzer::store

@@ -1,0 +1,237 @@
+#include "store/walk.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace vanzer::store {
+
+Walk::Walk(Database& database, TranslatedQuery query) : database_(&database), query_(std::move(query)) {
+    database.aggiunge(*this);
+}
+
+Walk::~Walk() {
+    if (database_ != nullptr)
+        database_->toglie(*this);
+}
+
+Database& Walk::database() const {
+    if (database_ == nullptr)
+        throw StoreError(StoreError::Kind::Other, QString(), QStringLiteral("l'archivio è chiuso"));
+    return *database_;
+}
+
+void Walk::abbandona() noexcept {
+    cursor_.giveBack();
+    database_ = nullptr;
+}
+
+bool Walk::atEnd() {
+    start();
+    return place_ == Place::End;
+}
+
+void Walk::start() {
+    if (place_ == Place::NotStarted)
+        first();
+}
+
+void Walk::first() {
+    rest_.clear();
+    restAt_ = 0;
+    addedAt_ = 0;
+    openCursor(std::numeric_limits<qint64>::min());
+    advance();
+}
+
+void Walk::openCursor(qint64 behindRowid) {
+    cursor_.giveBack();
+    interrupted_ = false;
+    cursor_ = database().prepara(form().select);
+    query_.bind(*cursor_);
+    if (form().wholeTable)
+        cursor_->bind(1, behindRowid);
+}
+
+void Walk::next() {
+    if (place_ == Place::NotStarted)
+        first();
+    if (place_ != Place::End)
+        advance();
+}
+
+void Walk::advance() {
+    if (interrupted_)
+        openCursor(current_.rowid);
+    place_ = Place::OnRecord;
+    onCursor_ = cursor_ && stepCursor();
+    if (onCursor_) {
+        current_.rowid = cursor_->integer(0);
+        return;
+    }
+    if (restAt_ < rest_.size()) {
+        current_ = std::move(rest_[restAt_++]);
+        return;
+    }
+    if (!nextAdded())
+        place_ = Place::End;
+}
+
+/// Moves the cursor to the next record that isn't one of the added ones, which have their place at the end.
+bool Walk::stepCursor() {
+    try {
+        while (cursor_->step()) {
+            if (!std::binary_search(added_.begin(), added_.end(), cursor_->integer(0)))
+                return true;
+        }
+    } catch (const StoreError&) {
+        cursor_.giveBack();
+        place_ = Place::End;
+        throw;
+    }
+    cursor_.giveBack();
+    return false;
+}
+
+bool Walk::nextAdded() {
+    while (addedAt_ < added_.size()) {
+        const StatementLease record = database().prepara(form().byRowid);
+        record->bind(1, added_[addedAt_++]);
+        if (load(*record))
+            return true;
+    }
+    return false;
+}
+
+bool Walk::load(Statement& statement) {
+    if (!statement.step())
+        return false;
+    current_ = rowOf(statement);
+    return true;
+}
+
+void Walk::last() {
+    cursor_.giveBack();
+    interrupted_ = false;
+    rest_.clear();
+    restAt_ = 0;
+    onCursor_ = false;
+    place_ = Place::OnRecord;
+    for (addedAt_ = added_.size(); addedAt_ > 0;) {
+        const StatementLease record = database().prepara(form().byRowid);
+        record->bind(1, added_[--addedAt_]);
+        if (load(*record)) {
+            addedAt_ = added_.size();
+            return;
+        }
+    }
+    const StatementLease record = database().prepara(form().last);
+    query_.bind(*record);
+    if (!load(*record))
+        place_ = Place::End;
+    interrupted_ = form().wholeTable; // what is added from now on lies behind
+}
+
+qint64 Walk::count() {
+    if (!count_)
+        count_ = countNow();
+    return *count_;
+}
+
+// Added records stand at the end of the table: the query is asked for what lies below the first of them.
+qint64 Walk::countNow() const {
+    const bool apart = !added_.empty();
+    const StatementLease number = database().prepara(apart ? form().countBelow : form().count);
+    query_.bind(*number);
+    if (apart)
+        number->bind(form().parameters + 1, added_.front());
+    number->step();
+    return number->integer(0) + static_cast<qint64>(added_.size());
+}
+
+void Walk::requireRecord() {
+    start();
+    if (place_ != Place::OnRecord)
+        throw StoreError(StoreError::Kind::Other, database_ == nullptr ? QString() : database_->percorso(),
+                         QStringLiteral("nessun record corrente in %1").arg(tabella().nome));
+}
+
+qint64 Walk::rowid() {
+    requireRecord();
+    return current_.rowid;
+}
+
+QString Walk::text(std::size_t field) {
+    requireRecord();
+    if (onCursor_)
+        return cursor_->text(static_cast<int>(field) + 1);
+    const auto* const text = std::get_if<QString>(&current_.valori[field]);
+    return text == nullptr ? QString() : *text;
+}
+
+Valore Walk::value(std::size_t field) {
+    requireRecord();
+    return onCursor_ ? cursor_->value(static_cast<int>(field) + 1) : current_.valori[field];
+}
+
+bool Walk::isNull(std::size_t field) {
+    requireRecord();
+    return onCursor_ ? cursor_->isNull(static_cast<int>(field) + 1)
+                     : std::holds_alternative<std::monostate>(current_.valori[field]);
+}
+
+void Walk::added(qint64 rowid) {
+    if (count_)
+        ++*count_;
+    if (!form().wholeTable)
+        added_.push_back(rowid);
+}
+
+void Walk::changed(std::size_t field, Valore value) {
+    current_.valori[field] = std::move(value);
+}
+
+void Walk::deleted() {
+    const auto it = std::lower_bound(added_.begin(), added_.end(), current_.rowid);
+    if (it != added_.end() && *it == current_.rowid) {
+        addedAt_ -= static_cast<std::size_t>(it - added_.begin()) < addedAt_ ? 1 : 0;
+        added_.erase(it);
+    }
+    if (count_)
+        --*count_;
+    place_ = Place::Deleted;
+    --current_.rowid; // the place is free: a record added next may take it, and lies ahead then
+}
+
+void Walk::annullato() noexcept {
+    added_.clear();
+    addedAt_ = 0;
+    count_.reset();
+}
+
+void Walk::primaDiScrivere(const TableInfo& table) {
+    if (!cursor_ || (!table.nome.isEmpty() && table.nome != tabella().nome))
+        return;
+    if (onCursor_)
+        current_ = rowOf(*cursor_);
+    onCursor_ = false;
+    if (form().wholeTable) {
+        interrupted_ = true;
+    } else {
+        while (stepCursor())
+            rest_.push_back(rowOf(*cursor_));
+    }
+    cursor_.giveBack();
+}
+
+Riga Walk::rowOf(const Statement& statement) const {
+    Riga row;
+    row.rowid = statement.integer(0);
+    const std::size_t fields = tabella().campi.size();
+    row.valori.reserve(fields);
+    for (std::size_t field = 0; field < fields; ++field)
+        row.valori.push_back(statement.value(static_cast<int>(field) + 1));
+    return row;
+}
+
+} // namespace vanzer::store

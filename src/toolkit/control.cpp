@@ -1,0 +1,133 @@
+#include "toolkit/control.h"
+
+#include <algorithm>
+
+namespace vanzer {
+
+namespace {
+
+bool before(const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; }
+
+} // namespace
+
+Control::Control(QString baseName, int index, Frame* frame)
+    : baseName_(std::move(baseName)), index_(index), frame_(frame) {}
+
+QString Control::name() const {
+    return index_ < 0 ? baseName_ : baseName_ + u'(' + QString::number(index_) + u')';
+}
+
+void Control::setVisible(bool on) { assign(visible_, on); }
+
+void Control::setEnabled(bool on) { assign(enabled_, on); }
+
+bool Control::reachable() const {
+    for (const Control* c = this; c != nullptr; c = c->frame_) {
+        if (!c->visible_ || !c->enabled_)
+            return false;
+    }
+    return true;
+}
+
+void Control::setTooltip(const QString& text) { assign(tooltip_, text); }
+
+void Control::place(int left, int top, int width, int height) {
+    geometria_ = {left, top, width, height};
+    emit changed();
+}
+
+void Control::setLeft(int left) { assign(geometria_.left, left); }
+void Control::setTop(int top) { assign(geometria_.top, top); }
+void Control::setWidth(int width) { assign(geometria_.width, width); }
+void Control::setHeight(int height) { assign(geometria_.height, height); }
+
+void Button::click() {
+    if (onClick)
+        onClick();
+}
+
+void CheckBox::choose(bool on) {
+    setValue(on);
+    if (onClick)
+        onClick();
+}
+
+void OptionButton::setValue(bool on) {
+    if (on && othersOff_)
+        othersOff_(*this);
+    assign(value_, on);
+}
+
+void OptionButton::choose() {
+    setValue(true);
+    if (onClick)
+        onClick();
+}
+
+void TextControl::setText(const QString& text) {
+    if (text_ == text)
+        return;
+    text_ = text;
+    emit changed();
+    if (onChange)
+        onChange();
+}
+
+void TextControl::pressKey(int code) {
+    if (onKeyPress)
+        onKeyPress(code);
+    if (code <= 31 || (room() >= 0 && text_.size() >= room()))
+        return;
+    const auto c = static_cast<char32_t>(code);
+    setText(text_ + QString::fromUcs4(&c, 1));
+}
+
+void TextControl::keyDown(int code) {
+    if (onKeyDown)
+        onKeyDown(code);
+}
+
+void TextControl::leave() {
+    if (onLostFocus)
+        onLostFocus();
+}
+
+void TextBox::type(const QString& text) { setText(maxLength_ > 0 ? text.left(maxLength_) : text); }
+
+ListControl::ListControl(QString baseName, int index, Frame* frame, bool box)
+    : TextControl(std::move(baseName), index, frame), box_(box) {}
+
+void ListControl::add(const QString& entry) {
+    if (sorted_)
+        entries_.insert(std::upper_bound(entries_.begin(), entries_.end(), entry, before), entry);
+    else
+        entries_.append(entry);
+    emit changed();
+}
+
+void ListControl::setEntries(const QStringList& entries) {
+    QStringList ordered = entries;
+    if (sorted_)
+        std::stable_sort(ordered.begin(), ordered.end(), before);
+    assign(entries_, ordered);
+}
+
+void ListControl::clear() {
+    entries_.clear();
+    emit changed();
+    setText({});
+}
+
+bool ListControl::pick(const QString& entry) {
+    const auto found = std::find_if(entries_.cbegin(), entries_.cend(), [&entry](const QString& e) {
+        return e.compare(entry, Qt::CaseInsensitive) == 0;
+    });
+    if (found == entries_.cend())
+        return false;
+    setText(*found);
+    if (onClick)
+        onClick();
+    return true;
+}
+
+} // namespace vanzer

@@ -1,0 +1,235 @@
+// Control models: what a control of the window holds, without the widget. The window's logic reads and writes these; a
+// view ties itself to `changed`. A change that matters to the logic calls the handler that start-up has put in.
+#pragma once
+
+#include <functional>
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+namespace vanzer {
+
+class Frame;
+
+/// Position and size in twips.
+struct Geometria {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+};
+
+class Control : public QObject {
+    Q_OBJECT
+  public:
+    /// `index` is -1 outside an array; `frame` holds the control, null for the window itself.
+    Control(QString baseName, int index, Frame* frame);
+
+    [[nodiscard]] const QString& baseName() const { return baseName_; }
+    [[nodiscard]] int index() const { return index_; }
+    /// The name as it is written: "cmbOra(3)".
+    [[nodiscard]] QString name() const;
+    [[nodiscard]] Frame* frame() const { return frame_; }
+
+    [[nodiscard]] bool visible() const { return visible_; }
+    void setVisible(bool on);
+    [[nodiscard]] bool enabled() const { return enabled_; }
+    void setEnabled(bool on);
+    /// Visible and enabled, itself and through all frames that hold it.
+    [[nodiscard]] bool reachable() const;
+
+    [[nodiscard]] const QString& tooltip() const { return tooltip_; }
+    void setTooltip(const QString& text);
+
+    [[nodiscard]] const Geometria& geometria() const { return geometria_; }
+    void place(int left, int top, int width, int height);
+    void setLeft(int left);
+    void setTop(int top);
+    void setWidth(int width);
+    void setHeight(int height);
+
+  signals:
+    /// Something that a view shows is different now.
+    void changed();
+
+  protected:
+    template <typename T> void assign(T& member, const T& value) {
+        if (member == value)
+            return;
+        member = value;
+        emit changed();
+    }
+
+  private:
+    QString baseName_;
+    int index_;
+    Frame* frame_;
+    bool visible_ = true;
+    bool enabled_ = true;
+    QString tooltip_;
+    Geometria geometria_;
+};
+
+class Frame : public Control {
+    Q_OBJECT
+  public:
+    using Control::Control;
+    [[nodiscard]] const QString& caption() const { return caption_; }
+    void setCaption(const QString& text) { assign(caption_, text); }
+
+  private:
+    QString caption_;
+};
+
+class Label : public Control {
+    Q_OBJECT
+  public:
+    using Control::Control;
+    [[nodiscard]] const QString& caption() const { return caption_; }
+    void setCaption(const QString& text) { assign(caption_, text); }
+
+  private:
+    QString caption_;
+};
+
+/// A picture of the window's resources, handed to the printer.
+class Picture : public Control {
+    Q_OBJECT
+  public:
+    using Control::Control;
+};
+
+class Button : public Control {
+    Q_OBJECT
+  public:
+    using Control::Control;
+    [[nodiscard]] const QString& caption() const { return caption_; }
+    void setCaption(const QString& text) { assign(caption_, text); }
+    [[nodiscard]] bool isDefault() const { return default_; }
+    void setDefault(bool on) { assign(default_, on); }
+
+    /// The user's click.
+    void click();
+    std::function<void()> onClick;
+
+  private:
+    QString caption_;
+    bool default_ = false;
+};
+
+class CheckBox : public Control {
+    Q_OBJECT
+  public:
+    using Control::Control;
+    [[nodiscard]] const QString& caption() const { return caption_; }
+    void setCaption(const QString& text) { assign(caption_, text); }
+    [[nodiscard]] bool value() const { return value_; }
+    void setValue(bool on) { assign(value_, on); }
+
+    /// The user's choice.
+    void choose(bool on);
+    std::function<void()> onClick;
+
+  private:
+    QString caption_;
+    bool value_ = false;
+};
+
+/// One of an array of option buttons that exclude each other.
+class OptionButton : public Control {
+    Q_OBJECT
+  public:
+    using Control::Control;
+    [[nodiscard]] const QString& caption() const { return caption_; }
+    void setCaption(const QString& text) { assign(caption_, text); }
+    [[nodiscard]] bool value() const { return value_; }
+    /// Setting one on puts the others of its array off.
+    void setValue(bool on);
+
+    /// The user's choice.
+    void choose();
+    std::function<void()> onClick;
+    void setGroup(std::function<void(OptionButton&)> othersOff) { othersOff_ = std::move(othersOff); }
+
+  private:
+    QString caption_;
+    bool value_ = false;
+    std::function<void(OptionButton&)> othersOff_;
+};
+
+/// Everything that takes key presses. A handler gets the character code and may change it or drop it (0).
+class TextControl : public Control {
+    Q_OBJECT
+  public:
+    using Control::Control;
+    [[nodiscard]] const QString& text() const { return text_; }
+    /// Every real change calls the change handler, whoever made it.
+    void setText(const QString& text);
+
+    /// One key press of the user: what the handler lets pass and is above 31 goes to the end of the text.
+    void pressKey(int code);
+    /// One key-down event of the user.
+    void keyDown(int code);
+    /// The focus leaves the control.
+    void leave();
+
+    std::function<void()> onChange;
+    std::function<void(int& code)> onKeyPress;
+    std::function<void(int code)> onKeyDown;
+    std::function<void()> onLostFocus;
+
+  protected:
+    [[nodiscard]] virtual qsizetype room() const { return -1; }
+
+  private:
+    QString text_;
+};
+
+class TextBox : public TextControl {
+    Q_OBJECT
+  public:
+    using TextControl::TextControl;
+    /// Greatest length of what the user types; 0 for no limit.
+    [[nodiscard]] int maxLength() const { return maxLength_; }
+    void setMaxLength(int length) { assign(maxLength_, length); }
+    /// The user replaces the text, cut to the greatest length.
+    void type(const QString& text);
+
+  protected:
+    [[nodiscard]] qsizetype room() const override { return maxLength_ == 0 ? -1 : maxLength_; }
+
+  private:
+    int maxLength_ = 0;
+};
+
+/// Drop-down list and list box: entries beside a text that may differ from every one of them.
+class ListControl : public TextControl {
+    Q_OBJECT
+  public:
+    ListControl(QString baseName, int index, Frame* frame, bool box);
+
+    /// A list box, not a drop-down list.
+    [[nodiscard]] bool isBox() const { return box_; }
+    [[nodiscard]] const QStringList& entries() const { return entries_; }
+    [[nodiscard]] int count() const { return static_cast<int>(entries_.size()); }
+    /// The entry at a position from 0; empty outside the list.
+    [[nodiscard]] QString List(int i) const { return entries_.value(i); }
+    void add(const QString& entry);
+    void setEntries(const QStringList& entries);
+    /// No entries and no text.
+    void clear();
+    /// Keeps the entries sorted, capitals ignored.
+    void setSorted(bool on) { sorted_ = on; }
+
+    /// The user clicks the first entry equal to `entry`, capitals ignored; false if there is none.
+    bool pick(const QString& entry);
+    std::function<void()> onClick;
+
+  private:
+    QStringList entries_;
+    bool box_;
+    bool sorted_ = false;
+};
+
+} // namespace vanzer

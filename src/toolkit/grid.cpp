@@ -1,0 +1,251 @@
+#include "toolkit/grid.h"
+
+#include <algorithm>
+
+#include "toolkit/grid_model.h"
+
+namespace vanzer {
+
+namespace {
+
+qint64 cellKey(int row, int column) { return static_cast<qint64>(row) * 64 + column; }
+
+const QString emptyCell;
+
+} // namespace
+
+Grid::Grid(QString baseName, int index, Frame* frame, int rows, int columns)
+    : Control(std::move(baseName), index, frame), cells_(1), columns_(columns),
+      widths_(static_cast<std::size_t>(columns), 960),
+      alignments_(static_cast<std::size_t>(columns), Allineamento::Sinistra),
+      model_(std::make_unique<GridModel>(*this)) {
+    setRows(rows);
+}
+
+Grid::~Grid() = default;
+
+QAbstractTableModel& Grid::model() { return *model_; }
+
+void Grid::keepInside() {
+    const int last = rows() - 1;
+    const int first = std::min(1, last);
+    row_ = std::clamp(row_, first, last);
+    rowSel_ = std::clamp(rowSel_, first, last);
+    topRow_ = std::clamp(topRow_, first, last);
+}
+
+void Grid::setRows(int rows) {
+    rows = std::max(rows, 1);
+    const int old = this->rows();
+    if (rows == old)
+        return;
+    const bool tell = redrawOff_ == 0;
+    if (rows > old) {
+        if (tell)
+            model_->beginInsertRows({}, old - 1, rows - 2);
+        cells_.resize(static_cast<std::size_t>(rows));
+        keepInside();
+        if (tell)
+            model_->endInsertRows();
+        return;
+    }
+    if (tell)
+        model_->beginRemoveRows({}, rows - 1, old - 2);
+    cells_.resize(static_cast<std::size_t>(rows));
+    std::erase_if(marked_, [rows](qint64 key) { return key / 64 >= rows; });
+    keepInside();
+    if (tell)
+        model_->endRemoveRows();
+}
+
+void Grid::setColumns(int columns) {
+    if (columns == columns_)
+        return;
+    setRedraw(false);
+    columns_ = columns;
+    for (auto& r : cells_)
+        r.resize(std::min(r.size(), static_cast<std::size_t>(columns)));
+    widths_.resize(static_cast<std::size_t>(columns), 960);
+    alignments_.resize(static_cast<std::size_t>(columns), Allineamento::Sinistra);
+    col_ = std::min(col_, columns - 1);
+    colSel_ = std::min(colSel_, columns - 1);
+    setRedraw(true);
+}
+
+const QString& Grid::cell(int row, int column) const {
+    if (row < 0 || row >= rows() || column < 0)
+        return emptyCell;
+    const auto& cells = cells_[static_cast<std::size_t>(row)];
+    return static_cast<std::size_t>(column) < cells.size() ? cells[static_cast<std::size_t>(column)] : emptyCell;
+}
+
+std::vector<QString>& Grid::widened(int row) {
+    auto& cells = cells_[static_cast<std::size_t>(row)];
+    if (cells.size() < static_cast<std::size_t>(columns_))
+        cells.resize(static_cast<std::size_t>(columns_));
+    return cells;
+}
+
+void Grid::setCell(int row, int column, const QString& text) {
+    if (row < 0 || row >= rows() || column < 0 || column >= columns_)
+        return;
+    if (text.isEmpty() && cell(row, column).isEmpty())
+        return;
+    widened(row)[static_cast<std::size_t>(column)] = text;
+    if (redrawOff_ != 0)
+        return;
+    if (row == 0)
+        emit model_->headerDataChanged(Qt::Horizontal, column, column);
+    else
+        emit model_->dataChanged(model_->index(row - 1, column), model_->index(row - 1, column));
+}
+
+void Grid::copyRow(int from, int to, int firstColumn) {
+    for (int c = firstColumn; c < columns_; ++c)
+        setCell(to, c, QString(cell(from, c)));
+}
+
+void Grid::clearRow(int row, int firstColumn) {
+    for (int c = firstColumn; c < columns_; ++c)
+        setCell(row, c, {});
+}
+
+void Grid::removeRowsIf(int first, int last, const std::function<bool(int row)>& drop) {
+    last = std::min(last, rows() - 1);
+    std::vector<bool> dropped(cells_.size(), false);
+    for (int r = first; r <= last; ++r)
+        dropped[static_cast<std::size_t>(r)] = drop(r);
+    setRedraw(false);
+    std::size_t kept = 0;
+    for (std::size_t r = 0; r < cells_.size(); ++r) {
+        if (dropped[r])
+            continue;
+        if (kept != r)
+            cells_[kept] = std::move(cells_[r]);
+        ++kept;
+    }
+    cells_.resize(kept);
+    keepInside();
+    setRedraw(true);
+}
+
+void Grid::insertRows(int row, int count) {
+    setRedraw(false);
+    cells_.insert(cells_.begin() + std::clamp(row, 1, rows()), static_cast<std::size_t>(std::max(count, 0)), {});
+    keepInside();
+    setRedraw(true);
+}
+
+void Grid::clearCells() {
+    setRedraw(false);
+    for (auto& r : cells_)
+        r.clear();
+    marked_.clear();
+    setRedraw(true);
+}
+
+Grid::Rows Grid::contents() const { return {cells_.begin() + 1, cells_.end()}; }
+
+void Grid::setContents(const Rows& rows) {
+    setRedraw(false);
+    cells_.resize(1);
+    cells_.insert(cells_.end(), rows.begin(), rows.end());
+    keepInside();
+    setRedraw(true);
+}
+
+void Grid::setCurrent(int row, int column) { select(row, column, row, column); }
+
+void Grid::setRowSel(int row) { select(row_, col_, row, colSel_); }
+
+void Grid::select(int row, int column, int rowSel, int colSel) {
+    row_ = row;
+    rowSel_ = rowSel;
+    col_ = std::clamp(column, 0, columns_ - 1);
+    colSel_ = std::clamp(colSel, 0, columns_ - 1);
+    keepInside();
+    emit selectionChanged();
+}
+
+void Grid::setTopRow(int row) {
+    topRow_ = row;
+    keepInside();
+    emit selectionChanged();
+}
+
+int Grid::columnWidth(int column) const { return widths_[static_cast<std::size_t>(column)]; }
+
+void Grid::setColumnWidth(int column, int twips) { assign(widths_[static_cast<std::size_t>(column)], twips); }
+
+Allineamento Grid::alignment(int column) const { return alignments_[static_cast<std::size_t>(column)]; }
+
+void Grid::setAlignment(int column, Allineamento alignment) {
+    assign(alignments_[static_cast<std::size_t>(column)], alignment);
+}
+
+void Grid::setMarked(int row, int column, bool on) {
+    if (on)
+        marked_.insert(cellKey(row, column));
+    else
+        marked_.erase(cellKey(row, column));
+    if (redrawOff_ == 0 && row > 0 && row < rows())
+        emit model_->dataChanged(model_->index(row - 1, column), model_->index(row - 1, column));
+}
+
+bool Grid::marked(int row, int column) const { return marked_.contains(cellKey(row, column)); }
+
+void Grid::setRedraw(bool on) {
+    if (!on) {
+        if (redrawOff_++ == 0)
+            model_->beginResetModel();
+        return;
+    }
+    if (redrawOff_ > 0 && --redrawOff_ == 0) {
+        model_->endResetModel();
+        emit selectionChanged();
+    }
+}
+
+void Grid::clickRow(int row) {
+    select(row, col_, row, colSel_);
+    if (onClick)
+        onClick();
+}
+
+void Grid::doubleClick() {
+    if (onDblClick)
+        onDblClick();
+}
+
+void Grid::pressKey(int code) {
+    if (onKeyPress)
+        onKeyPress(code);
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : grid_.rows() - 1; }
+
+int GridModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : grid_.columns(); }
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+    const int row = index.row() + 1;
+    const int column = index.column();
+    if (role == Qt::DisplayRole)
+        return grid_.cell(row, column);
+    if (role == MarkedRole)
+        return grid_.marked(row, column);
+    if (role != Qt::TextAlignmentRole)
+        return {};
+    switch (grid_.alignment(column)) {
+    case Allineamento::Sinistra: return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
+    case Allineamento::Centro: return QVariant::fromValue(Qt::AlignCenter);
+    default: return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
+    }
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (role != Qt::DisplayRole)
+        return {};
+    return orientation == Qt::Horizontal ? grid_.cell(0, section) : grid_.cell(section + 1, 0);
+}
+
+} // namespace vanzer

@@ -1,0 +1,119 @@
+// The grid of text cells: one fixed head row, one fixed column, a current row, a selection. Row 0 is the head row; as an
+// item model the rows from 1 on are the model's rows and row 0 gives the headings.
+#pragma once
+
+#include <functional>
+#include <unordered_set>
+#include <vector>
+
+#include <QAbstractTableModel>
+
+#include "toolkit/control.h"
+
+namespace vanzer {
+
+enum class Allineamento { Sinistra, Centro, Destra };
+
+class GridModel;
+
+class Grid : public Control {
+    Q_OBJECT
+  public:
+    Grid(QString baseName, int index, Frame* frame, int rows, int columns);
+    ~Grid() override;
+
+    [[nodiscard]] int rows() const { return static_cast<int>(cells_.size()); }
+    [[nodiscard]] int columns() const { return columns_; }
+    /// Cuts or adds rows at the end. Current row, selection end and top row stay within 1 and the last row; they are 0
+    /// while there is nothing but the head row.
+    void setRows(int rows);
+    void setColumns(int columns);
+
+    /// The text of a cell; empty outside the grid.
+    [[nodiscard]] const QString& cell(int row, int column) const;
+    /// Does nothing outside the grid.
+    void setCell(int row, int column, const QString& text);
+    /// Copies the cells from `firstColumn` on of one row over those of another.
+    void copyRow(int from, int to, int firstColumn);
+    void clearRow(int row, int firstColumn);
+    /// Takes out the rows from `first` to `last` for which `drop` is true, in one pass.
+    void removeRowsIf(int first, int last, const std::function<bool(int row)>& drop);
+    /// Opens `count` empty rows before `row`; the rows from there on move down.
+    void insertRows(int row, int count);
+    /// Empties all cells, the head row's too.
+    void clearCells();
+
+    /// All rows from 1 on, to be kept and put back.
+    using Rows = std::vector<std::vector<QString>>;
+    [[nodiscard]] Rows contents() const;
+    void setContents(const Rows& rows);
+
+    [[nodiscard]] int row() const { return row_; }
+    [[nodiscard]] int col() const { return col_; }
+    [[nodiscard]] int rowSel() const { return rowSel_; }
+    [[nodiscard]] int colSel() const { return colSel_; }
+    [[nodiscard]] int topRow() const { return topRow_; }
+    /// Current cell; the selection becomes that cell.
+    void setCurrent(int row, int column);
+    void setRowSel(int row);
+    void select(int row, int column, int rowSel, int colSel);
+    void setTopRow(int row);
+
+    [[nodiscard]] int columnWidth(int column) const;
+    void setColumnWidth(int column, int twips);
+    [[nodiscard]] Allineamento alignment(int column) const;
+    void setAlignment(int column, Allineamento alignment);
+
+    /// Marks a cell with the window's own colour in place of the grid's.
+    void setMarked(int row, int column, bool on);
+    [[nodiscard]] bool marked(int row, int column) const;
+
+    /// Switched off, the view learns nothing until it is switched on again, and then of one change of everything.
+    void setRedraw(bool on);
+
+    /// The user's click on a row (from 1), a double click on the current row, a key.
+    void clickRow(int row);
+    void doubleClick();
+    void pressKey(int code);
+    std::function<void()> onClick;
+    std::function<void()> onDblClick;
+    std::function<void(int& code)> onKeyPress;
+
+    [[nodiscard]] QAbstractTableModel& model();
+
+  signals:
+    /// Current row, selection or top row are different now.
+    void selectionChanged();
+
+  private:
+    friend class GridModel;
+    void keepInside();
+    [[nodiscard]] std::vector<QString>& widened(int row);
+
+    Rows cells_;
+    int columns_;
+    int row_ = 0;
+    int col_ = 1;
+    int rowSel_ = 0;
+    int colSel_ = 1;
+    int topRow_ = 0;
+    std::vector<int> widths_;
+    std::vector<Allineamento> alignments_;
+    std::unordered_set<qint64> marked_;
+    int redrawOff_ = 0;
+    std::unique_ptr<GridModel> model_;
+};
+
+/// Switches redraw off for a scope.
+class SenzaRidisegno {
+  public:
+    explicit SenzaRidisegno(Grid& grid) : grid_(grid) { grid_.setRedraw(false); }
+    ~SenzaRidisegno() { grid_.setRedraw(true); }
+    SenzaRidisegno(const SenzaRidisegno&) = delete;
+    SenzaRidisegno& operator=(const SenzaRidisegno&) = delete;
+
+  private:
+    Grid& grid_;
+};
+
+} // namespace vanzer

@@ -1,0 +1,64 @@
+// The ports to the outside: everything that the window asks of the platform, so that the desktop, the batch program and
+// the tests each put their own behind it.
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+namespace vanzer {
+
+class Printer;
+
+enum class Pulsanti { Ok, SiNo, SiNoAnnulla };
+enum class Icona { Nessuna, Informazione, Avviso };
+
+/// Answers of a message box.
+inline constexpr int rispostaOk = 1;
+inline constexpr int rispostaAnnulla = 2;
+inline constexpr int rispostaSi = 6;
+inline constexpr int rispostaNo = 7;
+
+class MessageBoxes {
+  public:
+    virtual ~MessageBoxes() = default;
+    [[nodiscard]] virtual int show(const QString& text, const QString& title, Pulsanti buttons, Icona icon) = 0;
+};
+
+class FileDialogs {
+  public:
+    virtual ~FileDialogs() = default;
+    /// The chosen path; empty is a cancel. The filter is written "Name|*.ext".
+    [[nodiscard]] virtual QString open(const QString& filter) = 0;
+    [[nodiscard]] virtual QString save(const QString& filter) = 0;
+};
+
+class Clock {
+  public:
+    virtual ~Clock() = default;
+    [[nodiscard]] virtual QDateTime now() const = 0;
+};
+
+/// Lets the waiting events of the window run. Costs nothing when nothing waits.
+class EventYield {
+  public:
+    virtual ~EventYield() = default;
+    virtual void yield() = 0;
+};
+
+/// Starts a program without waiting for its end; false if it can't be started.
+class ProgramStarter {
+  public:
+    virtual ~ProgramStarter() = default;
+    [[nodiscard]] virtual bool start(const QString& program, const QStringList& arguments) = 0;
+};
+
+struct Ports {
+    MessageBoxes& messages;
+    FileDialogs& files;
+    Clock& clock;
+    EventYield& events;
+    ProgramStarter& programs;
+    Printer* printer = nullptr; ///< null where nothing is printed
+};
+
+} // namespace vanzer

@@ -1,0 +1,61 @@
+// The printer as the reports see it. Positions are in mm from the top left corner of the sheet, to the right and down.
+#pragma once
+
+#include <optional>
+
+#include <QString>
+#include <QStringList>
+
+namespace vanzer {
+
+class Picture;
+
+/// Position or size on the sheet, mm.
+struct Punto {
+    double x = 0;
+    double y = 0;
+};
+
+class Printer {
+  public:
+    virtual ~Printer() = default;
+
+    /// The printers' names as shown to the user, in the platform's order.
+    [[nodiscard]] virtual QStringList names() const = 0;
+    /// The printer that later operations go to; the default one until another is chosen.
+    [[nodiscard]] virtual QString current() const = 0;
+    /// Does nothing if there is no such printer. A document that is still open is ended first.
+    virtual void choose(const QString& name) = 0;
+
+    /// Paper size 9 is A4, orientation 1 portrait, scale mode 6 millimetres: what every page of the reports uses.
+    virtual void setPaperSize(int size) = 0;
+    virtual void setOrientation(int orientation) = 0;
+    virtual void setScaleMode(int mode) = 0;
+
+    virtual void setFontName(const QString& name) = 0;
+    /// The font really chosen: another than the one asked for if the printer lacks that.
+    [[nodiscard]] virtual QString fontName() const = 0;
+    virtual void setBold(bool on) = 0;
+    virtual void setItalic(bool on) = 0;
+    /// In points, with fractions.
+    virtual void setFontSize(double points) = 0;
+    [[nodiscard]] virtual double textWidth(const QString& text) const = 0;
+    [[nodiscard]] virtual double textHeight(const QString& text) const = 0;
+
+    /// Text with its top left corner at a point, in the current font.
+    virtual void text(Punto at, const QString& text) = 0;
+    /// `width` is the thickness of the pen in the printer's own steps.
+    virtual void line(Punto from, Punto to, int width) = 0;
+    /// `fill` is 0xRRGGBB; nothing leaves the box open.
+    virtual void box(Punto from, Punto to, int width, std::optional<quint32> fill) = 0;
+    /// The picture scaled into the box of that size.
+    virtual void picture(const Picture& picture, Punto at, Punto size) = 0;
+
+    /// Number of the page being drawn; 0 before anything is drawn.
+    [[nodiscard]] virtual int page() const = 0;
+    virtual void newPage() = 0;
+    /// Sends the document; nothing happens if nothing was begun.
+    virtual void endDoc() = 0;
+};
+
+} // namespace vanzer

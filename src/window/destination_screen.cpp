@@ -1,0 +1,367 @@
+#include "window/destination_screen.h"
+
+#include "core/text.h"
+#include "itinerary/leg_table_screen.h"
+#include "window/confirmation.h"
+#include "window/destination.h"
+#include "window/grid_layouts.h"
+#include "window/modes.h"
+#include "window/parameters.h"
+
+namespace vanzer {
+
+namespace {
+
+constexpr int appoggio = 7; // the slot for what a command needs beside the current destination
+
+store::Recordset& open(Form& form, int slot, const QString& sql) {
+    form.archivio.StringaSQL = sql;
+    form.archivio.RecordSetImposta(0, slot);
+    return form.archivio.Rs(slot);
+}
+
+store::Recordset& openDestination(Form& form, const QString& code) {
+    return open(form, store::MeteVanzer,
+                QStringLiteral("SELECT * FROM MeteVanzer WHERE CodiceMeta = '") + store::quotato(code) + u'\'');
+}
+
+struct CampoCoppia {
+    Coppia pair;
+    const char16_t* field;
+};
+
+/// The pairs in the order in which the record is shown and stored; those of the visits and ferries come last.
+constexpr std::array<CampoCoppia, 6> meals{{{coppiaColazione, u"OraColazione"},
+                                            {coppiaPranzo, u"OraPranzo"},
+                                            {coppiaDurataPranzo, u"DurataPranzo"},
+                                            {coppiaCena, u"OraCena"},
+                                            {coppiaDurataCena, u"DurataCena"},
+                                            {coppiaNotte, u"OraNotte"}}};
+constexpr std::array<CampoCoppia, 3> visits{{{coppiaInizioVisita, u"InizioVisita"},
+                                             {coppiaFineVisita, u"FineVisita"},
+                                             {coppiaTraghetti, u"OreTraghetti"}}};
+constexpr std::array<const char16_t*, 4> speedFields{u"MediaAutostrada", u"MediaSuperstrada", u"MediaPrincipale",
+                                                     u"MediaLocale"};
+
+/// Copies a record to the controls; a field without a value is passed over.
+class MostraRecord {
+  public:
+    MostraRecord(Form& form, const store::Recordset& record) : form_(form), record_(record) {}
+
+    void tutto() {
+        testo(form_.txtLocalita, u"Localita");
+        testo(form_.txtNazione, u"Nazione");
+        testo(form_.txtCodice, u"CodiceMeta");
+        inizio();
+        for (int i = 0; i < 4; ++i)
+            testo(form_.cmbMediaKm(i), speedFields[static_cast<std::size_t>(i)]);
+        for (const CampoCoppia& f : meals)
+            coppia(f);
+        form_.txtTragh.setText({});
+        form_.stato.NumeroTraghetti = 0;
+        if (ha(u"CalcoloSoste"))
+            form_.cmbSoste.setText(voceSoste(form_, valore(u"CalcoloSoste")));
+        testo(form_.cmbRange, u"Range");
+        numero(form_.cmbRipM, u"RiposoMinuti", 2);
+        numero(form_.cmbRipH, u"RiposoOre", 2);
+        numero(form_.cmbRipG, u"RiposoGiorno", 2);
+        numero(form_.cmbRipGG, u"RiposoDopoGiorni", 2);
+        numero(form_.cmbGiorni, u"giorniadeguamento", 3);
+        for (const CampoCoppia& f : visits)
+            coppia(f);
+    }
+
+  private:
+    [[nodiscard]] bool ha(const char16_t* field) const { return record_.haValore(QString::fromUtf16(field)); }
+    [[nodiscard]] QString valore(const char16_t* field) const { return record_.testo(QString::fromUtf16(field)); }
+
+    void testo(TextControl& control, const char16_t* field) {
+        if (ha(field))
+            control.setText(valore(field));
+    }
+    void numero(TextControl& control, const char16_t* field, int width) {
+        if (ha(field))
+            control.setText(Zero(Val(valore(field)), width));
+    }
+    void coppia(const CampoCoppia& f) {
+        // A blank pair leaves its lists blank; the next check takes the first entries.
+        if (ha(f.field))
+            scriveCoppia(form_, f.pair, Trim(Left(valore(f.field), 2)), Trim(Mid(valore(f.field), 3, 2)));
+    }
+    void inizio() {
+        if (ha(u"DataInizio")) {
+            const QString date = valore(u"DataInizio");
+            form_.cmbInizio(0).setText(Mid(date, 1, 2));
+            form_.cmbInizio(1).setText(Mid(date, 3, 2));
+            form_.cmbInizio(2).setText(Right(date, 4));
+        }
+        if (ha(u"OraInizio")) {
+            const QString hour = valore(u"OraInizio");
+            form_.cmbInizio(3).setText(Left(hour, 2));
+            form_.cmbInizio(4).setText(Right(hour, 2));
+        }
+    }
+
+    Form& form_;
+    const store::Recordset& record_;
+};
+
+void emptyResults(Form& form) {
+    form.txtKmTot(4).setText({});
+    form.txtTempo(4).setText({});
+    for (TextBox* const result : form.txtFine)
+        result->setText({});
+    MettiGiornoSett(form);
+    for (int i = 0; i < 5; ++i) {
+        form.txtKmTot(i).setText({});
+        form.txtTempo(i).setText({});
+    }
+}
+
+void writeRecord(Form& form, store::Recordset& record) {
+    const auto write = [&record](const char16_t* field, const QString& value) {
+        record.scrive(QString::fromUtf16(field), value);
+    };
+    const auto number = [](const ListControl& list) { return testoNumero(Val(list.text())); };
+    write(u"Localita", Trim(form.txtLocalita.text()));
+    write(u"Nazione", Left(Trim(form.txtNazione.text()) + u' ', 19));
+    write(u"DataInizio", form.cmbInizio(0).text() + form.cmbInizio(1).text() + form.cmbInizio(2).text());
+    write(u"OraInizio", form.cmbInizio(3).text() + form.cmbInizio(4).text());
+    for (int i = 0; i < 4; ++i)
+        write(speedFields[static_cast<std::size_t>(i)], number(form.cmbMediaKm(i)));
+    for (const CampoCoppia& f : meals)
+        write(f.field, form.cmbOra(f.pair).text() + form.cmbMin(f.pair).text());
+    write(u"RiposoMinuti", number(form.cmbRipM));
+    write(u"RiposoOre", number(form.cmbRipH));
+    write(u"RiposoGiorno", number(form.cmbRipG));
+    write(u"RiposoDopoGiorni", number(form.cmbRipGG));
+    for (const CampoCoppia& f : visits)
+        write(f.field, Zero(Val(form.cmbOra(f.pair).text()), 2) + Zero(Val(form.cmbMin(f.pair).text()), 2));
+    const QString days = form.cmbGiorni.text();
+    write(u"giorniadeguamento", days.size() > 4 ? Zero(Val(days), 3) : days);
+    write(u"CalcoloSoste", Left(form.cmbSoste.text(), 1));
+    write(u"Range", form.cmbRange.text());
+}
+
+/// The stored destination that a save without a code means, left open in its slot.
+bool findSameName(Form& form) {
+    store::Recordset& found =
+        open(form, store::MeteVanzer,
+             QStringLiteral("SELECT * FROM MeteVanzer WHERE Localita LIKE '") +
+                 store::quotato(LikeTesto(form.txtLocalita.text())) + u'\'');
+    while (!found.EOF_() && !stessaMeta(found.testo(QStringLiteral("Localita")), form.txtLocalita.text()))
+        found.MoveNext();
+    return !found.EOF_();
+}
+
+bool findStored(Form& form) {
+    if (Val(form.txtCodice.text()) != 0)
+        return !openDestination(form, form.txtCodice.text()).EOF_();
+    return findSameName(form);
+}
+
+QString newCode(Form& form) {
+    store::Recordset& all = open(form, appoggio, QStringLiteral("SELECT * FROM MeteVanzer ORDER BY CodiceMeta"));
+    std::vector<int> codes;
+    for (; !all.EOF_(); all.MoveNext())
+        codes.push_back(static_cast<int>(Val(all.testo(0))));
+    return codiceNuovaMeta(codes);
+}
+
+void saveRecord(Form& form, bool insertion) {
+    if (contiene(form.txtLocalita.text(), u"AUTOSTRADA"))
+        form.txtLocalita.setText(minuscolo(form.txtLocalita.text()));
+    store::Recordset& record = form.archivio.Rs(store::MeteVanzer);
+    if (insertion) {
+        record.AddNew();
+        record.scrive(QStringLiteral("Coefficiente"), QStringLiteral("0"));
+        record.scrive(QStringLiteral("CodiceMeta"), form.stato.CodiceMeta);
+    } else {
+        record.Edit();
+    }
+    writeRecord(form, record);
+    record.Update();
+    SalvaIlCodiceMetaCorrente(form);
+    CaricaDatiAnagraficiMeta(form);
+    CaricaTappeItinerario(form);
+    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+}
+
+void reload(Form& form) {
+    RicercaMetaCorrente(form);
+    CaricaDatiAnagraficiMeta(form);
+    CaricaTappeItinerario(form);
+}
+
+} // namespace
+
+void RicercaMetaCorrente(Form& form) {
+    QString& code = form.stato.CodiceMeta;
+    code.clear();
+    const store::Recordset& current = open(form, store::MetaCorrente, QStringLiteral("SELECT * FROM MetaCorrente"));
+    if (!current.EOF_()) {
+        code = current.testo(0);
+        if (openDestination(form, code).EOF_())
+            code.clear();
+    }
+    if (code.isEmpty()) {
+        store::Recordset& last =
+            open(form, store::MeteVanzer, QStringLiteral("SELECT * FROM MeteVanzer ORDER BY CodiceMeta DESC"));
+        if (!last.EOF_())
+            code = last.testo(0);
+    }
+    AbilitaPulsantiMeta(form, code.isEmpty() ? QStringLiteral("NuImEs") : QStringLiteral("all"));
+}
+
+void CaricaDatiAnagraficiMeta(Form& form) {
+    ImpostaGriglia(form, Disposizione::Tappe);
+    if (form.stato.CodiceMeta.isEmpty())
+        RicercaMetaCorrente(form);
+    if (!form.stato.CodiceMeta.isEmpty()) {
+        const store::Recordset& record = openDestination(form, form.stato.CodiceMeta);
+        if (!record.EOF_())
+            MostraRecord(form, record).tutto();
+    }
+    emptyResults(form);
+}
+
+void RicaricaItinerario(Form& form) {
+    CaricaDatiAnagraficiMeta(form);
+    CaricaTappeItinerario(form);
+}
+
+void SalvaIlCodiceMetaCorrente(Form& form) {
+    store::Recordset& current = open(form, store::MetaCorrente, QStringLiteral("SELECT * FROM MetaCorrente"));
+    if (current.EOF_())
+        current.AddNew();
+    else
+        current.Edit();
+    current.scrive(0, form.txtCodice.text());
+    current.Update();
+    form.stato.CodiceMeta = form.txtCodice.text();
+}
+
+void AzzeraSchermo(Form& form) {
+    PulisciFinestre(form);
+    CaricaDefaultMeta(form, 0);
+    for (TextBox* const result : form.txtFine)
+        result->setText({});
+    MetteAdesso(form);
+    CancellaMatrice(form);
+}
+
+void cmdNuovo_Click(Form& form) {
+    AzzeraSchermo(form);
+    AttivaFormMeta(form, true);
+    form.cmbRicerca.setVisible(false);
+    form.setFocus(form.txtLocalita);
+    form.txtLocalita.setText({});
+    form.txtNazione.setText({});
+    form.txtCodice.setText({});
+    form.cmbGiorni.setText(QStringLiteral("000"));
+    AbilitaPulsantiMeta(form, form.stato.CodiceMeta.isEmpty() ? QStringLiteral("NuSaEs") : QStringLiteral("NuSaEsRi"));
+}
+
+void cmdSalva_Click(Form& form) {
+    AttivaFormMeta(form, true);
+    if (Trim(form.txtLocalita.text()).isEmpty()) {
+        form.messaggio(QStringLiteral("Campo Località: obbligatorio!"));
+        return;
+    }
+    if (Trim(form.txtNazione.text()).isEmpty()) {
+        form.messaggio(QStringLiteral("Campo Nazione: obbligatorio!"));
+        return;
+    }
+    PulisciFinestre(form);
+    const QString codeBefore = form.stato.CodiceMeta;
+    const QString shownBefore = form.txtCodice.text();
+    const bool insertion = !findStored(form);
+    form.stato.CodiceMeta =
+        insertion ? newCode(form) : form.archivio.Rs(store::MeteVanzer).testo(QStringLiteral("CodiceMeta"));
+    form.txtCodice.setText(form.stato.CodiceMeta);
+    BoxConferma(form, insertion ? QStringLiteral("I") : QStringLiteral("M"));
+    if (form.stato.Risposta == rispostaSi) {
+        saveRecord(form, insertion);
+    } else {
+        form.stato.CodiceMeta = codeBefore;
+        form.txtCodice.setText(shownBefore);
+    }
+    Aggiorna(form, true);
+}
+
+void cmdCancMeta_Click(Form& form) {
+    AttivaFormMeta(form, true);
+    form.frmframe(12).setVisible(false);
+    form.mfgTab.setWidth(14280);
+    CancellaMatrice(form);
+    Aggiorna(form, false);
+    reload(form);
+    BoxConferma(form, QStringLiteral("A"));
+    if (form.stato.Risposta == rispostaSi) {
+        AbilitaPulsantiMeta(form, QStringLiteral("zz"));
+        CancellaTabella(form, store::Itinerari, QStringLiteral("CodiceMeta"), form.txtCodice.text());
+        CancellaTabella(form, store::MeteVanzer, QStringLiteral("CodiceMeta"), form.txtCodice.text());
+        reload(form);
+    }
+    AbilitaPulsantiComando(form);
+}
+
+void cmdCancItin_Click(Form& form) {
+    AttivaFormMeta(form, true);
+    BoxConferma(form, QStringLiteral("AI"));
+    if (form.stato.Risposta != rispostaSi)
+        return;
+    const QString sure = QStringLiteral("Sei sicuro di voler cancellare l'itinerario?\n"
+                                        "In caso positivo, non sarà più recuperabile!");
+    if (form.domanda(sure, QStringLiteral("Annullamento itinerario"), Pulsanti::SiNo) != rispostaSi)
+        return;
+    AbilitaPulsantiMeta(form, QStringLiteral("zz"));
+    CancellaTabella(form, store::Itinerari, QStringLiteral("CodiceMeta"), form.txtCodice.text());
+    reload(form);
+}
+
+void cmdRicerca_Click(Form& form) {
+    AttivaFormMeta(form, true);
+    form.stato.ModoRicerca = 1;
+    PulisciFinestre(form);
+    form.cmbRicerca.clear();
+    AbilitaPulsantiMeta(form, QStringLiteral("NuEs"));
+    store::Recordset& all = open(form, store::MeteVanzer, QStringLiteral("SELECT * FROM MeteVanzer ORDER BY Localita"));
+    QStringList names;
+    const int name = all.campo(QStringLiteral("Localita"));
+    for (; !all.EOF_(); all.MoveNext())
+        names << all.testo(name);
+    if (names.isEmpty()) {
+        form.messaggio(QStringLiteral("Nessuna mèta nel database!"), QStringLiteral("Database vuoto"), Icona::Avviso);
+    } else {
+        form.cmbRicerca.setEntries(elencoRicerca(names));
+        form.cmbRicerca.setVisible(true);
+    }
+    form.mfgTab.setRows(Maggiore(form.stato.RigheMinime, form.mfgTab.rows() + 1));
+    SelezionaRiga(form, 1);
+    form.mfgTab.setTopRow(1);
+}
+
+void RichiamaMeta(Form& form, const QString& localita) {
+    PulisciFinestre(form);
+    ImpostaGriglia(form, Disposizione::Tappe);
+    CancellaMatrice(form);
+    const store::Recordset& found =
+        open(form, store::MeteVanzer,
+             QStringLiteral("SELECT * FROM MeteVanzer WHERE Localita = '") + store::quotato(localita) + u'\'');
+    if (!found.EOF_()) {
+        form.txtCodice.setText(found.testo(QStringLiteral("CodiceMeta")));
+        SalvaIlCodiceMetaCorrente(form);
+    }
+    CaricaDatiAnagraficiMeta(form);
+    CaricaTappeItinerario(form);
+    form.cmbRicerca.setVisible(false);
+}
+
+void cmbRicerca_Click(Form& form) {
+    form.cmbRicerca.setVisible(false);
+    RichiamaMeta(form, form.cmbRicerca.text());
+    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+}
+
+} // namespace vanzer

@@ -1,0 +1,28 @@
+// The destination record in the window: loaded, made anew, saved, deleted, found.
+#pragma once
+
+#include "window/form.h"
+
+namespace vanzer {
+
+/// Sets CodiceMeta to the destination to show (the stored current one, else the highest code), and the mode.
+void RicercaMetaCorrente(Form& form);
+/// The record of CodiceMeta into the controls; the results are emptied. A field without a value leaves its control.
+void CaricaDatiAnagraficiMeta(Form& form);
+/// The current destination and its legs.
+void RicaricaItinerario(Form& form);
+/// txtCodice becomes the current destination, in the window and in the archive.
+void SalvaIlCodiceMetaCorrente(Form& form);
+/// A blank destination on the screen.
+void AzzeraSchermo(Form& form);
+/// The destination of that name becomes the current one; an unknown name reloads the one there was.
+void RichiamaMeta(Form& form, const QString& localita);
+
+void cmdNuovo_Click(Form& form);
+void cmdSalva_Click(Form& form);
+void cmdCancMeta_Click(Form& form);
+void cmdCancItin_Click(Form& form);
+void cmdRicerca_Click(Form& form);
+void cmbRicerca_Click(Form& form);
+
+} // namespace vanzer

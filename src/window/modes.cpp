@@ -1,0 +1,139 @@
+#include "window/modes.h"
+
+#include "core/text.h"
+
+namespace vanzer {
+
+namespace {
+
+const QString allMeta = QStringLiteral("NuRiSaCmCaStItGcCiEsImEx");
+const QString allItinerario = QStringLiteral("InAgCaRcRtCeFiMeDuAzTr");
+
+bool isAll(const QString& codes) { return uguale(codes, u"all"); }
+
+void enableMenu(Form& form) {
+    const QString& codes = form.stato.PulsantiMeta;
+    const auto on = [&codes](QStringView code) { return contiene(codes, code); };
+    form.cmdNuovo.setEnabled(on(u"Nu"));
+    form.cmdRicerca.setEnabled(on(u"Ri"));
+    form.cmdSalva.setEnabled(on(u"Sa"));
+    form.cmdCancMeta.setEnabled(on(u"Cm"));
+    form.cmdCalcola.setEnabled(on(u"Ca"));
+    form.cmdStampa.setEnabled(on(u"St"));
+    form.cmdItinerario.setEnabled(on(u"It"));
+    form.cmdModStrada.setEnabled(on(u"It"));
+    form.cmdGuidaCitta.setEnabled(on(u"Gc"));
+    form.cmdCancItin.setEnabled(on(u"Ci"));
+    form.cmdEsce.setEnabled(on(u"Es"));
+    form.cmdExport.setEnabled(on(u"Ex"));
+    form.cmdEsce.setCaption(uguale(codes, u"Es") ? QStringLiteral("&Stop") : QStringLiteral("&Esce"));
+}
+
+void enableItinerary(Form& form) {
+    const QString& codes = form.stato.PulsantiItinerario;
+    const auto on = [&codes](QStringView code) { return contiene(codes, code); };
+    form.cmdInserisce.setEnabled(on(u"In"));
+    form.cmdAggiunge.setEnabled(on(u"Ag"));
+    form.cmdCancella.setEnabled(on(u"Ca"));
+    form.cmdRicalcola.setEnabled(on(u"Rc"));
+    form.cmdRitorno.setEnabled(on(u"Rt"));
+    form.cmdCerca.setEnabled(on(u"Ce") && form.stato.NumeroTappe > 1);
+    form.cmdFine.setEnabled(on(u"Fi"));
+    form.cmdMemorizza.setEnabled(on(u"Me"));
+    form.cmdDuplica.setEnabled(on(u"Du"));
+    form.cmdAzzeraSoste.setEnabled(on(u"Az"));
+    form.cmdTrasferisce.setEnabled(on(u"Tr"));
+    form.cmdMapPoint.setEnabled(form.stato.NumeroTappe < 2);
+}
+
+void leaveProgram(Form& form) {
+    AttivaFormMeta(form, true);
+    form.mfgTab.setWidth(14280);
+    form.frmframe(12).setVisible(false);
+    form.archivio.chiudi();
+    form.chiusa = true;
+}
+
+} // namespace
+
+void AbilitaPulsantiComando(Form& form) {
+    StatoViaggio& s = form.stato;
+    if (isAll(s.PulsantiMeta) || isAll(s.PulsantiItinerario)) {
+        form.cmbRicercaTappa.setVisible(false);
+        form.setDefault(form.cmdEsce);
+    }
+    if (!uguale(s.PulsantiMeta, u"vv") && !uguale(form.cmdCalcola.caption(), u"&Calcola"))
+        s.PulsantiMeta = QStringLiteral("CaSt");
+    if (isAll(s.PulsantiMeta))
+        s.PulsantiMeta = allMeta;
+    if (isAll(s.PulsantiItinerario))
+        s.PulsantiItinerario = allItinerario;
+    if (form.frmframe(12).visible())
+        s.PulsantiMeta = QStringLiteral("F");
+    enableMenu(form);
+    enableItinerary(form);
+    form.cmdConverte.setEnabled(false);
+    form.cmdConverte.setVisible(false);
+    form.cmdEsce.setTooltip(QStringLiteral("Esce dal form"));
+    form.yield();
+}
+
+void AbilitaPulsantiMeta(Form& form, const QString& codes) {
+    form.stato.PulsantiMeta = codes;
+    AbilitaPulsantiComando(form);
+}
+
+void AttivaFormMeta(Form& form, bool changing) {
+    if (changing)
+        form.stato.ViandoriaCalcolata = false;
+}
+
+void PulisciFinestre(Form& form) {
+    form.mfgTab.setWidth(14280);
+    form.cmbRicercaTappa.setVisible(false);
+    form.frmframe(19).setVisible(false);
+    form.mfgCopia.setVisible(false);
+    form.frmframe(17).setVisible(false);
+    form.frmframe(12).setVisible(false);
+    form.frmframe(24).setVisible(false);
+    form.stato.ModoGuida = false;
+    form.mfgTab.setHeight(4055);
+}
+
+void AggiornaPercentuale(Form& form) {
+    StatoViaggio& s = form.stato;
+    s.PercentualeCorrente = Maggiore(Minore(s.PercentualeCorrente, s.PercentualeTotale), 0.0);
+    if (s.PercentualeCorrente == 0) {
+        form.txtPerc.setVisible(false);
+        form.lblElaborazione.setCaption(QStringLiteral("Sposta il mouse sui pulsanti/campi attivi per istruzioni."));
+        form.txtBase.setText({});
+        form.txtPerc.setWidth(0);
+        return;
+    }
+    const int p = static_cast<int>(Int(s.PercentualeCorrente / s.PercentualeTotale * 100));
+    if (!form.txtPerc.visible() || p != s.PercentualeMostrata) {
+        s.PercentualeMostrata = p;
+        form.txtPerc.setVisible(true);
+        form.txtPerc.setWidth(form.txtBase.geometria().width * p / 100);
+        form.txtPerc.setText(QString::number(p) + u'%');
+    }
+    form.yield();
+}
+
+void AzzeraPercentuale(Form& form) {
+    form.stato.PercentualeCorrente = 0;
+    form.stato.PercentualeTotale = 0;
+    AggiornaPercentuale(form);
+}
+
+void cmdEsce_Click(Form& form) {
+    const QString title = QStringLiteral("Fine Lavoro");
+    if (uguale(form.cmdEsce.caption(), u"&Stop")) {
+        if (form.domanda(QStringLiteral("Vuoi interrompere l'elaborazione?"), title, Pulsanti::SiNo) == rispostaSi)
+            form.stato.InterrompiCalcolo = true;
+    } else if (form.domanda(QStringLiteral("Vuoi chiudere la procedura?"), title, Pulsanti::SiNo) == rispostaSi) {
+        leaveProgram(form);
+    }
+}
+
+} // namespace vanzer

@@ -1,0 +1,28 @@
+// The modes of the window: two texts of two-letter codes say which buttons are on, and every command ends by applying
+// them. Also the progress line, and the way out.
+#pragma once
+
+#include "window/form.h"
+
+namespace vanzer {
+
+/// Applies PulsantiMeta and PulsantiItinerario to the buttons, and yields.
+void AbilitaPulsantiComando(Form& form);
+
+/// Sets PulsantiMeta and applies it.
+void AbilitaPulsantiMeta(Form& form, const QString& codes);
+
+/// Every command that can change data comes through here with `changing` true: a schedule for older data is void.
+void AttivaFormMeta(Form& form, bool changing);
+
+/// Back to the plain window: no frame over the grid.
+void PulisciFinestre(Form& form);
+
+/// Shows PercentualeCorrente of PercentualeTotale and yields; 0 brings back the idle text.
+void AggiornaPercentuale(Form& form);
+void AzzeraPercentuale(Form& form);
+
+/// "&Esce" leaves the program, "&Stop" asks the running calculation to end.
+void cmdEsce_Click(Form& form);
+
+} // namespace vanzer

@@ -1,0 +1,11 @@
+// The commands of the parameters.
+#pragma once
+
+#include "window/form.h"
+
+namespace vanzer {
+
+/// 0 saves the controls as the user's defaults, 1 loads them, 2 puts the standard values back.
+void cmdDefault_Click(Form& form, int i);
+
+} // namespace vanzer

@@ -1,0 +1,272 @@
+#include "window/startup.h"
+
+#include <QFileInfo>
+
+#include "core/place_name.h"
+#include "core/text.h"
+#include "guide/guide_screen.h"
+#include "itinerary/leg_editor_screen.h"
+#include "itinerary/leg_table_screen.h"
+#include "itinerary/list_pick_screen.h"
+#include "itinerary/return_screen.h"
+#include "schedule/calculation_screen.h"
+#include "schedule/stops_screen.h"
+#include "window/command.h"
+#include "window/destination_screen.h"
+#include "window/grid_layouts.h"
+#include "window/modes.h"
+#include "window/parameters.h"
+#include "window/parameters_screen.h"
+
+namespace vanzer {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Handler = void (*)(Form&);
+using HandlerConIndice = void (*)(Form&, int);
+
+std::function<void()> wired(Form& form, Handler handler) {
+    return [&form, handler] { comando(form, [&form, handler] { handler(form); }); };
+}
+
+std::function<void()> wired(Form& form, HandlerConIndice handler, int index) {
+    return [&form, handler, index] { comando(form, [&form, handler, index] { handler(form, index); }); };
+}
+
+void wireMenu(Form& form) {
+    form.cmdNuovo.onClick = wired(form, cmdNuovo_Click);
+    form.cmdSalva.onClick = wired(form, cmdSalva_Click);
+    form.cmdRicerca.onClick = wired(form, cmdRicerca_Click);
+    form.cmdCancMeta.onClick = wired(form, cmdCancMeta_Click);
+    form.cmdCancItin.onClick = wired(form, cmdCancItin_Click);
+    form.cmdEsce.onClick = wired(form, cmdEsce_Click);
+    form.cmdItinerario.onClick = wired(form, cmdItinerario_Click);
+    form.cmdGuidaCitta.onClick = wired(form, cmdGuidaCitta_Click);
+    form.cmdCalcola.onClick = wired(form, cmdCalcola_Click);
+    form.cmbRicerca.onClick = wired(form, cmbRicerca_Click);
+    form.cmbRicercaTappa.onClick = wired(form, cmbRicercaTappa_Click);
+}
+
+void wireParameters(Form& form) {
+    for (int i = 0; i < form.cmbInizio.count(); ++i)
+        form.cmbInizio(i).onClick = wired(form, cmbInizio_Click, i);
+    for (int i = 0; i < numeroCoppie; ++i) {
+        form.cmbOra(i).onChange = [&form, i] { cmbOra_Change(form, i); };
+        form.cmbOra(i).onLostFocus = wired(form, ControllaVariabiliConvertite);
+        form.cmbMin(i).onLostFocus = wired(form, ControllaVariabiliConvertite);
+    }
+    form.cmbGiorni.onChange = [&form] { cmbgiorni_Change(form); };
+    for (int i = 0; i < form.cmdDefault.count(); ++i)
+        form.cmdDefault(i).onClick = wired(form, cmdDefault_Click, i);
+}
+
+void wireLegEditor(Form& form) {
+    form.cmdInserisce.onClick = wired(form, cmdInserisce_Click);
+    form.cmdAggiunge.onClick = wired(form, cmdAggiunge_Click);
+    form.cmdCancella.onClick = wired(form, cmdCancella_Click);
+    form.cmdRicalcola.onClick = wired(form, cmdRicalcola_Click);
+    form.cmdRitorno.onClick = wired(form, cmdRitorno_Click);
+    form.cmdCerca.onClick = wired(form, cmdCerca_Click);
+    form.cmdFine.onClick = wired(form, cmdFine_Click);
+    form.cmdMemorizza.onClick = wired(form, cmdMemorizza_Click);
+    form.cmdAzzeraSoste.onClick = wired(form, cmdAzzeraSoste_Click);
+    form.cmdTrasferisce.onClick = wired(form, cmdTrasferisce_Click);
+    form.mfgTab.onClick = wired(form, mfgTab_Click);
+    form.mfgTab.onDblClick = wired(form, mfgTab_DblClick);
+    form.mfgTab.onKeyPress = [&form](int& code) {
+        comando(form, [&form, code] { mfgTab_KeyPress(form, code); });
+    };
+}
+
+void wireGuide(Form& form) {
+    form.guideRowShown = [&form] { InserisciGuida(form); };
+    form.cmdSalvaRiga.onClick = wired(form, CmdSalvaRiga_Click);
+    form.cmdCancellaRiga.onClick = wired(form, cmdCancellaRiga_Click);
+    form.cmdFind.onClick = wired(form, cmdFind_Click);
+    form.cmdFineInserimento.onClick = wired(form, cmdFineInserimento_Click);
+    form.txtGDescr.onKeyDown = [&form](int code) {
+        comando(form, [&form, code] { txtGDescr_KeyDown(form, code); });
+    };
+    form.txtGDescr.onKeyPress = [&form](int& code) { txtGDescr_KeyPress(form, code); };
+    form.txtGGruppo.onKeyPress = [&form](int& code) { txtGGruppo_KeyPress(form, code); };
+}
+
+void dropKey(int& code) { code = 0; }
+
+void digitsOnly(int& code) {
+    if (code < u'0' || code > u'9')
+        code = 0;
+}
+
+void digitsOrControl(int& code) {
+    if (code > 31)
+        digitsOnly(code);
+}
+
+void upperCase(int& code) {
+    if (code > 31)
+        code = static_cast<int>(QChar::toUpper(static_cast<char32_t>(code)));
+}
+
+void wireKeys(Form& form) {
+    for (TextControl* const control : {&form.cmbRange, &form.cmbSoste, &form.cmbRipG, &form.cmbRipGG, &form.cmbRipH,
+                                       &form.cmbRipM})
+        control->onKeyPress = dropKey;
+    for (const auto* const lists : {&form.cmbInizio, &form.cmbMin, &form.cmbOra, &form.cmbSosta}) {
+        for (ListControl* const list : *lists)
+            list->onKeyPress = dropKey;
+    }
+    form.cmbGiorni.onKeyPress = digitsOnly;
+    form.txtKm.onKeyPress = digitsOnly;
+    for (ListControl* const speed : form.cmbMediaKm)
+        speed->onKeyPress = digitsOrControl;
+    for (TextBox* const text : {&form.txtLocalita, &form.txtNazione, &form.txtTappa, &form.txtNumStrada})
+        text->onKeyPress = upperCase;
+}
+
+void wire(Form& form) {
+    wireMenu(form);
+    wireParameters(form);
+    wireLegEditor(form);
+    wireGuide(form);
+    wireKeys(form);
+}
+
+/// Caption, frames and places before anything is opened.
+void layOutWindow(Form& form) {
+    const QString product = QStringLiteral("Vanzer");
+    form.caption = product + u" (v. "_s + form.ambiente.versione + u", "_s + product + u") by "_s + product;
+    for (const int hidden : {23, 18, 24, 25, 1, 22, 12, 17, 19, 16})
+        form.frmframe(hidden).setVisible(false);
+    form.cmdConverte.setVisible(false);
+    form.lblAutore.setCaption(product);
+    const Geometria base = form.txtBase.geometria();
+    form.txtPerc.place(base.left, base.top, 0, base.height);
+    form.cmbRicerca.setVisible(false);
+    form.stato.RigheMinime = 20;
+    form.mfgTab.setVisible(true);
+    form.mfgTab.setWidth(14280);
+    form.mfgTab.setHeight(4095);
+    CancellaMatrice(form);
+}
+
+void openArchive(Form& form) {
+    form.archivio.apriArchivio();
+    form.lblPath.setCaption(form.archivio.PercorsoDatabase);
+}
+
+constexpr std::array<const char16_t*, 10> firstCategories{u"Ottimo",     u"Da vedere", u"Interessante",  u"Vedibile",
+                                                          u"Punto Sosta", u"PS e CS",  u"Campeggio",     u"Ristorante",
+                                                          u"Gpl",         u"Diari di bordo"};
+
+store::Recordset& openCategories(Form& form) {
+    form.archivio.StringaSQL = QStringLiteral("SELECT * FROM TipoGuida ORDER BY CodiceGuida");
+    form.archivio.RecordSetImposta(0, store::TipoGuida);
+    return form.archivio.Rs(store::TipoGuida);
+}
+
+void addCategory(store::Recordset& table, int code, const QString& name, bool timeNeeded) {
+    table.AddNew();
+    table.scrive(0, Zero(code, 2));
+    table.scrive(1, name);
+    table.scriveSiNo(2, timeNeeded);
+    table.Update();
+}
+
+/// Categories that the archive lacks are added at its end; they come into the lists with the next start.
+void loadCategories(Form& form) {
+    store::Recordset& empty = openCategories(form);
+    if (empty.EOF_()) {
+        for (int i = 1; i <= 10; ++i)
+            addCategory(empty, i, QString::fromUtf16(firstCategories[static_cast<std::size_t>(i - 1)]), i < 5);
+    }
+    QString wanted = QStringLiteral("Ottimo^Da vedere^Interessante^Vedibile^Punto Sosta^PS e CS^Campeggio^Ristorante^"
+                                    "Gpl^Diari bordo^Carte/Guide^Altro^");
+    form.cmbGTipo.clear();
+    int last = 0;
+    for (store::Recordset& table = openCategories(form); !table.EOF_(); table.MoveNext()) {
+        const QString name = table.testo(1);
+        if (const int at = posizione(wanted, name + u'^'); at > 0)
+            wanted.remove(at - 1, name.size() + 1);
+        last = static_cast<int>(Val(table.testo(0)));
+        if (last >= 0 && last < static_cast<int>(form.TipiGuidaDescrizione.size())) {
+            form.TipiGuidaDescrizione[static_cast<std::size_t>(last)] = name;
+            form.TipiGuidaTempoObbligatorio[static_cast<std::size_t>(last)] = table.siNo(2);
+        }
+        form.cmbGTipo.add(name);
+    }
+    store::Recordset& table = form.archivio.Rs(store::TipoGuida);
+    for (const QString& missing : wanted.split(u'^', Qt::SkipEmptyParts))
+        addCategory(table, ++last, missing, true);
+    form.cmbGTipo.setText(form.TipiGuidaDescrizione[1]);
+}
+
+/// A part in brackets behind a guide's place goes.
+void tidyGuidePlaces(Form& form) {
+    form.archivio.StringaSQL = QStringLiteral("SELECT * FROM GuidaCitta WHERE Localita LIKE '*(*'");
+    form.archivio.RecordSetImposta(0, store::GuidaCitta);
+    for (store::Recordset& guide = form.archivio.Rs(store::GuidaCitta); !guide.EOF_(); guide.MoveNext()) {
+        const QString place = taglia(guide.testo(0), u'(');
+        guide.Edit();
+        guide.scrive(0, place);
+        guide.Update();
+    }
+}
+
+void showCurrentTrip(Form& form) {
+    RicercaMetaCorrente(form);
+    if (!form.stato.CodiceMeta.isEmpty())
+        RicaricaItinerario(form);
+    form.stato.RigaCorrente = Maggiore(form.mfgTab.row(), 1);
+    SelezionaRiga(form, form.stato.RigaCorrente);
+}
+
+void Form_Load(Form& form) {
+    StatoViaggio& s = form.stato;
+    layOutWindow(form);
+    s.PulsantiItinerario = QStringLiteral("ZZ");
+    AbilitaPulsantiMeta(form, QStringLiteral("ZZ"));
+    PulisciFinestre(form);
+    CaricaRange(form);
+    openArchive(form);
+    comando(form, [&form, &s] {
+        CaricaComboBox(form);
+        form.mfgTab.setCurrent(1, 1);
+        ImpostaGriglia(form, Disposizione::Tappe);
+        s.RigheMinime = 17;
+        form.cmdItinerario.setVisible(true);
+        AzzeraPercentuale(form);
+        showCurrentTrip(form);
+        loadCategories(form);
+        form.archivio.RecordSetImpostaDefault();
+        form.txtGDescr.setMaxLength(form.archivio.Rs(store::GuidaCitta).size(3));
+        form.mfgCopia.setVisible(false);
+        form.yield();
+        AbilitaPulsantiMeta(form, s.CodiceMeta.isEmpty() ? QStringLiteral("NuImEs") : QStringLiteral("All"));
+        ImpostaGiorniMeseInizio(form);
+        tidyGuidePlaces(form);
+    });
+}
+
+} // namespace
+
+std::unique_ptr<Form> avvia(const Ambiente& surroundings, Ports& ports) {
+    auto form = std::make_unique<Form>(surroundings, ports);
+    if (form->ambiente.versione.isEmpty())
+        form->ambiente.versione = versioneProgramma();
+    wire(*form);
+    try {
+        Form_Load(*form);
+    } catch (const store::StoreError& error) {
+        form->messaggio(error.testo(), {}, Icona::Avviso);
+        form->archivio.chiudi();
+        form->chiusa = true;
+    }
+    return form;
+}
+
+QString versioneProgramma() { return QStringLiteral(VANZER_VERSION); }
+
+} // namespace vanzer

@@ -1,0 +1,85 @@
+// An archive in a directory of its own.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "store/archive.h"
+
+namespace vanzer::store {
+
+inline QString path(const QTemporaryDir& directory, const char* file) {
+    return directory.filePath(QString::fromLatin1(file));
+}
+
+inline QByteArray contents(const QString& file) {
+    QFile f(file);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+/// The kind of failure of an action; nothing if it succeeds.
+template<typename Action> std::optional<StoreError::Kind> failureOf(Action action) {
+    try {
+        action();
+    } catch (const StoreError& error) {
+        return error.kind();
+    }
+    return std::nullopt;
+}
+
+class StoreTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        ASSERT_TRUE(directory.isValid());
+        archive.apriArchivio();
+    }
+
+    Recordset& open(const QString& query, int slot = Archive::slotAppoggio) {
+        archive.StringaSQL = query;
+        archive.RecordSetImposta(0, slot);
+        return archive.Rs(slot);
+    }
+
+    /// The texts of one field, in the set's order; "-" where there is no value.
+    QStringList texts(const QString& query, const QString& field) {
+        QStringList found;
+        for (Recordset& rs = open(query); !rs.EOF_(); rs.MoveNext())
+            found += rs.haValore(field) ? rs.testo(field) : QStringLiteral("-");
+        return found;
+    }
+
+    /// Guide entries, by place and description.
+    void addGuide(const std::vector<std::pair<QString, QString>>& entries) {
+        Comando command(archive);
+        Recordset rs(*archive.Db(0), {TabelleNomi(GuidaCitta), {}, {}});
+        for (const auto& [place, description] : entries) {
+            rs.AddNew();
+            if (!place.isNull())
+                rs.scrive("Localita", place);
+            rs.scrive("Descrizione", description);
+            rs.Update();
+        }
+        command.commit();
+    }
+
+    /// `count` legs of destination 000001, places P0, P1, ...
+    void addLegs(int count) {
+        Comando command(archive);
+        Recordset rs(*archive.Db(0), {TabelleNomi(Itinerari), {}, {}});
+        for (int i = 0; i < count; ++i) {
+            rs.AddNew();
+            rs.scrive("CodiceMeta", QStringLiteral("000001"));
+            rs.scrive("Sequenza", QStringLiteral("%1").arg(i % 10000, 4, 10, QChar(u'0')));
+            rs.scrive("Localita", QStringLiteral("P%1").arg(i));
+            rs.Update();
+        }
+        command.commit();
+    }
+
+    QTemporaryDir directory;
+    Archive archive{directory.path()};
+};
+
+} // namespace vanzer::store

@@ -1,0 +1,223 @@
+// How the archive compares, sorts and searches.
+#include "store_fixture.h"
+
+#include "store/collation.h"
+#include "store/query_sql.h"
+
+namespace vanzer::store {
+namespace {
+
+int sign(int x) {
+    return (x > 0) - (x < 0);
+}
+
+TEST(Collation, LettersFirstThenAccents) {
+    struct Row {
+        const char* a;
+        const char* b;
+        int expected;
+    };
+    constexpr Row rows[] = {
+        {"", "", 0},           {"", "a", -1},           {"Roma", "rOMA", 0},      {"Roma", "Romano", -1},
+        {"È", "è", 0},         {"E", "È", -1},          {"Èze", "Eza", 1},        {"Èze", "Ezf", -1},
+        {"Èze", "Fano", -1},   {"cote", "coté", -1},    {"coté", "côte", -1},     {"Città", "CITTÀ", 0},
+        {"Città", "Citta", 1}, {"Città", "Cittab", -1}, {"straße", "strasse", 1}, {"ẞ", "ß", 0},
+        {"Ñ", "N", 1},         {"Ñ", "O", -1},          {"ŽIŽKOV", "žižkov", 0},  {"Αθήνα", "ΑΘΉΝΑ", 0},
+        {"é", "e\xcc\x81", 1}, {"e\xcc\x81", "e", 1},   {"e\xcc\x81z", "ea", 1},  {"각", "갂", -1},
+        {"각", "나", -1},      {"\xff", "zzz", 1},      {"a\xc3", "a", 1},        {"İ", "I", 1},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(sign(confronta(row.a, row.b)), row.expected) << row.a << " / " << row.b;
+        EXPECT_EQ(sign(confronta(row.b, row.a)), -row.expected) << row.b << " / " << row.a;
+    }
+}
+
+TEST(Collation, BaseLettersBoundEveryTextThatBeginsAlike) {
+    for (const char* text : {"Èze", "CITTÀ", "e\xcc\x81", "Straße", "각", "Ångström"}) {
+        const QByteArray from = lettereBase(QString::fromUtf8(text));
+        const std::string longer = std::string(text) + "zz\U0010fffd";
+        EXPECT_LE(confronta({from.constData(), static_cast<std::size_t>(from.size())}, text), 0) << text;
+        EXPECT_GT(confronta((from + oltreOgniLettera).toStdString(), longer), 0) << text;
+    }
+}
+
+TEST(Collation, Like) {
+    struct Row {
+        const char* pattern;
+        const char* text;
+        bool expected;
+    };
+    constexpr Row rows[] = {
+        {"roma", "ROMA", true},
+        {"roma", "romana", false},
+        {"roma*", "Roma", true},
+        {"roma*", "ROMANA", true},
+        {"*na", "romana", true},
+        {"*na", "romanb", false},
+        {"r?ma", "rÒma", true},
+        {"r?ma", "rma", false},
+        {"citta*", "Città", false},
+        {"CITTÀ*", "città alta", true},
+        {"*", "", true},
+        {"?", "", false},
+        {"", "", true},
+        {"", "a", false},
+        {"a*b*c", "axxbxxbc", true},
+        {"a*b*c", "axxcxxb", false},
+        {"*a*", "bab", true},
+        {"50%_", "50xy", false},
+        {"50%_", "50%_", true},
+        {"[a]", "a", false},
+        {"**a**", "a", true},
+        {"?*?", "è", false},
+        {"?*?", "èè", true},
+        {"*ab", "aab", true},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(somiglia(row.pattern, row.text), row.expected) << row.pattern << " / " << row.text;
+    // A pattern that is hard for a matcher that tries all ways.
+    EXPECT_FALSE(somiglia("*a*a*a*a*a*a*a*a*a*a*a*a*b", std::string(3000, 'a')));
+}
+
+TEST(QueryText, IsReadInItsOneForm) {
+    struct Row {
+        const char* text;
+        const char* read; // table | field=text or field~pattern, ... | order
+    };
+    constexpr Row rows[] = {
+        {"SELECT * FROM Itinerari", "Itinerari||"},
+        {"Itinerari", "Itinerari||"},
+        {"select*from T where a='x'", "T|a=x,|"},
+        {"SELECT * FROM T WHERE Localita LIKE 'L''AQUILA*' AND b = ''", "T|Localita~L'AQUILA*,b=,|"},
+        {"SELECT * FROM T WHERE(a LIKE 'x' AND b='0')ORDER BY c,d DESC , e", "T|a~x,b=0,|c,d-,e,"},
+        {"SELECT * FROM T  WHERE  a = 'AND ( ORDER' and (b LIKE '''')", "T|a=AND ( ORDER,b~',|"},
+        {"SELECT * FROM T WHERE a='x' b='y'", nullptr},
+        {"SELECT * FROM T WHERE (a='x'", nullptr},
+        {"SELECT * FROM T WHERE a='x')", nullptr},
+        {"SELECT * FROM T WHERE (a='x') AND (b='y')", nullptr},
+        {"SELECT * FROM T WHERE a='L'AQUILA'", nullptr},
+        {"SELECT * FROM T WHERE a='x", nullptr},
+        {"SELECT * FROM T WHERE a='x' OR b='y'", nullptr},
+        {"SELECT * FROM T ORDER a", nullptr},
+        {"SELECT * FROM T; DROP TABLE T", nullptr},
+        {"SELECT a FROM T", nullptr},
+        {"", nullptr},
+    };
+    for (const Row& row : rows) {
+        QString read;
+        const auto failure = failureOf([&] {
+            const Query query = analizza(QString::fromUtf8(row.text));
+            read = query.table + u'|';
+            for (const Condition& c : query.where)
+                read += c.field + (c.test == Condition::Test::Like ? u'~' : u'=') + c.text + u',';
+            read += u'|';
+            for (const Order& o : query.orderBy)
+                read += o.field + (o.descending ? QStringLiteral("-,") : QStringLiteral(","));
+        });
+        if (row.read == nullptr)
+            EXPECT_EQ(failure, StoreError::Kind::Other) << row.text << " read as " << read.toStdString();
+        else
+            EXPECT_EQ(read.toStdString(), row.read) << row.text;
+    }
+}
+
+using StoreQuery = StoreTest;
+
+TEST_F(StoreQuery, FindsByEqualityAndPattern) {
+    addGuide({{"ROMA", "1"},
+              {"Roma", "2"},
+              {"Romà", "3"},
+              {"ROMANO", "4"},
+              {"L'Aquila", "5"},
+              {"Èze", "6"},
+              {"EZE", "7"},
+              {QString(), "8"},
+              {"Porto (A)", "9"},
+              {"Aroma", "a"}});
+    struct Row {
+        const char* where;
+        const char* found;
+    };
+    const Row rows[] = {
+        {"Localita = 'roma'", "1,2"},
+        {"Localita LIKE 'roma'", "1,2"},
+        {"localita LIKE 'roma*'", "1,2,4"},
+        {"Localita LIKE 'romà*'", "3"},
+        {"Localita LIKE 'rom?'", "1,2,3"},
+        {"Localita LIKE '*rom*'", "1,2,3,4,a"},
+        {"Localita LIKE 'è*'", "6"},
+        {"Localita LIKE 'e*'", "7"},
+        {"Localita LIKE '*'", "1,2,3,4,5,6,7,9,a"},
+        {"Localita LIKE 'l''a*'", "5"},
+        {"Localita = '*'", ""},
+        {"Localita LIKE 'porto (*' AND Descrizione LIKE '?'", "9"},
+        {"Localita LIKE 'roma*' AND (Descrizione = '4')", "4"},
+        {"Localita = ''", ""},
+    };
+    for (const Row& row : rows) {
+        const QString query = QStringLiteral("SELECT * FROM GuidaCitta WHERE ") + QString::fromUtf8(row.where);
+        EXPECT_EQ(texts(query, "Descrizione").join(u',').toStdString(), row.found) << row.where;
+        EXPECT_EQ(archive.NumeroRecord(), QString::fromLatin1(row.found).split(u',', Qt::SkipEmptyParts).size())
+            << row.where;
+    }
+    for (const QString& name : {QStringLiteral("L'Aquila"), QStringLiteral("''"), QStringLiteral("a'b''c")}) {
+        addGuide({{name, "quoted"}});
+        EXPECT_FALSE(
+            open("SELECT * FROM GuidaCitta WHERE Descrizione='quoted' AND Localita = '" + quotato(name) + "'").EOF_());
+    }
+}
+
+TEST_F(StoreQuery, SortsWithTiesAsAdded) {
+    addGuide(
+        {{"Fano", "1"}, {"èze", "2"}, {"EZE", "3"}, {QString(), "4"}, {"eze", "5"}, {"Éa", "6"}, {QString(), "7"}});
+    struct Row {
+        const char* order;
+        const char* found;
+    };
+    const Row rows[] = {
+        {"Localita", "4,7,6,3,5,2,1"},
+        {"Localita DESC", "1,2,3,5,6,4,7"}, // ties stay as added, records without a value come last
+        {"FlagVisto, Localita DESC", "1,2,3,5,6,4,7"},
+        {"Descrizione DESC", "7,6,5,4,3,2,1"},
+    };
+    for (const Row& row : rows) {
+        const QString query = QStringLiteral("SELECT * FROM GuidaCitta ORDER BY ") + QString::fromLatin1(row.order);
+        EXPECT_EQ(texts(query, "Descrizione").join(u',').toStdString(), row.found) << row.order;
+        Recordset& rs = open(query);
+        rs.MoveLast();
+        EXPECT_EQ(rs.testo("Descrizione").toStdString(), std::string(1, row.found[12])) << row.order;
+        rs.MoveNext();
+        EXPECT_TRUE(rs.EOF_());
+    }
+}
+
+TEST_F(StoreQuery, UsesTheIndexes) {
+    struct Row {
+        const char* query;
+        const char* plan;
+    };
+    const Row rows[] = {
+        {"SELECT * FROM Itinerari WHERE CodiceMeta = '1' ORDER BY Sequenza",
+         "USING INDEX Itinerari.CodiceMeta (CodiceMeta=?)"},
+        {"SELECT * FROM GuidaCitta WHERE Localita LIKE 'Roma'", "USING INDEX GuidaCitta.Localita (Localita=?)"},
+        {"SELECT * FROM GuidaCitta WHERE (Localita LIKE 'Roma*' AND FlagVisto = '0') ORDER BY CodiceGuida, TempoSosta "
+         "DESC",
+         "USING INDEX GuidaCitta.Localita (Localita>? AND Localita<?)"},
+        {"SELECT * FROM GuidaCitta WHERE Localita LIKE 'Ro?a*'",
+         "USING INDEX GuidaCitta.Localita (Localita>? AND Localita<?)"},
+        {"SELECT * FROM MeteVanzer ORDER BY Localita", "SCAN MeteVanzer USING INDEX MeteVanzer.Localita"},
+    };
+    for (const Row& row : rows) {
+        const auto form = traduce(*archive.Db(0), analizza(QString::fromLatin1(row.query))).form;
+        for (const QByteArray& sql : {form->select, form->last}) {
+            const QString plan = archive.Db(0)->piano(sql).join(u'\n');
+            EXPECT_TRUE(plan.contains(QString::fromLatin1(row.plan))) << row.query << "\n" << plan.toStdString();
+        }
+    }
+    EXPECT_EQ(failureOf([&] { open("SELECT * FROM Nulla"); }), StoreError::Kind::Other);
+    EXPECT_EQ(failureOf([&] { open("SELECT * FROM Itinerari WHERE Nulla = 'x'"); }), StoreError::Kind::Other);
+    EXPECT_EQ(failureOf([&] { open("SELECT * FROM Itinerari ORDER BY Nulla"); }), StoreError::Kind::Other);
+}
+
+} // namespace
+} // namespace vanzer::store

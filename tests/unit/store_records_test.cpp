@@ -1,0 +1,292 @@
+// Walking and changing records, commands, marks of use.
+#include "store_fixture.h"
+
+#include "store/query_sql.h"
+
+namespace vanzer::store {
+namespace {
+
+const QString allLegs = QStringLiteral("SELECT * FROM Itinerari");
+
+/// The ways to open the same legs that keep a walk in different states.
+const QStringList waysToLegs{allLegs, QStringLiteral("SELECT * FROM Itinerari WHERE CodiceMeta = '000001'"),
+                             QStringLiteral("SELECT * FROM Itinerari ORDER BY Sequenza")};
+
+using StoreRecords = StoreTest;
+
+TEST_F(StoreRecords, FieldsKeepWhatTheyCan) {
+    Recordset& rs = open("SELECT * FROM Itinerari");
+    EXPECT_TRUE(rs.EOF_());
+    EXPECT_EQ(archive.NumeroRecord(), 0);
+    rs.AddNew();
+    rs.scrive("localita", "123456789012345678901234567890X");
+    rs.scrive("NOMESTRADA", "");
+    rs.scrive(0, QString(5, u'0') + QString::fromUcs4(U"\U0001f690", 1)); // the last character doesn't fit whole
+    rs.scrive("Start", "Vero");
+    rs.scriveSiNo("FineGiorno", true);
+    rs.scrive("Flag1", "gone");
+    rs.scriveNullo("Flag1");
+    EXPECT_EQ(rs.testo("Localita").size(), 30);
+    EXPECT_EQ(rs.testo("Sequenza"), QString());
+    rs.Update();
+    EXPECT_EQ(rs.RecordCount(), 1);
+    rs.MoveFirst();
+    ASSERT_FALSE(rs.EOF_());
+    EXPECT_EQ(rs.testo("Localita"), "123456789012345678901234567890");
+    EXPECT_EQ(rs.testo("NomeStrada"), " ");
+    EXPECT_EQ(rs.testo("CodiceMeta"), "00000");
+    EXPECT_EQ(rs.testo("FineGiorno"), "1");
+    EXPECT_TRUE(rs.siNo("FineGiorno"));
+    EXPECT_TRUE(rs.siNo("Start"));
+    EXPECT_EQ(rs.testo("Start"), "True");
+    EXPECT_FALSE(rs.siNo("Fine"));
+    EXPECT_TRUE(rs.haValore("Fine")); // nothing written is stored as no
+    for (const char* field : {"Sequenza", "Flag1"}) {
+        EXPECT_FALSE(rs.haValore(field)) << field;
+        EXPECT_TRUE(rs.testo(field).isEmpty()) << field;
+    }
+    EXPECT_EQ(rs.campo("MEDIA"), -1);
+    EXPECT_EQ(rs.campo("flag2"), 12);
+    EXPECT_EQ(rs.size(4), 64);
+    EXPECT_EQ(rs.kind(12), FieldKind::YesNo);
+}
+
+TEST_F(StoreRecords, MisuseIsTold) {
+    addLegs(1);
+    Recordset& rs = open(allLegs);
+    EXPECT_EQ(failureOf([&] { rs.scrive("Flag1", "x"); }), StoreError::Kind::Other);
+    EXPECT_EQ(failureOf([&] { rs.Update(); }), StoreError::Kind::Other);
+    EXPECT_EQ(failureOf([&] { (void)rs.testo("Nulla"); }), StoreError::Kind::Other);
+    EXPECT_EQ(failureOf([&] { (void)rs.testo(13); }), StoreError::Kind::Other);
+    rs.Delete();
+    EXPECT_EQ(failureOf([&] { (void)rs.testo(0); }), StoreError::Kind::Other);
+    EXPECT_EQ(failureOf([&] { rs.Edit(); }), StoreError::Kind::Other);
+    EXPECT_FALSE(rs.EOF_());
+    rs.MoveNext();
+    EXPECT_TRUE(rs.EOF_());
+    archive.chiudi();
+    EXPECT_TRUE(archive.Rs(Archive::slotAppoggio).EOF_());
+    EXPECT_EQ(failureOf([&] { archive.RecordSetImposta(0, 1); }), StoreError::Kind::Other);
+}
+
+// Every record is seen once, however the walk changes its table: each one is moved in the order that is being walked,
+// every third is deleted, and for every second a new one is added, which comes at the end.
+TEST_F(StoreRecords, WritingWhileWalking) {
+    addLegs(30);
+    for (const QString& way : waysToLegs) {
+        Comando undone(archive);
+        QStringList seen;
+        int added = 0;
+        Recordset& rs = open(way);
+        EXPECT_EQ(rs.RecordCount(), 30);
+        for (; !rs.EOF_(); rs.MoveNext()) {
+            const QString place = rs.testo("Localita");
+            seen += place;
+            if (place.startsWith(u'N'))
+                continue;
+            rs.Edit();
+            rs.scrive("Sequenza", QStringLiteral("5000"));
+            rs.scrive("CodiceMeta", QStringLiteral("000002"));
+            rs.Update();
+            EXPECT_EQ(rs.testo("Sequenza"), "5000");
+            EXPECT_EQ(rs.testo("Localita"), place);
+            if (seen.size() % 3 == 0)
+                rs.Delete();
+            if (seen.size() % 2 == 0) {
+                rs.AddNew();
+                rs.scrive("Localita", QStringLiteral("N%1").arg(added++));
+                rs.Update();
+            }
+        }
+        QStringList expected;
+        for (int i = 0; i < 30; ++i)
+            expected += QStringLiteral("P%1").arg(i);
+        for (int i = 0; i < 15; ++i)
+            expected += QStringLiteral("N%1").arg(i);
+        EXPECT_EQ(seen.join(u' ').toStdString(), expected.join(u' ').toStdString()) << way.toStdString();
+        EXPECT_EQ(rs.RecordCount(), 35) << way.toStdString();
+        EXPECT_EQ(open(allLegs).RecordCount(), 35) << way.toStdString();
+    }
+    EXPECT_EQ(open(allLegs).RecordCount(), 30);
+}
+
+TEST_F(StoreRecords, AddedRecordsLieInTheSetAtOnce) {
+    addLegs(3);
+    for (const QString& way : waysToLegs) {
+        Comando undone(archive);
+        Recordset& rs = open(way);
+        const auto add = [&rs](const QString& place) {
+            rs.AddNew();
+            rs.scrive("Localita", place); // it isn't what the query asks for
+            rs.Update();
+        };
+        add("A");
+        EXPECT_EQ(rs.RecordCount(), 4);
+        rs.MoveLast();
+        EXPECT_EQ(rs.testo("Localita"), "A");
+        rs.Delete(); // the next one takes over its identity
+        add("B");
+        rs.MoveNext();
+        EXPECT_FALSE(rs.EOF_());
+        rs.MoveFirst();
+        EXPECT_EQ(rs.testo("Localita"), "P0");
+        QStringList seen;
+        for (; !rs.EOF_(); rs.MoveNext())
+            seen += rs.testo("Localita");
+        EXPECT_EQ(seen.join(u' '), "P0 P1 P2 B") << way.toStdString();
+        EXPECT_EQ(rs.RecordCount(), 4);
+    }
+}
+
+TEST_F(StoreRecords, OtherSetsOfATableStepAside) {
+    addLegs(5);
+    for (const QString& way : waysToLegs) {
+        Comando undone(archive);
+        Recordset& walked = open(way, 2);
+        walked.MoveNext();
+        EXPECT_EQ(walked.testo("Localita"), "P1");
+        for (Recordset& other = open("SELECT * FROM Itinerari WHERE Localita = 'P1'"); !other.EOF_();
+             other.MoveNext()) {
+            other.Edit();
+            other.scrive("Localita", "CHANGED");
+            other.Update();
+        }
+        EXPECT_EQ(walked.testo("Localita"), "P1");
+        walked.MoveNext();
+        EXPECT_EQ(walked.testo("Localita"), "P2");
+    }
+}
+
+TEST_F(StoreRecords, OpeningReadsNothing) {
+    addLegs(200'000);
+    const QStringList ways{allLegs, "SELECT * FROM Itinerari ORDER BY Localita",
+                           "SELECT * FROM Itinerari WHERE CodiceMeta = '000001'"};
+    for (const QString& way : ways) {
+        const qint64 before = archive.Db(0)->lavoro();
+        Recordset& rs = open(way);
+        EXPECT_FALSE(rs.EOF_());
+        EXPECT_EQ(rs.testo("Localita"), "P0");
+        rs.MoveLast();
+        EXPECT_FALSE(rs.testo("Localita").isEmpty());
+        EXPECT_LT(archive.Db(0)->lavoro() - before, 2'000) << way.toStdString();
+        EXPECT_EQ(archive.NumeroRecord(), 200'000) << way.toStdString();
+        while (!rs.EOF_())
+            rs.MoveNext();
+        rs.MoveFirst();
+        while (!rs.EOF_())
+            rs.MoveNext();
+        EXPECT_GT(archive.Db(0)->lavoro() - before, 200'000) << way.toStdString();
+    }
+}
+
+TEST_F(StoreRecords, CommandsAreWholeOrNothing) {
+    struct Row {
+        const char* what;
+        const char* steps; // ( begin, w write, ) commit, x roll back
+        int stored;
+        bool fails;
+    };
+    constexpr Row rows[] = {
+        {"outside", "ww", 2, false},
+        {"nothing written", "()", 0, false},
+        {"committed", "(ww)", 2, false},
+        {"rolled back", "(wwx", 0, false},
+        {"nested", "(w(w)w)", 3, false},
+        {"outer rolled back", "(w(w)wx", 0, false},
+        {"inner rolled back", "(w(wx)", 0, true},
+        {"written after that", "(w(wxw", 0, true},
+        {"one after another", "(w)(wx(w)", 2, false},
+        {"no command", ")", 0, true},
+    };
+    for (const Row& row : rows) {
+        const auto failure = failureOf([&] {
+            for (const char* step = row.steps; *step != 0; ++step) {
+                switch (*step) {
+                case '(': archive.beginCommand(); break;
+                case ')': archive.commitCommand(); break;
+                case 'x': archive.rollbackCommand(); break;
+                default: open(allLegs).AddNew(); archive.Rs(Archive::slotAppoggio).Update();
+                }
+            }
+        });
+        EXPECT_EQ(failure.has_value(), row.fails) << row.what;
+        archive.rollbackCommand(); // what the failure left open
+        EXPECT_FALSE(archive.Db(0)->inTransaction()) << row.what;
+        EXPECT_EQ(open(allLegs).RecordCount(), row.stored) << row.what;
+        archive.CancellaTabella(Itinerari, QString(), QString());
+    }
+}
+
+TEST_F(StoreRecords, AFullDiskSpoilsTheCommandAndNothingElse) {
+    addLegs(10);
+    const StatementLease limit = archive.Db(0)->prepara("PRAGMA max_page_count=40");
+    limit->step();
+    const auto failure = failureOf([&] { addLegs(10'000); });
+    EXPECT_EQ(failure, StoreError::Kind::Full);
+    archive.beginCommand();
+    EXPECT_EQ(failureOf([&] { addLegs(10'000); }), StoreError::Kind::Full);
+    const auto again = failureOf([&] { addLegs(1); });
+    EXPECT_EQ(again, StoreError::Kind::Full); // the outer command has failed, whatever its caller overlooks
+    EXPECT_EQ(failureOf([&] { archive.commitCommand(); }), StoreError::Kind::Full);
+    EXPECT_EQ(open(allLegs).RecordCount(), 10);
+    addLegs(1);
+    EXPECT_EQ(open(allLegs).RecordCount(), 11);
+}
+
+TEST_F(StoreRecords, DeletingByPattern) {
+    struct Row {
+        const char* field;
+        const char* value;
+        int left;
+    };
+    const Row rows[] = {
+        {"CodiceMeta", "000001", 0},
+        {"codicemeta", "000002", 12},
+        {"Localita", "P1*", 9},
+        {"Localita", "p1", 11},
+        {"", "", 0},
+    };
+    for (const Row& row : rows) {
+        Comando undone(archive);
+        addLegs(12);
+        std::vector<std::pair<qint64, qint64>> progress;
+        archive.CancellaTabella(Itinerari, row.field, row.value,
+                                [&](qint64 done, qint64 total) { progress.emplace_back(done, total); });
+        const qint64 deleted = 12 - row.left;
+        EXPECT_TRUE(archive.Rs(Archive::slotAppoggio).EOF_());
+        EXPECT_EQ(archive.NumeroRecord(), deleted);
+        EXPECT_EQ(open(allLegs).RecordCount(), row.left) << row.field << row.value;
+        if (deleted == 0)
+            EXPECT_TRUE(progress.empty());
+        else
+            EXPECT_EQ(progress, (std::vector<std::pair<qint64, qint64>>{{0, deleted}, {deleted, deleted}}));
+    }
+}
+
+TEST_F(StoreRecords, MarksOfUseCostWhatIsMarked) {
+    std::vector<std::pair<QString, QString>> entries;
+    entries.reserve(20'000);
+    for (int i = 0; i < 20'000; ++i)
+        entries.emplace_back(QStringLiteral("P%1").arg(i), QStringLiteral("x"));
+    addGuide(entries);
+    const QString unmarked = QStringLiteral("SELECT * FROM GuidaCitta WHERE FlagVisto = '0'");
+    EXPECT_EQ(open(unmarked).RecordCount(), 0); // new entries have no mark at all
+    archive.azzeraFlagVisto();
+    EXPECT_EQ(open(unmarked).RecordCount(), 20'000);
+
+    std::vector<qint64> rowids;
+    Recordset& walked = open("SELECT * FROM GuidaCitta WHERE Localita LIKE 'P7*' AND FlagVisto = '0'", 3);
+    for (int i = 0; i < 10; ++i, walked.MoveNext())
+        rowids.push_back(walked.rowid());
+    archive.segnaVisti(rowids);
+    EXPECT_FALSE(walked.EOF_());
+    EXPECT_EQ(open(unmarked).RecordCount(), 19'990);
+    const qint64 before = archive.Db(0)->lavoro();
+    archive.azzeraFlagVisto();
+    archive.azzeraFlagVisto();
+    EXPECT_LT(archive.Db(0)->lavoro() - before, 1'000);
+    EXPECT_EQ(open(unmarked).RecordCount(), 20'000);
+}
+
+} // namespace
+} // namespace vanzer::store

@@ -1,0 +1,27 @@
+# Sourced by run and test: the Debian packages that they need, and how to get what is missing.
+
+build_packages=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev libsqlite3-dev)
+test_packages=(libgtest-dev libgmock-dev libbenchmark-dev locales clang-format clang-tidy)
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+# install_packages NAME...: asks the package manager only when one of them is not installed.
+install_packages() {
+    local name missing=()
+    for name in "$@"; do
+        [ "$(dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null)" = installed ] || missing+=("$name")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    printf 'Installing %s\n' "${missing[*]}"
+    as_root apt-get update -qq &&
+        as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
+}
+
+# install_locale NAME: makes a UTF-8 locale (NAME without its ".UTF-8") when the system has not got it.
+install_locale() {
+    locale -a | grep -qiE "^$1\.utf-?8$" && return 0
+    printf 'Making the locale %s.UTF-8\n' "$1"
+    as_root localedef -i "$1" -f UTF-8 "$1.UTF-8"
+}
