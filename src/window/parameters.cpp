@@ -60,7 +60,6 @@ void fillStops(Form& form) {
     for (const char16_t* source : sources)
         list << QString::fromUtf16(source);
     form.cmbSoste.setEntries(list);
-    form.cmbGiorni.setEntries({QStringLiteral("000")});
     form.cmbGiorni.setText(QStringLiteral("000"));
     form.cmbSosta(0).setEntries(values({0, 15, 2}));
     form.cmbSosta(1).setEntries(values({0, 23, 2}));
