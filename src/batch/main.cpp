@@ -37,7 +37,7 @@ std::optional<Request> requested(const QStringList& arguments) {
          {QStringLiteral("now"), QStringLiteral("Fixes the clock."), QStringLiteral("YYYY-MM-DDTHH:MM")},
          {QStringLiteral("script"), QStringLiteral("Reads the commands from a file."), QStringLiteral("FILE")}});
     if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty()) {
-        say(parser.errorText() + u'\n' + parser.helpText());
+        say(parser.errorText() + parser.helpText().prepend(u'\n'));
         return std::nullopt;
     }
     Request request;
@@ -96,9 +96,8 @@ int main(int argc, char** argv) {
         say(QStringLiteral("can't enter ") + request->directory);
         return badUsage;
     }
-    batch::Interpreter interpreter({.directory = request->directory,
-                                    .decimalMark = QLocale::system().decimalPoint().at(0),
-                                    .versione = QStringLiteral("1.0.0")});
+    batch::Interpreter interpreter(
+        {.directory = request->directory, .decimalMark = QLocale::system().decimalPoint().at(0), .versione = {}});
     if (request->now)
         interpreter.setClock(*request->now);
     serve(interpreter, request->script.isEmpty() ? std::cin : script);

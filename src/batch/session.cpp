@@ -1,7 +1,6 @@
 #include "batch/session.h"
 
 #include <cerrno>
-#include <cstring>
 
 #include <QDir>
 #include <QFile>
@@ -23,10 +22,18 @@ QJsonObject recordsOf(store::Archive& archive, const QString& name) {
     return records(archive.tabella(name));
 }
 
-/// In the words of the system: "[Errno 2] No such file or directory: 'x.txt'".
-QJsonObject fileFailure(int cause, const QString& path) {
-    return failure(
-        QStringLiteral("[Errno %1] %2: '%3'").arg(cause).arg(QString::fromLocal8Bit(std::strerror(cause)), path));
+/// Number and name of a cause as the system tells them; in English, whatever the locale.
+struct FileCause {
+    int number;
+    const char* name;
+};
+constexpr FileCause notThere{ENOENT, "No such file or directory"};
+constexpr FileCause notReadable{EACCES, "Permission denied"};
+constexpr FileCause isDirectory{EISDIR, "Is a directory"};
+
+QJsonObject fileFailure(const FileCause& cause, const QString& path) {
+    const QString name = QString::fromLatin1(cause.name);
+    return failure(QStringLiteral("[Errno %1] %2: '%3'").arg(QString::number(cause.number), name, path));
 }
 
 QJsonArray linesOf(const QByteArray& bytes) {
@@ -60,11 +67,11 @@ QJsonObject Session::textFile(const QString& name) const {
     const QString path = QDir(surroundings_.directory).filePath(name);
     QFile file(path);
     if (QFileInfo(path).isDir())
-        return fileFailure(EISDIR, path);
+        return fileFailure(isDirectory, path);
     if (!file.exists())
-        return fileFailure(ENOENT, path);
+        return fileFailure(notThere, path);
     if (!file.open(QIODevice::ReadOnly))
-        return fileFailure(EACCES, path);
+        return fileFailure(notReadable, path);
     return {{"lines", linesOf(file.readAll())}};
 }
 

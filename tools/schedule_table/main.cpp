@@ -36,6 +36,8 @@ constexpr std::array<Column, 13> columns{{{"Num.", Align::right},
                                           {"Ore", Align::left},
                                           {"Note", Align::left}}};
 
+constexpr std::size_t placeColumn = 1;
+
 using Row = std::array<QString, columns.size()>;
 
 std::optional<QJsonArray> lastGrid(QFile& input) {
@@ -58,16 +60,24 @@ QList<Row> tableOf(const QJsonArray& cells) {
         const QJsonArray texts = cells.at(r).toArray();
         Row row;
         for (int c = 0; c < static_cast<int>(columns.size()); ++c)
-            row[static_cast<std::size_t>(c)] = texts.at(c).toString().trimmed();
+            row[static_cast<std::size_t>(c)] = texts.at(c).toString().simplified();
         table.append(row);
     }
     return table;
 }
 
+// A sentence below the schedule: it stands in the column of the places and runs on over the others.
+bool isRemark(const Row& row) {
+    for (std::size_t c = 0; c < columns.size(); ++c)
+        if (row[c].isEmpty() == (c == placeColumn))
+            return false;
+    return true;
+}
+
 std::array<qsizetype, columns.size()> widthsOf(const QList<Row>& table) {
     std::array<qsizetype, columns.size()> widths{};
     for (const Row& row : table)
-        for (std::size_t c = 0; c < columns.size(); ++c)
+        for (std::size_t c = 0; c < columns.size() && !isRemark(row); ++c)
             widths[c] = std::max(widths[c], row[c].size());
     return widths;
 }

@@ -1,0 +1,194 @@
+// The values that everything else stands on: texts, durations, dates, columns, names of places.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "core/columns.h"
+#include "core/place_name.h"
+#include "core/text.h"
+#include "core/time_values.h"
+
+namespace vanzer {
+
+using namespace Qt::StringLiterals;
+
+TEST(Text, ValReadsTheLeadingNumber) {
+    const struct {
+        const char16_t* text;
+        double value;
+    } cases[] = {
+        {u"12", 12},   {u" 1 2.5x", 12.5}, {u"-3", -3}, {u"0,75", 0}, {u"", 0},        {u"abc", 0},
+        {u"1.2.3", 1.2}, {u"08:30", 8},    {u"+7", 7},  {u"-", 0},    {u"1e3", 1},     {u"  009 ", 9},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Val(c.text), c.value) << QString::fromUtf16(c.text).toStdString();
+}
+
+TEST(Text, NumbersAsText) {
+    EXPECT_EQ(testoNumero(0.1f), u"0.1");
+    EXPECT_EQ(testoNumero(1.999997f), u"1.999997");
+    EXPECT_EQ(testoNumero(0.75, u','), u"0,75");
+    EXPECT_EQ(testoNumero(-2400.0), u"-2400");
+    EXPECT_EQ(testoNumero(0.000001), u"0.000001");
+    EXPECT_EQ(migliaia(0), u"");
+    EXPECT_EQ(migliaiaZero(0), u"0");
+    EXPECT_EQ(migliaia(999), u"999");
+    EXPECT_EQ(migliaia(1000), u"1.000");
+    EXPECT_EQ(migliaia(1234567), u"1.234.567");
+    EXPECT_EQ(migliaiaZero(-1234), u"-1.234");
+}
+
+TEST(Text, PaddingKeepsTheLastOrTheFirstCharacters) {
+    EXPECT_EQ(Zero(1234, 2), u"34");
+    EXPECT_EQ(Zero(5, 3), u"005");
+    EXPECT_EQ(Zero(u" 7 "_s, 2), u"07");
+    EXPECT_EQ(AntStr(u"7"_s, 3, u"0"_s), u"007");
+    EXPECT_EQ(AggStr(u"abcd"_s, 2, u"32"_s), u"ab");
+    EXPECT_EQ(AggStr(u"ab"_s, 4, u"32"_s), u"ab  ");
+    EXPECT_EQ(AntStr(u"x"_s, 3, u"5"_s), u"55x");
+    EXPECT_EQ(AggStr(u"x"_s, 3, u" "_s), u"x  ");
+}
+
+TEST(Text, ToleranceIsLopsidedAndHoldsBothEnds) {
+    EXPECT_TRUE(QuasiUguale(9, 10, 3));
+    EXPECT_TRUE(QuasiUguale(13, 10, 3));
+    EXPECT_FALSE(QuasiUguale(8.9f, 10, 3));
+    EXPECT_FALSE(QuasiUguale(13.1f, 10, 3));
+    // A third of 25 isn't a single: the bound is rounded before it is compared.
+    EXPECT_TRUE(QuasiUguale(1242, 1250, 25));
+    EXPECT_FALSE(QuasiUguale(1241, 1250, 25));
+    EXPECT_TRUE(QuasiUguale(static_cast<float>(1250 - 25 / 3.0), 1250, 25));
+}
+
+TEST(Text, NamesBecomePatternsThatBreakNoQuery) {
+    EXPECT_EQ(LikeTesto(u"Roma (centro)"_s), u"Roma *");
+    EXPECT_EQ(LikeTesto(u"L'Aquila"_s), u"L?Aquila");
+    EXPECT_EQ(LikeTesto(u"a=b\\c>d<e[f]g\"h"_s), u"a?b?c?d?e?f?g?h");
+    EXPECT_EQ(LikeTesto(u"100%_*?"_s), u"100%_*?");
+}
+
+TEST(Text, CapitalsFollowPlainLettersOnly) {
+    EXPECT_EQ(PrimoMaiuscolo(u"SAN MARCO"_s, true), u"San Marco");
+    EXPECT_EQ(PrimoMaiuscolo(u"san marco"_s, false), u"San marco");
+    EXPECT_EQ(PrimoMaiuscolo(u"MÜNCHEN"_s, false), u"MüNchen");
+    EXPECT_EQ(PrimoMaiuscolo(u"> a AIX-EN-PROVENCE"_s, false), u"> a Aix-En-Provence");
+    EXPECT_EQ(PrimoMaiuscolo({}, true), u"");
+}
+
+TEST(Text, CaseIsIgnoredLetterByLetter) {
+    EXPECT_TRUE(uguale(u"FORLÌ", u"forlì"));
+    EXPECT_FALSE(uguale(u"FORLÌ", u"FORLI"));
+    EXPECT_FALSE(uguale(u"Straße", u"STRASSE"));
+    EXPECT_EQ(maiuscolo(u"straße"_s), u"STRAßE");
+    EXPECT_EQ(posizione(u"x [START]", u"[Start]"), 3);
+    EXPECT_EQ(ValoreSenzaPunti(u"1.234,5"_s), 12345);
+    EXPECT_EQ(ValoreSenzaPunti(u"km"_s), 0);
+    EXPECT_EQ(arrotonda(2.5), 2);
+    EXPECT_EQ(arrotonda(3.5), 4);
+}
+
+TEST(Durate, BothWays) {
+    const struct {
+        const char16_t* text;
+        float unit;
+        float value;
+        const char16_t* back;
+    } cases[] = {
+        {u"01:08:30", 1000, 1850, u"01:08:30"}, {u"08:30", 2400, 850, u"00:08:30"},
+        {u"", 2400, 0, u""},                    {u"00:00:00", 2400, 0, u""},
+        {u"*00:02:00", 900, 200, u"00:02:00"},  {u"00:24:00", 2400, 2400, u"01:00:00"},
+        {u"02:00:15", 900, 1825, u"02:00:15"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(ghmStringa2Centesimi(QString::fromUtf16(c.text), c.unit), c.value);
+        EXPECT_EQ(ghmCentesimi2Stringa(c.value, c.unit), c.back);
+    }
+    EXPECT_EQ(ghmCentesimi2Stringa(99.5f, 2400), u"00:00:60");
+    EXPECT_EQ(ghmCentesimi2Stringa(101.0f * 2400, 2400), u"01:00:00") << "days keep two digits";
+    EXPECT_EQ(ghmCentesimi2Stringa(100.0f * 2400, 2400), u"");
+    EXPECT_EQ(ghmSenzaGiorni(3330, 9900), u"33:18");
+}
+
+TEST(Durate, EveryMinuteSurvivesTheRoundTrip) {
+    for (int minute = 0; minute < 60; ++minute) {
+        const QString text = u"00:07:"_s + Zero(minute, 2);
+        const float c = ghmStringa2Centesimi(text, 2400);
+        EXPECT_EQ(ghmCentesimi2Stringa(c, 2400), text);
+        EXPECT_EQ(ricompone(scompone(c, 2400), 2400), c);
+    }
+}
+
+TEST(Date, JulianDayAndBack) {
+    EXPECT_EQ(Data2Giul(u"01012001"_s), 730501);
+    EXPECT_EQ(Giu2Datas(730501), u"01012001");
+    EXPECT_EQ(GiornoSettimana(u"01012001"_s), u"Lun");
+    EXPECT_EQ(GiornoSettimana(u"1012001"_s), u"");
+    // Every day from 1998 to 2047 comes back as itself, one day behind the other.
+    float day = Data2Giul(u"01011998"_s);
+    for (int year = 1998; year < 2048; ++year) {
+        for (int month = 1; month <= 12; ++month) {
+            for (int d = 1; d <= GiorniMese(year, month); ++d, day += 1) {
+                const QString date = Gma2Data({d, month, year});
+                ASSERT_EQ(Data2Giul(date), day) << date.toStdString();
+                ASSERT_EQ(Giu2Datas(day), date);
+            }
+        }
+    }
+    EXPECT_EQ(Data2Data(u"05072003"_s), u"05/07/2003");
+    EXPECT_EQ(DataChan(u"05072003"_s), u"20030705");
+    EXPECT_EQ(Data2Giul({}), -396);
+}
+
+TEST(Date, DaysOfTheMonth) {
+    const struct {
+        int year, month, days;
+    } cases[] = {{1900, 2, 28}, {2000, 2, 29}, {2004, 2, 29}, {2001, 0, 31}, {2001, 13, 28}, {2003, 6, 30}, {2003, 12, 31}};
+    for (const auto& c : cases)
+        EXPECT_EQ(GiorniMese(c.year, c.month), c.days) << c.year << '-' << c.month;
+}
+
+TEST(ColonneDiTesto, SplitAtTheirSeparator) {
+    const struct {
+        const char16_t* line;
+        std::vector<const char16_t*> columns;
+    } cases[] = {
+        {u"", {u""}},
+        {u"a,b\tc,d", {u"a,b", u"c,d"}},
+        {u"\"x\" , y;z", {u"x", u"y;z"}},
+        {u"a;b", {u"a", u"b"}},
+        {u"a!b!", {u"a", u"b", u""}},
+        {u"uno\u00ffdue, tre\u00ff", {u"uno", u"due, tre", u""}},
+    };
+    for (const auto& c : cases) {
+        Colonne columns;
+        columns(0) = u"Ricalcola"_s;
+        columns(1) = u"old"_s;
+        QString line = QString::fromUtf16(c.line);
+        SeparaColonne(line, columns);
+        ASSERT_EQ(columns.numero, static_cast<int>(c.columns.size())) << line.toStdString();
+        for (int i = 1; i <= columns.numero; ++i)
+            EXPECT_EQ(columns(i), QString::fromUtf16(c.columns[static_cast<std::size_t>(i - 1)]));
+        EXPECT_EQ(columns(0), u"Ricalcola");
+    }
+    Colonne columns;
+    QString many = u"x,"_s.repeated(150);
+    SeparaColonne(many, columns);
+    EXPECT_EQ(columns.numero, 100);
+}
+
+TEST(NomiDiLuogo, FormOfTheGuide) {
+    const struct {
+        const char16_t* name;
+        const char16_t* filed;
+    } cases[] = {
+        {u"Roma (centro)", u"Roma"},     {u"near Firenze", u"Firenze"},       {u"Vicino Firenze", u"Firenze"},
+        {u"CVL  Siena", u" Siena"},      {u"Vicino near Roma", u"near Roma"}, {u"near vicino Roma", u"Roma"},
+        {u"PISA [Start] [End]", u"PISA"}, {u"(solo)", u""},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(PulisceNomeLocalita(QString::fromUtf16(c.name)), QString::fromUtf16(c.filed));
+    EXPECT_EQ(RiPulisceNomeLocalita(u" PISA  [End]"_s), u"Pisa");
+    EXPECT_EQ(RiPulisceNomeLocalita(u"ORTE (svincolo)"_s), u"Orte (svincolo)");
+}
+
+} // namespace vanzer

@@ -1,0 +1,252 @@
+// The walk through the days: milestones, breaks, rests, stops.
+#include <gtest/gtest.h>
+
+#include "core/text.h"
+#include "schedule/simulation.h"
+
+namespace vanzer {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+using Tipo = RigaViandoria::Tipo;
+using Fine = RigaViandoria::Fine;
+
+/// A plain day at 100 km/h: a kilometre is one hundredth of an hour.
+ParametriSimulazione plainDay() {
+    ParametriSimulazione p;
+    p.oraColazione = 900;
+    p.oraPranzo = 1250;
+    p.durataPranzo = 250;
+    p.oraCena = 2000;
+    p.durataCena = 175;
+    p.oraNotte = 2250;
+    p.inizioVisita = 900;
+    p.fineVisita = 1900;
+    p.oreVisitaGiorno = 1000;
+    p.oreGuidaGiorno = 925;
+    p.oraInizioViaggio = 900;
+    p.giulianoInizio = 731416;
+    p.range = 25;
+    p.medie = {100, 100, 100, 100};
+    return p;
+}
+
+RigaDiLavoro leg(int km, bool endOfDay = false) {
+    RigaDiLavoro row;
+    row.km = km;
+    row.fineGiorno = endOfDay;
+    row.nome = u"X"_s;
+    return row;
+}
+
+RigaDiLavoro itineraryStop(float length) {
+    RigaDiLavoro row;
+    row.tipo = RigaDiLavoro::Tipo::SostaItinerario;
+    row.sostaFissa = length;
+    return row;
+}
+
+RigaDiLavoro guideStop(float length) {
+    RigaDiLavoro row;
+    row.tipo = RigaDiLavoro::Tipo::SostaGuida;
+    row.sostaGuida = length;
+    return row;
+}
+
+/// What a row says, in one line: kind, kilometres, day from 0, clock, what follows.
+std::string told(const RigaViandoria& row, float start) {
+    static constexpr std::array kinds{"tratto", "sosta", "menzione", "mattino"};
+    std::string text = kinds[static_cast<std::size_t>(row.tipo)];
+    if (row.tipo == Tipo::Tratto)
+        text += " " + std::to_string(row.km) + (row.verso ? " verso" : "");
+    text += " g" + std::to_string(static_cast<int>(row.giuliano - start)) + " " +
+            std::to_string(static_cast<int>(row.ora));
+    for (const auto& [on, name] : {std::pair{row.pranzo, " pranzo"}, std::pair{row.cena, " cena"},
+                                   std::pair{row.notte, " notte"}, std::pair{row.pausa, " pausa"},
+                                   std::pair{row.riposoDopo, " riposo"}, std::pair{row.domani, " domani"},
+                                   std::pair{row.spezzata, " spezzata"}}) {
+        if (on)
+            text += name;
+    }
+    return text;
+}
+
+std::vector<std::string> walk(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& p, float k = 1) {
+    std::vector<std::string> told_;
+    for (const RigaViandoria& row : simula(rows, p, k).righe)
+        told_.push_back(told(row, p.giulianoInizio));
+    return told_;
+}
+
+using Rows = std::vector<std::string>;
+
+} // namespace
+
+TEST(Simulazione, DepartureAlwaysHasARow) {
+    EXPECT_EQ(walk({leg(0), leg(0), leg(50)}, plainDay()), (Rows{"tratto 0 g0 900", "tratto 50 g0 950"}));
+}
+
+TEST(Simulazione, DepartureWithinAMealOrBehindTheNight) {
+    const struct {
+        float start;
+        std::string first;
+    } cases[] = {
+        {1250, "tratto 10 g0 1511"}, {1500, "tratto 10 g0 1511"}, {2100, "tratto 10 g0 2186"},
+        {2250, "tratto 10 g0 910"},  {2400, "tratto 10 g0 910"},  {1249, "tratto 10 g0 1259 pranzo"},
+    };
+    for (const auto& c : cases) {
+        ParametriSimulazione p = plainDay();
+        p.oraInizioViaggio = c.start;
+        EXPECT_EQ(walk({leg(10)}, p).front(), c.first) << c.start;
+    }
+}
+
+TEST(Simulazione, BandOfLunch) {
+    // Lunch at 1250, range 25: an arrival from 1242 to 1274 is driven whole and eats; from 1275 on the piece is cut.
+    const struct {
+        int km;
+        Rows rows;
+    } cases[] = {
+        {341, {"tratto 341 g0 1241", "tratto 9 verso g0 1250 pranzo", "tratto 91 g0 1591"}},
+        {342, {"tratto 342 g0 1242 pranzo", "tratto 100 g0 1592"}},
+        {374, {"tratto 374 g0 1274 pranzo", "tratto 100 g0 1624"}},
+        {375, {"tratto 350 verso g0 1250 pranzo", "tratto 25 g0 1525", "tratto 100 g0 1625"}},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(walk({leg(c.km), leg(100)}, plainDay()), c.rows) << c.km;
+}
+
+TEST(Simulazione, ALongLegGoesThroughLunchDinnerAndNight) {
+    const Viandoria v = simula({leg(1500)}, plainDay(), 1);
+    Rows rows;
+    for (const RigaViandoria& row : v.righe)
+        rows.push_back(told(row, plainDay().giulianoInizio));
+    EXPECT_EQ(rows, (Rows{"tratto 350 verso g0 1250 pranzo", "tratto 500 verso g0 2000 cena",
+                          "tratto 75 verso g0 2250 notte", "tratto 350 verso g1 1250 pranzo", "tratto 225 g1 1725"}));
+    EXPECT_EQ(v.righe[0].fine, Fine::Pranzo);
+    EXPECT_EQ(v.righe[1].fine, Fine::Cena);
+    EXPECT_EQ(v.righe[2].fine, Fine::Notte);
+    EXPECT_EQ(v.righe[4].fine, Fine::Arrivo);
+    EXPECT_EQ(v.giorni, 2);
+    EXPECT_EQ(v.pannello.kmTotali, 1500);
+}
+
+TEST(Simulazione, AnArrivalPastTheNightOutsideTheBandBeginsTheNextDay) {
+    ParametriSimulazione p = plainDay();
+    p.medie = {1, 1, 1, 1}; // a kilometre takes an hour, so that pieces jump over the bands
+    p.oraInizioViaggio = 2190;
+    EXPECT_EQ(walk({leg(1), leg(1)}, p), (Rows{"tratto 1 g0 2290", "tratto 1 g1 1000"}));
+}
+
+TEST(Simulazione, Breaks) {
+    ParametriSimulazione p = plainDay();
+    p.riposoOre = 1;
+    p.riposoMinuti = 25;
+    p.oraPranzo = 1500;
+    const Viandoria v = simula({leg(250)}, p, 1);
+    Rows rows;
+    for (const RigaViandoria& row : v.righe)
+        rows.push_back(told(row, p.giulianoInizio));
+    EXPECT_EQ(rows, (Rows{"tratto 100 verso g0 1000 pausa", "tratto 100 verso g0 1125 pausa", "tratto 50 g0 1200 pausa"}));
+    EXPECT_EQ(v.righe[0].fine, Fine::Pausa);
+    // At a crawl the piece before a break still moves on.
+    p.medie = {0.5, 0.5, 0.5, 0.5};
+    EXPECT_EQ(simula({leg(2)}, p, 1).righe.size(), 2U);
+}
+
+TEST(Simulazione, LongRests) {
+    ParametriSimulazione p = plainDay();
+    p.riposoGiorno = 1;
+    p.riposoDopoGiorni = 1;
+    // The rest falls before the first piece driven on the day after; its trace is on the row before the last one.
+    EXPECT_EQ(walk({leg(10), leg(10, true), leg(10)}, p),
+              (Rows{"tratto 10 g0 910", "tratto 10 g0 920 riposo", "mattino g1 900", "tratto 10 g2 910"}));
+    EXPECT_EQ(walk({leg(10, true), leg(10)}, p), (Rows{"tratto 10 g0 910 riposo", "mattino g1 900", "tratto 10 g2 910"}));
+}
+
+TEST(Simulazione, Stops) {
+    ParametriSimulazione p = plainDay();
+    p.range = 25; // a stop may run 8.33 hundredths past the end of visits
+    const struct {
+        const char* what;
+        float start;
+        std::vector<RigaDiLavoro> stops;
+        float k;
+        std::string last;
+    } cases[] = {
+        {"within the day", 900, {itineraryStop(200)}, 1, "sosta g0 1100"},
+        {"waits for the morning", 1950, {itineraryStop(100)}, 1, "sosta g1 1000 domani"},
+        {"split over two days", 1700, {itineraryStop(500)}, 1, "sosta g1 1200 spezzata"},
+        {"three whole days at the same hour", 1000, {itineraryStop(3000)}, 1, "sosta g3 1000 spezzata"},
+        {"a little past the end", 1700, {itineraryStop(208)}, 1, "sosta g0 1908"},
+        {"too far past the end", 1700, {itineraryStop(209)}, 1, "sosta g1 909 spezzata"},
+        {"stretched", 900, {guideStop(75)}, 0.5f, "sosta g0 938"},
+        {"an itinerary stop isn't stretched", 900, {itineraryStop(75)}, 0.5f, "sosta g0 975"},
+    };
+    for (const auto& c : cases) {
+        p.oraInizioViaggio = c.start;
+        std::vector<RigaDiLavoro> rows{leg(0)};
+        rows.insert(rows.end(), c.stops.begin(), c.stops.end());
+        EXPECT_EQ(walk(rows, p, c.k).back(), c.last) << c.what;
+    }
+    p.oraInizioViaggio = 900;
+    EXPECT_EQ(walk({leg(0), guideStop(75)}, p, 0).size(), 1U) << "no time, no row";
+    EXPECT_EQ(simula({leg(0), itineraryStop(38)}, p, 1).righe.back().sosta, 38) << "38 hundredths are 23 minutes";
+}
+
+TEST(Simulazione, AVisitingDayWithoutLengthStillEnds) {
+    ParametriSimulazione p = plainDay();
+    p.oreVisitaGiorno = 0;
+    p.fineVisita = 900;
+    EXPECT_EQ(walk({leg(0), itineraryStop(500)}, p).back(), "sosta g0 1400");
+}
+
+TEST(Simulazione, AStopSwallowsAMealThatItSpans) {
+    EXPECT_EQ(walk({leg(0), itineraryStop(700), leg(100)}, plainDay()).back(), "tratto 100 g0 1700");
+    EXPECT_EQ(walk({leg(0), itineraryStop(300), leg(100)}, plainDay())[2], "tratto 50 verso g0 1250 pranzo");
+}
+
+TEST(Simulazione, EndOfDayAndMention) {
+    RigaDiLavoro mention;
+    mention.tipo = RigaDiLavoro::Tipo::Menzione;
+    mention.fineGiorno = true;
+    EXPECT_EQ(walk({leg(10), mention, leg(10)}, plainDay()),
+              (Rows{"tratto 10 g0 910", "menzione g0 910", "mattino g1 900", "tratto 10 g1 910"}));
+    EXPECT_EQ(walk({leg(0, true), leg(10)}, plainDay()), (Rows{"tratto 0 g0 900", "tratto 10 g0 910"}))
+        << "the day has only just begun";
+}
+
+TEST(Simulazione, EndsWhenTheWantedDaysArePassed) {
+    ParametriSimulazione p = plainDay();
+    p.giorniDesiderati = 2;
+    const Viandoria v = simula({leg(0), itineraryStop(3000), leg(10)}, p, 1);
+    EXPECT_EQ(v.esito, Viandoria::Esito::TroppiGiorni);
+    EXPECT_EQ(v.giorni, 4);
+    EXPECT_EQ(v.righe.size(), 2U);
+    const Viandoria stopped = simula({leg(0), leg(10), leg(10)}, p, 1, [](int row) { return row == 2; });
+    EXPECT_EQ(stopped.esito, Viandoria::Esito::Interrotta);
+    EXPECT_EQ(stopped.righe.size(), 1U);
+}
+
+TEST(Simulazione, WithoutASpeedTheCalculationStillEnds) {
+    ParametriSimulazione p = plainDay();
+    p.medie = {0, 100, 100, 100};
+    RigaDiLavoro other = leg(30);
+    other.strada = 1;
+    EXPECT_EQ(walk({leg(20), other, leg(20)}, p), (Rows{"tratto 20 g0 900", "tratto 30 g0 930", "tratto 20 g0 960"}))
+        << "the time of the piece stays the last one";
+}
+
+TEST(Simulazione, FerriesCountAndTakeTheTimeOfTheirRoad) {
+    RigaDiLavoro ferry = leg(50);
+    ferry.traghetto = true;
+    RigaDiLavoro moored = leg(0);
+    moored.traghetto = true;
+    const Viandoria v = simula({ferry, moored}, plainDay(), 1);
+    EXPECT_EQ(v.traghetti, 2);
+    EXPECT_EQ(v.righe.size(), 1U);
+    EXPECT_EQ(v.pannello.traghetti, 1) << "the panel was last refreshed behind the first";
+}
+
+} // namespace vanzer
