@@ -56,7 +56,7 @@ int QueuedBoxes::show(const QString& text, const QString& title, Pulsanti button
 }
 
 QString QueuedDialogs::next(const QString& kind, const QString& filter) {
-    const QString path = taken(paths_).value_or(QString());
+    QString path = taken(paths_).value_or(QString());
     shown({{"kind", kind}, {"filter", filter}, {"path", path}});
     return path;
 }

@@ -33,6 +33,22 @@ void offerPlaces(Form& form) {
     form.cmbRicercaTappa.setVisible(true);
 }
 
+/// Moves to the one entry of that group; false if there is none, or more than one.
+bool moveToOnly(store::Recordset& records, const QString& group) {
+    const auto next = [&] {
+        while (!records.EOF_() && !uguale(records.testo(u"Gruppo"), group))
+            records.MoveNext();
+        return !records.EOF_();
+    };
+    if (!next())
+        return false;
+    records.MoveNext();
+    if (next())
+        return false;
+    records.MoveFirst();
+    return next();
+}
+
 /// Stores the group of a row with its marks in order, unless the row's entry can't be told from another one.
 void sortGroup(Form& form, int row) {
     using enum store::Condition::Test;
@@ -41,16 +57,17 @@ void sortGroup(Form& form, int row) {
     const QString sorted = gruppoOrdinato(group);
     if (Trim(group).isEmpty() || uguale(sorted, Trim(group)))
         return;
+    // The group is compared here: as a condition it would draw the search to the index of the groups, which many
+    // entries share.
     const QString places = LikeTesto(grid.cell(row, guidaLuogo)) + u'*';
     const QString description = LikeTesto(grid.cell(row, guidaDescrizione));
-    form.archivio.RecordSetImposta(0, store::GuidaCitta,
-                                   {store::TabelleNomi(store::GuidaCitta),
-                                    {{QStringLiteral("Localita"), Like, places},
-                                     {QStringLiteral("Gruppo"), Equal, group},
-                                     {QStringLiteral("Descrizione"), Like, description}},
-                                    {}});
+    form.archivio.RecordSetImposta(
+        0, store::GuidaCitta,
+        {store::TabelleNomi(store::GuidaCitta),
+         {{QStringLiteral("Localita"), Like, places}, {QStringLiteral("Descrizione"), Like, description}},
+         {}});
     store::Recordset& records = form.archivio.Rs(store::GuidaCitta);
-    if (records.RecordCount() != 1)
+    if (!moveToOnly(records, group))
         return;
     records.Edit();
     records.scrive(u"Gruppo", sorted);

@@ -175,7 +175,7 @@ TEST_F(BatchPrinter, WritesPdfWhereTheUserSays) {
     EXPECT_TRUE(bytes.startsWith("%PDF-1.4") && bytes.endsWith("%%EOF\n"));
     EXPECT_TRUE(bytes.contains("/Count 2>>"));
     EXPECT_TRUE(bytes.contains("(\\(Citt\xE0\\)) Tj"));
-    const qsizetype object4 = bytes.mid(bytes.indexOf("0000000000 65535 f") + 20 * 4, 10).toLongLong();
+    const qsizetype object4 = bytes.mid(bytes.indexOf("0000000000 65535 f") + qsizetype{20} * 4, 10).toLongLong();
     EXPECT_EQ(bytes.mid(object4, 7), "4 0 obj");
     EXPECT_TRUE(printer.takeFailure().isEmpty());
 
