@@ -4,36 +4,26 @@
 
 namespace vanzer {
 
-SegniGuida::SegniGuida(store::Archive& archive) : archive_(archive) {}
-
-std::vector<VoceGuida> SegniGuida::usa(const store::Query& query) {
-    archive_.RecordSetImposta(0, store::GuidaCitta, query);
-    store::Recordset& records = archive_.Rs(store::GuidaCitta);
-    std::vector<VoceGuida> entries;
-    for (; !records.EOF_(); records.MoveNext()) {
-        if (!used_.insert(records.rowid()).second)
-            continue;
-        entries.push_back({records.rowid(), records.testo(0), static_cast<int>(Val(records.testo(1))),
-                           records.testo(2), records.testo(3), records.testo(4)});
-    }
+std::vector<VoceGuida> SegniGuida::unused(std::vector<VoceGuida> entries) {
+    std::erase_if(entries, [this](const VoceGuida& entry) { return !used_.insert(entry.rowid).second; });
     return entries;
 }
 
-std::vector<VoceGuida> SegniGuida::usaLuogo(const QString& place, const std::vector<store::Order>& order) {
-    using enum store::Condition::Test;
-    return usa({store::TabelleNomi(store::GuidaCitta),
-                {{QStringLiteral("Localita"), Equal, place}},
-                order});
-}
+std::vector<VoceGuida> SegniGuida::usaLuogo(const QString& place) { return unused(reader_.leggeLuogo(place)); }
 
 std::vector<VoceGuida> SegniGuida::usaModello(const QString& pattern) {
+    if (!pattern.contains(u'*') && !pattern.contains(u'?'))
+        return usaLuogo(pattern);
     using enum store::Condition::Test;
-    return usa({store::TabelleNomi(store::GuidaCitta),
-                {{QStringLiteral("Localita"), Like, pattern}},
-                {}});
+    archive_.RecordSetImposta(
+        0, store::GuidaCitta,
+        {store::TabelleNomi(store::GuidaCitta), {{QStringLiteral("Localita"), Like, pattern}}, {}});
+    std::vector<VoceGuida> entries;
+    for (store::Recordset& records = archive_.Rs(store::GuidaCitta); !records.EOF_(); records.MoveNext())
+        entries.push_back({records.rowid(), static_cast<int>(Val(records.testo(1))), records.testo(2),
+                           records.testo(3), records.testo(4)});
+    return unused(std::move(entries));
 }
-
-void SegniGuida::scrive() { archive_.segnaVisti({used_.begin(), used_.end()}); }
 
 float tempoVoce(const QString& tempoSosta, float visitingDay) {
     const bool days = iniziaCon(tempoSosta, u"G");

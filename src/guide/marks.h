@@ -1,39 +1,34 @@
 // Marks of use of the guide's entries: while an itinerary is loaded, stored or prepared each entry counts once, at the
-// first passage through its place. The marks are kept in memory during one run and written by set at its end.
+// first passage through its place. A run begins with no mark set; the marks are kept in memory and written at its end.
 #pragma once
 
 #include <unordered_set>
 #include <vector>
 
 #include "store/archive.h"
+#include "store/guide_reader.h"
 
 namespace vanzer {
 
-struct VoceGuida {
-    qint64 rowid = 0;
-    QString localita;
-    int codice = 0; ///< category
-    QString gruppo;
-    QString descrizione;
-    QString tempoSosta;
-};
+using store::VoceGuida;
 
 class SegniGuida {
   public:
-    /// Begins a run: the marks in the archive have just been cleared.
-    explicit SegniGuida(store::Archive& archive);
+    explicit SegniGuida(store::Archive& archive) : archive_(archive), reader_(archive) {}
 
-    /// The entries of exactly this place, case ignored, that weren't used yet; they count as used from here on.
-    [[nodiscard]] std::vector<VoceGuida> usaLuogo(const QString& place, const std::vector<store::Order>& order = {});
+    /// The entries of exactly this place, case ignored, that weren't used yet: by category, the longest first, then by
+    /// group. They count as used from here on.
+    [[nodiscard]] std::vector<VoceGuida> usaLuogo(const QString& place);
     /// The entries whose place matches the pattern, used in the same way.
     [[nodiscard]] std::vector<VoceGuida> usaModello(const QString& pattern);
     /// Writes the marks of the run to the archive.
-    void scrive();
+    void scrive() { archive_.rimetteVisti(used_); }
 
   private:
-    [[nodiscard]] std::vector<VoceGuida> usa(const store::Query& query);
+    [[nodiscard]] std::vector<VoceGuida> unused(std::vector<VoceGuida> entries);
 
     store::Archive& archive_;
+    store::LettoreGuida reader_;
     std::unordered_set<qint64> used_;
 };
 

@@ -186,7 +186,6 @@ void CaricaTappeItinerario(Form& form) {
 
 void SettaAZeroFlaGVisto(Form& form) {
     form.lblElaborazione.setCaption(QStringLiteral("Reset tabella Guida Città"));
-    form.archivio.azzeraFlagVisto();
     AzzeraPercentuale(form);
 }
 

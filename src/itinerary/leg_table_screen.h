@@ -11,7 +11,7 @@ void CancellaMatrice(Form& form);
 /// Fills the table with the legs of the current destination.
 void CaricaTappeItinerario(Form& form);
 
-/// Clears the marks of use of the whole guide.
+/// A run through the guide begins with no mark of use set: shown here, written with the marks of the run at its end.
 void SettaAZeroFlaGVisto(Form& form);
 
 /// Replaces the stored legs of the current destination by the table's rows. More records than a destination takes are

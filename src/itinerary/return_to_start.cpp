@@ -31,7 +31,7 @@ Ritorno ritornoAStart(const std::vector<RigaRitorno>& legs) {
         // The road between two places stands on the later one of the way out.
         const RigaRitorno& driven = legs[here + 1];
         home.righe.push_back(
-            {legs[here].luogo, driven.strada, Val(driven.km) == 0 ? QString() : driven.km, driven.tipoStrada});
+            {legs[here].luogo, driven.strada, driven.km, driven.tipoStrada});
     }
     return home;
 }

@@ -32,10 +32,11 @@ double storedCoefficient(Form& form) {
 
 void storeCoefficient(Form& form) {
     store::Recordset& record = openDestination(form);
-    if (record.EOF_())
+    const QString value = testoNumero(form.stato.Coefficiente, form.ambiente.decimalMark);
+    if (record.EOF_() || record.testo(QStringLiteral("Coefficiente")) == value)
         return;
     record.Edit();
-    record.scrive(QStringLiteral("Coefficiente"), testoNumero(form.stato.Coefficiente, form.ambiente.decimalMark));
+    record.scrive(QStringLiteral("Coefficiente"), value);
     record.Update();
 }
 

@@ -84,13 +84,10 @@ CalcoloPreparato PreparaTabellaPerCalcoloViandoria(Form& form) {
     form.tappeConservate = form.mfgTab.contents();
 
     SegniGuida guide(form.archivio);
-    const std::vector<store::Order> order{{QStringLiteral("CodiceGuida"), false},
-                                          {QStringLiteral("TempoSosta"), true},
-                                          {QStringLiteral("Gruppo"), false}};
     const Preparazione with{
         .fonte = fonteSoste(form.cmbSoste.text()),
         .oreVisitaGiorno = s.OreVisitaGiorno,
-        .guida = [&guide, &order](const QString& place) { return guide.usaLuogo(place, order); },
+        .guida = [&guide](const QString& place) { return guide.usaLuogo(place); },
         .categoria =
             [&form](int category) {
                 const auto i = static_cast<std::size_t>(category);

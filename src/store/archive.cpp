@@ -188,27 +188,34 @@ void Archive::CancellaTabella(int table, const QString& field, const QString& va
         progress(total, total);
 }
 
-void Archive::azzeraFlagVisto() {
+void Archive::rimetteVisti(const std::unordered_set<qint64>& used) {
     const auto guide = storedTable(0, GuidaCitta);
-    const QByteArray marked = " WHERE " + quotedName(markField()) + " IS NOT '0'";
-    const StatementLease any = archive().prepara("SELECT 1 FROM " + quotedName(guide->nome) + marked + " LIMIT 1");
-    if (!any->step())
-        return;
-    any->reset();
-    const StatementLease clear =
-        archive().prepara("UPDATE " + quotedName(guide->nome) + " SET " + quotedName(markField()) + "='0'" + marked);
-    archive().scrive(*guide, *clear);
-}
-
-void Archive::segnaVisti(const std::vector<qint64>& rowids) {
-    const auto guide = storedTable(0, GuidaCitta);
-    const StatementLease mark = archive().prepara("UPDATE " + quotedName(guide->nome) + " SET " +
-                                                  quotedName(markField()) + "='1' WHERE rowid=?");
-    Transaction all(archive());
-    for (const qint64 rowid : rowids) {
-        mark->bind(1, rowid);
-        archive().scrive(*guide, *mark);
+    const QByteArray table = quotedName(guide->nome);
+    const QByteArray mark = quotedName(markField());
+    std::vector<qint64> toClear;
+    std::unordered_set<qint64> toSet = used;
+    const StatementLease marked =
+        archive().prepara("SELECT rowid, " + mark + "='1' FROM " + table + " WHERE " + mark + " IS NOT '0'");
+    while (marked->step()) {
+        const qint64 rowid = marked->integer(0);
+        if (!used.contains(rowid))
+            toClear.push_back(rowid);
+        else if (!marked->isNull(1) && marked->integer(1) == 1)
+            toSet.erase(rowid);
     }
+    marked->reset();
+    Transaction all(archive());
+    const auto write = [&](const QByteArray& value, const auto& rowids) {
+        if (rowids.empty())
+            return;
+        const StatementLease change = archive().prepara("UPDATE " + table + " SET " + mark + "='" + value + "' WHERE rowid=?");
+        for (const qint64 rowid : rowids) {
+            change->bind(1, rowid);
+            archive().scrive(*guide, *change);
+        }
+    };
+    write("0", toClear);
+    write("1", toSet);
     all.commit();
 }
 

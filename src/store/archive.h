@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <unordered_set>
 #include <variant>
 #include <vector>
 
@@ -85,10 +86,9 @@ class Archive {
     /// hears the begin and the end if there is anything to delete.
     void CancellaTabella(int table, const QString& field, const QString& value, const Progress& progress = {});
 
-    /// Clears the marks of use of all guide entries; costs what is marked, not the whole guide.
-    void azzeraFlagVisto();
-    /// Marks guide entries as used.
-    void segnaVisti(const std::vector<qint64>& rowids);
+    /// Exactly these entries of the guide carry the mark of use from here on. Costs what is marked before and after, not
+    /// the size of the guide, and writes only what changes.
+    void rimetteVisti(const std::unordered_set<qint64>& used);
 
     /// Commands on the archive in use, see Database.
     void beginCommand() { archive().beginCommand(); }

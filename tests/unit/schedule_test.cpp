@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 using Tipo = RigaDiLavoro::Tipo;
 
 VoceGuida entry(const QString& description, const QString& time, const QString& group = u" "_s) {
-    return {.rowid = 0, .localita = {}, .codice = 1, .gruppo = group, .descrizione = description, .tempoSosta = time};
+    return {.rowid = 0, .codice = 1, .gruppo = group, .descrizione = description, .tempoSosta = time};
 }
 
 /// The working rows told one by one: kind, name, stop, "*" for an end of the day.

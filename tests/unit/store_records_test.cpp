@@ -271,20 +271,26 @@ TEST_F(StoreRecords, MarksOfUseCostWhatIsMarked) {
     addGuide(entries);
     const QString unmarked = QStringLiteral("SELECT * FROM GuidaCitta WHERE FlagVisto = '0'");
     EXPECT_EQ(open(unmarked).RecordCount(), 0); // new entries have no mark at all
-    archive.azzeraFlagVisto();
+    archive.rimetteVisti({});
     EXPECT_EQ(open(unmarked).RecordCount(), 20'000);
 
-    std::vector<qint64> rowids;
+    std::unordered_set<qint64> used;
     Recordset& walked = open("SELECT * FROM GuidaCitta WHERE Localita LIKE 'P7*' AND FlagVisto = '0'", 3);
     for (int i = 0; i < 10; ++i, walked.MoveNext())
-        rowids.push_back(walked.rowid());
-    archive.segnaVisti(rowids);
-    EXPECT_FALSE(walked.EOF_());
-    EXPECT_EQ(open(unmarked).RecordCount(), 19'990);
+        used.insert(walked.rowid());
     const qint64 before = archive.Db(0)->lavoro();
-    archive.azzeraFlagVisto();
-    archive.azzeraFlagVisto();
-    EXPECT_LT(archive.Db(0)->lavoro() - before, 1'000);
+    archive.rimetteVisti(used);
+    EXPECT_FALSE(walked.EOF_());
+    // The same marks again write nothing; one of them less clears that one.
+    archive.rimetteVisti(used);
+    const qint64 gone = *used.begin();
+    used.erase(gone);
+    archive.rimetteVisti(used);
+    EXPECT_LT(archive.Db(0)->lavoro() - before, 2'000);
+    EXPECT_EQ(open(unmarked).RecordCount(), 19'991);
+    for (Recordset& marked = open("SELECT * FROM GuidaCitta WHERE FlagVisto = '1'"); !marked.EOF_(); marked.MoveNext())
+        EXPECT_TRUE(used.contains(marked.rowid()));
+    archive.rimetteVisti({});
     EXPECT_EQ(open(unmarked).RecordCount(), 20'000);
 }
 
