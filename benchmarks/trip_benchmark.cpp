@@ -58,7 +58,7 @@ ParametriSimulazione parameters(const Form& form) {
 
 RigheDiLavoro prepared(BigTrip& trip) {
     RigheDiLavoro rows;
-    comando(trip.form(), [&] { rows = PreparaTabellaPerCalcoloViandoria(trip.form()).lavoro; });
+    comando(trip.form(), [&] { rows = PreparaTabellaPerCalcoloViandoria(trip.form()); });
     return rows;
 }
 

@@ -179,7 +179,7 @@ void AttivitaInserimentoItinerario(Form& form) {
 void RimetteTappe(Form& form) {
     if (!form.tappeConservate)
         return;
-    form.mfgTab.setContents(*form.tappeConservate);
+    form.mfgTab.setContents(std::move(*form.tappeConservate));
     form.tappeConservate.reset();
     CalcolaKmTempiItinerario(form);
 }

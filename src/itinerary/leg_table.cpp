@@ -44,7 +44,7 @@ TrattoDellaGuida::Passo TrattoDellaGuida::prossimo(const QString& localita) {
     QString s = localita;
     // A mark behind a bracket, or a second mark behind the first, is cut away before it is looked for.
     const auto cut = [&s](QStringView mark) {
-        const int at = posizione(s, mark);
+        const int at = s.contains(mark.front()) ? posizione(s, mark) : 0;
         if (at > 0)
             s = Trim(Left(s, at - 1)) + u'*';
         return at > 0;

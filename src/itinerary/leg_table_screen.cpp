@@ -15,32 +15,31 @@ namespace {
 constexpr float giornoIntero = 2400;
 constexpr int colonnaFineGiorno = 14;
 
-struct TappaLetta {
-    QString localita;
-    QString chilometri;
-    QString nomeStrada;
-    QString tipoStrada;
-    QString tempoSosta;
-    QString fineGiorno;
-};
-
-std::vector<TappaLetta> readLegs(Form& form) {
+/// One row of the table for each record. The places are told apart from the rows' marks later.
+Grid::Rows readLegs(Form& form) {
     store::Archive& archive = form.archivio;
     archive.StringaSQL = QStringLiteral("SELECT * FROM Itinerari WHERE CodiceMeta = '") +
                          store::quotato(form.stato.CodiceMeta) + QStringLiteral("' ORDER BY Sequenza");
     archive.RecordSetImposta(0, store::Itinerari);
     store::Recordset& records = archive.Rs(store::Itinerari);
-    const int place = records.campo(QStringLiteral("Localita"));
-    const int km = records.campo(QStringLiteral("Chilometri"));
-    const int road = records.campo(QStringLiteral("NomeStrada"));
-    const int type = records.campo(QStringLiteral("TipoStrada"));
-    const int stop = records.campo(QStringLiteral("TempoSosta"));
-    const int end = records.campo(QStringLiteral("FineGiorno"));
-    std::vector<TappaLetta> legs;
-    for (; !records.EOF_(); records.MoveNext())
-        legs.push_back({records.testo(place), records.testo(km), records.testo(road), records.testo(type),
-                        records.testo(stop), records.testo(end)});
-    return legs;
+    const int place = records.campo("Localita");
+    const int km = records.campo("Chilometri");
+    const int road = records.campo("NomeStrada");
+    const int type = records.campo("TipoStrada");
+    const int stop = records.campo("TempoSosta");
+    const int end = records.campo("FineGiorno");
+    Grid::Rows rows;
+    for (int number = 1; !records.EOF_(); records.MoveNext(), ++number) {
+        auto& cells = rows.emplace_back(static_cast<std::size_t>(colonnaFineGiorno + 1));
+        cells[0] = QString::number(number);
+        cells[1] = records.testo(place);
+        cells[2] = Trim(records.testo(road));
+        cells[3] = migliaia(Val(records.testo(km)));
+        cells[4] = records.testo(type);
+        cells[colonnaFineGiorno] = records.testo(end);
+        cells[7] = sostaDelRecord(cells[colonnaFineGiorno], records.testo(stop));
+    }
+    return rows;
 }
 
 /// The guide's stops of a place as the text of its cell.
@@ -51,35 +50,28 @@ QString guideStops(SegniGuida& guide, const QString& place, float visitingDay) {
     return ghmCentesimi2Stringa(static_cast<float>(sum), giornoIntero);
 }
 
-void showLeg(Form& form, int row, const TappaLetta& leg) {
-    Grid& grid = form.mfgTab;
-    grid.setCell(row, 0, QString::number(row));
-    grid.setCell(row, 1, leg.localita);
-    grid.setCell(row, 2, Trim(leg.nomeStrada));
-    grid.setCell(row, 3, migliaia(Val(leg.chilometri)));
-    grid.setCell(row, 4, leg.tipoStrada);
-    grid.setCell(row, 7, sostaDelRecord(leg.fineGiorno, leg.tempoSosta));
-    grid.setCell(row, colonnaFineGiorno, leg.fineGiorno);
-    if (leg.fineGiorno == u"1") {
-        grid.setMarked(row, 7, true);
-        grid.setCurrent(1, 1);
-    }
-}
-
-void showLegs(Form& form, const std::vector<TappaLetta>& legs) {
+/// The guide's stops into the rows of the stretch, each entry once.
+void addGuideStops(Form& form, Grid::Rows& rows) {
     SegniGuida guide(form.archivio);
     TrattoDellaGuida stretch;
-    int& row = form.stato.RigaCaricata;
-    row = 0;
-    for (const TappaLetta& leg : legs) {
-        ++row;
-        const TrattoDellaGuida::Passo step = stretch.prossimo(leg.localita);
+    form.stato.RigaCaricata = 0;
+    for (auto& cells : rows) {
+        ++form.stato.RigaCaricata;
+        const TrattoDellaGuida::Passo step = stretch.prossimo(cells[1]);
         if (step.leggere)
-            form.mfgTab.setCell(row, 8, guideStops(guide, step.luogo, form.stato.OreVisitaGiorno));
-        showLeg(form, row, leg);
+            cells[8] = guideStops(guide, step.luogo, form.stato.OreVisitaGiorno);
         form.yield();
     }
     guide.scrive();
+}
+
+void markEndsOfDay(Grid& grid, int rows) {
+    for (int r = 1; r <= rows; ++r) {
+        if (grid.cell(r, colonnaFineGiorno) == u"1") {
+            grid.setMarked(r, 7, true);
+            grid.setCurrent(1, 1);
+        }
+    }
 }
 
 int recordsNeeded(const Form& form) {
@@ -170,15 +162,17 @@ void CaricaTappeItinerario(Form& form) {
     form.tappeConservate.reset();
     CancellaMatrice(form);
     ControllaVariabiliConvertite(form);
-    const std::vector<TappaLetta> legs = readLegs(form);
+    Grid::Rows rows = readLegs(form);
+    const int legs = static_cast<int>(rows.size());
+    SettaAZeroFlaGVisto(form);
+    addGuideStops(form, rows);
     {
         const SenzaRidisegno quiet(form.mfgTab);
-        form.stato.NumeroTappe = static_cast<int>(legs.size());
-        form.mfgTab.setRows(Maggiore(form.stato.NumeroTappe + 2, form.stato.RigheMinime));
+        form.stato.NumeroTappe = legs;
+        rows.resize(static_cast<std::size_t>(Maggiore(legs + 2, form.stato.RigheMinime) - 1));
+        form.mfgTab.setContents(std::move(rows));
         form.mfgTab.setTopRow(1);
-        SettaAZeroFlaGVisto(form);
-        showLegs(form, legs);
-        form.mfgTab.setTopRow(1);
+        markEndsOfDay(form.mfgTab, legs);
     }
     CalcolaKmTempiItinerario(form);
     form.frmframe(24).setVisible(false);

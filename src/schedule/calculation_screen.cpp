@@ -6,6 +6,7 @@
 #include "itinerary/leg_table_screen.h"
 #include "schedule/fitting.h"
 #include "schedule/preparation_screen.h"
+#include "schedule/rows.h"
 #include "schedule/simulation.h"
 #include "schedule/totals_screen.h"
 #include "window/destination_screen.h"
@@ -100,32 +101,27 @@ void showPanel(Form& form, const PannelloViandoria& panel) {
 }
 
 /// The table as the last test leaves it, closed and tidied; the rows of totals stay.
-void showSchedule(Form& form, const CalcoloPreparato& prepared, const Viandoria& schedule) {
+void showSchedule(Form& form, const RigheDiLavoro& prepared, const Viandoria& schedule) {
+    const Grid::Rows& legs = *form.tappeConservate;
     const TestiViandoria texts{
-        .tappa = [&prepared](int row) { return prepared.tappe[static_cast<std::size_t>(row)]; },
+        .tappa = [&legs](int row, int column) -> const QString& {
+            static const QString none;
+            const auto& cells = legs[static_cast<std::size_t>(row - 1)];
+            return static_cast<std::size_t>(column) < cells.size() ? cells[static_cast<std::size_t>(column)] : none;
+        },
         .minutiPausa = form.cmbRipM.text(),
         .oreGuidaGiorno = form.stato.OreGuidaGiorno,
         .oreVisitaGiorno = form.stato.OreVisitaGiorno,
     };
-    std::vector<CelleViandoria> rows = celleViandoria(schedule, prepared.lavoro.righe, texts);
+    std::vector<CelleViandoria> rows = celleViandoria(schedule, prepared.righe, texts);
     const std::array<QString, righeTotali> totals = chiudeViandoria(rows, schedule, texts);
-    std::erase_if(rows, [](const CelleViandoria& cells) {
-        return rigaVuota([&cells](int column) -> const QString& { return cells[static_cast<std::size_t>(column)]; });
-    });
-
-    Grid& grid = form.mfgTab;
-    const SenzaRidisegno quiet(grid);
-    grid.setRows(1);
-    grid.setRows(static_cast<int>(rows.size()) + 1 + righeTotali);
-    int r = 0;
-    for (const CelleViandoria& cells : rows) {
-        ++r;
-        for (std::size_t c = 0; c < cells.size(); ++c)
-            grid.setCell(r, static_cast<int>(c), cells[c]);
-    }
+    std::erase_if(rows, rigaVuota);
     for (const QString& total : totals)
-        grid.setCell(++r, colTappa, total);
-    grid.setTopRow(1);
+        rows.push_back({QString(), total});
+    const SenzaRidisegno quiet(form.mfgTab);
+    form.mfgTab.setRows(1);
+    form.mfgTab.setContents(std::move(rows));
+    form.mfgTab.setTopRow(1);
 }
 
 void tellResult(Form& form) {
@@ -200,8 +196,8 @@ class Calcolo {
 
   private:
     [[nodiscard]] bool conSoste() const {
-        return static_cast<double>(prepared_.lavoro.sosteGuida) +
-                   static_cast<double>(prepared_.lavoro.sosteItinerario) !=
+        return static_cast<double>(prepared_.sosteGuida) +
+                   static_cast<double>(prepared_.sosteItinerario) !=
                0;
     }
 
@@ -213,7 +209,7 @@ class Calcolo {
         data.giorniGuida = giorniDiGuida(driving, s_.OreGuidaGiorno);
         data.oreGuidaGiorno = s_.OreGuidaGiorno;
         if (data.giorniGuida <= s_.GiorniDesiderati)
-            data.sosteTotali = prepared_.lavoro.sosteGuida + prepared_.lavoro.sosteItinerario;
+            data.sosteTotali = prepared_.sosteGuida + prepared_.sosteItinerario;
         return data;
     }
 
@@ -227,8 +223,8 @@ class Calcolo {
 
     bool prova() {
         showProgressText(form_);
-        s_.PercentualeTotale = static_cast<double>(prepared_.lavoro.righe.size());
-        last_ = simula(prepared_.lavoro.righe, simulationParameters(form_, range_), s_.Coefficiente, [this](int row) {
+        s_.PercentualeTotale = static_cast<double>(prepared_.righe.size());
+        last_ = simula(prepared_.righe, simulationParameters(form_, range_), s_.Coefficiente, [this](int row) {
             if (s_.InterrompiCalcolo)
                 return true;
             s_.PercentualeCorrente = row;
@@ -247,7 +243,7 @@ class Calcolo {
 
     Form& form_;
     StatoViaggio& s_;
-    CalcoloPreparato prepared_;
+    RigheDiLavoro prepared_;
     Viandoria last_;
     int range_ = 0;
 };
@@ -262,11 +258,18 @@ void calculate(Form& form) {
         return;
     }
     RimetteTappe(form);
-    Calcolo calculation(form);
-    if (calculation.prove())
-        calculation.chiude();
-    else
-        abandon(form);
+    try {
+        Calcolo calculation(form);
+        if (calculation.prove())
+            calculation.chiude();
+        else
+            abandon(form);
+    } catch (const store::StoreError&) {
+        form.cmdCalcola.setCaption(QStringLiteral("&Calcola"));
+        form.stato.ViandoriaCalcolata = false;
+        RimetteTappe(form);
+        throw;
+    }
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "schedule/preparation_screen.h"
 
+#include <algorithm>
+
 #include "core/text.h"
 #include "itinerary/leg_table_screen.h"
 #include "schedule/preparation.h"
@@ -19,12 +21,17 @@ constexpr int colVoceGuida = 15;
 constexpr int colFineGiorno = 16;
 constexpr int colMenzione = 18;
 
-std::vector<TappaDaPreparare> readLegs(const Grid& grid) {
+using Celle = std::vector<QString>;
+
+QString cell(const Celle& cells, std::size_t column) { return column < cells.size() ? cells[column] : QString(); }
+
+std::vector<TappaDaPreparare> readLegs(const Grid::Rows& rows) {
     std::vector<TappaDaPreparare> legs;
-    legs.reserve(static_cast<std::size_t>(grid.rows()));
-    for (int r = 1; r < grid.rows(); ++r)
-        legs.push_back(
-            {r, grid.cell(r, 1), grid.cell(r, 2), chilometri(grid.cell(r, 3)), grid.cell(r, 4), grid.cell(r, 7)});
+    legs.reserve(rows.size());
+    int number = 0;
+    for (const Celle& cells : rows)
+        legs.push_back({++number, cell(cells, 1), cell(cells, 2), chilometri(cell(cells, 3)), cell(cells, 4),
+                        cell(cells, 7)});
     return legs;
 }
 
@@ -33,55 +40,57 @@ QString stopText(float stop, QChar decimalMark) {
     return stop == 1 ? QStringLiteral("01") : testoNumero(stop, decimalMark);
 }
 
-void showWorkingRow(Form& form, int row, const RigaDiLavoro& work) {
-    Grid& grid = form.mfgCopia;
+Celle workingRow(const RigaDiLavoro& work, const Grid::Rows& legs, QChar decimalMark) {
     using enum RigaDiLavoro::Tipo;
+    Celle cells;
     if (work.tipo == Tappa) {
-        for (const int c : {0, 2, 3, 4, 5, 6})
-            grid.setCell(row, c, form.mfgTab.cell(work.tappa, c));
+        const Celle& leg = legs[static_cast<std::size_t>(work.tappa - 1)];
+        cells.assign(leg.begin(), leg.begin() + std::min<std::ptrdiff_t>(7, std::ssize(leg)));
     }
-    grid.setCell(row, 1, work.nome);
-    grid.setCell(row, colCategoria, work.nota);
+    const auto write = [&cells](std::size_t column, const QString& text) {
+        if (cells.size() <= column)
+            cells.resize(column + 1);
+        cells[column] = text;
+    };
+    write(1, work.nome);
+    if (!work.nota.isEmpty())
+        write(colCategoria, work.nota);
     if (work.tipo == SostaItinerario)
-        grid.setCell(row, colSostaFissa, stopText(work.sostaFissa, form.ambiente.decimalMark));
+        write(colSostaFissa, stopText(work.sostaFissa, decimalMark));
     if (work.tipo == SostaGuida)
-        grid.setCell(row, colVoceGuida, stopText(work.sostaGuida, form.ambiente.decimalMark));
+        write(colVoceGuida, stopText(work.sostaGuida, decimalMark));
     if (work.fineGiorno)
-        grid.setCell(row, colFineGiorno, QStringLiteral("1"));
+        write(colFineGiorno, QStringLiteral("1"));
     if (work.tipo == Menzione)
-        grid.setCell(row, colMenzione, QStringLiteral("-1"));
+        write(colMenzione, QStringLiteral("-1"));
+    return cells;
 }
 
-void showWorkingRows(Form& form, const std::vector<RigaDiLavoro>& rows) {
+void showWorkingRows(Form& form, const std::vector<RigaDiLavoro>& rows, const Grid::Rows& legs) {
     Grid& grid = form.mfgCopia;
     const SenzaRidisegno quiet(grid);
     grid.setRows(1);
     grid.setColumns(form.mfgTab.columns());
     grid.clearCells();
     ImpostaGriglia(form, Disposizione::RigheDiLavoro);
-    grid.setRows(static_cast<int>(rows.size()) + 1);
-    for (std::size_t i = 0; i < rows.size(); ++i)
-        showWorkingRow(form, static_cast<int>(i) + 1, rows[i]);
+    Grid::Rows cells;
+    cells.reserve(rows.size());
+    for (const RigaDiLavoro& row : rows)
+        cells.push_back(workingRow(row, legs, form.ambiente.decimalMark));
+    grid.setContents(std::move(cells));
     form.stato.RigaCaricata = static_cast<int>(rows.size());
-}
-
-std::vector<TestiTappa> legTexts(const Grid& grid) {
-    std::vector<TestiTappa> texts(static_cast<std::size_t>(grid.rows()));
-    for (int r = 1; r < grid.rows(); ++r)
-        texts[static_cast<std::size_t>(r)] = {grid.cell(r, 2), grid.cell(r, 4)};
-    return texts;
 }
 
 } // namespace
 
-CalcoloPreparato PreparaTabellaPerCalcoloViandoria(Form& form) {
+RigheDiLavoro PreparaTabellaPerCalcoloViandoria(Form& form) {
     StatoViaggio& s = form.stato;
     ControllaVariabiliConvertite(form);
     PulisciFinestre(form);
     SettaAZeroFlaGVisto(form);
     form.lblElaborazione.setCaption(QStringLiteral("Elaborazione delle soste e guida città"));
     s.PercentualeTotale = form.mfgTab.rows() - 1;
-    form.tappeConservate = form.mfgTab.contents();
+    form.tappeConservate = form.mfgTab.takeContents();
 
     SegniGuida guide(form.archivio);
     const Preparazione with{
@@ -99,9 +108,9 @@ CalcoloPreparato PreparaTabellaPerCalcoloViandoria(Form& form) {
                 AggiornaPercentuale(form);
             },
     };
-    CalcoloPreparato prepared{preparaRighe(readLegs(form.mfgTab), with), legTexts(form.mfgTab)};
+    RigheDiLavoro prepared = preparaRighe(readLegs(*form.tappeConservate), with);
     guide.scrive();
-    showWorkingRows(form, prepared.lavoro.righe);
+    showWorkingRows(form, prepared.righe, *form.tappeConservate);
     return prepared;
 }
 

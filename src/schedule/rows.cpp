@@ -57,12 +57,11 @@ QString noteDelTratto(const RigaViandoria& row, const QString& breakMinutes) {
 
 void scriveTratto(CelleViandoria& cells, int number, const RigaViandoria& row, const RigaDiLavoro& work,
                   const TestiViandoria& texts) {
-    const TestiTappa leg = texts.tappa(work.tappa);
     cells[colNumero] = QString::number(number);
     cells[colTappa] = row.verso ? u"verso: "_s + RiPulisceNomeLocalita(work.nome) : work.nome;
-    cells[colStrada] = Trim(leg.strada);
+    cells[colStrada] = Trim(texts.tappa(work.tappa, colStrada));
     cells[colKm] = row.km == 0 ? QString() : QString::number(row.km);
-    cells[colTipo] = leg.tipoStrada;
+    cells[colTipo] = texts.tappa(work.tappa, colTipo);
     cells[colKmProgressivi] = migliaia(row.kmTotali);
     cells[colTempo] = ghmSenzaGiorni(row.tempo, texts.oreGuidaGiorno);
     cells[colNote] = noteDelTratto(row, texts.minutiPausa);
@@ -225,6 +224,7 @@ std::vector<CelleViandoria> celleViandoria(const Viandoria& schedule, const std:
         const RigaViandoria& row = schedule.righe[i];
         const RigaDiLavoro& source = work[static_cast<std::size_t>(row.lavoro)];
         CelleViandoria& cells = rows[i];
+        cells.resize(numeroColonneViandoria);
         switch (row.tipo) {
         case RigaViandoria::Tipo::Tratto: scriveTratto(cells, static_cast<int>(i) + 1, row, source, texts); break;
         case RigaViandoria::Tipo::Sosta: scriveSosta(cells, row, source, texts); break;
@@ -253,9 +253,9 @@ std::array<QString, righeTotali> chiudeViandoria(std::vector<CelleViandoria>& ro
     return Chiusura(rows, schedule, texts).chiude();
 }
 
-bool rigaVuota(const std::function<const QString&(int column)>& cell) {
-    static constexpr std::array columns{0, 2, 3, 4, 5, 6, 7, 8, 12};
-    return std::all_of(columns.begin(), columns.end(), [&cell](int column) { return cell(column).isEmpty(); });
+bool rigaVuota(const CelleViandoria& cells) {
+    static constexpr std::array<std::size_t, 9> columns{0, 2, 3, 4, 5, 6, 7, 8, 12};
+    return std::all_of(columns.begin(), columns.end(), [&cells](std::size_t c) { return cells[c].isEmpty(); });
 }
 
 } // namespace vanzer

@@ -29,16 +29,11 @@ enum ColonnaViandoria {
     numeroColonneViandoria
 };
 
-using CelleViandoria = std::array<QString, numeroColonneViandoria>;
-
-/// What a leg's row takes over from the leg table.
-struct TestiTappa {
-    QString strada;
-    QString tipoStrada;
-};
+using CelleViandoria = std::vector<QString>;
 
 struct TestiViandoria {
-    std::function<TestiTappa(int row)> tappa; ///< by the leg's row in the table
+    /// Cells of the leg table by row and column, for what a leg's row takes over.
+    std::function<const QString&(int row, int column)> tappa;
     QString minutiPausa;                      ///< length of a break, as its list shows it
     float oreGuidaGiorno = 0;
     float oreVisitaGiorno = 0;
@@ -61,6 +56,6 @@ inline constexpr int righeTotali = 7;
                                                                const TestiViandoria& texts);
 
 /// A row that says nothing beyond its name; the tidying takes it away.
-[[nodiscard]] bool rigaVuota(const std::function<const QString&(int column)>& cell);
+[[nodiscard]] bool rigaVuota(const CelleViandoria& cells);
 
 } // namespace vanzer

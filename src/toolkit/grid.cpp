@@ -1,6 +1,7 @@
 #include "toolkit/grid.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "toolkit/grid_model.h"
 
@@ -144,12 +145,20 @@ void Grid::clearCells() {
     setRedraw(true);
 }
 
-Grid::Rows Grid::contents() const { return {cells_.begin() + 1, cells_.end()}; }
+Grid::Rows Grid::takeContents() {
+    setRedraw(false);
+    Rows rows(std::make_move_iterator(cells_.begin() + 1), std::make_move_iterator(cells_.end()));
+    cells_.resize(1);
+    marked_.clear();
+    keepInside();
+    setRedraw(true);
+    return rows;
+}
 
-void Grid::setContents(const Rows& rows) {
+void Grid::setContents(Rows&& rows) {
     setRedraw(false);
     cells_.resize(1);
-    cells_.insert(cells_.end(), rows.begin(), rows.end());
+    cells_.insert(cells_.end(), std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end()));
     keepInside();
     setRedraw(true);
 }

@@ -43,10 +43,11 @@ class Grid : public Control {
     /// Empties all cells, the head row's too.
     void clearCells();
 
-    /// All rows from 1 on, to be kept and put back.
+    /// All rows from 1 on: taken out, so that the head row is left, and put in.
     using Rows = std::vector<std::vector<QString>>;
-    [[nodiscard]] Rows contents() const;
-    void setContents(const Rows& rows);
+    [[nodiscard]] Rows takeContents();
+    /// A row may be shorter than the grid is wide; what lies behind its end is empty.
+    void setContents(Rows&& rows);
 
     [[nodiscard]] int row() const { return row_; }
     [[nodiscard]] int col() const { return col_; }

@@ -231,7 +231,9 @@ TEST(RigheViandoria, TextsNotesAndTotals) {
     last.tempo = 100;
     v.giuliano = 731418;
     v.ora = 1000;
-    const TestiViandoria texts{[](int) { return TestiTappa{u" A1 "_s, u"A"_s}; }, u"15"_s, 925, 1000};
+    const std::array<QString, numeroColonneViandoria> leg{{}, {}, u" A1 "_s, {}, u"A"_s};
+    const TestiViandoria texts{
+        [&leg](int, int column) -> const QString& { return leg[static_cast<std::size_t>(column)]; }, u"15"_s, 925, 1000};
 
     std::vector<CelleViandoria> rows = celleViandoria(v, work, texts);
     const auto totals = chiudeViandoria(rows, v, texts);
