@@ -44,7 +44,7 @@ long walk(sqlite3_stmt* statement) {
     return bytes;
 }
 
-void bind(sqlite3_stmt* statement, int parameter, const std::string& text) {
+void bindText(sqlite3_stmt* statement, int parameter, const std::string& text) {
     sqlite3_bind_text(statement, parameter, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
 }
 
@@ -89,10 +89,10 @@ void BareArchive::rewriteLegs(int legs) {
                                    "TipoStrada, TempoSosta, SostaGuidaCitta, FineGiorno, Start, Fine, Flag2) "
                                    "VALUES ('000001', ?, ?, ?, ?, 'A', ' ', '00:00:15', '0', 0, 0, 0)");
     for (int i = 1; i <= legs; ++i) {
-        bind(insert.get(), 1, digits("%04d", i));
-        bind(insert.get(), 2, digits("Luogo numero %05d", i));
-        bind(insert.get(), 3, digits("%d", 5 + i % 16));
-        bind(insert.get(), 4, digits("SS%d ", i % 300));
+        bindText(insert.get(), 1, digits("%04d", i));
+        bindText(insert.get(), 2, digits("Luogo numero %05d", i));
+        bindText(insert.get(), 3, digits("%d", 5 + i % 16));
+        bindText(insert.get(), 4, digits("SS%d ", i % 300));
         if (sqlite3_step(insert.get()) != SQLITE_DONE)
             throw std::runtime_error(sqlite3_errmsg(connection_.get()));
         sqlite3_reset(insert.get());
@@ -102,12 +102,15 @@ void BareArchive::rewriteLegs(int legs) {
 
 long BareArchive::readGuide(int places) {
     const Statement query =
-        prepare(connection_.get(), "SELECT * FROM GuidaCitta WHERE Localita = ? AND FlagVisto = '0' "
+        prepare(connection_.get(), "SELECT * FROM GuidaCitta WHERE Localita = ? "
                                    "ORDER BY CodiceGuida, TempoSosta DESC, Gruppo");
     long bytes = 0;
     for (int i = 1; i <= places; ++i) {
-        bind(query.get(), 1, digits("Luogo numero %05d", i));
-        bytes += walk(query.get());
+        bindText(query.get(), 1, digits("Luogo numero %05d", i));
+        const long found = walk(query.get());
+        if (found == 0)
+            throw std::runtime_error("a place without its entry");
+        bytes += found;
     }
     return bytes;
 }

@@ -11,6 +11,8 @@
 
 #include "bare_archive.h"
 #include "big_trip.h"
+#include "core/place_name.h"
+#include "guide/marks.h"
 #include "itinerary/leg_table_screen.h"
 #include "schedule/preparation_screen.h"
 #include "schedule/simulation.h"
@@ -136,6 +138,27 @@ void load(benchmark::State& state) {
     state.counters["ratio"] = median(ours) / median(theirs);
 }
 BENCHMARK(load)->Arg(1000)->Arg(9999)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(11);
+
+/// The guide's entries of every place, against the same queries.
+void readGuide(benchmark::State& state) {
+    BigTrip trip(legs(state));
+    const QTemporaryDir directory;
+    BareArchive bare(copyOfArchive(trip, directory));
+    std::vector<double> ours;
+    std::vector<double> theirs;
+    for (auto _ : state) {
+        ours.push_back(seconds([&] {
+            SegniGuida guide(trip.form().archivio);
+            for (int r = 1; r <= legs(state); ++r)
+                benchmark::DoNotOptimize(guide.usaLuogo(PulisceNomeLocalita(trip.form().mfgTab.cell(r, 1))).size());
+        }));
+        state.SetIterationTime(ours.back());
+        theirs.push_back(seconds([&] { benchmark::DoNotOptimize(bare.readGuide(legs(state))); }));
+    }
+    state.counters["bare_ms"] = median(theirs) * 1000;
+    state.counters["ratio"] = median(ours) / median(theirs);
+}
+BENCHMARK(readGuide)->Arg(1000)->Arg(9999)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(11);
 
 /// Storing the legs, against the same reads and writes in one transaction.
 void save(benchmark::State& state) {

@@ -52,8 +52,6 @@ double Val(QStringView s) {
     return value;
 }
 
-double Int(double x) { return std::floor(x); }
-
 int arrotonda(double x) {
     if (!(x > -2147483648.0))
         return std::isnan(x) ? 0 : -2147483647 - 1;

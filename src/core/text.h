@@ -2,6 +2,8 @@
 // ignored letter by letter (simple folding: "ß" stays one letter, an accent counts).
 #pragma once
 
+#include <cmath>
+
 #include <QString>
 #include <QStringView>
 
@@ -22,7 +24,14 @@ namespace vanzer {
 [[nodiscard]] double Val(QStringView s);
 
 /// Rounding towards minus infinity.
-[[nodiscard]] double Int(double x);
+[[nodiscard]] inline double Int(double x) {
+    // Every number of a trip is far from the ends of a whole number; the library's floor is a call.
+    constexpr double wide = 4e18;
+    if (!(x > -wide && x < wide))
+        return std::floor(x);
+    const auto whole = static_cast<double>(static_cast<long long>(x));
+    return whole > x ? whole - 1 : whole;
+}
 /// Rounding of a fraction that is assigned to a whole number: to the nearest, halves to the even one.
 [[nodiscard]] int arrotonda(double x);
 
