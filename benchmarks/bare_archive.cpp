@@ -56,7 +56,9 @@ std::string digits(const char* format, int n) {
 
 } // namespace
 
-void BareArchive::Closer::operator()(sqlite3* connection) const { sqlite3_close(connection); }
+void BareArchive::Closer::operator()(sqlite3* connection) const {
+    sqlite3_close(connection);
+}
 
 BareArchive::BareArchive(const QString& path) {
     sqlite3* connection = nullptr;
@@ -101,9 +103,8 @@ void BareArchive::rewriteLegs(int legs) {
 }
 
 long BareArchive::readGuide(int places) {
-    const Statement query =
-        prepare(connection_.get(), "SELECT * FROM GuidaCitta WHERE Localita = ? "
-                                   "ORDER BY CodiceGuida, TempoSosta DESC, Gruppo");
+    const Statement query = prepare(connection_.get(), "SELECT * FROM GuidaCitta WHERE Localita = ? "
+                                                       "ORDER BY CodiceGuida, TempoSosta DESC, Gruppo");
     long bytes = 0;
     for (int i = 1; i <= places; ++i) {
         bindText(query.get(), 1, digits("Luogo numero %05d", i));

@@ -8,12 +8,15 @@ namespace vanzer::bench {
 
 namespace {
 
-QString place(int i) { return QStringLiteral("Luogo numero ") + Zero(i, 5); }
+QString place(int i) {
+    return QStringLiteral("Luogo numero ") + Zero(i, 5);
+}
 
 } // namespace
 
 BigTrip::BigTrip(int legs)
-    : legs_(legs), session_({.directory = directory_.path(), .decimalMark = u'.', .versione = QStringLiteral("bench")}) {
+    : legs_(legs),
+      session_({.directory = directory_.path(), .decimalMark = u'.', .versione = QStringLiteral("bench")}) {
     session_.clock.set(QDateTime(QDate(2003, 6, 21), QTime(8, 30)));
     session_.start();
     form().cmdNuovo.click();
@@ -63,6 +66,8 @@ void BigTrip::storeGuide() {
     });
 }
 
-void BigTrip::wantTheImpossible() { form().cmbGiorni.setText(QStringLiteral("997")); }
+void BigTrip::wantTheImpossible() {
+    form().cmbGiorni.setText(QStringLiteral("997"));
+}
 
 } // namespace vanzer::bench

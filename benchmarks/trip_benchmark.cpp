@@ -71,7 +71,9 @@ QString copyOfArchive(BigTrip& trip, const QTemporaryDir& directory) {
     return copy;
 }
 
-int legs(const benchmark::State& state) { return static_cast<int>(state.range(0)); }
+int legs(const benchmark::State& state) {
+    return static_cast<int>(state.range(0));
+}
 
 } // namespace
 

@@ -44,8 +44,8 @@ std::optional<Request> requested(const QStringList& arguments) {
     const QString directory =
         parser.isSet(QStringLiteral("dir")) ? parser.value(QStringLiteral("dir")) : QStringLiteral(".");
     request.directory = QDir::cleanPath(QDir(directory).absolutePath());
-    if (directory.isEmpty() || !QDir(request.directory).exists()) {
-        say(QStringLiteral("no such directory: ") + directory);
+    if (directory.isEmpty()) {
+        say(QStringLiteral("no directory"));
         return std::nullopt;
     }
     if (parser.isSet(QStringLiteral("now"))) {
@@ -91,11 +91,9 @@ int main(int argc, char** argv) {
             return badUsage;
         }
     }
-    // Relative paths of file dialogs are taken from the program's directory.
-    if (!QDir::setCurrent(request->directory)) {
-        say(QStringLiteral("can't enter ") + request->directory);
-        return badUsage;
-    }
+    // Relative paths of file dialogs are taken from the program's directory. One that isn't there is told by the
+    // window, which can't open its archive then.
+    static_cast<void>(QDir::setCurrent(request->directory));
     batch::Interpreter interpreter(
         {.directory = request->directory, .decimalMark = QLocale::system().decimalPoint().at(0), .versione = {}});
     if (request->now)

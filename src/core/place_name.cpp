@@ -21,6 +21,8 @@ QString PulisceNomeLocalita(const QString& name) {
     return taglia(s, u'(');
 }
 
-QString RiPulisceNomeLocalita(const QString& name) { return PrimoMaiuscolo(Trim(taglia(name, u'[')), false); }
+QString RiPulisceNomeLocalita(const QString& name) {
+    return PrimoMaiuscolo(Trim(taglia(name, u'[')), false);
+}
 
 } // namespace vanzer

@@ -7,15 +7,21 @@
 
 namespace vanzer {
 
-QString Left(const QString& s, qsizetype n) { return s.left(std::max<qsizetype>(n, 0)); }
+QString Left(const QString& s, qsizetype n) {
+    return s.left(std::max<qsizetype>(n, 0));
+}
 
-QString Mid(const QString& s, qsizetype p) { return s.mid(std::max<qsizetype>(p, 1) - 1); }
+QString Mid(const QString& s, qsizetype p) {
+    return s.mid(std::max<qsizetype>(p, 1) - 1);
+}
 
 QString Mid(const QString& s, qsizetype p, qsizetype n) {
     return s.mid(std::max<qsizetype>(p, 1) - 1, std::max<qsizetype>(n, 0));
 }
 
-QString Right(const QString& s, qsizetype n) { return n <= 0 ? QString() : s.right(n); }
+QString Right(const QString& s, qsizetype n) {
+    return n <= 0 ? QString() : s.right(n);
+}
 
 QString Trim(const QString& s) {
     qsizetype first = 0;
@@ -60,7 +66,7 @@ int arrotonda(double x) {
 
 namespace {
 
-template <typename Real> QString shortest(Real x, QChar decimalMark) {
+template<typename Real> QString shortest(Real x, QChar decimalMark) {
     if (x == 0)
         return QStringLiteral("0");
     std::array<char, 512> text{};
@@ -83,9 +89,15 @@ bool isPlainLetter(QChar c) {
 
 } // namespace
 
-QString testoNumero(double x, QChar decimalMark) { return shortest(x, decimalMark); }
-QString testoNumero(float x, QChar decimalMark) { return shortest(x, decimalMark); }
-QString testoNumero(int x) { return QString::number(x); }
+QString testoNumero(double x, QChar decimalMark) {
+    return shortest(x, decimalMark);
+}
+QString testoNumero(float x, QChar decimalMark) {
+    return shortest(x, decimalMark);
+}
+QString testoNumero(int x) {
+    return QString::number(x);
+}
 
 QString migliaia(double x) {
     const QString s = migliaiaZero(x);
@@ -110,9 +122,13 @@ QString migliaiaZero(double x) {
     return QString::fromUtf16(out.data(), static_cast<qsizetype>(n));
 }
 
-QString Zero(const QString& value, int width) { return Right(QString(width, u'0') + Trim(value), width); }
+QString Zero(const QString& value, int width) {
+    return Right(QString(width, u'0') + Trim(value), width);
+}
 
-QString Zero(double value, int width) { return Zero(testoNumero(value), width); }
+QString Zero(double value, int width) {
+    return Zero(testoNumero(value), width);
+}
 
 QString AggStr(const QString& s, int width, const QString& fill) {
     return Left(s + fillCharacter(fill).repeated(width), width);
@@ -122,10 +138,18 @@ QString AntStr(const QString& s, int width, const QString& fill) {
     return Right(fillCharacter(fill).repeated(width) + s, width);
 }
 
-double Maggiore(double a, double b) { return a >= b ? a : b; }
-double Minore(double a, double b) { return a <= b ? a : b; }
-int Maggiore(int a, int b) { return a >= b ? a : b; }
-int Minore(int a, int b) { return a <= b ? a : b; }
+double Maggiore(double a, double b) {
+    return a >= b ? a : b;
+}
+double Minore(double a, double b) {
+    return a <= b ? a : b;
+}
+int Maggiore(int a, int b) {
+    return a >= b ? a : b;
+}
+int Minore(int a, int b) {
+    return a <= b ? a : b;
+}
 
 bool QuasiUguale(float a, float b, int tolerance) {
     const auto low = static_cast<float>(static_cast<double>(b) - tolerance / 3.0);
@@ -178,12 +202,20 @@ QString minuscolo(const QString& s) {
     return result;
 }
 
-bool uguale(QStringView a, QStringView b) { return a.compare(b, Qt::CaseInsensitive) == 0; }
+bool uguale(QStringView a, QStringView b) {
+    return a.compare(b, Qt::CaseInsensitive) == 0;
+}
 
-bool iniziaCon(QStringView s, QStringView start) { return s.startsWith(start, Qt::CaseInsensitive); }
+bool iniziaCon(QStringView s, QStringView start) {
+    return s.startsWith(start, Qt::CaseInsensitive);
+}
 
-bool contiene(QStringView s, QStringView part) { return s.contains(part, Qt::CaseInsensitive); }
+bool contiene(QStringView s, QStringView part) {
+    return s.contains(part, Qt::CaseInsensitive);
+}
 
-int posizione(QStringView s, QStringView part) { return static_cast<int>(s.indexOf(part, 0, Qt::CaseInsensitive)) + 1; }
+int posizione(QStringView s, QStringView part) {
+    return static_cast<int>(s.indexOf(part, 0, Qt::CaseInsensitive)) + 1;
+}
 
 } // namespace vanzer

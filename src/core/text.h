@@ -62,7 +62,8 @@ namespace vanzer {
 /// True from a third of `tolerance` below b to all of it above b, both ends included; bounds in single precision.
 [[nodiscard]] bool QuasiUguale(float a, float b, int tolerance);
 
-/// A name as a LIKE pattern: cut at the first "(" with "*" behind, and "?" for every character that would break a query.
+/// A name as a LIKE pattern: cut at the first "(" with "*" behind, and "?" for every character that would break a
+/// query.
 [[nodiscard]] QString LikeTesto(const QString& s);
 
 /// Capitals normalised: the first letter upper, letters behind an unaccented letter lower, letters behind anything

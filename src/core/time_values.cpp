@@ -50,14 +50,18 @@ QString ghmCentesimi2Stringa(float centesimi, float dayUnit) {
     return text == u"00:00:00" ? QString() : text;
 }
 
-QString ghmSenzaGiorni(float centesimi, float dayUnit) { return Mid(ghmCentesimi2Stringa(centesimi, dayUnit), 4); }
+QString ghmSenzaGiorni(float centesimi, float dayUnit) {
+    return Mid(ghmCentesimi2Stringa(centesimi, dayUnit), 4);
+}
 
 Gma Data2Gma(const QString& data) {
     const QStringView d(data);
     return {static_cast<int>(Val(d.mid(0, 2))), static_cast<int>(Val(d.mid(2, 2))), static_cast<int>(Val(d.mid(4)))};
 }
 
-QString Gma2Data(const Gma& gma) { return Zero(gma.giorno, 2) + Zero(gma.mese, 2) + Zero(gma.anno, 4); }
+QString Gma2Data(const Gma& gma) {
+    return Zero(gma.giorno, 2) + Zero(gma.mese, 2) + Zero(gma.anno, 4);
+}
 
 float Data2Giul(const QString& data) {
     const Gma d = Data2Gma(data);
@@ -83,11 +87,17 @@ Gma Giul2Data(float giuliano) {
     return {static_cast<int>(giorno), static_cast<int>(mese), static_cast<int>(anno)};
 }
 
-QString Giu2Datas(float giuliano) { return Gma2Data(Giul2Data(giuliano)); }
+QString Giu2Datas(float giuliano) {
+    return Gma2Data(Giul2Data(giuliano));
+}
 
-QString Data2Data(const QString& data) { return Mid(data, 1, 2) + u'/' + Mid(data, 3, 2) + u'/' + Mid(data, 5); }
+QString Data2Data(const QString& data) {
+    return Mid(data, 1, 2) + u'/' + Mid(data, 3, 2) + u'/' + Mid(data, 5);
+}
 
-QString DataChan(const QString& data) { return Mid(data, 5) + Mid(data, 3, 2) + Mid(data, 1, 2); }
+QString DataChan(const QString& data) {
+    return Mid(data, 5) + Mid(data, 3, 2) + Mid(data, 1, 2);
+}
 
 QString GiornoSettimana(const QString& data) {
     if (data.size() != 8)

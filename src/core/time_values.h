@@ -17,8 +17,8 @@ namespace vanzer {
 /// A day unit of 0 gives no days.
 [[nodiscard]] QString ghmCentesimi2Stringa(float centesimi, float dayUnit);
 
-/// A duration taken apart by a day unit, minutes rounded; and what it is worth again in another one. Days beyond 99 lose
-/// their leading digits, as in the text.
+/// A duration taken apart by a day unit, minutes rounded; and what it is worth again in another one. Days beyond 99
+/// lose their leading digits, as in the text.
 struct Ghm {
     double gg = 0;
     double hh = 0;

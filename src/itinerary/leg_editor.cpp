@@ -40,7 +40,9 @@ QString senzaMarca(const QString& cell, QStringView mark) {
     return contiene(cell, mark) ? Trim(QString(cell).remove(mark.toString(), Qt::CaseInsensitive)) : Trim(cell);
 }
 
-bool kmProgressivi(double kmPrecedenti) { return kmPrecedenti > sogliaProgressivi; }
+bool kmProgressivi(double kmPrecedenti) {
+    return kmPrecedenti > sogliaProgressivi;
+}
 
 TappaControllata controllaTappa(const TappaDigitata& typed) {
     TappaControllata row;

@@ -32,7 +32,7 @@ struct TappaDigitata {
 
 enum class Rifiuto {
     Nessuno,
-    KmTroppi,       ///< above 999
+    KmTroppi, ///< above 999
     LuogoMancante,
     KmELuogo,       ///< both of these
     NienteDaSegnare ///< a later row without kilometres, stop, end of day or ferry

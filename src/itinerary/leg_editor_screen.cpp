@@ -24,7 +24,9 @@ void focusPlace(Form& form) {
         form.setFocus(form.txtTappa);
 }
 
-double kmAbove(const Form& form) { return ValoreSenzaPunti(form.mfgTab.cell(form.stato.RigaCorrente - 1, 5)); }
+double kmAbove(const Form& form) {
+    return ValoreSenzaPunti(form.mfgTab.cell(form.stato.RigaCorrente - 1, 5));
+}
 
 QString roadLetter(const Serie<OptionButton>& options) {
     for (int i = 0; i < options.count(); ++i) {
@@ -303,9 +305,8 @@ void cmdMemorizza_Click(Form& form) {
         MemorizzaTappeItinerario(form);
         form.stato.PulsantiItinerario = QStringLiteral("all");
         AbilitaPulsantiMeta(form, QStringLiteral("ZZ"));
-    } else if (answer == rispostaNo &&
-               form.domanda(QStringLiteral("Vuoi recuperare l'itinerario originale?"), title, Pulsanti::SiNo) ==
-                   rispostaSi) {
+    } else if (answer == rispostaNo && form.domanda(QStringLiteral("Vuoi recuperare l'itinerario originale?"), title,
+                                                    Pulsanti::SiNo) == rispostaSi) {
         reloadDestination(form);
     }
 }
@@ -342,7 +343,8 @@ void mfgTab_DblClick(Form& form) {
     const Grid& grid = form.mfgTab;
     QString text = QStringLiteral("Dati relativi a:\n\n");
     for (int c = 1; c < grid.columns(); ++c) {
-        text += grid.cell(0, c) + u":\t"_s + QString(c == 2 ? u""_s : u"\t"_s) + u' ' + grid.cell(grid.row(), c) + u'\n';
+        text +=
+            grid.cell(0, c) + u":\t"_s + QString(c == 2 ? u""_s : u"\t"_s) + u' ' + grid.cell(grid.row(), c) + u'\n';
         if (contiene(grid.cell(0, c), u"NOTE"))
             break;
     }

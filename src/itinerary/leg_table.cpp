@@ -7,9 +7,13 @@
 
 namespace vanzer {
 
-QString luogoMemorizzato(const QString& place, int fieldSize) { return Left(place, fieldSize - 1); }
+QString luogoMemorizzato(const QString& place, int fieldSize) {
+    return Left(place, fieldSize - 1);
+}
 
-int numeroRecord(int km) { return std::max(1, (km + massimoKmRecord - 1) / massimoKmRecord); }
+int numeroRecord(int km) {
+    return std::max(1, (km + massimoKmRecord - 1) / massimoKmRecord);
+}
 
 std::vector<RecordTappa> recordDellaRiga(const RigaTappa& row, const QString& guideStops, int placeSize) {
     const bool endOfDay = row.sosta.startsWith(u'*');

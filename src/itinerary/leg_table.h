@@ -1,7 +1,7 @@
 // A leg as a row of the table and as the records that store it.
 //
-// A record holds at most 999 km: a longer leg is several records of one place, and comes back as several rows. The marks
-// " [Start]" and " [End]" live in the place's name and nowhere else. No stored text is empty.
+// A record holds at most 999 km: a longer leg is several records of one place, and comes back as several rows. The
+// marks " [Start]" and " [End]" live in the place's name and nowhere else. No stored text is empty.
 #pragma once
 
 #include <vector>

@@ -94,8 +94,8 @@ QString guideSnapshot(SegniGuida& guide, const QString& place) {
 class ScrittoreTappe {
   public:
     ScrittoreTappe(Form& form, store::Recordset& records) : form_(form), records_(records) {
-        static constexpr std::array<const char16_t*, 9> names{u"CodiceMeta", u"Sequenza",   u"Localita",
-                                                              u"Chilometri", u"NomeStrada", u"TipoStrada",
+        static constexpr std::array<const char16_t*, 9> names{u"CodiceMeta", u"Sequenza",        u"Localita",
+                                                              u"Chilometri", u"NomeStrada",      u"TipoStrada",
                                                               u"TempoSosta", u"SostaGuidaCitta", u"FineGiorno"};
         for (std::size_t i = 0; i < names.size(); ++i)
             fields_[i] = records_.campo(QString::fromUtf16(names[i]));

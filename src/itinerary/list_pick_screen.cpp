@@ -11,7 +11,9 @@ namespace {
 
 constexpr int righeSopra = 8;
 
-void showAround(Form& form) { form.mfgTab.setTopRow(Maggiore(form.stato.RigaCorrente - righeSopra, 1)); }
+void showAround(Form& form) {
+    form.mfgTab.setTopRow(Maggiore(form.stato.RigaCorrente - righeSopra, 1));
+}
 
 } // namespace
 

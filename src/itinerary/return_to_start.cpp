@@ -30,8 +30,7 @@ Ritorno ritornoAStart(const std::vector<RigaRitorno>& legs) {
         const auto here = static_cast<std::size_t>(r - 1);
         // The road between two places stands on the later one of the way out.
         const RigaRitorno& driven = legs[here + 1];
-        home.righe.push_back(
-            {legs[here].luogo, driven.strada, driven.km, driven.tipoStrada});
+        home.righe.push_back({legs[here].luogo, driven.strada, driven.km, driven.tipoStrada});
     }
     return home;
 }

@@ -20,8 +20,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 store::Recordset& openDestination(Form& form) {
-    form.archivio.StringaSQL = QStringLiteral("SELECT * FROM MeteVanzer WHERE CodiceMeta = '") +
-                               store::quotato(form.stato.CodiceMeta) + u'\'';
+    form.archivio.StringaSQL =
+        QStringLiteral("SELECT * FROM MeteVanzer WHERE CodiceMeta = '") + store::quotato(form.stato.CodiceMeta) + u'\'';
     form.archivio.RecordSetImposta(0, store::MeteVanzer);
     return form.archivio.Rs(store::MeteVanzer);
 }
@@ -196,14 +196,12 @@ class Calcolo {
 
   private:
     [[nodiscard]] bool conSoste() const {
-        return static_cast<double>(prepared_.sosteGuida) +
-                   static_cast<double>(prepared_.sosteItinerario) !=
-               0;
+        return static_cast<double>(prepared_.sosteGuida) + static_cast<double>(prepared_.sosteItinerario) != 0;
     }
 
     DatiAdeguamento fittingData() {
-        const int driving = arrotonda(
-            static_cast<double>(ghmStringa2Centesimi(form_.txtTempo(4).text(), s_.OreGuidaGiorno)));
+        const int driving =
+            arrotonda(static_cast<double>(ghmStringa2Centesimi(form_.txtTempo(4).text(), s_.OreGuidaGiorno)));
         DatiAdeguamento data;
         data.valoreMemorizzato = storedCoefficient(form_);
         data.giorniGuida = giorniDiGuida(driving, s_.OreGuidaGiorno);

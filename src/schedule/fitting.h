@@ -14,7 +14,8 @@ struct DatiAdeguamento {
 /// Days of driving alone, from the driving time in hundredths; at least 1.
 [[nodiscard]] int giorniDiGuida(int drivingTime, float oreGuidaGiorno);
 
-/// The multiplier that a fresh search starts from: wanted time over the time needed at 1, and 1 where that helps nothing.
+/// The multiplier that a fresh search starts from: wanted time over the time needed at 1, and 1 where that helps
+/// nothing.
 [[nodiscard]] double coefficienteDiPartenza(const DatiAdeguamento& data, int giorniDesiderati);
 
 class Adeguamento {

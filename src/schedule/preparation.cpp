@@ -15,7 +15,9 @@ namespace {
 /// What is left of a stop that gives way to the other source: the user still sees it.
 constexpr float sostaRidotta = 1;
 
-bool holdsMark(const QString& place, QStringView mark) { return place.contains(u'[') && contiene(place, mark); }
+bool holdsMark(const QString& place, QStringView mark) {
+    return place.contains(u'[') && contiene(place, mark);
+}
 
 void makeMarksConsistent(std::vector<TappaDaPreparare>& legs) {
     bool started = false;
@@ -79,8 +81,7 @@ class Preparatore {
   private:
     [[nodiscard]] bool conItinerario() const {
         using enum FonteSoste;
-        return with_.fonte == Itinerario || with_.fonte == Entrambe || with_.fonte == Maggiore ||
-               with_.fonte == Minore;
+        return with_.fonte == Itinerario || with_.fonte == Entrambe || with_.fonte == Maggiore || with_.fonte == Minore;
     }
     [[nodiscard]] bool conGuida() const {
         using enum FonteSoste;
@@ -109,9 +110,9 @@ class Preparatore {
         for (const VoceGuida& entry : with_.guida(PulisceNomeLocalita(leg.luogo))) {
             const float stop = sostaDellaVoce(entry.tempoSosta, with_.oreVisitaGiorno);
             const bool mention = stop == 0;
-            RigaDiLavoro& row =
-                mention ? aggiunge(RigaDiLavoro::Tipo::Menzione, leg, u" > "_s + Trim(entry.descrizione))
-                        : aggiunge(RigaDiLavoro::Tipo::SostaGuida, leg, nameOfEntry(entry));
+            RigaDiLavoro& row = mention
+                                    ? aggiunge(RigaDiLavoro::Tipo::Menzione, leg, u" > "_s + Trim(entry.descrizione))
+                                    : aggiunge(RigaDiLavoro::Tipo::SostaGuida, leg, nameOfEntry(entry));
             row.nota = with_.categoria(entry.codice);
             row.sostaGuida = stop;
             sum += static_cast<double>(stop);

@@ -23,15 +23,17 @@ constexpr int colMenzione = 18;
 
 using Celle = std::vector<QString>;
 
-QString cell(const Celle& cells, std::size_t column) { return column < cells.size() ? cells[column] : QString(); }
+QString cell(const Celle& cells, std::size_t column) {
+    return column < cells.size() ? cells[column] : QString();
+}
 
 std::vector<TappaDaPreparare> readLegs(const Grid::Rows& rows) {
     std::vector<TappaDaPreparare> legs;
     legs.reserve(rows.size());
     int number = 0;
     for (const Celle& cells : rows)
-        legs.push_back({++number, cell(cells, 1), cell(cells, 2), chilometri(cell(cells, 3)), cell(cells, 4),
-                        cell(cells, 7)});
+        legs.push_back(
+            {++number, cell(cells, 1), cell(cells, 2), chilometri(cell(cells, 3)), cell(cells, 4), cell(cells, 7)});
     return legs;
 }
 

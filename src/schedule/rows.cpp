@@ -82,7 +82,9 @@ struct Somma {
     float soste = 0;
 };
 
-QString oreDelGiorno(float time) { return ghmSenzaGiorni(time, giornoIntero); }
+QString oreDelGiorno(float time) {
+    return ghmSenzaGiorni(time, giornoIntero);
+}
 
 void notaDelGiorno(CelleViandoria& cells, Somma& day, QStringView stopsWord) {
     if (day.km != 0) {
@@ -105,7 +107,8 @@ class Chiusura {
 
     std::array<QString, righeTotali> chiude() {
         if (rows_.size() >= 2)
-            rows_[rows_.size() - 2][colFine] = u'>' + giornoEMese(schedule_.giuliano) + u'-' + oraMostrata(schedule_.ora);
+            rows_[rows_.size() - 2][colFine] =
+                u'>' + giornoEMese(schedule_.giuliano) + u'-' + oraMostrata(schedule_.ora);
         findStretch();
         for (std::size_t i = 0; i < rows_.size(); ++i)
             riga(i);
@@ -212,9 +215,13 @@ class Chiusura {
 
 } // namespace
 
-QString giornoEMese(float giuliano) { return Left(Data2Data(Giu2Datas(giuliano)), 5); }
+QString giornoEMese(float giuliano) {
+    return Left(Data2Data(Giu2Datas(giuliano)), 5);
+}
 
-QString oraMostrata(float ora) { return ghmSenzaGiorni(ora, giornoIntero); }
+QString oraMostrata(float ora) {
+    return ghmSenzaGiorni(ora, giornoIntero);
+}
 
 std::vector<CelleViandoria> celleViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work,
                                            const TestiViandoria& texts) {

@@ -34,7 +34,7 @@ using CelleViandoria = std::vector<QString>;
 struct TestiViandoria {
     /// Cells of the leg table by row and column, for what a leg's row takes over.
     std::function<const QString&(int row, int column)> tappa;
-    QString minutiPausa;                      ///< length of a break, as its list shows it
+    QString minutiPausa; ///< length of a break, as its list shows it
     float oreGuidaGiorno = 0;
     float oreVisitaGiorno = 0;
 };
@@ -45,15 +45,13 @@ struct TestiViandoria {
 
 /// Rows with notes of the days, the mark of the end, and the seven rows of totals behind one spare row are not in here:
 /// only what the simulation wrote.
-[[nodiscard]] std::vector<CelleViandoria> celleViandoria(const Viandoria& schedule,
-                                                         const std::vector<RigaDiLavoro>& work,
-                                                         const TestiViandoria& texts);
+[[nodiscard]] std::vector<CelleViandoria>
+celleViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work, const TestiViandoria& texts);
 
 /// Closes the schedule: the end's mark and the notes of the days into its rows; the result are the rows of totals.
 inline constexpr int righeTotali = 7;
 [[nodiscard]] std::array<QString, righeTotali> chiudeViandoria(std::vector<CelleViandoria>& rows,
-                                                               const Viandoria& schedule,
-                                                               const TestiViandoria& texts);
+                                                               const Viandoria& schedule, const TestiViandoria& texts);
 
 /// A row that says nothing beyond its name; the tidying takes it away.
 [[nodiscard]] bool rigaVuota(const CelleViandoria& cells);

@@ -12,11 +12,17 @@ namespace {
 using Tipo = RigaViandoria::Tipo;
 using Fine = RigaViandoria::Fine;
 
-double d(float x) { return static_cast<double>(x); }
-float f(double x) { return static_cast<float>(x); }
+double d(float x) {
+    return static_cast<double>(x);
+}
+float f(double x) {
+    return static_cast<float>(x);
+}
 
 /// Kilometres that fit into a time, in whole ones.
-int lunghezza(double speed, double hundredths) { return static_cast<int>(Int(speed * hundredths / 100)); }
+int lunghezza(double speed, double hundredths) {
+    return static_cast<int>(Int(speed * hundredths / 100));
+}
 
 class Prova {
   public:
@@ -169,8 +175,7 @@ class Prova {
 
     /// Rest days move the calendar alone; their one trace is on the row before the last one written.
     void longRest() {
-        if (p_.riposoGiorno < 1 || p_.riposoDopoGiorni < 1 ||
-            d(ultimoRiposo_) + p_.riposoDopoGiorni > d(giuliano_))
+        if (p_.riposoGiorno < 1 || p_.riposoDopoGiorni < 1 || d(ultimoRiposo_) + p_.riposoDopoGiorni > d(giuliano_))
             return;
         giuliano_ += static_cast<float>(p_.riposoGiorno);
         ultimoRiposo_ = giuliano_;

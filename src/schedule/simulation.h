@@ -44,21 +44,21 @@ struct RigaViandoria {
 
     Tipo tipo = Tipo::Tratto;
     Fine fine = Fine::Arrivo;
-    int lavoro = 0;            ///< index of the working row it comes from
-    bool verso = false;        ///< on the way: the leg goes on behind this piece
-    bool pranzo = false;       ///< lunch, dinner, night follow this piece
+    int lavoro = 0;      ///< index of the working row it comes from
+    bool verso = false;  ///< on the way: the leg goes on behind this piece
+    bool pranzo = false; ///< lunch, dinner, night follow this piece
     bool cena = false;
     bool notte = false;
-    bool pausa = false;        ///< a break follows
-    bool riposoDopo = false;   ///< a long rest falls behind this row
-    bool domani = false;       ///< the stop waited for the next day's visiting hours
-    bool spezzata = false;     ///< the stop went on over more than one day
+    bool pausa = false;      ///< a break follows
+    bool riposoDopo = false; ///< a long rest falls behind this row
+    bool domani = false;     ///< the stop waited for the next day's visiting hours
+    bool spezzata = false;   ///< the stop went on over more than one day
     int km = 0;
     int kmTotali = 0;
-    float tempo = 0;    ///< of the piece, hundredths
-    float ora = 0;      ///< the clock at the arrival, behind the stop, at the new start
-    float giuliano = 0; ///< the day of that
-    float sosta = 0;    ///< length of the stop, rounded to whole minutes
+    float tempo = 0;      ///< of the piece, hundredths
+    float ora = 0;        ///< the clock at the arrival, behind the stop, at the new start
+    float giuliano = 0;   ///< the day of that
+    float sosta = 0;      ///< length of the stop, rounded to whole minutes
     float sostaGuida = 0; ///< length that the guide asks for
 };
 
@@ -73,15 +73,15 @@ struct PannelloViandoria {
 
 struct Viandoria {
     enum class Esito {
-        Completa,       ///< all rows were walked
-        TroppiGiorni,   ///< ended as soon as it passed the wanted days
+        Completa,     ///< all rows were walked
+        TroppiGiorni, ///< ended as soon as it passed the wanted days
         Interrotta
     };
     Esito esito = Esito::Completa;
     std::vector<RigaViandoria> righe;
     PannelloViandoria pannello;
-    int giorni = 0;     ///< days of the trip
-    float ora = 0;      ///< clock at the end
+    int giorni = 0; ///< days of the trip
+    float ora = 0;  ///< clock at the end
     float giuliano = 0;
     int traghetti = 0;
 };

@@ -14,7 +14,9 @@ int indiceStrada(QStringView letter) {
     return at < 0 ? 3 : static_cast<int>(at);
 }
 
-double tempoTratta(int km, double speed) { return speed > 0 ? Int(km / speed * 100 + 0.5) : 0; }
+double tempoTratta(int km, double speed) {
+    return speed > 0 ? Int(km / speed * 100 + 0.5) : 0;
+}
 
 TotaliItinerario calcolaTotali(const std::vector<Tratto>& legs, const Medie& speeds) {
     TotaliItinerario totals;

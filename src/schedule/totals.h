@@ -28,7 +28,7 @@ struct TotaliItinerario {
         float tempo = 0;         ///< hundredths
         float kmProgressivi = 0; ///< up to and with this leg
     };
-    std::vector<Riga> righe; ///< one for each leg
+    std::vector<Riga> righe;      ///< one for each leg
     std::array<float, 5> km{};    ///< by road type, and in all
     std::array<float, 5> tempo{}; ///< hundredths
     int traghetti = 0;

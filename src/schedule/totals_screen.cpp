@@ -24,8 +24,8 @@ Tratti readLegs(Form& form) {
             grid.clearRow(r, 0);
             continue;
         }
-        read.legs.push_back({chilometri(grid.cell(r, 3)), indiceStrada(grid.cell(r, 4)),
-                             contiene(grid.cell(r, 2), u"TRAGH")});
+        read.legs.push_back(
+            {chilometri(grid.cell(r, 3)), indiceStrada(grid.cell(r, 4)), contiene(grid.cell(r, 2), u"TRAGH")});
         read.rows.push_back(r);
     }
     return read;

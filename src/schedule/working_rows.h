@@ -11,9 +11,9 @@ struct RigaDiLavoro {
     enum class Tipo { Tappa, SostaItinerario, SostaGuida, Menzione };
 
     Tipo tipo = Tipo::Tappa;
-    int tappa = 0;          ///< row of the leg in the table, from 1
-    int km = 0;             ///< of the leg; 0 on all other rows
-    int strada = 0;         ///< index of the road type
+    int tappa = 0;  ///< row of the leg in the table, from 1
+    int km = 0;     ///< of the leg; 0 on all other rows
+    int strada = 0; ///< index of the road type
     bool traghetto = false;
     bool fineGiorno = false; ///< the day ends behind this row
     float sostaFissa = 0;    ///< itinerary stop, hundredths

@@ -208,7 +208,8 @@ void Archive::rimetteVisti(const std::unordered_set<qint64>& used) {
     const auto write = [&](const QByteArray& value, const auto& rowids) {
         if (rowids.empty())
             return;
-        const StatementLease change = archive().prepara("UPDATE " + table + " SET " + mark + "='" + value + "' WHERE rowid=?");
+        const StatementLease change =
+            archive().prepara("UPDATE " + table + " SET " + mark + "='" + value + "' WHERE rowid=?");
         for (const qint64 rowid : rowids) {
             change->bind(1, rowid);
             archive().scrive(*guide, *change);

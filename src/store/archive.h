@@ -86,8 +86,8 @@ class Archive {
     /// hears the begin and the end if there is anything to delete.
     void CancellaTabella(int table, const QString& field, const QString& value, const Progress& progress = {});
 
-    /// Exactly these entries of the guide carry the mark of use from here on. Costs what is marked before and after, not
-    /// the size of the guide, and writes only what changes.
+    /// Exactly these entries of the guide carry the mark of use from here on. Costs what is marked before and after,
+    /// not the size of the guide, and writes only what changes.
     void rimetteVisti(const std::unordered_set<qint64>& used);
 
     /// Commands on the archive in use, see Database.

@@ -6,7 +6,9 @@ namespace vanzer {
 
 namespace {
 
-bool before(const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; }
+bool before(const QString& a, const QString& b) {
+    return a.compare(b, Qt::CaseInsensitive) < 0;
+}
 
 } // namespace
 
@@ -17,9 +19,13 @@ QString Control::name() const {
     return index_ < 0 ? baseName_ : baseName_ + u'(' + QString::number(index_) + u')';
 }
 
-void Control::setVisible(bool on) { assign(visible_, on); }
+void Control::setVisible(bool on) {
+    assign(visible_, on);
+}
 
-void Control::setEnabled(bool on) { assign(enabled_, on); }
+void Control::setEnabled(bool on) {
+    assign(enabled_, on);
+}
 
 bool Control::reachable() const {
     for (const Control* c = this; c != nullptr; c = c->frame_) {
@@ -29,17 +35,27 @@ bool Control::reachable() const {
     return true;
 }
 
-void Control::setTooltip(const QString& text) { assign(tooltip_, text); }
+void Control::setTooltip(const QString& text) {
+    assign(tooltip_, text);
+}
 
 void Control::place(int left, int top, int width, int height) {
     geometria_ = {left, top, width, height};
     emit changed();
 }
 
-void Control::setLeft(int left) { assign(geometria_.left, left); }
-void Control::setTop(int top) { assign(geometria_.top, top); }
-void Control::setWidth(int width) { assign(geometria_.width, width); }
-void Control::setHeight(int height) { assign(geometria_.height, height); }
+void Control::setLeft(int left) {
+    assign(geometria_.left, left);
+}
+void Control::setTop(int top) {
+    assign(geometria_.top, top);
+}
+void Control::setWidth(int width) {
+    assign(geometria_.width, width);
+}
+void Control::setHeight(int height) {
+    assign(geometria_.height, height);
+}
 
 void Button::click() {
     if (onClick)
@@ -92,7 +108,9 @@ void TextControl::leave() {
         onLostFocus();
 }
 
-void TextBox::type(const QString& text) { setText(maxLength_ > 0 ? text.left(maxLength_) : text); }
+void TextBox::type(const QString& text) {
+    setText(maxLength_ > 0 ? text.left(maxLength_) : text);
+}
 
 ListControl::ListControl(QString baseName, int index, Frame* frame, bool box)
     : TextControl(std::move(baseName), index, frame), box_(box) {}
@@ -119,9 +137,8 @@ void ListControl::clear() {
 }
 
 bool ListControl::pick(const QString& entry) {
-    const auto found = std::find_if(entries_.cbegin(), entries_.cend(), [&entry](const QString& e) {
-        return e.compare(entry, Qt::CaseInsensitive) == 0;
-    });
+    const auto found = std::find_if(entries_.cbegin(), entries_.cend(),
+                                    [&entry](const QString& e) { return e.compare(entry, Qt::CaseInsensitive) == 0; });
     if (found == entries_.cend())
         return false;
     setText(*found);

@@ -54,7 +54,7 @@ class Control : public QObject {
     void changed();
 
   protected:
-    template <typename T> void assign(T& member, const T& value) {
+    template<typename T> void assign(T& member, const T& value) {
         if (member == value)
             return;
         member = value;

@@ -9,7 +9,9 @@ namespace vanzer {
 
 namespace {
 
-qint64 cellKey(int row, int column) { return static_cast<qint64>(row) * 64 + column; }
+qint64 cellKey(int row, int column) {
+    return static_cast<qint64>(row) * 64 + column;
+}
 
 const QString emptyCell;
 
@@ -25,7 +27,9 @@ Grid::Grid(QString baseName, int index, Frame* frame, int rows, int columns)
 
 Grid::~Grid() = default;
 
-QAbstractTableModel& Grid::model() { return *model_; }
+QAbstractTableModel& Grid::model() {
+    return *model_;
+}
 
 void Grid::keepInside() {
     const int last = rows() - 1;
@@ -163,9 +167,13 @@ void Grid::setContents(Rows&& rows) {
     setRedraw(true);
 }
 
-void Grid::setCurrent(int row, int column) { select(row, column, row, column); }
+void Grid::setCurrent(int row, int column) {
+    select(row, column, row, column);
+}
 
-void Grid::setRowSel(int row) { select(row_, col_, row, colSel_); }
+void Grid::setRowSel(int row) {
+    select(row_, col_, row, colSel_);
+}
 
 void Grid::select(int row, int column, int rowSel, int colSel) {
     row_ = row;
@@ -182,11 +190,17 @@ void Grid::setTopRow(int row) {
     emit selectionChanged();
 }
 
-int Grid::columnWidth(int column) const { return widths_[static_cast<std::size_t>(column)]; }
+int Grid::columnWidth(int column) const {
+    return widths_[static_cast<std::size_t>(column)];
+}
 
-void Grid::setColumnWidth(int column, int twips) { assign(widths_[static_cast<std::size_t>(column)], twips); }
+void Grid::setColumnWidth(int column, int twips) {
+    assign(widths_[static_cast<std::size_t>(column)], twips);
+}
 
-Allineamento Grid::alignment(int column) const { return alignments_[static_cast<std::size_t>(column)]; }
+Allineamento Grid::alignment(int column) const {
+    return alignments_[static_cast<std::size_t>(column)];
+}
 
 void Grid::setAlignment(int column, Allineamento alignment) {
     assign(alignments_[static_cast<std::size_t>(column)], alignment);
@@ -201,7 +215,9 @@ void Grid::setMarked(int row, int column, bool on) {
         emit model_->dataChanged(model_->index(row - 1, column), model_->index(row - 1, column));
 }
 
-bool Grid::marked(int row, int column) const { return marked_.contains(cellKey(row, column)); }
+bool Grid::marked(int row, int column) const {
+    return marked_.contains(cellKey(row, column));
+}
 
 void Grid::setRedraw(bool on) {
     if (!on) {
@@ -231,9 +247,13 @@ void Grid::pressKey(int code) {
         onKeyPress(code);
 }
 
-int GridModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : grid_.rows() - 1; }
+int GridModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : grid_.rows() - 1;
+}
 
-int GridModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : grid_.columns(); }
+int GridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : grid_.columns();
+}
 
 QVariant GridModel::data(const QModelIndex& index, int role) const {
     const int row = index.row() + 1;

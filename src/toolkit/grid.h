@@ -1,5 +1,5 @@
-// The grid of text cells: one fixed head row, one fixed column, a current row, a selection. Row 0 is the head row; as an
-// item model the rows from 1 on are the model's rows and row 0 gives the headings.
+// The grid of text cells: one fixed head row, one fixed column, a current row, a selection. Row 0 is the head row; as
+// an item model the rows from 1 on are the model's rows and row 0 gives the headings.
 #pragma once
 
 #include <functional>

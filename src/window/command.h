@@ -7,8 +7,8 @@
 
 namespace vanzer {
 
-/// Runs a handler. When the archive fails, what the command wrote is undone, the user is told, and the buttons are again
-/// as they were before it. A command that runs inside another one's event yield belongs to that one.
+/// Runs a handler. When the archive fails, what the command wrote is undone, the user is told, and the buttons are
+/// again as they were before it. A command that runs inside another one's event yield belongs to that one.
 void comando(Form& form, const std::function<void()>& handler);
 
 } // namespace vanzer

@@ -5,7 +5,8 @@
 
 namespace vanzer {
 
-/// Asks "Confermi ...?" with yes and no; `what` is a code of the known questions or a text. The answer goes to Risposta.
+/// Asks "Confermi ...?" with yes and no; `what` is a code of the known questions or a text. The answer goes to
+/// Risposta.
 void BoxConferma(Form& form, const QString& what);
 
 } // namespace vanzer

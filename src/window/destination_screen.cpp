@@ -37,9 +37,8 @@ constexpr std::array<CampoCoppia, 6> meals{{{coppiaColazione, u"OraColazione"},
                                             {coppiaCena, u"OraCena"},
                                             {coppiaDurataCena, u"DurataCena"},
                                             {coppiaNotte, u"OraNotte"}}};
-constexpr std::array<CampoCoppia, 3> visits{{{coppiaInizioVisita, u"InizioVisita"},
-                                             {coppiaFineVisita, u"FineVisita"},
-                                             {coppiaTraghetti, u"OreTraghetti"}}};
+constexpr std::array<CampoCoppia, 3> visits{
+    {{coppiaInizioVisita, u"InizioVisita"}, {coppiaFineVisita, u"FineVisita"}, {coppiaTraghetti, u"OreTraghetti"}}};
 constexpr std::array<const char16_t*, 4> speedFields{u"MediaAutostrada", u"MediaSuperstrada", u"MediaPrincipale",
                                                      u"MediaLocale"};
 
@@ -145,10 +144,9 @@ void writeRecord(Form& form, store::Recordset& record) {
 
 /// The stored destination that a save without a code means, left open in its slot.
 bool findSameName(Form& form) {
-    store::Recordset& found =
-        open(form, store::MeteVanzer,
-             QStringLiteral("SELECT * FROM MeteVanzer WHERE Localita LIKE '") +
-                 store::quotato(LikeTesto(form.txtLocalita.text())) + u'\'');
+    store::Recordset& found = open(form, store::MeteVanzer,
+                                   QStringLiteral("SELECT * FROM MeteVanzer WHERE Localita LIKE '") +
+                                       store::quotato(LikeTesto(form.txtLocalita.text())) + u'\'');
     while (!found.EOF_() && !stessaMeta(found.testo(QStringLiteral("Localita")), form.txtLocalita.text()))
         found.MoveNext();
     return !found.EOF_();

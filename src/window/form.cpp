@@ -26,11 +26,13 @@ constexpr std::array<std::pair<int, int>, 10> inside{{
 /// The frame of each pair of clock lists: meals, visits, ferries.
 constexpr std::array<int, 9> clockFrames{6, 6, 6, 6, 6, 6, 5, 5, 11};
 
-QString key(const QString& name) { return minuscolo(name); }
+QString key(const QString& name) {
+    return minuscolo(name);
+}
 
 } // namespace
 
-template <typename T, typename... Args> T& Form::one(const char* name, int frame, Args... args) {
+template<typename T, typename... Args> T& Form::one(const char* name, int frame, Args... args) {
     Frame* const parent = frame == finestra ? nullptr : frames[static_cast<std::size_t>(frame)];
     auto control = std::make_unique<T>(QString::fromLatin1(name), -1, parent, args...);
     T& made = *control;
@@ -39,7 +41,7 @@ template <typename T, typename... Args> T& Form::one(const char* name, int frame
     return made;
 }
 
-template <typename T, typename... Args> Serie<T> Form::many(const char* name, int frame, int count, Args... args) {
+template<typename T, typename... Args> Serie<T> Form::many(const char* name, int frame, int count, Args... args) {
     Frame* const parent = frame == finestra ? nullptr : frames[static_cast<std::size_t>(frame)];
     std::vector<T*> made;
     for (int i = 0; i < count; ++i) {

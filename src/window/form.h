@@ -17,7 +17,7 @@
 namespace vanzer {
 
 /// An array of controls of one name.
-template <typename T> class Serie {
+template<typename T> class Serie {
   public:
     explicit Serie(std::vector<T*> controls) : controls_(std::move(controls)) {}
     [[nodiscard]] T& operator()(int i) const { return *controls_[static_cast<std::size_t>(i)]; }
@@ -31,9 +31,9 @@ template <typename T> class Serie {
 
 /// What the surroundings give the window once and for all.
 struct Ambiente {
-    QString directory;         ///< the program's directory
-    QChar decimalMark = u'.';  ///< of numbers that are shown or stored as text
-    QString versione;          ///< "1.0.0"
+    QString directory;        ///< the program's directory
+    QChar decimalMark = u'.'; ///< of numbers that are shown or stored as text
+    QString versione;         ///< "1.0.0"
 };
 
 class Form {
@@ -85,8 +85,8 @@ class Form {
     std::map<QString, Control*> byName_;
     Control* focus_ = nullptr;
 
-    template <typename T, typename... Args> T& one(const char* name, int frame, Args... args);
-    template <typename T, typename... Args> Serie<T> many(const char* name, int frame, int count, Args... args);
+    template<typename T, typename... Args> T& one(const char* name, int frame, Args... args);
+    template<typename T, typename... Args> Serie<T> many(const char* name, int frame, int count, Args... args);
     void buildFrames();
     bool framesBuilt_ = (buildFrames(), true);
     static constexpr int finestra = -1; // the window itself, in place of a frame

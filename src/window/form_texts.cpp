@@ -99,8 +99,9 @@ constexpr auto captions = std::to_array<Testo>({
     {u"cmdImExp(1)", u"&Fine"},
     {u"lblExIstruzioni", u"(Clicca sulla meta che vuoi trasferire da/a Export)"},
     // Guide editor
-    {u"lblGNota", u"Per inserire una nuova annotazione, posizionarsi sulla prima riga della località (quella vuota); per "
-                  u"cancellare/modificare, posizionarsi su quella da cancellare."},
+    {u"lblGNota",
+     u"Per inserire una nuova annotazione, posizionarsi sulla prima riga della località (quella vuota); per "
+     u"cancellare/modificare, posizionarsi su quella da cancellare."},
     {u"cmdFind", u"C&erca"},
     {u"cmdSalvaRiga", u"&Salva riga"},
     {u"cmdCancellaRiga", u"&Cancella riga"},
@@ -237,7 +238,7 @@ void writeCaption(Control& control, const QString& text) {
         option->setCaption(text);
 }
 
-template <typename Write> void forEachNamed(Form& form, const QString& name, Write write) {
+template<typename Write> void forEachNamed(Form& form, const QString& name, Write write) {
     if (Control* const control = form.find(name)) {
         write(*control);
         return;

@@ -10,7 +10,9 @@ enum class Disposizione { Tappe = 1, Guida = 2, TappeDaCopiare = 3, Mete = 4, Ri
 /// Lays out the grid that the layout belongs to; a number outside 1 to 5 does nothing. Heads that the layout doesn't
 /// name stay as they are.
 void ImpostaGriglia(Form& form, int n);
-inline void ImpostaGriglia(Form& form, Disposizione d) { ImpostaGriglia(form, static_cast<int>(d)); }
+inline void ImpostaGriglia(Form& form, Disposizione d) {
+    ImpostaGriglia(form, static_cast<int>(d));
+}
 
 /// Selects a block of the table; rows and columns are kept inside it, an end column above 20 means the last one. A row
 /// above the visible part comes into view.

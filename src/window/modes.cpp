@@ -9,7 +9,9 @@ namespace {
 const QString allMeta = QStringLiteral("NuRiSaCmCaStItGcCiEsImEx");
 const QString allItinerario = QStringLiteral("InAgCaRcRtCeFiMeDuAzTr");
 
-bool isAll(const QString& codes) { return uguale(codes, u"all"); }
+bool isAll(const QString& codes) {
+    return uguale(codes, u"all");
+}
 
 void enableMenu(Form& form) {
     const QString& codes = form.stato.PulsantiMeta;

@@ -29,7 +29,7 @@ QStringList values(const Intervallo& range, bool zeros = true) {
 constexpr std::array<Intervallo, 4> speeds{{{50, 140, 3, 5}, {45, 110, 3, 5}, {30, 70, 3, 5}, {20, 60, 3, 5}}};
 constexpr std::array<Intervallo, numeroCoppie> hours{
     {{0, 11, 2}, {11, 15, 2}, {18, 21, 2}, {20, 24, 2}, {0, 2, 2}, {0, 2, 2}, {0, 11, 2}, {16, 24, 2}, {1, 24, 2}}};
-constexpr std::array<const char16_t*, 6> sources{u"1 - Soste itinerario", u"2 - Soste Guida",   u"3 - Entrambe",
+constexpr std::array<const char16_t*, 6> sources{u"1 - Soste itinerario", u"2 - Soste Guida",  u"3 - Entrambe",
                                                  u"4 - Sosta Maggiore ",  u"5 - Sosta minore", u"6 - Nessuna sosta!"};
 
 const QStringList quarters{QStringLiteral("00"), QStringLiteral("15"), QStringLiteral("30"), QStringLiteral("45")};
@@ -242,9 +242,9 @@ void boundClock(StatoViaggio& s) {
 } // namespace
 
 float& variabileCoppia(StatoViaggio& stato, int pair) {
-    const std::array<float*, numeroCoppie> variables{
-        &stato.OraColazione, &stato.OraPranzo,    &stato.OraCena,    &stato.OraNotte,    &stato.DurataPranzo,
-        &stato.DurataCena,   &stato.InizioVisita, &stato.FineVisita, &stato.OreTraghetti};
+    const std::array<float*, numeroCoppie> variables{&stato.OraColazione, &stato.OraPranzo,    &stato.OraCena,
+                                                     &stato.OraNotte,     &stato.DurataPranzo, &stato.DurataCena,
+                                                     &stato.InizioVisita, &stato.FineVisita,   &stato.OreTraghetti};
     return *variables[static_cast<std::size_t>(pair)];
 }
 
@@ -264,7 +264,8 @@ void MetteAdesso(Form& form) {
     form.cmbInizio(1).setText(Zero(now.date().month(), 2));
     form.cmbInizio(2).setText(Zero(now.date().year(), 4));
     form.cmbInizio(3).setText(Zero(now.time().hour(), 2));
-    form.cmbInizio(4).setText(Zero(now.time().minute() / 15 * 15, 2));
+    const int quarter = now.time().minute() / 15;
+    form.cmbInizio(4).setText(Zero(quarter * 15, 2));
 }
 
 void CaricaRange(Form& form) {
@@ -377,14 +378,16 @@ void MettiGiornoSett(Form& form) {
 
 void ImpostaGiorniMeseInizio(Form& form) {
     const int shown = static_cast<int>(Val(form.cmbInizio(0).text()));
-    const int days = GiorniMese(static_cast<int>(Val(form.cmbInizio(2).text())),
-                                static_cast<int>(Val(form.cmbInizio(1).text())));
+    const int days =
+        GiorniMese(static_cast<int>(Val(form.cmbInizio(2).text())), static_cast<int>(Val(form.cmbInizio(1).text())));
     form.cmbInizio(0).setEntries(values({1, days, 2}));
     form.cmbInizio(0).setText(Zero(Minore(shown, days), 2));
     MettiGiornoSett(form);
 }
 
-void cmbOra_Change(Form& form, int i) { variabileCoppia(form.stato, i) = timeShown(form, i); }
+void cmbOra_Change(Form& form, int i) {
+    variabileCoppia(form.stato, i) = timeShown(form, i);
+}
 
 void cmbInizio_Click(Form& form, int i) {
     if (i != 0)

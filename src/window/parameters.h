@@ -1,4 +1,5 @@
-// The planning parameters: the value lists, the user's defaults, and the checks that keep the clock of the day in order.
+// The planning parameters: the value lists, the user's defaults, and the checks that keep the clock of the day in
+// order.
 #pragma once
 
 #include "window/form.h"

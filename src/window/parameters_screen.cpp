@@ -8,8 +8,8 @@ namespace vanzer {
 void cmdDefault_Click(Form& form, int i) {
     static constexpr std::array<const char16_t*, 3> verbs{u"salvare", u"caricare", u"ripristinare"};
     const QString title = QStringLiteral("Dati di default");
-    const QString question = QStringLiteral("Vuoi %1 i dati di default?")
-                                 .arg(QString::fromUtf16(verbs[static_cast<std::size_t>(i)]));
+    const QString question =
+        QStringLiteral("Vuoi %1 i dati di default?").arg(QString::fromUtf16(verbs[static_cast<std::size_t>(i)]));
     if (form.domanda(question, title, Pulsanti::SiNo) != rispostaSi)
         return;
     if (i == 0)

@@ -75,9 +75,7 @@ void wireLegEditor(Form& form) {
     form.cmdTrasferisce.onClick = wired(form, cmdTrasferisce_Click);
     form.mfgTab.onClick = wired(form, mfgTab_Click);
     form.mfgTab.onDblClick = wired(form, mfgTab_DblClick);
-    form.mfgTab.onKeyPress = [&form](int& code) {
-        comando(form, [&form, code] { mfgTab_KeyPress(form, code); });
-    };
+    form.mfgTab.onKeyPress = [&form](int& code) { comando(form, [&form, code] { mfgTab_KeyPress(form, code); }); };
 }
 
 void wireGuide(Form& form) {
@@ -86,14 +84,14 @@ void wireGuide(Form& form) {
     form.cmdCancellaRiga.onClick = wired(form, cmdCancellaRiga_Click);
     form.cmdFind.onClick = wired(form, cmdFind_Click);
     form.cmdFineInserimento.onClick = wired(form, cmdFineInserimento_Click);
-    form.txtGDescr.onKeyDown = [&form](int code) {
-        comando(form, [&form, code] { txtGDescr_KeyDown(form, code); });
-    };
+    form.txtGDescr.onKeyDown = [&form](int code) { comando(form, [&form, code] { txtGDescr_KeyDown(form, code); }); };
     form.txtGDescr.onKeyPress = [&form](int& code) { txtGDescr_KeyPress(form, code); };
     form.txtGGruppo.onKeyPress = [&form](int& code) { txtGGruppo_KeyPress(form, code); };
 }
 
-void dropKey(int& code) { code = 0; }
+void dropKey(int& code) {
+    code = 0;
+}
 
 void digitsOnly(int& code) {
     if (code < u'0' || code > u'9')
@@ -111,8 +109,8 @@ void upperCase(int& code) {
 }
 
 void wireKeys(Form& form) {
-    for (TextControl* const control : {&form.cmbRange, &form.cmbSoste, &form.cmbRipG, &form.cmbRipGG, &form.cmbRipH,
-                                       &form.cmbRipM})
+    for (TextControl* const control :
+         {&form.cmbRange, &form.cmbSoste, &form.cmbRipG, &form.cmbRipGG, &form.cmbRipH, &form.cmbRipM})
         control->onKeyPress = dropKey;
     for (const auto* const lists : {&form.cmbInizio, &form.cmbMin, &form.cmbOra, &form.cmbSosta}) {
         for (ListControl* const list : *lists)
@@ -157,9 +155,9 @@ void openArchive(Form& form) {
     form.lblPath.setCaption(form.archivio.PercorsoDatabase);
 }
 
-constexpr std::array<const char16_t*, 10> firstCategories{u"Ottimo",     u"Da vedere", u"Interessante",  u"Vedibile",
-                                                          u"Punto Sosta", u"PS e CS",  u"Campeggio",     u"Ristorante",
-                                                          u"Gpl",         u"Diari di bordo"};
+constexpr std::array<const char16_t*, 10> firstCategories{
+    u"Ottimo",  u"Da vedere", u"Interessante", u"Vedibile", u"Punto Sosta",
+    u"PS e CS", u"Campeggio", u"Ristorante",   u"Gpl",      u"Diari di bordo"};
 
 store::Recordset& openCategories(Form& form) {
     form.archivio.StringaSQL = QStringLiteral("SELECT * FROM TipoGuida ORDER BY CodiceGuida");
@@ -250,6 +248,12 @@ void Form_Load(Form& form) {
     });
 }
 
+/// A damaged file needs no more words; every other reason is one that the user can do something about.
+QString openingFailed(const Form& form, const store::StoreError& error) {
+    const QString text = QStringLiteral("Errore apertura database ") + form.archivio.PercorsoDatabase;
+    return error.kind() == store::StoreError::Kind::Corrupt ? text : text + QStringLiteral("\n\n") + error.testo();
+}
+
 } // namespace
 
 std::unique_ptr<Form> avvia(const Ambiente& surroundings, Ports& ports) {
@@ -260,13 +264,15 @@ std::unique_ptr<Form> avvia(const Ambiente& surroundings, Ports& ports) {
     try {
         Form_Load(*form);
     } catch (const store::StoreError& error) {
-        form->messaggio(error.testo(), {}, Icona::Avviso);
+        form->messaggio(openingFailed(*form, error));
         form->archivio.chiudi();
         form->chiusa = true;
     }
     return form;
 }
 
-QString versioneProgramma() { return QStringLiteral(VANZER_VERSION); }
+QString versioneProgramma() {
+    return QStringLiteral(VANZER_VERSION);
+}
 
 } // namespace vanzer

@@ -17,8 +17,8 @@ TEST(Text, ValReadsTheLeadingNumber) {
         const char16_t* text;
         double value;
     } cases[] = {
-        {u"12", 12},   {u" 1 2.5x", 12.5}, {u"-3", -3}, {u"0,75", 0}, {u"", 0},        {u"abc", 0},
-        {u"1.2.3", 1.2}, {u"08:30", 8},    {u"+7", 7},  {u"-", 0},    {u"1e3", 1},     {u"  009 ", 9},
+        {u"12", 12},     {u" 1 2.5x", 12.5}, {u"-3", -3}, {u"0,75", 0}, {u"", 0},    {u"abc", 0},
+        {u"1.2.3", 1.2}, {u"08:30", 8},      {u"+7", 7},  {u"-", 0},    {u"1e3", 1}, {u"  009 ", 9},
     };
     for (const auto& c : cases)
         EXPECT_EQ(Val(c.text), c.value) << QString::fromUtf16(c.text).toStdString();
@@ -94,9 +94,12 @@ TEST(Durate, BothWays) {
         float value;
         const char16_t* back;
     } cases[] = {
-        {u"01:08:30", 1000, 1850, u"01:08:30"}, {u"08:30", 2400, 850, u"00:08:30"},
-        {u"", 2400, 0, u""},                    {u"00:00:00", 2400, 0, u""},
-        {u"*00:02:00", 900, 200, u"00:02:00"},  {u"00:24:00", 2400, 2400, u"01:00:00"},
+        {u"01:08:30", 1000, 1850, u"01:08:30"},
+        {u"08:30", 2400, 850, u"00:08:30"},
+        {u"", 2400, 0, u""},
+        {u"00:00:00", 2400, 0, u""},
+        {u"*00:02:00", 900, 200, u"00:02:00"},
+        {u"00:24:00", 2400, 2400, u"01:00:00"},
         {u"02:00:15", 900, 1825, u"02:00:15"},
     };
     for (const auto& c : cases) {
@@ -142,7 +145,8 @@ TEST(Date, JulianDayAndBack) {
 TEST(Date, DaysOfTheMonth) {
     const struct {
         int year, month, days;
-    } cases[] = {{1900, 2, 28}, {2000, 2, 29}, {2004, 2, 29}, {2001, 0, 31}, {2001, 13, 28}, {2003, 6, 30}, {2003, 12, 31}};
+    } cases[] = {{1900, 2, 28},  {2000, 2, 29}, {2004, 2, 29}, {2001, 0, 31},
+                 {2001, 13, 28}, {2003, 6, 30}, {2003, 12, 31}};
     for (const auto& c : cases)
         EXPECT_EQ(GiorniMese(c.year, c.month), c.days) << c.year << '-' << c.month;
 }
@@ -181,9 +185,10 @@ TEST(NomiDiLuogo, FormOfTheGuide) {
         const char16_t* name;
         const char16_t* filed;
     } cases[] = {
-        {u"Roma (centro)", u"Roma"},     {u"near Firenze", u"Firenze"},       {u"Vicino Firenze", u"Firenze"},
-        {u"CVL  Siena", u" Siena"},      {u"Vicino near Roma", u"near Roma"}, {u"near vicino Roma", u"Roma"},
-        {u"PISA [Start] [End]", u"PISA"}, {u"(solo)", u""},
+        {u"Roma (centro)", u"Roma"},         {u"near Firenze", u"Firenze"},
+        {u"Vicino Firenze", u"Firenze"},     {u"CVL  Siena", u" Siena"},
+        {u"Vicino near Roma", u"near Roma"}, {u"near vicino Roma", u"Roma"},
+        {u"PISA [Start] [End]", u"PISA"},    {u"(solo)", u""},
     };
     for (const auto& c : cases)
         EXPECT_EQ(PulisceNomeLocalita(QString::fromUtf16(c.name)), QString::fromUtf16(c.filed));

@@ -52,7 +52,7 @@ TEST(ReturnToStart, DrivesTheSameRoads) {
     out[2] = {u"C"_s, u"TRAGHETTO"_s, u"0"_s, u"A"_s};
     const std::vector<RigaRitorno> expected{
         {u"C"_s, u"SS4"_s, u"40"_s, u"S"_s},
-        {u"B"_s, u"TRAGHETTO"_s, {}, u"A"_s},
+        {u"B"_s, u"TRAGHETTO"_s, u"0"_s, u"A"_s},
         {u"A"_s, u"SS2"_s, u"20"_s, u"S"_s},
     };
     EXPECT_EQ(ritornoAStart(out).righe, expected);

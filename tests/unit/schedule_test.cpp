@@ -31,11 +31,11 @@ std::vector<std::string> prepared(const std::vector<TappaDaPreparare>& legs, Fon
     with.categoria = [](int) { return u"Ottimo"_s; };
     std::vector<std::string> rows;
     for (const RigaDiLavoro& row : preparaRighe(legs, with).righe) {
-        const float stop = row.tipo == Tipo::SostaGuida ? row.sostaGuida : row.sostaFissa;
-        rows.push_back(row.nome.toStdString() +
-                       (row.tipo == Tipo::Tappa || row.tipo == Tipo::Menzione ? ""
-                                                                              : "=" + testoNumero(stop).toStdString()) +
-                       (row.fineGiorno ? "*" : ""));
+        std::string& text = rows.emplace_back(row.nome.toStdString());
+        if (row.tipo == Tipo::SostaGuida || row.tipo == Tipo::SostaItinerario)
+            (text += '=') += testoNumero(row.tipo == Tipo::SostaGuida ? row.sostaGuida : row.sostaFissa).toStdString();
+        if (row.fineGiorno)
+            text += '*';
     }
     return rows;
 }
@@ -49,8 +49,8 @@ using Rows = std::vector<std::string>;
 } // namespace
 
 TEST(Totali, ByRoadTypeAndRunning) {
-    const TotaliItinerario t = calcolaTotali(
-        {{0, 3, false}, {100, 0, false}, {50, 3, true}, {0, 2, true}}, {80, 65, 50, 30});
+    const TotaliItinerario t =
+        calcolaTotali({{0, 3, false}, {100, 0, false}, {50, 3, true}, {0, 2, true}}, {80, 65, 50, 30});
     EXPECT_EQ(t.km, (std::array<float, 5>{100, 0, 0, 50, 150}));
     EXPECT_EQ(t.tempo, (std::array<float, 5>{125, 0, 0, 167, 292}));
     EXPECT_EQ(t.traghetti, 2);
@@ -82,8 +82,9 @@ TEST(Totali, LeastDaysAndTheirList) {
 
 TEST(Preparazione, SourcesOfTheStops) {
     const std::map<QString, std::vector<VoceGuida>> guide{
-        {u"Roma"_s, {entry(u"Foro"_s, u"02:00"_s, u"A"_s), entry(u"Colosseo"_s, u"01:00"_s, u"0"_s),
-                     entry(u"Area"_s, u"00:00"_s, u"B"_s)}}};
+        {u"Roma"_s,
+         {entry(u"Foro"_s, u"02:00"_s, u"A"_s), entry(u"Colosseo"_s, u"01:00"_s, u"0"_s),
+          entry(u"Area"_s, u"00:00"_s, u"B"_s)}}};
     const std::vector<TappaDaPreparare> legs{leg(1, u"Roma (centro)"_s, u"*00:02:00"_s)};
     const std::string name = "Roma (centro) [Start]";
     const std::string stop = " > a Roma (centro) [Start]=200";
@@ -94,7 +95,8 @@ TEST(Preparazione, SourcesOfTheStops) {
         {FonteSoste::Itinerario, {name, stop + "*"}},
         {FonteSoste::Guida, {name, " > A * Foro=200", " > Colosseo=100", " > Area*"}},
         {FonteSoste::Entrambe, {name, stop, " > A * Foro=200", " > Colosseo=100", " > Area*"}},
-        {FonteSoste::Maggiore, {name, " > a Roma (centro) [Start]=1", " > A * Foro=200", " > Colosseo=100", " > Area*"}},
+        {FonteSoste::Maggiore,
+         {name, " > a Roma (centro) [Start]=1", " > A * Foro=200", " > Colosseo=100", " > Area*"}},
         {FonteSoste::Minore, {name, stop, " > A * Foro=1", " > Colosseo=1", " > Area*"}},
         {FonteSoste::NessunaSosta, {name + "*"}},
         {FonteSoste::Nessuna, {name + "*"}},
@@ -113,9 +115,9 @@ TEST(Preparazione, EqualSumsAndWholeDays) {
 }
 
 TEST(Preparazione, StretchOfTheGuide) {
-    const std::map<QString, std::vector<VoceGuida>> guide{
-        {u"A"_s, {entry(u"a"_s, u"01:00"_s)}}, {u"B"_s, {entry(u"b"_s, u"01:00"_s)}},
-        {u"C"_s, {entry(u"c"_s, u"01:00"_s)}}};
+    const std::map<QString, std::vector<VoceGuida>> guide{{u"A"_s, {entry(u"a"_s, u"01:00"_s)}},
+                                                          {u"B"_s, {entry(u"b"_s, u"01:00"_s)}},
+                                                          {u"C"_s, {entry(u"c"_s, u"01:00"_s)}}};
     EXPECT_EQ(prepared({leg(1, u"A"_s), leg(2, {}), leg(3, u"B [Start]"_s), leg(4, u"C [End]"_s), leg(5, u"A"_s)},
                        FonteSoste::Guida, guide),
               (Rows{"A", "B [Start]", " > b=100", "C [End]", " > c=100", "A"}));
@@ -231,9 +233,10 @@ TEST(RigheViandoria, TextsNotesAndTotals) {
     last.tempo = 100;
     v.giuliano = 731418;
     v.ora = 1000;
-    const std::array<QString, numeroColonneViandoria> leg{{}, {}, u" A1 "_s, {}, u"A"_s};
+    const std::vector<QString> leg{QString(), QString(), u" A1 "_s, QString(), u"A"_s};
     const TestiViandoria texts{
-        [&leg](int, int column) -> const QString& { return leg[static_cast<std::size_t>(column)]; }, u"15"_s, 925, 1000};
+        [&leg](int, int column) -> const QString& { return leg[static_cast<std::size_t>(column)]; }, u"15"_s, 925,
+        1000};
 
     std::vector<CelleViandoria> rows = celleViandoria(v, work, texts);
     const auto totals = chiudeViandoria(rows, v, texts);

@@ -58,14 +58,17 @@ RigaDiLavoro guideStop(float length) {
 std::string told(const RigaViandoria& row, float start) {
     static constexpr std::array kinds{"tratto", "sosta", "menzione", "mattino"};
     std::string text = kinds[static_cast<std::size_t>(row.tipo)];
-    if (row.tipo == Tipo::Tratto)
-        text += " " + std::to_string(row.km) + (row.verso ? " verso" : "");
-    text += " g" + std::to_string(static_cast<int>(row.giuliano - start)) + " " +
-            std::to_string(static_cast<int>(row.ora));
-    for (const auto& [on, name] : {std::pair{row.pranzo, " pranzo"}, std::pair{row.cena, " cena"},
-                                   std::pair{row.notte, " notte"}, std::pair{row.pausa, " pausa"},
-                                   std::pair{row.riposoDopo, " riposo"}, std::pair{row.domani, " domani"},
-                                   std::pair{row.spezzata, " spezzata"}}) {
+    const auto add = [&text](const char* before, int number) { (text += before) += std::to_string(number); };
+    if (row.tipo == Tipo::Tratto) {
+        add(" ", row.km);
+        text += row.verso ? " verso" : "";
+    }
+    add(" g", static_cast<int>(row.giuliano - start));
+    add(" ", static_cast<int>(row.ora));
+    for (const auto& [on, name] :
+         {std::pair{row.pranzo, " pranzo"}, std::pair{row.cena, " cena"}, std::pair{row.notte, " notte"},
+          std::pair{row.pausa, " pausa"}, std::pair{row.riposoDopo, " riposo"}, std::pair{row.domani, " domani"},
+          std::pair{row.spezzata, " spezzata"}}) {
         if (on)
             text += name;
     }
@@ -148,7 +151,8 @@ TEST(Simulazione, Breaks) {
     Rows rows;
     for (const RigaViandoria& row : v.righe)
         rows.push_back(told(row, p.giulianoInizio));
-    EXPECT_EQ(rows, (Rows{"tratto 100 verso g0 1000 pausa", "tratto 100 verso g0 1125 pausa", "tratto 50 g0 1200 pausa"}));
+    EXPECT_EQ(rows,
+              (Rows{"tratto 100 verso g0 1000 pausa", "tratto 100 verso g0 1125 pausa", "tratto 50 g0 1200 pausa"}));
     EXPECT_EQ(v.righe[0].fine, Fine::Pausa);
     // At a crawl the piece before a break still moves on.
     p.medie = {0.5, 0.5, 0.5, 0.5};
@@ -162,7 +166,8 @@ TEST(Simulazione, LongRests) {
     // The rest falls before the first piece driven on the day after; its trace is on the row before the last one.
     EXPECT_EQ(walk({leg(10), leg(10, true), leg(10)}, p),
               (Rows{"tratto 10 g0 910", "tratto 10 g0 920 riposo", "mattino g1 900", "tratto 10 g2 910"}));
-    EXPECT_EQ(walk({leg(10, true), leg(10)}, p), (Rows{"tratto 10 g0 910 riposo", "mattino g1 900", "tratto 10 g2 910"}));
+    EXPECT_EQ(walk({leg(10, true), leg(10)}, p),
+              (Rows{"tratto 10 g0 910 riposo", "mattino g1 900", "tratto 10 g2 910"}));
 }
 
 TEST(Simulazione, Stops) {
