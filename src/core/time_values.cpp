@@ -56,7 +56,7 @@ QString ghmSenzaGiorni(float centesimi, float dayUnit) {
 
 Gma Data2Gma(const QString& data) {
     const QStringView d(data);
-    return {static_cast<int>(Val(d.mid(0, 2))), static_cast<int>(Val(d.mid(2, 2))), static_cast<int>(Val(d.mid(4)))};
+    return {arrotonda(Val(d.mid(0, 2))), arrotonda(Val(d.mid(2, 2))), arrotonda(Val(d.mid(4)))};
 }
 
 QString Gma2Data(const Gma& gma) {
@@ -84,7 +84,7 @@ Gma Giul2Data(float giuliano) {
         mese -= 12;
         anno += 1;
     }
-    return {static_cast<int>(giorno), static_cast<int>(mese), static_cast<int>(anno)};
+    return {arrotonda(giorno), arrotonda(mese), arrotonda(anno)};
 }
 
 QString Giu2Datas(float giuliano) {
@@ -102,7 +102,7 @@ QString DataChan(const QString& data) {
 QString GiornoSettimana(const QString& data) {
     if (data.size() != 8)
         return {};
-    const int day = static_cast<int>(Data2Giul(data)) % 7;
+    const int day = arrotonda(static_cast<double>(Data2Giul(data))) % 7;
     return day < 0 ? QString() : Mid(QStringLiteral("SabDomLunMarMerGioVen"), day * 3 + 1, 3);
 }
 

@@ -22,8 +22,8 @@ std::vector<VoceGuida> SegniGuida::usaModello(const QString& pattern) {
         {store::TabelleNomi(store::GuidaCitta), {{QStringLiteral("Localita"), Like, pattern}}, {}});
     std::vector<VoceGuida> entries;
     for (store::Recordset& records = archive_.Rs(store::GuidaCitta); !records.EOF_(); records.MoveNext())
-        entries.push_back({records.rowid(), static_cast<int>(Val(records.testo(1))), records.testo(2), records.testo(3),
-                           records.testo(4)});
+        entries.push_back(
+            {records.rowid(), arrotonda(Val(records.testo(1))), records.testo(2), records.testo(3), records.testo(4)});
     return unused(std::move(entries));
 }
 

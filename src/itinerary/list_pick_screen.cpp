@@ -26,7 +26,7 @@ void cmbRicercaTappa_Click(Form& form) {
         return;
     showAround(form);
     form.frmframe(24).setEnabled(true);
-    s.RigaCorrente = static_cast<int>(Val(Right(form.cmbRicercaTappa.text(), 4)));
+    s.RigaCorrente = arrotonda(Val(Right(form.cmbRicercaTappa.text(), 4)));
     if (s.ModoGuida) {
         showAround(form);
         s.PulsantiItinerario = QStringLiteral("all");

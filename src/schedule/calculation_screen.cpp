@@ -156,7 +156,7 @@ class Calcolo {
   public:
     explicit Calcolo(Form& form) : form_(form), s_(form.stato), prepared_(PreparaTabellaPerCalcoloViandoria(form)) {
         AbilitaPulsantiMeta(form_, QStringLiteral("Es"));
-        range_ = static_cast<int>(Int(Val(form_.cmbRange.text()) * 100 / 60));
+        range_ = arrotonda(Int(Val(form_.cmbRange.text()) * 100 / 60));
     }
 
     /// The tests, until one fits or they are used up; false if the user stopped them.

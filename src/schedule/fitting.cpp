@@ -15,7 +15,7 @@ constexpr double milionesimi = 1000000;
 int giorniDiGuida(int drivingTime, float oreGuidaGiorno) {
     if (oreGuidaGiorno == 0)
         return 1;
-    return std::max(static_cast<int>(Int(drivingTime / static_cast<double>(oreGuidaGiorno) + 0.99)), 1);
+    return std::max(arrotonda(Int(drivingTime / static_cast<double>(oreGuidaGiorno) + 0.99)), 1);
 }
 
 double coefficienteDiPartenza(const DatiAdeguamento& data, int giorniDesiderati) {

@@ -19,9 +19,10 @@ float f(double x) {
     return static_cast<float>(x);
 }
 
-/// Kilometres that fit into a time, in whole ones.
+/// Kilometres that fit into a time, in whole ones; no speed makes a piece longer than any trip.
 int lunghezza(double speed, double hundredths) {
-    return static_cast<int>(Int(speed * hundredths / 100));
+    constexpr double longest = 1000000;
+    return arrotonda(std::min(Int(speed * hundredths / 100), longest));
 }
 
 class Prova {

@@ -36,7 +36,7 @@ TotaliItinerario calcolaTotali(const std::vector<Tratto>& legs, const Medie& spe
 }
 
 int giorniMinimi(const QString& drivingTime) {
-    return static_cast<int>(Val(Left(drivingTime, 2))) + (Mid(drivingTime, 4) > u"00:00" ? 1 : 0);
+    return arrotonda(Val(Left(drivingTime, 2))) + (Mid(drivingTime, 4) > u"00:00" ? 1 : 0);
 }
 
 QStringList giorniOfferti(int least, bool anyKilometres) {

@@ -162,7 +162,7 @@ QString newCode(Form& form) {
     store::Recordset& all = open(form, appoggio, QStringLiteral("SELECT * FROM MeteVanzer ORDER BY CodiceMeta"));
     std::vector<int> codes;
     for (; !all.EOF_(); all.MoveNext())
-        codes.push_back(static_cast<int>(Val(all.testo(0))));
+        codes.push_back(arrotonda(Val(all.testo(0))));
     return codiceNuovaMeta(codes);
 }
 

@@ -112,7 +112,7 @@ void AggiornaPercentuale(Form& form) {
         form.txtPerc.setWidth(0);
         return;
     }
-    const int p = static_cast<int>(Int(s.PercentualeCorrente / s.PercentualeTotale * 100));
+    const int p = arrotonda(Int(s.PercentualeCorrente / s.PercentualeTotale * 100));
     if (!form.txtPerc.visible() || p != s.PercentualeMostrata) {
         s.PercentualeMostrata = p;
         form.txtPerc.setVisible(true);

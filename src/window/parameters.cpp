@@ -162,9 +162,9 @@ void readRests(Form& form) {
 
 void readStart(Form& form) {
     StatoViaggio& s = form.stato;
-    s.GiornoInizio = static_cast<int>(Val(form.cmbInizio(0).text()));
-    s.MeseInizio = static_cast<int>(Val(form.cmbInizio(1).text()));
-    s.AnnoInizio = static_cast<int>(Val(form.cmbInizio(2).text()));
+    s.GiornoInizio = arrotonda(Val(form.cmbInizio(0).text()));
+    s.MeseInizio = arrotonda(Val(form.cmbInizio(1).text()));
+    s.AnnoInizio = arrotonda(Val(form.cmbInizio(2).text()));
     s.GiulianoInizio = Data2Giul(Zero(s.GiornoInizio, 2) + Zero(s.MeseInizio, 2) + Zero(s.AnnoInizio, 4));
     s.GiulianoCorrente = s.GiulianoInizio;
     s.OraInizioViaggio = ghmStringa2Centesimi(form.cmbInizio(3).text() + u':' + form.cmbInizio(4).text(), giorno);
@@ -255,7 +255,7 @@ void scriveCoppia(Form& form, int pair, const QString& hour, const QString& minu
 
 QString voceSoste(Form& form, const QString& code) {
     const QString s = Trim(code).isEmpty() ? QStringLiteral("3") : Trim(code);
-    return form.cmbSoste.List(static_cast<int>(Maggiore(Val(s) - 1, 0.0)));
+    return form.cmbSoste.List(arrotonda(Maggiore(Val(s) - 1, 0.0)));
 }
 
 void MetteAdesso(Form& form) {
@@ -377,9 +377,8 @@ void MettiGiornoSett(Form& form) {
 }
 
 void ImpostaGiorniMeseInizio(Form& form) {
-    const int shown = static_cast<int>(Val(form.cmbInizio(0).text()));
-    const int days =
-        GiorniMese(static_cast<int>(Val(form.cmbInizio(2).text())), static_cast<int>(Val(form.cmbInizio(1).text())));
+    const int shown = arrotonda(Val(form.cmbInizio(0).text()));
+    const int days = GiorniMese(arrotonda(Val(form.cmbInizio(2).text())), arrotonda(Val(form.cmbInizio(1).text())));
     form.cmbInizio(0).setEntries(values({1, days, 2}));
     form.cmbInizio(0).setText(Zero(Minore(shown, days), 2));
     MettiGiornoSett(form);

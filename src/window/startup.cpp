@@ -188,7 +188,7 @@ void loadCategories(Form& form) {
         const QString name = table.testo(1);
         if (const int at = posizione(wanted, name + u'^'); at > 0)
             wanted.remove(at - 1, name.size() + 1);
-        last = static_cast<int>(Val(table.testo(0)));
+        last = arrotonda(Val(table.testo(0)));
         if (last >= 0 && last < static_cast<int>(form.TipiGuidaDescrizione.size())) {
             form.TipiGuidaDescrizione[static_cast<std::size_t>(last)] = name;
             form.TipiGuidaTempoObbligatorio[static_cast<std::size_t>(last)] = table.siNo(2);

@@ -1,0 +1,136 @@
+// The control models: what the window's logic relies on, and what a view is told.
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+
+#include "toolkit/grid.h"
+
+namespace vanzer {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QString column(const Grid& grid, int c) {
+    QStringList texts;
+    for (int r = 1; r < grid.rows(); ++r)
+        texts << grid.cell(r, c);
+    return texts.join(u'|');
+}
+
+} // namespace
+
+TEST(Controlli, FramesHideAndDisableWhatTheyHold) {
+    Frame outer(u"frmframe"_s, 12, nullptr);
+    Frame inner(u"frmframe"_s, 14, &outer);
+    Button button(u"cmdFine"_s, -1, &inner);
+    EXPECT_TRUE(button.reachable());
+    outer.setEnabled(false);
+    EXPECT_FALSE(button.reachable());
+    EXPECT_TRUE(button.enabled()) << "its own value stays";
+    outer.setEnabled(true);
+    inner.setVisible(false);
+    EXPECT_FALSE(button.reachable());
+}
+
+TEST(Controlli, TextChangesAreToldOnceAndOnlyWhenTheyAreReal) {
+    TextBox box(u"txtKm"_s, -1, nullptr);
+    int changes = 0;
+    box.onChange = [&changes] { ++changes; };
+    box.setText(u"12"_s);
+    box.setText(u"12"_s);
+    EXPECT_EQ(changes, 1);
+    box.setMaxLength(4);
+    box.type(u"123456"_s);
+    EXPECT_EQ(box.text(), u"1234");
+    box.pressKey(u'5');
+    EXPECT_EQ(box.text(), u"1234") << "no room";
+    box.setText(u"1"_s);
+    box.onKeyPress = [](int& code) { code = code == u'x' ? 0 : code + 1; };
+    box.pressKey(u'x');
+    box.pressKey(u'a');
+    box.pressKey(8);
+    EXPECT_EQ(box.text(), u"1b");
+}
+
+TEST(Controlli, ListsSortAndPickWithoutRegardToCapitals) {
+    ListControl list(u"cmbRicercaTappa"_s, -1, nullptr, true);
+    list.setSorted(true);
+    for (const auto& entry : {u"roma"_s, u"Bari"_s, u"ANCONA"_s})
+        list.add(entry);
+    EXPECT_EQ(list.entries(), (QStringList{u"ANCONA"_s, u"Bari"_s, u"roma"_s}));
+    int clicks = 0;
+    list.onClick = [&clicks] { ++clicks; };
+    EXPECT_TRUE(list.pick(u"BARI"_s));
+    EXPECT_FALSE(list.pick(u"Pisa"_s));
+    EXPECT_EQ(list.text(), u"Bari");
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(list.List(7), u"");
+    list.clear();
+    EXPECT_EQ(list.text(), u"");
+}
+
+TEST(Griglia, CurrentRowStaysInside) {
+    Grid grid(u"mfgTab"_s, -1, nullptr, 30, 20);
+    grid.select(25, 1, 28, 19);
+    grid.setRows(11);
+    EXPECT_EQ(grid.row(), 10);
+    EXPECT_EQ(grid.rowSel(), 10);
+    grid.setRows(1);
+    EXPECT_EQ(grid.row(), 0) << "nothing but the head row";
+    grid.setRows(5);
+    EXPECT_EQ(grid.row(), 1);
+    EXPECT_EQ(grid.topRow(), 1);
+    EXPECT_EQ(grid.colSel(), 19);
+    grid.setRows(-3);
+    EXPECT_EQ(grid.rows(), 1);
+}
+
+TEST(Griglia, RowsMoveWhole) {
+    Grid grid(u"mfgTab"_s, -1, nullptr, 6, 4);
+    for (int r = 1; r < 6; ++r) {
+        grid.setCell(r, 0, QString::number(r));
+        grid.setCell(r, 1, QString(QChar(u'a' + r - 1)));
+    }
+    grid.copyRow(2, 3, 1);
+    EXPECT_EQ(column(grid, 1), u"a|b|b|d|e");
+    EXPECT_EQ(column(grid, 0), u"1|2|3|4|5") << "the first column stays";
+    grid.removeRowsIf(1, 4, [&grid](int r) { return grid.cell(r, 1) == u"b"; });
+    EXPECT_EQ(column(grid, 1), u"a|d|e");
+    grid.insertRows(2, 2);
+    EXPECT_EQ(column(grid, 1), u"a|||d|e");
+    grid.setCell(99, 1, u"x"_s);
+    EXPECT_EQ(grid.cell(99, 1), u"");
+    Grid::Rows rows = grid.takeContents();
+    EXPECT_EQ(grid.rows(), 1);
+    grid.setContents(std::move(rows));
+    EXPECT_EQ(column(grid, 1), u"a|||d|e");
+}
+
+TEST(Griglia, ItsModelKeepsTheRulesOfAView) {
+    Grid grid(u"mfgTab"_s, -1, nullptr, 30, 20);
+    const QAbstractItemModelTester tester(&grid.model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    int resets = 0;
+    QObject::connect(&grid.model(), &QAbstractItemModel::modelReset, [&resets] { ++resets; });
+    grid.setCell(0, 1, u"Tappa"_s);
+    grid.setCell(3, 1, u"Roma"_s);
+    grid.setRows(40);
+    grid.setRows(3);
+    grid.setRows(1);
+    grid.setRows(17);
+    EXPECT_EQ(resets, 0);
+    {
+        const SenzaRidisegno outer(grid);
+        const SenzaRidisegno inner(grid);
+        grid.setRows(1);
+        grid.setContents({{u"1"_s, u"Pisa"_s}, {}});
+        grid.setColumns(12);
+    }
+    EXPECT_EQ(resets, 1);
+    EXPECT_EQ(grid.model().rowCount(), 2);
+    EXPECT_EQ(grid.model().columnCount(), 12);
+    EXPECT_EQ(grid.model().index(0, 1).data().toString(), u"Pisa");
+    EXPECT_EQ(grid.model().headerData(1, Qt::Horizontal).toString(), u"Tappa");
+}
+
+} // namespace vanzer
