@@ -14,9 +14,8 @@
 #include "core/place_name.h"
 #include "guide/marks.h"
 #include "itinerary/leg_table_screen.h"
+#include "schedule/calculation_screen.h"
 #include "schedule/preparation_screen.h"
-#include "schedule/simulation.h"
-#include "schedule/totals_screen.h"
 #include "window/command.h"
 
 namespace vanzer::bench {
@@ -32,30 +31,6 @@ double seconds(const std::function<void()>& work) {
 double median(std::vector<double> times) {
     std::sort(times.begin(), times.end());
     return times.empty() ? 0 : times[times.size() / 2];
-}
-
-ParametriSimulazione parameters(const Form& form) {
-    const StatoViaggio& s = form.stato;
-    ParametriSimulazione p;
-    p.oraColazione = s.OraColazione;
-    p.oraPranzo = s.OraPranzo;
-    p.durataPranzo = s.DurataPranzo;
-    p.oraCena = s.OraCena;
-    p.durataCena = s.DurataCena;
-    p.oraNotte = s.OraNotte;
-    p.inizioVisita = s.InizioVisita;
-    p.fineVisita = s.FineVisita;
-    p.oreVisitaGiorno = s.OreVisitaGiorno;
-    p.oreGuidaGiorno = s.OreGuidaGiorno;
-    p.riposoMinuti = s.RiposoMinuti;
-    p.riposoOre = s.RiposoOre;
-    p.riposoGiorno = s.RiposoGiorno;
-    p.riposoDopoGiorni = s.RiposoDopoGiorni;
-    p.oraInizioViaggio = s.OraInizioViaggio;
-    p.giulianoInizio = s.GiulianoInizio;
-    p.range = 25;
-    p.medie = medieMostrate(form);
-    return p;
 }
 
 RigheDiLavoro prepared(BigTrip& trip) {
@@ -81,7 +56,7 @@ int legs(const benchmark::State& state) {
 void oneSimulation(benchmark::State& state) {
     BigTrip trip(legs(state));
     const RigheDiLavoro rows = prepared(trip);
-    const ParametriSimulazione p = parameters(trip.form());
+    const ParametriSimulazione p = parametriSimulazione(trip.form());
     std::size_t written = 0;
     for (auto _ : state)
         written = simula(rows.righe, p, 1).righe.size();
@@ -95,7 +70,7 @@ void wholeCalculation(benchmark::State& state) {
     const QTemporaryDir directory;
     BareArchive bare(copyOfArchive(trip, directory));
     const RigheDiLavoro rows = prepared(trip);
-    const ParametriSimulazione p = parameters(trip.form());
+    const ParametriSimulazione p = parametriSimulazione(trip.form());
     trip.form().cmdCalcola.setCaption(QStringLiteral("&Sblocca"));
     trip.form().cmdCalcola.setEnabled(true);
     trip.form().cmdCalcola.click();

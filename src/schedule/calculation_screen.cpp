@@ -41,31 +41,6 @@ void storeCoefficient(Form& form) {
     record.Update();
 }
 
-ParametriSimulazione simulationParameters(const Form& form, int range) {
-    const StatoViaggio& s = form.stato;
-    return {
-        .oraColazione = s.OraColazione,
-        .oraPranzo = s.OraPranzo,
-        .durataPranzo = s.DurataPranzo,
-        .oraCena = s.OraCena,
-        .durataCena = s.DurataCena,
-        .oraNotte = s.OraNotte,
-        .inizioVisita = s.InizioVisita,
-        .fineVisita = s.FineVisita,
-        .oreVisitaGiorno = s.OreVisitaGiorno,
-        .oreGuidaGiorno = s.OreGuidaGiorno,
-        .riposoMinuti = s.RiposoMinuti,
-        .riposoOre = s.RiposoOre,
-        .riposoGiorno = s.RiposoGiorno,
-        .riposoDopoGiorni = s.RiposoDopoGiorni,
-        .oraInizioViaggio = s.OraInizioViaggio,
-        .giulianoInizio = s.GiulianoInizio,
-        .giorniDesiderati = s.GiorniDesiderati,
-        .range = range,
-        .medie = medieMostrate(form),
-    };
-}
-
 void showProgressText(Form& form) {
     const StatoViaggio& s = form.stato;
     QString text = QStringLiteral("Calcolo della viandoria, test n. %1/20").arg(s.NumeroTest);
@@ -156,7 +131,6 @@ class Calcolo {
   public:
     explicit Calcolo(Form& form) : form_(form), s_(form.stato), prepared_(PreparaTabellaPerCalcoloViandoria(form)) {
         AbilitaPulsantiMeta(form_, QStringLiteral("Es"));
-        range_ = arrotonda(Int(Val(form_.cmbRange.text()) * 100 / 60));
     }
 
     /// The tests, until one fits or they are used up; false if the user stopped them.
@@ -222,7 +196,7 @@ class Calcolo {
     bool prova() {
         showProgressText(form_);
         s_.PercentualeTotale = static_cast<double>(prepared_.righe.size());
-        last_ = simula(prepared_.righe, simulationParameters(form_, range_), s_.Coefficiente, [this](int row) {
+        last_ = simula(prepared_.righe, parametriSimulazione(form_), s_.Coefficiente, [this](int row) {
             if (s_.InterrompiCalcolo)
                 return true;
             s_.PercentualeCorrente = row;
@@ -243,7 +217,6 @@ class Calcolo {
     StatoViaggio& s_;
     RigheDiLavoro prepared_;
     Viandoria last_;
-    int range_ = 0;
 };
 
 void calculate(Form& form) {
@@ -271,6 +244,31 @@ void calculate(Form& form) {
 }
 
 } // namespace
+
+ParametriSimulazione parametriSimulazione(const Form& form) {
+    const StatoViaggio& s = form.stato;
+    return {
+        .oraColazione = s.OraColazione,
+        .oraPranzo = s.OraPranzo,
+        .durataPranzo = s.DurataPranzo,
+        .oraCena = s.OraCena,
+        .durataCena = s.DurataCena,
+        .oraNotte = s.OraNotte,
+        .inizioVisita = s.InizioVisita,
+        .fineVisita = s.FineVisita,
+        .oreVisitaGiorno = s.OreVisitaGiorno,
+        .oreGuidaGiorno = s.OreGuidaGiorno,
+        .riposoMinuti = s.RiposoMinuti,
+        .riposoOre = s.RiposoOre,
+        .riposoGiorno = s.RiposoGiorno,
+        .riposoDopoGiorni = s.RiposoDopoGiorni,
+        .oraInizioViaggio = s.OraInizioViaggio,
+        .giulianoInizio = s.GiulianoInizio,
+        .giorniDesiderati = s.GiorniDesiderati,
+        .range = arrotonda(Int(Val(form.cmbRange.text()) * 100 / 60)),
+        .medie = medieMostrate(form),
+    };
+}
 
 void cmdCalcola_Click(Form& form) {
     form.frmframe(15).setEnabled(false);

@@ -1,6 +1,7 @@
 // The calculation in the window: preparation, tests, fitting, closing.
 #pragma once
 
+#include "schedule/simulation.h"
 #include "window/form.h"
 
 namespace vanzer {
@@ -11,5 +12,9 @@ void cmdCalcola_Click(Form& form);
 void cmdRicalcola_Click(Form& form);
 /// The calculation; slot 0 of the columns says who asked for it.
 void CalcolaViandoria(Form& form);
+
+
+/// What a test goes by, from the variables and the lists as they stand.
+[[nodiscard]] ParametriSimulazione parametriSimulazione(const Form& form);
 
 } // namespace vanzer

@@ -71,7 +71,8 @@ class Control : public QObject {
     Geometria geometria_;
 };
 
-class Frame : public Control {
+/// A control that shows a caption; "&" stands before the letter that reaches it.
+class Captioned : public Control {
     Q_OBJECT
   public:
     using Control::Control;
@@ -82,15 +83,16 @@ class Frame : public Control {
     QString caption_;
 };
 
-class Label : public Control {
+class Frame : public Captioned {
     Q_OBJECT
   public:
-    using Control::Control;
-    [[nodiscard]] const QString& caption() const { return caption_; }
-    void setCaption(const QString& text) { assign(caption_, text); }
+    using Captioned::Captioned;
+};
 
-  private:
-    QString caption_;
+class Label : public Captioned {
+    Q_OBJECT
+  public:
+    using Captioned::Captioned;
 };
 
 /// A picture of the window's resources, handed to the printer.
@@ -100,12 +102,10 @@ class Picture : public Control {
     using Control::Control;
 };
 
-class Button : public Control {
+class Button : public Captioned {
     Q_OBJECT
   public:
-    using Control::Control;
-    [[nodiscard]] const QString& caption() const { return caption_; }
-    void setCaption(const QString& text) { assign(caption_, text); }
+    using Captioned::Captioned;
     [[nodiscard]] bool isDefault() const { return default_; }
     void setDefault(bool on) { assign(default_, on); }
 
@@ -114,16 +114,13 @@ class Button : public Control {
     std::function<void()> onClick;
 
   private:
-    QString caption_;
     bool default_ = false;
 };
 
-class CheckBox : public Control {
+class CheckBox : public Captioned {
     Q_OBJECT
   public:
-    using Control::Control;
-    [[nodiscard]] const QString& caption() const { return caption_; }
-    void setCaption(const QString& text) { assign(caption_, text); }
+    using Captioned::Captioned;
     [[nodiscard]] bool value() const { return value_; }
     void setValue(bool on) { assign(value_, on); }
 
@@ -132,17 +129,14 @@ class CheckBox : public Control {
     std::function<void()> onClick;
 
   private:
-    QString caption_;
     bool value_ = false;
 };
 
 /// One of an array of option buttons that exclude each other.
-class OptionButton : public Control {
+class OptionButton : public Captioned {
     Q_OBJECT
   public:
-    using Control::Control;
-    [[nodiscard]] const QString& caption() const { return caption_; }
-    void setCaption(const QString& text) { assign(caption_, text); }
+    using Captioned::Captioned;
     [[nodiscard]] bool value() const { return value_; }
     /// Setting one on puts the others of its array off.
     void setValue(bool on);
@@ -153,7 +147,6 @@ class OptionButton : public Control {
     void setGroup(std::function<void(OptionButton&)> othersOff) { othersOff_ = std::move(othersOff); }
 
   private:
-    QString caption_;
     bool value_ = false;
     std::function<void(OptionButton&)> othersOff_;
 };

@@ -226,16 +226,8 @@ constexpr auto places = std::to_array<Posto>({
 });
 
 void writeCaption(Control& control, const QString& text) {
-    if (auto* const frame = dynamic_cast<Frame*>(&control))
-        frame->setCaption(text);
-    else if (auto* const label = dynamic_cast<Label*>(&control))
-        label->setCaption(text);
-    else if (auto* const button = dynamic_cast<Button*>(&control))
-        button->setCaption(text);
-    else if (auto* const check = dynamic_cast<CheckBox*>(&control))
-        check->setCaption(text);
-    else if (auto* const option = dynamic_cast<OptionButton*>(&control))
-        option->setCaption(text);
+    if (auto* const captioned = dynamic_cast<Captioned*>(&control))
+        captioned->setCaption(text);
 }
 
 template<typename Write> void forEachNamed(Form& form, const QString& name, Write write) {
