@@ -13,7 +13,6 @@ void cmdRicalcola_Click(Form& form);
 /// The calculation; slot 0 of the columns says who asked for it.
 void CalcolaViandoria(Form& form);
 
-
 /// What a test goes by, from the variables and the lists as they stand.
 [[nodiscard]] ParametriSimulazione parametriSimulazione(const Form& form);
 
