@@ -96,64 +96,55 @@ void wholeCalculation(benchmark::State& state) {
 }
 BENCHMARK(wholeCalculation)->Arg(1000)->Arg(9999)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(11);
 
-/// Loading the legs with the guide of their places, against the same reads.
-void load(benchmark::State& state) {
+/// A piece of the window's work on a long trip, timed in turn with the same on the bare archive.
+void besideBare(benchmark::State& state, const std::function<void(BigTrip&)>& work,
+                const std::function<void(BareArchive&, int legs)>& bareWork) {
     BigTrip trip(legs(state));
     const QTemporaryDir directory;
     BareArchive bare(copyOfArchive(trip, directory));
     std::vector<double> ours;
     std::vector<double> theirs;
     for (auto _ : state) {
-        ours.push_back(seconds([&] { comando(trip.form(), [&] { CaricaTappeItinerario(trip.form()); }); }));
+        ours.push_back(seconds([&] { comando(trip.form(), [&] { work(trip); }); }));
         state.SetIterationTime(ours.back());
-        theirs.push_back(seconds([&] {
-            benchmark::DoNotOptimize(bare.readLegs());
-            benchmark::DoNotOptimize(bare.readGuide(legs(state)));
-        }));
+        theirs.push_back(seconds([&] { bareWork(bare, legs(state)); }));
     }
     state.counters["bare_ms"] = median(theirs) * 1000;
     state.counters["ratio"] = median(ours) / median(theirs);
+}
+
+/// Loading the legs with the guide of their places, against the same reads.
+void load(benchmark::State& state) {
+    besideBare(
+        state, [](BigTrip& trip) { CaricaTappeItinerario(trip.form()); },
+        [](BareArchive& bare, int legs) {
+            benchmark::DoNotOptimize(bare.readLegs());
+            benchmark::DoNotOptimize(bare.readGuide(legs));
+        });
 }
 BENCHMARK(load)->Arg(1000)->Arg(9999)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(11);
 
 /// The guide's entries of every place, against the same queries.
 void readGuide(benchmark::State& state) {
-    BigTrip trip(legs(state));
-    const QTemporaryDir directory;
-    BareArchive bare(copyOfArchive(trip, directory));
-    std::vector<double> ours;
-    std::vector<double> theirs;
-    for (auto _ : state) {
-        ours.push_back(seconds([&] {
+    besideBare(
+        state,
+        [](BigTrip& trip) {
             SegniGuida guide(trip.form().archivio);
-            for (int r = 1; r <= legs(state); ++r)
+            for (int r = 1; r <= trip.legs(); ++r)
                 benchmark::DoNotOptimize(guide.usaLuogo(PulisceNomeLocalita(trip.form().mfgTab.cell(r, 1))).size());
-        }));
-        state.SetIterationTime(ours.back());
-        theirs.push_back(seconds([&] { benchmark::DoNotOptimize(bare.readGuide(legs(state))); }));
-    }
-    state.counters["bare_ms"] = median(theirs) * 1000;
-    state.counters["ratio"] = median(ours) / median(theirs);
+        },
+        [](BareArchive& bare, int legs) { benchmark::DoNotOptimize(bare.readGuide(legs)); });
 }
 BENCHMARK(readGuide)->Arg(1000)->Arg(9999)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(11);
 
 /// Storing the legs, against the same reads and writes in one transaction.
 void save(benchmark::State& state) {
-    BigTrip trip(legs(state));
-    const QTemporaryDir directory;
-    BareArchive bare(copyOfArchive(trip, directory));
-    std::vector<double> ours;
-    std::vector<double> theirs;
-    for (auto _ : state) {
-        ours.push_back(seconds([&] { comando(trip.form(), [&] { MemorizzaTappeItinerario(trip.form()); }); }));
-        state.SetIterationTime(ours.back());
-        theirs.push_back(seconds([&] {
-            benchmark::DoNotOptimize(bare.readGuide(legs(state)));
-            bare.rewriteLegs(legs(state));
-        }));
-    }
-    state.counters["bare_ms"] = median(theirs) * 1000;
-    state.counters["ratio"] = median(ours) / median(theirs);
+    besideBare(
+        state, [](BigTrip& trip) { MemorizzaTappeItinerario(trip.form()); },
+        [](BareArchive& bare, int legs) {
+            benchmark::DoNotOptimize(bare.readGuide(legs));
+            bare.rewriteLegs(legs);
+        });
 }
 BENCHMARK(save)->Arg(1000)->Arg(9999)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(11);
 
