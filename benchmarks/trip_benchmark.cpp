@@ -98,7 +98,7 @@ BENCHMARK(wholeCalculation)->Arg(1000)->Arg(9999)->Unit(benchmark::kMillisecond)
 
 /// A piece of the window's work on a long trip, timed in turn with the same on the bare archive.
 void besideBare(benchmark::State& state, const std::function<void(BigTrip&)>& work,
-                const std::function<void(BareArchive&, int legs)>& bareWork) {
+                const std::function<void(BareArchive&, int count)>& bareWork) {
     BigTrip trip(legs(state));
     const QTemporaryDir directory;
     BareArchive bare(copyOfArchive(trip, directory));
@@ -117,9 +117,9 @@ void besideBare(benchmark::State& state, const std::function<void(BigTrip&)>& wo
 void load(benchmark::State& state) {
     besideBare(
         state, [](BigTrip& trip) { CaricaTappeItinerario(trip.form()); },
-        [](BareArchive& bare, int legs) {
+        [](BareArchive& bare, int count) {
             benchmark::DoNotOptimize(bare.readLegs());
-            benchmark::DoNotOptimize(bare.readGuide(legs));
+            benchmark::DoNotOptimize(bare.readGuide(count));
         });
 }
 BENCHMARK(load)->Arg(1000)->Arg(9999)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(11);
@@ -133,7 +133,7 @@ void readGuide(benchmark::State& state) {
             for (int r = 1; r <= trip.legs(); ++r)
                 benchmark::DoNotOptimize(guide.usaLuogo(PulisceNomeLocalita(trip.form().mfgTab.cell(r, 1))).size());
         },
-        [](BareArchive& bare, int legs) { benchmark::DoNotOptimize(bare.readGuide(legs)); });
+        [](BareArchive& bare, int count) { benchmark::DoNotOptimize(bare.readGuide(count)); });
 }
 BENCHMARK(readGuide)->Arg(1000)->Arg(9999)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(11);
 
@@ -141,9 +141,9 @@ BENCHMARK(readGuide)->Arg(1000)->Arg(9999)->Unit(benchmark::kMillisecond)->UseMa
 void save(benchmark::State& state) {
     besideBare(
         state, [](BigTrip& trip) { MemorizzaTappeItinerario(trip.form()); },
-        [](BareArchive& bare, int legs) {
-            benchmark::DoNotOptimize(bare.readGuide(legs));
-            bare.rewriteLegs(legs);
+        [](BareArchive& bare, int count) {
+            benchmark::DoNotOptimize(bare.readGuide(count));
+            bare.rewriteLegs(count);
         });
 }
 BENCHMARK(save)->Arg(1000)->Arg(9999)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(11);
