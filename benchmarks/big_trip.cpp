@@ -1,5 +1,7 @@
 #include "big_trip.h"
 
+#include <stdexcept>
+
 #include "core/text.h"
 #include "itinerary/leg_table_screen.h"
 #include "window/command.h"
@@ -26,6 +28,8 @@ BigTrip::BigTrip(int legs)
     form().cmdSalva.click();
     storeGuide();
     storeLegs();
+    if (form().stato.NumeroTappe != legs_)
+        throw std::runtime_error("the trip could not be stored");
 }
 
 void BigTrip::storeLegs() {
