@@ -28,7 +28,7 @@ double kmAbove(const Form& form) {
     return ValoreSenzaPunti(form.mfgTab.cell(form.stato.RigaCorrente - 1, 5));
 }
 
-QString roadLetter(const Serie<OptionButton>& options) {
+QString strTipoStrada(const Serie<OptionButton>& options) {
     for (int i = 0; i < options.count(); ++i) {
         if (options(i).value())
             return Mid(QStringLiteral("ASPL"), i + 1, 1);
@@ -222,7 +222,7 @@ void cmdInserisce_Click(Form& form) {
         .luogo = form.txtTappa.text(),
         .km = form.txtKm.text(),
         .strada = form.txtNumStrada.text(),
-        .lettera = roadLetter(form.optStrada),
+        .lettera = strTipoStrada(form.optStrada),
         .sosta = stopTyped(form),
         .fineGiornata = form.chkEndDay.value(),
         .primaMeta = form.chkMeta(0).value(),

@@ -115,32 +115,6 @@ void Grid::clearRow(int row, int firstColumn) {
         setCell(row, c, {});
 }
 
-void Grid::removeRowsIf(int first, int last, const std::function<bool(int row)>& drop) {
-    last = std::min(last, rows() - 1);
-    std::vector<bool> dropped(cells_.size(), false);
-    for (int r = first; r <= last; ++r)
-        dropped[static_cast<std::size_t>(r)] = drop(r);
-    setRedraw(false);
-    std::size_t kept = 0;
-    for (std::size_t r = 0; r < cells_.size(); ++r) {
-        if (dropped[r])
-            continue;
-        if (kept != r)
-            cells_[kept] = std::move(cells_[r]);
-        ++kept;
-    }
-    cells_.resize(kept);
-    keepInside();
-    setRedraw(true);
-}
-
-void Grid::insertRows(int row, int count) {
-    setRedraw(false);
-    cells_.insert(cells_.begin() + std::clamp(row, 1, rows()), static_cast<std::size_t>(std::max(count, 0)), {});
-    keepInside();
-    setRedraw(true);
-}
-
 void Grid::clearCells() {
     setRedraw(false);
     for (auto& r : cells_)
@@ -169,10 +143,6 @@ void Grid::setContents(Rows&& rows) {
 
 void Grid::setCurrent(int row, int column) {
     select(row, column, row, column);
-}
-
-void Grid::setRowSel(int row) {
-    select(row_, col_, row, colSel_);
 }
 
 void Grid::select(int row, int column, int rowSel, int colSel) {

@@ -36,10 +36,6 @@ class Grid : public Control {
     /// Copies the cells from `firstColumn` on of one row over those of another.
     void copyRow(int from, int to, int firstColumn);
     void clearRow(int row, int firstColumn);
-    /// Takes out the rows from `first` to `last` for which `drop` is true, in one pass.
-    void removeRowsIf(int first, int last, const std::function<bool(int row)>& drop);
-    /// Opens `count` empty rows before `row`; the rows from there on move down.
-    void insertRows(int row, int count);
     /// Empties all cells, the head row's too.
     void clearCells();
 
@@ -56,7 +52,6 @@ class Grid : public Control {
     [[nodiscard]] int topRow() const { return topRow_; }
     /// Current cell; the selection becomes that cell.
     void setCurrent(int row, int column);
-    void setRowSel(int row);
     void select(int row, int column, int rowSel, int colSel);
     void setTopRow(int row);
 

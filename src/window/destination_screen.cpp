@@ -1,5 +1,7 @@
 #include "window/destination_screen.h"
 
+#include <span>
+
 #include "core/text.h"
 #include "itinerary/leg_table_screen.h"
 #include "window/confirmation.h"
@@ -25,22 +27,8 @@ store::Recordset& openDestination(Form& form, const QString& code) {
                 QStringLiteral("SELECT * FROM MeteVanzer WHERE CodiceMeta = '") + store::quotato(code) + u'\'');
 }
 
-struct CampoCoppia {
-    Coppia pair;
-    const char16_t* field;
-};
-
-/// The pairs in the order in which the record is shown and stored; those of the visits and ferries come last.
-constexpr std::array<CampoCoppia, 6> meals{{{coppiaColazione, u"OraColazione"},
-                                            {coppiaPranzo, u"OraPranzo"},
-                                            {coppiaDurataPranzo, u"DurataPranzo"},
-                                            {coppiaCena, u"OraCena"},
-                                            {coppiaDurataCena, u"DurataCena"},
-                                            {coppiaNotte, u"OraNotte"}}};
-constexpr std::array<CampoCoppia, 3> visits{
-    {{coppiaInizioVisita, u"InizioVisita"}, {coppiaFineVisita, u"FineVisita"}, {coppiaTraghetti, u"OreTraghetti"}}};
-constexpr std::array<const char16_t*, 4> speedFields{u"MediaAutostrada", u"MediaSuperstrada", u"MediaPrincipale",
-                                                     u"MediaLocale"};
+constexpr std::span meals = std::span(campiCoppie).first<numeroPasti>();
+constexpr std::span visits = std::span(campiCoppie).subspan<numeroPasti>();
 
 /// Copies a record to the controls; a field without a value is passed over.
 class MostraRecord {
@@ -53,7 +41,7 @@ class MostraRecord {
         testo(form_.txtCodice, u"CodiceMeta");
         inizio();
         for (int i = 0; i < 4; ++i)
-            testo(form_.cmbMediaKm(i), speedFields[static_cast<std::size_t>(i)]);
+            testo(form_.cmbMediaKm(i), campiMedie[static_cast<std::size_t>(i)]);
         for (const CampoCoppia& f : meals)
             coppia(f);
         form_.txtTragh.setText({});
@@ -127,7 +115,7 @@ void writeRecord(Form& form, store::Recordset& record) {
     write(u"DataInizio", form.cmbInizio(0).text() + form.cmbInizio(1).text() + form.cmbInizio(2).text());
     write(u"OraInizio", form.cmbInizio(3).text() + form.cmbInizio(4).text());
     for (int i = 0; i < 4; ++i)
-        write(speedFields[static_cast<std::size_t>(i)], number(form.cmbMediaKm(i)));
+        write(campiMedie[static_cast<std::size_t>(i)], number(form.cmbMediaKm(i)));
     for (const CampoCoppia& f : meals)
         write(f.field, form.cmbOra(f.pair).text() + form.cmbMin(f.pair).text());
     write(u"RiposoMinuti", number(form.cmbRipM));

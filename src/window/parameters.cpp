@@ -96,24 +96,6 @@ void writeStandardValues(Form& form) {
     form.cmbSoste.setText(voceSoste(form, QStringLiteral("3")));
 }
 
-struct CampoCoppia {
-    Coppia pair;
-    const char16_t* field;
-};
-
-/// In the order in which the record holds them.
-constexpr std::array<CampoCoppia, numeroCoppie> pairFields{{{coppiaColazione, u"OraColazione"},
-                                                            {coppiaPranzo, u"OraPranzo"},
-                                                            {coppiaDurataPranzo, u"DurataPranzo"},
-                                                            {coppiaCena, u"OraCena"},
-                                                            {coppiaDurataCena, u"DurataCena"},
-                                                            {coppiaNotte, u"OraNotte"},
-                                                            {coppiaInizioVisita, u"InizioVisita"},
-                                                            {coppiaFineVisita, u"FineVisita"},
-                                                            {coppiaTraghetti, u"OreTraghetti"}}};
-constexpr std::array<const char16_t*, 4> speedFields{u"MediaAutostrada", u"MediaSuperStrada", u"MediaPrincipale",
-                                                     u"MediaLocale"};
-
 store::Recordset& openDefaults(Form& form) {
     form.archivio.StringaSQL = QStringLiteral("SELECT * FROM Parametri");
     form.archivio.RecordSetImposta(0, store::Parametri);
@@ -293,8 +275,8 @@ void CaricaDefaultMeta(Form& form, int modo) {
     }
     const store::Recordset& record = form.archivio.Rs(store::Parametri);
     for (int i = 0; i < 4; ++i)
-        form.cmbMediaKm(i).setText(record.testo(QString::fromUtf16(speedFields[static_cast<std::size_t>(i)])));
-    for (const CampoCoppia& f : pairFields) {
+        form.cmbMediaKm(i).setText(record.testo(QString::fromUtf16(campiMedie[static_cast<std::size_t>(i)])));
+    for (const CampoCoppia& f : campiCoppie) {
         const QString value = record.testo(QString::fromUtf16(f.field));
         scriveCoppia(form, f.pair, Left(value, 2), Mid(value, 3, 2));
     }
@@ -313,8 +295,8 @@ void MemorizzaVariabiliMeta(Form& form) {
     else
         record.Edit();
     for (int i = 0; i < 4; ++i)
-        record.scrive(QString::fromUtf16(speedFields[static_cast<std::size_t>(i)]), form.cmbMediaKm(i).text());
-    for (const CampoCoppia& f : pairFields)
+        record.scrive(QString::fromUtf16(campiMedie[static_cast<std::size_t>(i)]), form.cmbMediaKm(i).text());
+    for (const CampoCoppia& f : campiCoppie)
         record.scrive(QString::fromUtf16(f.field), form.cmbOra(f.pair).text() + form.cmbMin(f.pair).text());
     record.scrive(QStringLiteral("RiposoMinuti"), form.cmbRipM.text());
     record.scrive(QStringLiteral("RiposoOre"), form.cmbRipH.text());

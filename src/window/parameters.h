@@ -20,6 +20,25 @@ enum Coppia {
     numeroCoppie
 };
 
+/// The pairs and the speeds as the records of destinations and defaults name them, in the order of their fields; the
+/// pairs of the visits and ferries come last.
+struct CampoCoppia {
+    Coppia pair;
+    const char16_t* field;
+};
+inline constexpr std::array<CampoCoppia, numeroCoppie> campiCoppie{{{coppiaColazione, u"OraColazione"},
+                                                                    {coppiaPranzo, u"OraPranzo"},
+                                                                    {coppiaDurataPranzo, u"DurataPranzo"},
+                                                                    {coppiaCena, u"OraCena"},
+                                                                    {coppiaDurataCena, u"DurataCena"},
+                                                                    {coppiaNotte, u"OraNotte"},
+                                                                    {coppiaInizioVisita, u"InizioVisita"},
+                                                                    {coppiaFineVisita, u"FineVisita"},
+                                                                    {coppiaTraghetti, u"OreTraghetti"}}};
+inline constexpr std::size_t numeroPasti = 6;
+inline constexpr std::array<const char16_t*, 4> campiMedie{u"MediaAutostrada", u"MediaSuperStrada", u"MediaPrincipale",
+                                                           u"MediaLocale"};
+
 /// The variable of a pair, hundredths.
 [[nodiscard]] float& variabileCoppia(StatoViaggio& stato, int pair);
 

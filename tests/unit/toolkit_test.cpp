@@ -95,16 +95,12 @@ TEST(Griglia, RowsMoveWhole) {
     grid.copyRow(2, 3, 1);
     EXPECT_EQ(column(grid, 1), u"a|b|b|d|e");
     EXPECT_EQ(column(grid, 0), u"1|2|3|4|5") << "the first column stays";
-    grid.removeRowsIf(1, 4, [&grid](int r) { return grid.cell(r, 1) == u"b"; });
-    EXPECT_EQ(column(grid, 1), u"a|d|e");
-    grid.insertRows(2, 2);
-    EXPECT_EQ(column(grid, 1), u"a|||d|e");
     grid.setCell(99, 1, u"x"_s);
     EXPECT_EQ(grid.cell(99, 1), u"");
     Grid::Rows rows = grid.takeContents();
     EXPECT_EQ(grid.rows(), 1);
     grid.setContents(std::move(rows));
-    EXPECT_EQ(column(grid, 1), u"a|||d|e");
+    EXPECT_EQ(column(grid, 1), u"a|b|b|d|e");
 }
 
 TEST(Griglia, ItsModelKeepsTheRulesOfAView) {
