@@ -5,6 +5,7 @@
 #include "itinerary/leg_editor_screen.h"
 #include "itinerary/leg_table_screen.h"
 #include "schedule/fitting.h"
+#include "schedule/growing_rows_screen.h"
 #include "schedule/preparation_screen.h"
 #include "schedule/rows.h"
 #include "schedule/simulation.h"
@@ -75,10 +76,10 @@ void showPanel(Form& form, const PannelloViandoria& panel) {
     form.txtFine(5).setText(GiornoSettimana(Gma2Data(date)));
 }
 
-/// The table as the last test leaves it, closed and tidied; the rows of totals stay.
-void showSchedule(Form& form, const RigheDiLavoro& prepared, const Viandoria& schedule) {
+/// What the rows take from the kept legs and the window.
+TestiViandoria rowTexts(const Form& form) {
     const Grid::Rows& legs = *form.tappeConservate;
-    const TestiViandoria texts{
+    return {
         .tappa = [&legs](int row, int column) -> const QString& {
             static const QString none;
             const auto& cells = legs[static_cast<std::size_t>(row - 1)];
@@ -88,6 +89,11 @@ void showSchedule(Form& form, const RigheDiLavoro& prepared, const Viandoria& sc
         .oreGuidaGiorno = form.stato.OreGuidaGiorno,
         .oreVisitaGiorno = form.stato.OreVisitaGiorno,
     };
+}
+
+/// The table as the last test leaves it, closed and tidied; the rows of totals stay.
+void showSchedule(Form& form, const RigheDiLavoro& prepared, const Viandoria& schedule) {
+    const TestiViandoria texts = rowTexts(form);
     std::vector<CelleViandoria> rows = celleViandoria(schedule, prepared.righe, texts);
     const std::array<QString, righeTotali> totals = chiudeViandoria(rows, schedule, texts);
     std::erase_if(rows, rigaVuota);
@@ -136,6 +142,7 @@ class Calcolo {
     /// The tests, until one fits or they are used up; false if the user stopped them.
     bool prove() {
         Adeguamento search(fittingData());
+        VistaCrescente view(form_, prepared_.righe, rowTexts(form_));
         s_.GiorniCalcolati = 0;
         beginSeries(search);
         do {
@@ -148,7 +155,7 @@ class Calcolo {
                 s_.GiorniDesiderati = 0;
             s_.Coefficiente = search.coefficiente();
             s_.NumeroTest = search.numeroTest();
-            if (!prova())
+            if (!prova(view))
                 return false;
         } while (search.numeroTest() == 0 ||
                  search.esito(s_.GiorniCalcolati, s_.GiorniDesiderati) == Adeguamento::Fine::InCorso);
@@ -193,16 +200,19 @@ class Calcolo {
         ControllaVariabiliConvertite(form_);
     }
 
-    bool prova() {
+    bool prova(VistaCrescente& view) {
+        view.nuovaProva();
         showProgressText(form_);
         s_.PercentualeTotale = static_cast<double>(prepared_.righe.size());
-        last_ = simula(prepared_.righe, parametriSimulazione(form_), s_.Coefficiente, [this](int row) {
-            if (s_.InterrompiCalcolo)
-                return true;
-            s_.PercentualeCorrente = row;
-            AggiornaPercentuale(form_);
-            return false;
-        });
+        last_ = simula(prepared_.righe, parametriSimulazione(form_), s_.Coefficiente,
+                       [this, &view](int row, const Viandoria& soFar) {
+                           if (s_.InterrompiCalcolo)
+                               return true;
+                           view.mostra(soFar);
+                           s_.PercentualeCorrente = row;
+                           AggiornaPercentuale(form_);
+                           return false;
+                       });
         s_.GiulianoCorrente = last_.giuliano;
         s_.OraCorrente = last_.ora;
         s_.NumeroTraghetti = last_.traghetti;

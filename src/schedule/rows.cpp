@@ -193,7 +193,7 @@ class Chiusura {
             return u"\t\tKm. "_s + migliaiaZero(sum.km) + u"  \tGuida "_s + inBothDays(sum.guida);
         };
         const Somma rest{trip_.km - stretch_.km, trip_.guida - stretch_.guida, trip_.soste - stretch_.soste};
-        return {QStringLiteral("Totali: Km e tempi (gg:hh:mm):"),
+        return {titoloTotali.toString(),
                 QStringLiteral("Percorso specifico:\t"),
                 line(stretch_) + u"\t Sosta "_s + inBothDays(stretch_.soste),
                 QStringLiteral("Andata e ritorno per l'itinerario specifico:\t"),
@@ -240,7 +240,7 @@ std::vector<CelleViandoria> celleViandoria(const Viandoria& schedule, const std:
             cells[colNote] = source.nota;
             break;
         case RigaViandoria::Tipo::NuovoGiorno:
-            cells[colTappa] = QStringLiteral(" > Partenza mattino successivo");
+            cells[colTappa] = testoNuovoGiorno.toString();
             cells[colNote] = QStringLiteral("Nuovo giorno");
             break;
         }

@@ -31,6 +31,10 @@ enum ColonnaViandoria {
 
 using CelleViandoria = std::vector<QString>;
 
+/// Place of the row that starts a day, and of the first row of totals.
+inline constexpr QStringView testoNuovoGiorno = u" > Partenza mattino successivo";
+inline constexpr QStringView titoloTotali = u"Totali: Km e tempi (gg:hh:mm):";
+
 struct TestiViandoria {
     /// Cells of the leg table by row and column, for what a leg's row takes over.
     std::function<const QString&(int row, int column)> tappa;

@@ -35,7 +35,7 @@ class Prova {
 
     Viandoria corre(const FermaRiga& stop) {
         for (std::size_t i = 0; i < rows_.size(); ++i) {
-            if (stop && stop(static_cast<int>(i) + 1)) {
+            if (stop && stop(static_cast<int>(i) + 1, result_)) {
                 result_.esito = Viandoria::Esito::Interrotta;
                 break;
             }

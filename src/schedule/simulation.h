@@ -86,8 +86,9 @@ struct Viandoria {
     int traghetti = 0;
 };
 
-/// Called before each working row with its number from 1; true asks to stop.
-using FermaRiga = std::function<bool(int row)>;
+/// Called before each working row with its number from 1 and the schedule so far; true asks to stop. A long rest can
+/// still fall behind the last two rows written; outcome, days and the end's clock are not told before the end.
+using FermaRiga = std::function<bool(int row, const Viandoria& soFar)>;
 
 /// `coefficiente` stretches the guide's stops and nothing else.
 [[nodiscard]] Viandoria simula(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& with,

@@ -43,6 +43,8 @@ class EventYield {
   public:
     virtual ~EventYield() = default;
     virtual void yield() = 0;
+    /// True at most ten times a second: work that is half done may be shown now. False where nobody looks.
+    [[nodiscard]] virtual bool frameDue() { return false; }
 };
 
 /// Starts a program without waiting for its end; false if it can't be started.

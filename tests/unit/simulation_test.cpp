@@ -229,9 +229,14 @@ TEST(Simulazione, EndsWhenTheWantedDaysArePassed) {
     EXPECT_EQ(v.esito, Viandoria::Esito::TroppiGiorni);
     EXPECT_EQ(v.giorni, 4);
     EXPECT_EQ(v.righe.size(), 2U);
-    const Viandoria stopped = simula({leg(0), leg(10), leg(10)}, p, 1, [](int row) { return row == 2; });
+    std::vector<std::size_t> soFar;
+    const Viandoria stopped = simula({leg(0), leg(10), leg(10)}, p, 1, [&soFar](int row, const Viandoria& written) {
+        soFar.push_back(written.righe.size());
+        return row == 2;
+    });
     EXPECT_EQ(stopped.esito, Viandoria::Esito::Interrotta);
     EXPECT_EQ(stopped.righe.size(), 1U);
+    EXPECT_EQ(soFar, (std::vector<std::size_t>{0, 1}));
 }
 
 TEST(Simulazione, WithoutASpeedTheCalculationStillEnds) {
