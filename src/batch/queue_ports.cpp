@@ -1,7 +1,6 @@
 #include "batch/queue_ports.h"
 
 #include <QJsonObject>
-#include <QProcess>
 
 namespace vanzer::batch {
 
@@ -66,16 +65,6 @@ void VisitedYield::letIn() {
     // One that found no moment waits on, unless another has come in its place.
     if (!visitor() && !visitor_)
         visitor_ = std::move(visitor);
-}
-
-bool DetachedStarter::start(const QString& program, const QStringList& arguments) {
-    QProcess process;
-    process.setProgram(program);
-    process.setArguments(arguments);
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-    return process.startDetached();
 }
 
 } // namespace vanzer::batch

@@ -74,10 +74,4 @@ class VisitedYield : public EventYield {
     Visitor visitor_;
 };
 
-/// Starts programs on their own, with none of this program's input and output.
-class DetachedStarter : public ProgramStarter {
-  public:
-    [[nodiscard]] bool start(const QString& program, const QStringList& arguments) override;
-};
-
 } // namespace vanzer::batch

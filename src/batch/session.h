@@ -8,6 +8,7 @@
 
 #include "batch/queue_ports.h"
 #include "batch/recording_printer.h"
+#include "toolkit/program_starter.h"
 #include "window/form.h"
 
 namespace vanzer::batch {

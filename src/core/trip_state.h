@@ -40,6 +40,7 @@ struct StatoViaggio {
 
     QString PulsantiMeta;
     QString PulsantiItinerario;
+    QString PulsantiPrimaDellaRicerca; ///< what a search of a destination that is given up goes back to
     bool ViandoriaCalcolata = false; ///< a schedule for the data on the screen exists
     bool InterrompiCalcolo = false;  ///< the user asked to stop
     int ModoRicerca = 0;             ///< what a pick means: 1 destination, 2 leg, 3 source of a copy, 4 its legs

@@ -89,9 +89,14 @@ void TextControl::setText(const QString& text) {
         onChange();
 }
 
-void TextControl::pressKey(int code) {
+int TextControl::filterKey(int code) const {
     if (onKeyPress)
         onKeyPress(code);
+    return code;
+}
+
+void TextControl::pressKey(int key) {
+    const int code = filterKey(key);
     if (code <= 31 || (room() >= 0 && text_.size() >= room()))
         return;
     const auto c = static_cast<char32_t>(code);
@@ -128,6 +133,11 @@ void ListControl::setEntries(const QStringList& entries) {
     if (sorted_)
         std::stable_sort(ordered.begin(), ordered.end(), before);
     assign(entries_, ordered);
+}
+
+void ListControl::setEntriesOnly() {
+    entriesOnly_ = true;
+    onKeyPress = [](int& code) { code = 0; };
 }
 
 void ListControl::clear() {

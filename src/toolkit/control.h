@@ -160,6 +160,8 @@ class TextControl : public Control {
     /// Every real change calls the change handler, whoever made it.
     void setText(const QString& text);
 
+    /// What the key press handler makes of a character code; 0 if it drops the key.
+    [[nodiscard]] int filterKey(int code) const;
     /// One key press of the user: what the handler lets pass and is above 31 goes to the end of the text.
     void pressKey(int code);
     /// One key-down event of the user.
@@ -167,13 +169,13 @@ class TextControl : public Control {
     /// The focus leaves the control.
     void leave();
 
+    /// Greatest length of what the user types; -1 for no limit.
+    [[nodiscard]] virtual qsizetype room() const { return -1; }
+
     std::function<void()> onChange;
     std::function<void(int& code)> onKeyPress;
     std::function<void(int code)> onKeyDown;
     std::function<void()> onLostFocus;
-
-  protected:
-    [[nodiscard]] virtual qsizetype room() const { return -1; }
 
   private:
     QString text_;
@@ -188,8 +190,6 @@ class TextBox : public TextControl {
     void setMaxLength(int length) { assign(maxLength_, length); }
     /// The user replaces the text, cut to the greatest length.
     void type(const QString& text);
-
-  protected:
     [[nodiscard]] qsizetype room() const override { return maxLength_ == 0 ? -1 : maxLength_; }
 
   private:
@@ -214,6 +214,9 @@ class ListControl : public TextControl {
     void clear();
     /// Keeps the entries sorted, capitals ignored.
     void setSorted(bool on) { sorted_ = on; }
+    /// The user picks from the entries and never types.
+    [[nodiscard]] bool entriesOnly() const { return entriesOnly_; }
+    void setEntriesOnly();
 
     /// The user clicks the first entry equal to `entry`, capitals ignored; false if there is none.
     bool pick(const QString& entry);
@@ -223,6 +226,7 @@ class ListControl : public TextControl {
     QStringList entries_;
     bool box_;
     bool sorted_ = false;
+    bool entriesOnly_ = false;
 };
 
 } // namespace vanzer

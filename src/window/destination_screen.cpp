@@ -311,6 +311,7 @@ void cmdRicerca_Click(Form& form) {
     form.stato.ModoRicerca = 1;
     PulisciFinestre(form);
     form.cmbRicerca.clear();
+    form.stato.PulsantiPrimaDellaRicerca = form.stato.PulsantiMeta;
     AbilitaPulsantiMeta(form, QStringLiteral("NuEs"));
     store::Recordset& all = open(form, store::MeteVanzer, QStringLiteral("SELECT * FROM MeteVanzer ORDER BY Localita"));
     QStringList names;

@@ -89,10 +89,6 @@ void wireGuide(Form& form) {
     form.txtGGruppo.onKeyPress = [&form](int& code) { txtGGruppo_KeyPress(form, code); };
 }
 
-void dropKey(int& code) {
-    code = 0;
-}
-
 void digitsOnly(int& code) {
     if (code < u'0' || code > u'9')
         code = 0;
@@ -109,12 +105,12 @@ void upperCase(int& code) {
 }
 
 void wireKeys(Form& form) {
-    for (TextControl* const control :
+    for (ListControl* const list :
          {&form.cmbRange, &form.cmbSoste, &form.cmbRipG, &form.cmbRipGG, &form.cmbRipH, &form.cmbRipM})
-        control->onKeyPress = dropKey;
+        list->setEntriesOnly();
     for (const auto* const lists : {&form.cmbInizio, &form.cmbMin, &form.cmbOra, &form.cmbSosta}) {
         for (ListControl* const list : *lists)
-            list->onKeyPress = dropKey;
+            list->setEntriesOnly();
     }
     form.cmbGiorni.onKeyPress = digitsOnly;
     form.txtKm.onKeyPress = digitsOnly;
@@ -223,7 +219,6 @@ void showCurrentTrip(Form& form) {
 
 void Form_Load(Form& form) {
     StatoViaggio& s = form.stato;
-    layOutWindow(form);
     s.PulsantiItinerario = QStringLiteral("ZZ");
     AbilitaPulsantiMeta(form, QStringLiteral("ZZ"));
     PulisciFinestre(form);
@@ -256,18 +251,28 @@ QString openingFailed(const Form& form, const store::StoreError& error) {
 
 } // namespace
 
-std::unique_ptr<Form> avvia(const Ambiente& surroundings, Ports& ports) {
+std::unique_ptr<Form> nuovaFinestra(const Ambiente& surroundings, Ports& ports) {
     auto form = std::make_unique<Form>(surroundings, ports);
     if (form->ambiente.versione.isEmpty())
         form->ambiente.versione = versioneProgramma();
     wire(*form);
+    layOutWindow(*form);
+    return form;
+}
+
+void caricaFinestra(Form& form) {
     try {
-        Form_Load(*form);
+        Form_Load(form);
     } catch (const store::StoreError& error) {
-        form->messaggio(openingFailed(*form, error));
-        form->archivio.chiudi();
-        form->chiusa = true;
+        form.messaggio(openingFailed(form, error));
+        form.archivio.chiudi();
+        form.chiusa = true;
     }
+}
+
+std::unique_ptr<Form> avvia(const Ambiente& surroundings, Ports& ports) {
+    auto form = nuovaFinestra(surroundings, ports);
+    caricaFinestra(*form);
     return form;
 }
 

@@ -7,7 +7,14 @@
 
 namespace vanzer {
 
-/// The window, wired and loaded. If the archive can't be opened the user has been told and the window is left at once.
+/// The window, wired and laid out, with nothing in it yet: a view can be tied to it before it is loaded.
+[[nodiscard]] std::unique_ptr<Form> nuovaFinestra(const Ambiente& surroundings, Ports& ports);
+
+/// Opens the archive and shows the current trip. If the archive can't be opened the user has been told and the window
+/// is left at once.
+void caricaFinestra(Form& form);
+
+/// Both of these.
 [[nodiscard]] std::unique_ptr<Form> avvia(const Ambiente& surroundings, Ports& ports);
 
 /// The version of this build, "1.0.0".

@@ -1,0 +1,33 @@
+#include "window/ways_out.h"
+
+#include "window/modes.h"
+
+namespace vanzer {
+
+void chiedeDiChiudere(Form& form) {
+    Button* const waysOut[] = {&form.cmdEsce,
+                               &form.cmdFine,
+                               &form.cmdFineInserimento,
+                               &form.cmdInsEsegui(1),
+                               &form.cmdSelStampante(1),
+                               &form.cmdEsegui(1),
+                               &form.cmdImExp(1),
+                               &form.cmdTappaSEl(3)};
+    for (Button* const button : waysOut) {
+        if (button->reachable()) {
+            button->click();
+            return;
+        }
+    }
+}
+
+void rinunciaAllaScelta(Form& form) {
+    if (form.cmbRicercaTappa.reachable() && form.cmdFine.reachable()) {
+        form.cmdFine.click();
+    } else if (form.cmbRicerca.reachable()) {
+        form.cmbRicerca.setVisible(false);
+        AbilitaPulsantiMeta(form, form.stato.PulsantiPrimaDellaRicerca);
+    }
+}
+
+} // namespace vanzer

@@ -1,0 +1,15 @@
+// What the window's close button and the Esc key mean. Both press the button that is there for it, so that nothing is
+// left without its question.
+#pragma once
+
+#include "window/form.h"
+
+namespace vanzer {
+
+/// The close button: "&Esce" or "&Stop" where it can be pressed, else the button that leaves the open frame.
+void chiedeDiChiudere(Form& form);
+
+/// Esc: leaves a list that was opened to pick from, with nothing picked; does nothing elsewhere.
+void rinunciaAllaScelta(Form& form);
+
+} // namespace vanzer
