@@ -1,0 +1,127 @@
+#include "desktop/binder.h"
+
+#include <utility>
+
+#include <QApplication>
+#include <QRegularExpression>
+
+#include "desktop/ties.h"
+
+namespace vanzer::desktop {
+
+namespace {
+
+QString withoutAmpersand(QString caption) {
+    return caption.remove(u'&').trimmed();
+}
+
+/// What a screen reader says: the caption, else the tool tip; a name that the form gives goes before both.
+void nameForReaders(QWidget& widget, const Control& control) {
+    if (!widget.accessibleName().isEmpty())
+        return;
+    const auto* const captioned = dynamic_cast<const Captioned*>(&control);
+    const QString caption = captioned == nullptr ? QString() : withoutAmpersand(captioned->caption());
+    widget.setAccessibleName(caption.size() > 1 ? caption : control.tooltip());
+}
+
+} // namespace
+
+Binder::Binder(Form& form) : form_(form) {
+    flushSoon_.setSingleShot(true);
+    flushSoon_.setInterval(0);
+    connect(&flushSoon_, &QTimer::timeout, this, &Binder::flush);
+    form_.onFocus = [this](Control& control) {
+        wanted_ = widget(control);
+        flushSoon_.start();
+    };
+}
+
+Binder::~Binder() {
+    form_.onFocus = {};
+}
+
+QString Binder::controlName(const QString& widgetName) {
+    static const QRegularExpression indexed(QStringLiteral("^(.*)_(\\d+)$"));
+    const QRegularExpressionMatch match = indexed.match(widgetName);
+    return match.hasMatch() ? match.captured(1) + u'(' + match.captured(2) + u')' : widgetName;
+}
+
+void Binder::bind(QWidget& root) {
+    tie(root);
+    for (QWidget* const widget : root.findChildren<QWidget*>())
+        tie(*widget);
+    flush();
+}
+
+void Binder::tie(QWidget& widget) {
+    Control* const control = widget.objectName().isEmpty() ? nullptr : form_.find(controlName(widget.objectName()));
+    if (control == nullptr)
+        return;
+    nameForReaders(widget, *control);
+    widgets_[control] = &widget;
+    ties_.push_back(makeTie(*control, widget, *this));
+    ties_.back()->watch();
+}
+
+QWidget* Binder::widget(const Control& control) const {
+    const auto found = widgets_.find(&control);
+    return found == widgets_.end() ? nullptr : found->second;
+}
+
+void Binder::changed(Tie& tie) {
+    dirty_.push_back(&tie);
+    if (!flushSoon_.isActive())
+        flushSoon_.start();
+}
+
+void Binder::input(const std::function<void()>& handler) {
+    if (depth_ == 0)
+        emit inputBegins();
+    ++depth_;
+    handler();
+    --depth_;
+    if (depth_ > 0)
+        return;
+    flush();
+    if (form_.chiusa && !std::exchange(closedTold_, true))
+        emit closed();
+}
+
+void Binder::flush() {
+    if (showing_)
+        return;
+    flushSoon_.stop();
+    QWidget* const before = QApplication::focusWidget();
+    showing_ = true;
+    for (Tie* const tie : std::exchange(dirty_, {}))
+        tie->show();
+    showing_ = false;
+    keepFocus(before);
+    giveFocus();
+}
+
+void Binder::giveFocus() {
+    QWidget* const widget = std::exchange(wanted_, nullptr);
+    if (widget == nullptr || !widget->isEnabled())
+        return;
+    displaced_ = nullptr;
+    widget->setFocus(Qt::OtherFocusReason);
+}
+
+/// A widget that was switched off while it had the focus gets it back when it is on again, unless the user has gone on.
+void Binder::keepFocus(QWidget* before) {
+    QWidget* const now = QApplication::focusWidget();
+    if (before != nullptr && before != now && !before->isEnabled() && displaced_ == nullptr)
+        displaced_ = before;
+    if (displaced_ == nullptr)
+        return;
+    if (before == displaced_ || before == stopgap_) {
+        stopgap_ = now;
+        if (displaced_->isEnabled() && displaced_->isVisible() && wanted_ == nullptr)
+            std::exchange(displaced_, nullptr)->setFocus(Qt::OtherFocusReason);
+    } else {
+        displaced_ = nullptr;
+    }
+}
+
+} // namespace vanzer::desktop

@@ -1,0 +1,136 @@
+#include "desktop/desktop_ports.h"
+
+#include <array>
+#include <ctime>
+#include <span>
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QFontDatabase>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace vanzer::desktop {
+
+namespace {
+
+/// Milliseconds of a clock that is cheap to read and right to a few milliseconds.
+qint64 coarseTime() {
+    timespec t{};
+    clock_gettime(CLOCK_MONOTONIC_COARSE, &t);
+    return static_cast<qint64>(t.tv_sec) * 1000 + t.tv_nsec / 1000000;
+}
+
+struct Choice {
+    QMessageBox::StandardButton button;
+    const char16_t* text;
+    int answer;
+};
+constexpr std::array<Choice, 1> okChoices{{{QMessageBox::Ok, u"&OK", rispostaOk}}};
+constexpr std::array<Choice, 2> yesNo{{{QMessageBox::Yes, u"&Sì", rispostaSi}, {QMessageBox::No, u"&No", rispostaNo}}};
+constexpr std::array<Choice, 3> yesNoCancel{{{QMessageBox::Yes, u"&Sì", rispostaSi},
+                                             {QMessageBox::No, u"&No", rispostaNo},
+                                             {QMessageBox::Cancel, u"&Annulla", rispostaAnnulla}}};
+
+std::span<const Choice> choices(Pulsanti buttons) {
+    switch (buttons) {
+    case Pulsanti::Ok: return okChoices;
+    case Pulsanti::SiNo: return yesNo;
+    default: return yesNoCancel;
+    }
+}
+
+QMessageBox::Icon sign(Icona icon, Pulsanti buttons) {
+    switch (icon) {
+    case Icona::Informazione: return QMessageBox::Information;
+    case Icona::Avviso: return QMessageBox::Warning;
+    default: return buttons == Pulsanti::Ok ? QMessageBox::NoIcon : QMessageBox::Question;
+    }
+}
+
+/// Lines set out with blanks or tabs keep their columns in a font of one width.
+bool setOut(const QString& text) {
+    return text.contains(u'\t') || text.contains(QStringLiteral("\n   "));
+}
+
+QString tabsAsBlanks(const QString& text) {
+    constexpr qsizetype tab = 8;
+    QString result;
+    qsizetype column = 0;
+    for (const QChar c : text) {
+        const qsizetype blanks = c == u'\t' ? tab - column % tab : 0;
+        result += blanks > 0 ? QString(blanks, u' ') : QString(c);
+        column = c == u'\n' ? 0 : column + std::max<qsizetype>(blanks, 1);
+    }
+    return result;
+}
+
+/// The platform's file dialogs write filters "Name (*.ext)".
+QString platformFilter(const QString& filter) {
+    const QStringList parts = filter.split(u'|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString pattern = QString(parts[i + 1]).replace(u';', u' ');
+        filters << (parts[i].contains(u'(') ? parts[i] : parts[i] + QStringLiteral(" (") + pattern + u')');
+    }
+    return filters.join(QStringLiteral(";;"));
+}
+
+} // namespace
+
+QWidget* BeforeWindow::opening() const {
+    if (onOpen)
+        onOpen();
+    return window_;
+}
+
+int DialogBoxes::show(const QString& text, const QString& title, Pulsanti buttons, Icona icon) {
+    QMessageBox box(opening());
+    box.setWindowTitle(title.isEmpty() ? QCoreApplication::applicationName() : title);
+    box.setIcon(sign(icon, buttons));
+    box.setTextFormat(Qt::PlainText);
+    const QString plain = QString(text).remove(u'\r');
+    box.setText(tabsAsBlanks(plain));
+    if (setOut(plain))
+        box.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    for (const Choice& choice : choices(buttons))
+        box.addButton(choice.button)->setText(QString::fromUtf16(choice.text));
+    box.setDefaultButton(choices(buttons).front().button);
+    box.setEscapeButton(choices(buttons).back().button);
+    const int pressed = box.exec();
+    for (const Choice& choice : choices(buttons)) {
+        if (choice.button == pressed)
+            return choice.answer;
+    }
+    return choices(buttons).back().answer;
+}
+
+QString PlatformDialogs::open(const QString& filter) {
+    return QFileDialog::getOpenFileName(opening(), QStringLiteral("Apri"), {}, platformFilter(filter));
+}
+
+QString PlatformDialogs::save(const QString& filter) {
+    return QFileDialog::getSaveFileName(opening(), QStringLiteral("Salva con nome"), {}, platformFilter(filter));
+}
+
+void PacedYield::begin() {
+    lastYield_ = coarseTime() + pace_.patience - pace_.yields;
+    lastFrame_ = coarseTime();
+}
+
+void PacedYield::yield() {
+    if (coarseTime() - lastYield_ < pace_.yields)
+        return;
+    QCoreApplication::processEvents();
+    lastYield_ = coarseTime();
+}
+
+bool PacedYield::frameDue() {
+    const qint64 now = coarseTime();
+    if (now - lastFrame_ < pace_.frames)
+        return false;
+    lastFrame_ = now;
+    return true;
+}
+
+} // namespace vanzer::desktop

@@ -1,0 +1,66 @@
+// The ports of the desktop: the platform's message boxes and file dialogs, its clock, and a yield that lets events run.
+#pragma once
+
+#include <functional>
+
+#include <QPointer>
+#include <QWidget>
+
+#include "toolkit/ports.h"
+
+namespace vanzer::desktop {
+
+/// What both kinds of dialogs need: the window they stand before, and a last look at what they stand before.
+class BeforeWindow {
+  public:
+    void setWindow(QWidget* window) { window_ = window; }
+    /// Runs before a dialog opens.
+    std::function<void()> onOpen;
+
+  protected:
+    [[nodiscard]] QWidget* opening() const;
+
+  private:
+    QPointer<QWidget> window_;
+};
+
+/// With Italian buttons. Esc stands for "Annulla", or for "No" where there is nothing to cancel.
+class DialogBoxes : public MessageBoxes, public BeforeWindow {
+  public:
+    [[nodiscard]] int show(const QString& text, const QString& title, Pulsanti buttons, Icona icon) override;
+};
+
+class PlatformDialogs : public FileDialogs, public BeforeWindow {
+  public:
+    [[nodiscard]] QString open(const QString& filter) override;
+    [[nodiscard]] QString save(const QString& filter) override;
+};
+
+class SystemClock : public Clock {
+  public:
+    [[nodiscard]] QDateTime now() const override { return QDateTime::currentDateTime(); }
+};
+
+/// When events run inside a command, in milliseconds.
+struct Pace {
+    qint64 patience = 60; ///< of a command before events run inside it: most have ended by then
+    qint64 yields = 20;   ///< from one run of events to the next
+    qint64 frames = 100;  ///< from one look at half-done work to the next
+};
+
+/// Lets events run inside a command at a pace. Looks at a coarse clock, so that a call costs next to nothing.
+class PacedYield : public EventYield {
+  public:
+    explicit PacedYield(Pace pace) : pace_(pace) {}
+    /// A command begins: what the user has typed meanwhile waits for its end, if that comes soon.
+    void begin();
+    void yield() override;
+    [[nodiscard]] bool frameDue() override;
+
+  private:
+    Pace pace_;
+    qint64 lastYield_ = 0;
+    qint64 lastFrame_ = 0;
+};
+
+} // namespace vanzer::desktop

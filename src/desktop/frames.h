@@ -1,0 +1,24 @@
+// The frames that come up over or beside the table. Each is a form of its own; a new one needs its form, a line in the
+// list of frames.cpp and, in the form, the property "posto" that says where it comes up.
+#pragma once
+
+#include <vector>
+
+#include <QWidget>
+
+namespace vanzer::desktop {
+
+/// Where a frame comes up: beside the table on the right, below it, or over its left part, middle, right part or foot.
+enum class Posto { Fianco, Sotto, Sinistra, Centro, Destra, Piede };
+
+/// The frames, made as hidden children of the window.
+[[nodiscard]] std::vector<QWidget*> makeFrames(QWidget& window);
+
+/// What the frame's form says; over the middle if it says nothing.
+[[nodiscard]] Posto posto(const QWidget& frame);
+
+/// Where a frame lies. `table` is the table as it is, `whole` the window without its margins, `sideTop` the height from
+/// which a frame beside the table begins.
+[[nodiscard]] QRect frameRect(const QWidget& frame, const QRect& table, const QRect& whole, int sideTop);
+
+} // namespace vanzer::desktop

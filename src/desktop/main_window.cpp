@@ -1,0 +1,164 @@
+#include "desktop/main_window.h"
+
+#include <algorithm>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QSettings>
+
+#include "desktop/frames.h"
+#include "desktop/table_view.h"
+#include "ui_main_window.h"
+#include "window/ways_out.h"
+
+namespace vanzer::desktop {
+
+namespace {
+
+const QString placeKey = QStringLiteral("finestra/posto");
+
+/// The frame of the window that a widget stands in.
+const QWidget* outerFrame(const QWidget* widget) {
+    const QWidget* outermost = nullptr;
+    for (; widget != nullptr; widget = widget->parentWidget()) {
+        if (widget->objectName().startsWith(QStringLiteral("frmframe")))
+            outermost = widget;
+    }
+    return outermost;
+}
+
+} // namespace
+
+MainWindow::MainWindow(Form& form) : form_(form), ui_(std::make_unique<Ui::MainWindow>()), binder_(form) {
+    ui_->setupUi(this);
+    addFrames();
+    setWindowTitle(form.caption);
+    binder_.bind(*this);
+    for (QAbstractButton* const button : findChildren<QAbstractButton*>())
+        button->installEventFilter(this);
+    connect(&binder_, &Binder::closed, this, &QWidget::close);
+    layOutFrames();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::addFrames() {
+    frames_ = makeFrames(*this);
+    frames_.push_back(ui_->cmbRicerca);
+    frames_.push_back(ui_->cmbRicercaTappa);
+    for (QWidget* const frame : frames_) {
+        frame->setAutoFillBackground(true);
+        frame->installEventFilter(this);
+    }
+    ui_->mfgTab->installEventFilter(this);
+}
+
+/// Frames at the side and below take their room from the table; the others lie over it.
+void MainWindow::layOutFrames() {
+    int side = 0;
+    int below = 0;
+    for (const QWidget* const frame : frames_) {
+        if (frame->isHidden())
+            continue;
+        if (posto(*frame) == Posto::Fianco)
+            side = std::max(side, frame->sizeHint().width() + ui_->areaTabella->spacing());
+        if (posto(*frame) == Posto::Sotto)
+            below = std::max(below, frame->sizeHint().height() + ui_->areaTabella->spacing());
+    }
+    ui_->areaTabella->setContentsMargins(0, 0, side, below);
+    layout()->activate();
+    const QRect whole = contentsRect().marginsRemoved(layout()->contentsMargins());
+    const int sideTop = ui_->parametri->mapTo(this, QPoint()).y();
+    const QRect table(ui_->mfgTab->mapTo(this, QPoint()), ui_->mfgTab->size());
+    for (QWidget* const frame : frames_) {
+        frame->setGeometry(frameRect(*frame, table, whole, sideTop));
+        frame->raise();
+    }
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    layOutFrames();
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    const QEvent::Type type = event->type();
+    if (type == QEvent::Shortcut) {
+        if (auto* const button = qobject_cast<QAbstractButton*>(watched))
+            return pressMnemonic(*button, static_cast<QShortcutEvent*>(event)->isAmbiguous());
+    }
+    const bool arranges = type == QEvent::ShowToParent || type == QEvent::HideToParent;
+    if (arranges && std::ranges::find(frames_, watched) != frames_.end())
+        layOutFrames();
+    return QWidget::eventFilter(watched, event);
+}
+
+/// A letter takes the focus to its button and presses it at once, so that what is typed next goes where it should. Of
+/// several that share it the one in the frame that has the focus is meant, else the one that isn't a second choice.
+bool MainWindow::pressMnemonic(QAbstractButton& button, bool ambiguous) {
+    QAbstractButton* const meant = ambiguous ? meantBy(button) : &button;
+    if (meant == nullptr)
+        return false;
+    meant->setFocus(Qt::ShortcutFocusReason);
+    meant->click();
+    return true;
+}
+
+QAbstractButton* MainWindow::meantBy(const QAbstractButton& button) const {
+    QList<QAbstractButton*> sharing = findChildren<QAbstractButton*>();
+    sharing.removeIf([&button](const QAbstractButton* other) {
+        return other->shortcut() != button.shortcut() || !other->isVisible() || !other->isEnabled();
+    });
+    const QWidget* const frame = outerFrame(QApplication::focusWidget());
+    const auto only = [&sharing](const auto& fits) -> QAbstractButton* {
+        return std::ranges::count_if(sharing, fits) == 1 ? *std::ranges::find_if(sharing, fits) : nullptr;
+    };
+    if (QAbstractButton* const near = only([frame](const QWidget* other) { return outerFrame(other) == frame; }))
+        return near;
+    return only([](const QWidget* other) { return !other->property("secondaScelta").toBool(); });
+}
+
+/// Presses the button that has the focus, else the default one.
+void MainWindow::pressEnter() {
+    if (auto* const focused = qobject_cast<QPushButton*>(focusWidget()); focused != nullptr && focused->isEnabled()) {
+        focused->click();
+        return;
+    }
+    for (const auto& control : form_.controls()) {
+        auto* const button = dynamic_cast<Button*>(control.get());
+        if (button != nullptr && button->isDefault() && button->reachable()) {
+            binder_.input([button] { button->click(); });
+            return;
+        }
+    }
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter: pressEnter(); break;
+    case Qt::Key_Escape: binder_.input([this] { rinunciaAllaScelta(form_); }); break;
+    default: QWidget::keyPressEvent(event);
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!form_.chiusa) {
+        binder_.input([this] { chiedeDiChiudere(form_); });
+        event->setAccepted(form_.chiusa);
+    }
+    if (event->isAccepted())
+        savePlace();
+}
+
+void MainWindow::restorePlace() {
+    restoreGeometry(QSettings().value(placeKey).toByteArray());
+}
+
+void MainWindow::savePlace() const {
+    QSettings().setValue(placeKey, saveGeometry());
+}
+
+} // namespace vanzer::desktop

@@ -1,0 +1,50 @@
+// The window: the fixed forms, the frames laid over and beside the table, and what belongs to a window as such: Enter,
+// Esc, the close button, size and place.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <QAbstractButton>
+#include <QWidget>
+
+#include "desktop/binder.h"
+
+namespace Ui {
+class MainWindow;
+}
+
+namespace vanzer::desktop {
+
+class MainWindow : public QWidget {
+    Q_OBJECT
+  public:
+    /// The form lives longer than the window.
+    explicit MainWindow(Form& form);
+    ~MainWindow() override;
+
+    [[nodiscard]] Binder& binder() { return binder_; }
+    /// Size and place of the last time; the window's own without any.
+    void restorePlace();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void addFrames();
+    void layOutFrames();
+    void pressEnter();
+    bool pressMnemonic(QAbstractButton& button, bool ambiguous);
+    [[nodiscard]] QAbstractButton* meantBy(const QAbstractButton& button) const;
+    void savePlace() const;
+
+    Form& form_;
+    std::unique_ptr<Ui::MainWindow> ui_;
+    std::vector<QWidget*> frames_; ///< laid over and beside the table
+    Binder binder_;
+};
+
+} // namespace vanzer::desktop

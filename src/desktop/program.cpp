@@ -1,0 +1,34 @@
+#include "desktop/program.h"
+
+#include <QTimer>
+
+#include "window/startup.h"
+
+namespace vanzer::desktop {
+
+namespace {
+
+constexpr int slowStart = 300; // ms; a start that takes longer shows its window before the end
+
+} // namespace
+
+Program::Program(const Ambiente& surroundings, Clock& clock, Pace pace)
+    : events_(pace), ports_{boxes_, dialogs_, clock, events_, programs_}, form_(nuovaFinestra(surroundings, ports_)),
+      window_(std::make_unique<MainWindow>(*form_)) {
+    boxes_.setWindow(window_.get());
+    dialogs_.setWindow(window_.get());
+    boxes_.onOpen = dialogs_.onOpen = [this] { window_->binder().flush(); };
+    QObject::connect(&window_->binder(), &Binder::inputBegins, [this] { events_.begin(); });
+}
+
+bool Program::start() {
+    window_->restorePlace();
+    QTimer::singleShot(slowStart, window_.get(), &QWidget::show);
+    caricaFinestra(*form_);
+    window_->binder().flush();
+    if (!form_->chiusa)
+        window_->show();
+    return !form_->chiusa;
+}
+
+} // namespace vanzer::desktop

@@ -1,0 +1,33 @@
+// The whole program on a desktop: ports, form and window, put together.
+#pragma once
+
+#include <memory>
+
+#include "desktop/desktop_ports.h"
+#include "desktop/main_window.h"
+#include "toolkit/program_starter.h"
+
+namespace vanzer::desktop {
+
+class Program {
+  public:
+    /// `clock` lives longer than the program.
+    Program(const Ambiente& surroundings, Clock& clock, Pace pace = {});
+
+    /// Opens the archive and shows the window; false if the user has been told why that can't be.
+    [[nodiscard]] bool start();
+
+    [[nodiscard]] Form& form() { return *form_; }
+    [[nodiscard]] MainWindow& window() { return *window_; }
+
+  private:
+    DialogBoxes boxes_;
+    PlatformDialogs dialogs_;
+    PacedYield events_;
+    DetachedStarter programs_;
+    Ports ports_;
+    std::unique_ptr<Form> form_;
+    std::unique_ptr<MainWindow> window_;
+};
+
+} // namespace vanzer::desktop

@@ -1,0 +1,28 @@
+// Draws the cells of a table view: days in bands, their ends ruled off, stops set in, totals on a ground of their own.
+#pragma once
+
+#include <QStyledItemDelegate>
+
+#include "schedule/row_look.h"
+
+namespace vanzer::desktop {
+
+struct Tints;
+class TableView;
+
+class RowDelegate : public QStyledItemDelegate {
+    Q_OBJECT
+  public:
+    explicit RowDelegate(TableView& view);
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+  private:
+    struct Cell;
+    void drawGround(QPainter& painter, const Cell& cell) const;
+    void drawText(QPainter& painter, const Cell& cell) const;
+    void drawTotal(QPainter& painter, const Cell& cell) const;
+
+    TableView& view_;
+};
+
+} // namespace vanzer::desktop

@@ -1,0 +1,226 @@
+#include "desktop/table_view.h"
+
+#include <algorithm>
+
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <QToolTip>
+
+#include "desktop/row_delegate.h"
+
+namespace vanzer::desktop {
+
+namespace {
+
+constexpr int cellPadding = 10;
+/// Twips of the narrowest left-aligned column that takes its part of the spare room.
+constexpr int flexibleTwips = 900;
+/// Twips of a digit in the font that the grid's layouts were made for.
+constexpr int digitTwips = 90;
+
+/// The codes of the keys that move; 0 for every other key.
+int movingCode(int key) {
+    switch (key) {
+    case Qt::Key_Up: return 38;
+    case Qt::Key_Down: return 40;
+    case Qt::Key_PageUp: return 33;
+    case Qt::Key_PageDown: return 34;
+    default: return 0;
+    }
+}
+
+} // namespace
+
+TableView::TableView(QWidget* parent) : QTableView(parent) {
+    setItemDelegate(new RowDelegate(*this));
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(NoSelection);
+    setSelectionBehavior(SelectRows);
+    setVerticalScrollMode(ScrollPerItem);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setTabKeyNavigation(false);
+    setShowGrid(false);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setMinimumSectionSize(8);
+    fitRows();
+    connect(this, &QTableView::clicked, this, [this](const QModelIndex& at) { emit rowClicked(at.row() + 1); });
+    connect(this, &QTableView::doubleClicked, this,
+            [this](const QModelIndex& at) { emit rowDoubleClicked(at.row() + 1); });
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
+        if (!showing_)
+            emit scrolledTo(value + 1);
+    });
+}
+
+void TableView::setGrid(Grid& grid) {
+    grid_ = &grid;
+    setModel(&grid.model());
+    const auto forget = [this] { forgetLooks(); };
+    connect(model(), &QAbstractItemModel::dataChanged, this, forget);
+    connect(model(), &QAbstractItemModel::rowsInserted, this, forget);
+    connect(model(), &QAbstractItemModel::rowsRemoved, this, forget);
+    connect(model(), &QAbstractItemModel::modelReset, this, [this] {
+        forgetLooks();
+        topShown_ = -1;
+    });
+}
+
+const AspettoRiga& TableView::look(int row) const {
+    if (!looksKnown_) {
+        looks_ =
+            aspettoRighe(grid_->rows(), [this](int r, int column) -> const QString& { return grid_->cell(r, column); });
+        looksKnown_ = true;
+    }
+    return looks_[static_cast<std::size_t>(row)];
+}
+
+void TableView::showLayout() {
+    fitColumns();
+    spanTotals();
+}
+
+/// The closing rows of a schedule run over all columns; they are its last ones.
+void TableView::spanTotals() {
+    if (spanned_ > 0)
+        clearSpans();
+    spanned_ = 0;
+    for (int row = grid_->rows() - 1; row >= 1; --row) {
+        const AspettoRiga::Tipo kind = look(row).tipo;
+        if (kind == AspettoRiga::Tipo::Vuota)
+            continue;
+        if (kind != AspettoRiga::Tipo::Totale && kind != AspettoRiga::Tipo::TitoloTotale)
+            break;
+        setSpan(row - 1, 1, 1, grid_->columns() - 1);
+        ++spanned_;
+    }
+}
+
+void TableView::showSelection() {
+    const int row = grid_->row();
+    showing_ = true;
+    if (topShown_ != grid_->topRow()) {
+        topShown_ = grid_->topRow();
+        verticalScrollBar()->setValue(topShown_ - 1);
+    }
+    selectionModel()->clearSelection();
+    if (row >= 1) {
+        const QModelIndex first = model()->index(row - 1, std::max(grid_->col(), 1));
+        const bool moved = currentIndex().row() != first.row();
+        selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+        const QItemSelection rows(model()->index(std::min(row, grid_->rowSel()) - 1, 0),
+                                  model()->index(std::max(row, grid_->rowSel()) - 1, grid_->columns() - 1));
+        selectionModel()->select(rows, QItemSelectionModel::Select);
+        if (moved)
+            scrollTo(first);
+    }
+    showing_ = false;
+}
+
+bool TableView::flexible(int column) const {
+    return grid_->alignment(column) == Allineamento::Sinistra && grid_->columnWidth(column) >= flexibleTwips;
+}
+
+/// The width of the longest text of a column; the rows of totals have the whole width.
+int TableView::textWidth(int column) const {
+    const QString* longest = nullptr;
+    for (int row = 1; row < grid_->rows(); ++row) {
+        const QString& text = grid_->cell(row, column);
+        if ((longest == nullptr || text.size() > longest->size()) && !text.contains(u'\t'))
+            longest = &text;
+    }
+    return longest == nullptr ? 0 : QFontMetrics(font()).horizontalAdvance(*longest);
+}
+
+int TableView::headWidth(int column) const {
+    return horizontalHeader()->fontMetrics().horizontalAdvance(grid_->cell(0, column)) + cellPadding;
+}
+
+/// The width of the layout, in the measure of the font, and up to half as much again for a text that needs it.
+int TableView::ownWidth(int column) const {
+    const int laidOut = grid_->columnWidth(column) * QFontMetrics(font()).horizontalAdvance(u'0') / digitTwips;
+    return std::max({laidOut, headWidth(column), std::min(textWidth(column) + cellPadding, laidOut * 3 / 2)});
+}
+
+/// Columns keep the widths of the layout, in the measure of the font; what is left goes to the columns of long texts,
+/// by what their texts ask for.
+void TableView::fitColumns() {
+    if (grid_ == nullptr)
+        return;
+    int room = viewport()->width();
+    std::vector<std::pair<int, int>> wishes;
+    int wished = 0;
+    for (int c = 0; c < grid_->columns(); ++c) {
+        setColumnHidden(c, grid_->columnWidth(c) == 0);
+        if (isColumnHidden(c))
+            continue;
+        if (flexible(c)) {
+            wishes.emplace_back(c, std::max(textWidth(c) + 3 * cellPadding, headWidth(c)));
+            wished += wishes.back().second;
+        } else {
+            setColumnWidth(c, ownWidth(c));
+            room -= columnWidth(c);
+        }
+    }
+    for (std::size_t i = 0; i < wishes.size(); ++i) {
+        const auto& [column, wish] = wishes[i];
+        const bool last = i + 1 == wishes.size();
+        const int part = last ? room : room * wish / std::max(wished, 1);
+        setColumnWidth(column, std::max(part, headWidth(column)));
+        room -= part;
+        wished -= wish;
+    }
+}
+
+void TableView::fitRows() {
+    verticalHeader()->setMinimumSectionSize(8);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+}
+
+void TableView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    fitColumns();
+}
+
+void TableView::changeEvent(QEvent* event) {
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        fitRows();
+        fitColumns();
+    }
+}
+
+void TableView::keyPressEvent(QKeyEvent* event) {
+    const int moving = movingCode(event->key());
+    const bool confirms = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (moving == 0 && (confirms || event->text().isEmpty() || event->key() == Qt::Key_Escape)) {
+        event->ignore();
+        return;
+    }
+    emit keyCode(moving != 0 ? moving : static_cast<int>(event->text().at(0).unicode()));
+    event->accept();
+}
+
+/// A text that its cell can't show whole is told beside the mouse.
+void TableView::tellCell(const QPoint& at) {
+    const QModelIndex index = indexAt(at);
+    const QString text = index.data().toString();
+    const bool cut = fontMetrics().horizontalAdvance(text) + cellPadding > columnWidth(index.column());
+    QToolTip::showText(viewport()->mapToGlobal(at), index.isValid() && cut ? text.trimmed() : QString(), viewport());
+}
+
+bool TableView::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        tellCell(static_cast<QHelpEvent*>(event)->pos());
+        return true;
+    }
+    return QTableView::viewportEvent(event);
+}
+
+} // namespace vanzer::desktop

@@ -1,0 +1,61 @@
+// The grid as the user sees it: the cells of a grid model, with the rows told apart by what they are.
+#pragma once
+
+#include <vector>
+
+#include <QTableView>
+
+#include "schedule/row_look.h"
+#include "toolkit/grid.h"
+
+namespace vanzer::desktop {
+
+class TableView : public QTableView {
+    Q_OBJECT
+  public:
+    explicit TableView(QWidget* parent = nullptr);
+
+    /// The grid lives longer than the view.
+    void setGrid(Grid& grid);
+    [[nodiscard]] const Grid& grid() const { return *grid_; }
+
+    /// Column widths, current row and top row as the grid has them now.
+    void showLayout();
+    void showSelection();
+
+    /// `row` counts from 1, as in the grid.
+    [[nodiscard]] const AspettoRiga& look(int row) const;
+
+  signals:
+    void rowClicked(int row);
+    void rowDoubleClicked(int row);
+    /// Arrows and page keys come as 38, 40, 33, 34, every other key as its character code.
+    void keyCode(int code);
+    void scrolledTo(int topRow);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+
+  private:
+    void fitColumns();
+    void fitRows();
+    void forgetLooks() { looksKnown_ = false; }
+    void spanTotals();
+    [[nodiscard]] int ownWidth(int column) const;
+    [[nodiscard]] int headWidth(int column) const;
+    [[nodiscard]] int textWidth(int column) const;
+    [[nodiscard]] bool flexible(int column) const;
+    void tellCell(const QPoint& at);
+
+    Grid* grid_ = nullptr;
+    mutable std::vector<AspettoRiga> looks_;
+    mutable bool looksKnown_ = false;
+    bool showing_ = false;
+    int topShown_ = -1;
+    int spanned_ = 0;
+};
+
+} // namespace vanzer::desktop

@@ -1,0 +1,190 @@
+#include "desktop/text_ties.h"
+
+#include <algorithm>
+
+namespace vanzer::desktop {
+
+namespace {
+
+constexpr int backspace = 8;
+constexpr int firstCharacter = 32;
+
+/// Key-down codes: letters and digits are their own, the keys that move have those of old.
+int keyDownCode(int key) {
+    switch (key) {
+    case Qt::Key_PageUp: return 33;
+    case Qt::Key_PageDown: return 34;
+    case Qt::Key_End: return 35;
+    case Qt::Key_Home: return 36;
+    case Qt::Key_Left: return 37;
+    case Qt::Key_Up: return 38;
+    case Qt::Key_Right: return 39;
+    case Qt::Key_Down: return 40;
+    case Qt::Key_Backspace: return backspace;
+    case Qt::Key_Tab: return 9;
+    case Qt::Key_Return:
+    case Qt::Key_Enter: return 13;
+    case Qt::Key_Escape: return 27;
+    default: return key >= firstCharacter && key <= Qt::Key_Z ? key : 0;
+    }
+}
+
+qsizetype commonStart(const QString& a, const QString& b) {
+    return std::mismatch(a.begin(), a.begin() + std::min(a.size(), b.size()), b.begin()).first - a.begin();
+}
+
+} // namespace
+
+QString filteredEdit(const TextControl& model, const QString& old, const QString& edited, int& cursor) {
+    const qsizetype start = std::min<qsizetype>(commonStart(old, edited), cursor);
+    const qsizetype tail = edited.size() - cursor;
+    if (cursor <= start || tail > old.size() || !old.endsWith(QStringView(edited).right(tail)))
+        return edited;
+    QString brought;
+    for (const char32_t c : edited.mid(start, cursor - start).toUcs4()) {
+        const auto passed = static_cast<char32_t>(model.filterKey(static_cast<int>(c)));
+        if (passed >= firstCharacter)
+            brought += QString::fromUcs4(&passed, 1);
+    }
+    if (model.room() >= 0)
+        brought.truncate(std::max<qsizetype>(model.room() - start - tail, 0));
+    const QString result = edited.left(start) + brought + edited.right(tail);
+    cursor = static_cast<int>(start + brought.size());
+    return result;
+}
+
+TextTie::TextTie(TextControl& model, QWidget& widget, Binder& to) : Tie(model, widget, to), model_(model) {
+    widget.installEventFilter(this);
+}
+
+bool TextTie::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        if (keyPressed(*static_cast<QKeyEvent*>(event)))
+            return true;
+    } else if (event->type() == QEvent::FocusOut && !binder().showing()) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason && model_.onLostFocus)
+            binder().input([this] { model_.leave(); });
+    }
+    return Tie::eventFilter(watched, event);
+}
+
+void TextTie::follow(QLineEdit& line) {
+    line_ = &line;
+    connect(&line, &QLineEdit::textEdited, this, &TextTie::edited);
+}
+
+bool TextTie::keyPressed(const QKeyEvent& event) {
+    if (const int code = keyDownCode(event.key()); code != 0 && model_.onKeyDown)
+        binder().input([this, code] { model_.keyDown(code); });
+    if (event.key() == Qt::Key_Backspace)
+        return model_.filterKey(backspace) == 0;
+    const bool command = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+    const bool character = event.text().size() == 1 && event.text().at(0).unicode() >= firstCharacter;
+    return !command && character && event.key() != Qt::Key_Delete && typed(event.text().at(0).unicode());
+}
+
+/// A key that is dropped leaves a selected text as it is.
+bool TextTie::typed(int code) {
+    if (line_ == nullptr || line_->isReadOnly())
+        return false;
+    int passed = 0;
+    binder().input([this, code, &passed] { passed = model_.filterKey(code); });
+    const qsizetype kept = line_->text().size() - line_->selectedText().size();
+    if (passed < firstCharacter || (model_.room() >= 0 && kept >= model_.room()))
+        return true;
+    filtered_ = true;
+    line_->insert(QString(QChar(static_cast<char16_t>(passed))));
+    filtered_ = false;
+    return true;
+}
+
+void TextTie::edited(const QString& text) {
+    int cursor = line_->cursorPosition();
+    const QString kept = filtered_ ? text : filteredEdit(model_, model_.text(), text, cursor);
+    if (kept != text) {
+        line_->setText(kept);
+        line_->setCursorPosition(cursor);
+    }
+    binder().input([this] { model_.setText(line_->text()); });
+}
+
+FieldTie::FieldTie(TextControl& model, QLineEdit& line, Binder& to)
+    : TextTie(model, line, to), model_(model), line_(line) {
+    follow(line);
+}
+
+void FieldTie::showOwn() {
+    if (line_.text() == model_.text())
+        return;
+    line_.setText(model_.text());
+    if (line_.isReadOnly() || !line_.hasFocus())
+        line_.setCursorPosition(0);
+}
+
+DropDownTie::DropDownTie(ListControl& model, DropDown& list, Binder& to)
+    : TextTie(model, list, to), model_(model), list_(list) {
+    list.setEditable(!model.entriesOnly());
+    if (list.lineEdit() != nullptr) {
+        list.setCompleter(nullptr);
+        follow(*list.lineEdit());
+    }
+    connect(&list, &QComboBox::activated, this,
+            [this](int at) { binder().input([this, at] { model_.pick(model_.List(at)); }); });
+}
+
+void DropDownTie::showOwn() {
+    if (shown_ != model_.entries()) {
+        shown_ = model_.entries();
+        list_.showEntries(shown_);
+    }
+    if (list_.shownText() != model_.text() || (list_.isEditable() && list_.currentText() != model_.text()))
+        list_.showText(model_.text());
+    list_.setAccessibleDescription(model_.text());
+}
+
+bool DropDownTie::keyPressed(const QKeyEvent& event) {
+    if (TextTie::keyPressed(event))
+        return true;
+    // A list that is only picked from has no search by letters; the blank opens it.
+    return model_.entriesOnly() && !event.text().isEmpty() && event.text().at(0) > u' ';
+}
+
+ListBoxTie::ListBoxTie(ListControl& model, QListView& view, Binder& to)
+    : Tie(model, view, to), model_(model), view_(view) {
+    view.setModel(&entries_);
+    view.setUniformItemSizes(true);
+    view.setSpacing(1);
+    view.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view.installEventFilter(this);
+    connect(&view, &QListView::clicked, this, &ListBoxTie::pickCurrent);
+}
+
+bool ListBoxTie::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            pickCurrent();
+            return true;
+        }
+    }
+    // A list comes up to be picked from.
+    if (event->type() == QEvent::Show)
+        view_.setFocus(Qt::OtherFocusReason);
+    return Tie::eventFilter(watched, event);
+}
+
+void ListBoxTie::pickCurrent() {
+    const QString entry = view_.currentIndex().data().toString();
+    if (!entry.isEmpty())
+        binder().input([this, &entry] { model_.pick(entry); });
+}
+
+void ListBoxTie::showOwn() {
+    if (entries_.stringList() == model_.entries())
+        return;
+    entries_.setStringList(model_.entries());
+    view_.setCurrentIndex(entries_.index(0));
+}
+
+} // namespace vanzer::desktop

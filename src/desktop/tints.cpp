@@ -1,0 +1,39 @@
+#include "desktop/tints.h"
+
+namespace vanzer::desktop {
+
+namespace {
+
+/// `share` of `over` laid on `under`, 0 to 1.
+QColor mixed(const QColor& under, const QColor& over, float share) {
+    const auto channel = [share](float a, float b) { return a + (b - a) * share; };
+    return QColor::fromRgbF(channel(under.redF(), over.redF()), channel(under.greenF(), over.greenF()),
+                            channel(under.blueF(), over.blueF()));
+}
+
+} // namespace
+
+Tints::Tints(const QPalette& palette) {
+    const QColor base = palette.color(QPalette::Active, QPalette::Base);
+    const QColor text = palette.color(QPalette::Active, QPalette::Text);
+    const QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
+    const bool dark = base.lightness() < text.lightness();
+    fillable = mixed(base, QColor(0x3d, 0xa2, 0xf5), dark ? 0.28F : 0.20F);
+    computed = mixed(base, text, dark ? 0.10F : 0.07F);
+    band = mixed(base, text, dark ? 0.07F : 0.05F);
+    total = mixed(base, accent, dark ? 0.30F : 0.14F);
+    marked = mixed(base, QColor(0xf5, 0xb8, 0x3d), dark ? 0.35F : 0.40F);
+    rule = mixed(base, text, 0.55F);
+    faint = mixed(text, base, 0.35F);
+}
+
+QPalette fieldPalette(const QPalette& palette, const QColor& ground) {
+    QPalette result = palette;
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        result.setColor(group, QPalette::Base, ground);
+        result.setColor(group, QPalette::Button, ground);
+    }
+    return result;
+}
+
+} // namespace vanzer::desktop

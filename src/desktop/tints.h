@@ -1,0 +1,24 @@
+// The window's own colours, made from the palette of the platform so that dark palettes and strong contrasts hold.
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+namespace vanzer::desktop {
+
+struct Tints {
+    explicit Tints(const QPalette& palette);
+
+    QColor fillable; ///< fields that the user fills in: a light blue
+    QColor computed; ///< fields that the system fills in: a grey
+    QColor band;     ///< rows of every other day
+    QColor total;    ///< rows of totals
+    QColor marked;   ///< cells with the window's own colour
+    QColor rule;     ///< the line below the end of a day
+    QColor faint;    ///< texts that stand back
+};
+
+/// The palette of a field: its ground in the tint, for entry boxes as for lists.
+[[nodiscard]] QPalette fieldPalette(const QPalette& palette, const QColor& ground);
+
+} // namespace vanzer::desktop

@@ -1,0 +1,237 @@
+// Every control of the window against its widget.
+#include <algorithm>
+#include <set>
+
+#include <QAbstractItemModelTester>
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QWheelEvent>
+
+#include "desktop/text_ties.h"
+#include "desktop/tints.h"
+#include "desktop_fixture.h"
+
+namespace vanzer::desktop {
+namespace {
+
+class Controls : public DesktopTest {
+  protected:
+    void SetUp() override {
+        DesktopTest::SetUp();
+        open();
+    }
+
+    [[nodiscard]] static const Frame* outermost(const Control& control) {
+        const Frame* frame = control.frame();
+        while (frame != nullptr && frame->frame() != nullptr)
+            frame = frame->frame();
+        return frame != nullptr ? frame : dynamic_cast<const Frame*>(&control);
+    }
+
+    /// Frames that have no form yet, and what is never seen: pictures for paper, the stops of a route file.
+    [[nodiscard]] static bool notInTheWindow(const Control& control) {
+        static const std::set<int> noForm{1, 2, 13, 16, 17, 18, 19, 20, 21, 22, 23, 25, 26, 27};
+        const Frame* const frame = outermost(control);
+        const auto* const self = dynamic_cast<const Frame*>(&control);
+        return (frame != nullptr && noForm.contains(frame->index())) ||
+               (control.frame() != nullptr && noForm.contains(control.frame()->index())) ||
+               (self != nullptr && noForm.contains(self->index())) ||
+               dynamic_cast<const Picture*>(&control) != nullptr || control.name() == QStringLiteral("lstMete");
+    }
+
+    [[nodiscard]] static QString captionShown(const QWidget& widget) {
+        if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget))
+            return button->text();
+        if (const auto* const box = qobject_cast<const QGroupBox*>(&widget))
+            return box->title();
+        const auto* const label = qobject_cast<const QLabel*>(&widget);
+        return label == nullptr ? QString() : label->text();
+    }
+
+    [[nodiscard]] static QString spokenName(QWidget& widget) {
+        QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(&widget);
+        return face == nullptr ? QString() : face->text(QAccessible::Name);
+    }
+};
+
+TEST_F(Controls, EachHasItsWidgetWithCaptionTipKeyAndName) {
+    int checked = 0;
+    for (const auto& control : form().controls()) {
+        const std::string name = control->name().toStdString();
+        if (notInTheWindow(*control))
+            continue;
+        QWidget* const widget = window().binder().widget(*control);
+        ASSERT_NE(widget, nullptr) << name;
+        ++checked;
+        EXPECT_EQ(Binder::controlName(widget->objectName()), control->name());
+        EXPECT_EQ(widget->toolTip(), control->tooltip()) << name;
+        EXPECT_EQ(widget->isHidden(), !control->visible()) << name;
+        if (const auto* const captioned = dynamic_cast<const Captioned*>(control.get());
+            captioned != nullptr && qobject_cast<QFrame*>(widget) == nullptr) {
+            EXPECT_EQ(captionShown(*widget), captioned->caption().trimmed()) << name;
+            if (const auto* const button = qobject_cast<QAbstractButton*>(widget)) {
+                EXPECT_EQ(button->shortcut(), QKeySequence::mnemonic(captioned->caption())) << name;
+            }
+        }
+        const bool holdsOthers = dynamic_cast<const Frame*>(control.get()) != nullptr;
+        const bool speaks = holdsOthers || !spokenName(*widget).isEmpty() || control.get() == &form().lblGNota;
+        EXPECT_TRUE(speaks || qobject_cast<QLabel*>(widget) != nullptr) << name << " has no name for screen readers";
+    }
+    EXPECT_GT(checked, 140);
+}
+
+TEST_F(Controls, FieldsTellByTheirGroundWhatCanBeFilledIn) {
+    const Tints tints(window().palette());
+    EXPECT_NE(tints.fillable, tints.computed);
+    for (const char* name : {"txtLocalita", "txtNazione"})
+        EXPECT_EQ(find(name)->palette().color(QPalette::Base), tints.fillable) << name;
+    for (const char* name : {"txtCodice", "txtFine_0", "txtKmTot_4", "txtTempo_0", "txtTragh", "txtInizioGSett"}) {
+        EXPECT_EQ(find(name)->palette().color(QPalette::Base), tints.computed) << name;
+        EXPECT_TRUE(find<QLineEdit>(name)->isReadOnly()) << name;
+    }
+    for (const char* name : {"cmbOra_0", "cmbMediaKm_0", "cmbInizio_4"})
+        EXPECT_EQ(find(name)->palette().color(QPalette::Button), tints.fillable) << name;
+}
+
+TEST_F(Controls, TabGoesInTheOrderOfTheEye) {
+    typeDestination("roma", "italia");
+    letter('i');
+    for (const int index : {8, 9, 11, 6, 5, 4, 0, 15, 3, 12}) {
+        const auto* const frame = find((QStringLiteral("frmframe_") + QString::number(index)).toLatin1().constData());
+        std::vector<QRect> places;
+        for (QWidget* w = window().nextInFocusChain(); w != &window(); w = w->nextInFocusChain()) {
+            const bool stops = (w->focusPolicy() & Qt::TabFocus) != 0 && w->parentWidget() == frame;
+            if (stops && w->focusProxy() == nullptr)
+                places.push_back(w->geometry());
+        }
+        ASSERT_FALSE(places.empty()) << index;
+        const auto before = [](const QRect& a, const QRect& b) {
+            return a.bottom() <= b.center().y() || (std::abs(a.center().y() - b.center().y()) < 12 && a.x() < b.x());
+        };
+        EXPECT_TRUE(std::ranges::is_sorted(places, before)) << "frmframe(" << index << ")";
+    }
+}
+
+TEST_F(Controls, TypedAndPastedTextGoesThroughTheKeyHandlers) {
+    typeDestination("roma", "italia");
+    letter('i');
+    const struct {
+        const char* field;
+        const char* typed;
+        const char* shown;
+    } cases[] = {
+        {"txtTappa", "forlì (àè) l'aquila", "FORLÌ (ÀÈ) L'AQUILA"},
+        {"txtTappa", "abcdefghijklmnopqrstuvwxyz0123456789", "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123"},
+        {"txtNumStrada", "a1/e45", "A1/E45"},
+        {"txtKm", "1x2-3,4", "1234"},
+    };
+    for (const auto& c : cases) {
+        for (const bool pasted : {false, true}) {
+            auto* const field = find<QLineEdit>(c.field);
+            field->setFocus();
+            field->selectAll();
+            if (pasted) {
+                QApplication::clipboard()->setText(QString::fromUtf8(c.typed));
+                key(Qt::Key_V, Qt::ControlModifier);
+            } else {
+                write(c.typed);
+            }
+            EXPECT_EQ(field->text().toStdString(), c.shown) << c.field << (pasted ? " pasted" : " typed");
+            const auto* const model = dynamic_cast<TextControl*>(form().find(QLatin1StringView(c.field)));
+            EXPECT_EQ(model->text(), field->text());
+        }
+    }
+    auto* const km = find<QLineEdit>("txtKm");
+    km->setFocus();
+    km->selectAll();
+    write("x");
+    EXPECT_EQ(km->text().toStdString(), "1234") << "a dropped key leaves the selection";
+    km->deselect();
+    key(Qt::Key_Backspace);
+    EXPECT_EQ(km->text().toStdString(), "1234");
+}
+
+TEST_F(Controls, ListsArePickedFromAndTypedIntoAsTheirKindAllows) {
+    auto* const hour = find<DropDown>("cmbOra_0");
+    hour->setFocus();
+    write("3");
+    EXPECT_EQ(hour->shownText().toStdString(), "09");
+    key(Qt::Key_Down);
+    EXPECT_EQ(form().cmbOra(0).text().toStdString(), "10");
+    find("cmbRange")->setFocus();
+    QWheelEvent wheel({}, {}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(hour, &wheel);
+    EXPECT_EQ(form().cmbOra(0).text().toStdString(), "10") << "a wheel that passes by";
+
+    auto* const speed = find<DropDown>("cmbMediaKm_0");
+    speed->setFocus();
+    speed->lineEdit()->selectAll();
+    write("1x35");
+    EXPECT_EQ(form().cmbMediaKm(0).text().toStdString(), "135");
+    auto* const days = find<DropDown>("cmbGiorni");
+    days->setFocus();
+    days->lineEdit()->selectAll();
+    write("998");
+    EXPECT_EQ(days->currentText().toStdString(), "997");
+    form().cmbOra(0).setText(QStringLiteral("99"));
+    window().binder().flush();
+    EXPECT_EQ(hour->shownText().toStdString(), "99") << "a text beside the entries";
+}
+
+TEST_F(Controls, FocusThatLeavesAnHourChecksTheClock) {
+    find("cmbOra_1")->setFocus();
+    form().cmbOra(1).setText(QStringLiteral("11"));
+    form().cmbMin(1).setText(QStringLiteral("00"));
+    form().cmbOra(0).setText(QStringLiteral("10"));
+    form().cmbMin(0).setText(QStringLiteral("15"));
+    tab();
+    EXPECT_EQ(textOf("cmbOra_0").toStdString(), "00") << "lunch too near to the start of the day";
+    EXPECT_EQ(textOf("cmbOra_1").toStdString(), "11");
+}
+
+TEST_F(Controls, TheTableIsASoundModel) {
+    const QAbstractItemModelTester tester(&form().mfgTab.model(),
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
+    typeDestination("roma", "italia");
+    letter('i');
+    for (int i = 1; i <= 30; ++i) {
+        form().txtTappa.type(QStringLiteral("LUOGO"));
+        form().txtKm.type(QStringLiteral("9"));
+        form().cmdInserisce.click();
+    }
+    form().cmdAggiunge.click();
+    form().cmdCancella.click();
+    form().cmdRicalcola.click();
+    window().binder().flush();
+    EXPECT_EQ(textOf("cmdCalcola"), QStringLiteral("&Sblocca"));
+}
+
+TEST(FilteredEdit, KeepsTheCaretBehindWhatWasBroughtIn) {
+    TextBox digits(QStringLiteral("t"), -1, nullptr);
+    digits.onKeyPress = [](int& code) { code = code >= u'0' && code <= u'9' ? code : 0; };
+    const struct {
+        const char* old;
+        const char* edited;
+        int cursor;
+        const char* kept;
+        int caret;
+    } cases[] = {
+        {"12", "1x2", 2, "12", 1},  {"12", "13x42", 4, "1342", 3}, {"", "a1b2", 4, "12", 2},
+        {"1212", "12", 0, "12", 0}, {"111", "1111", 2, "1111", 2}, {"123", "12", 2, "12", 2},
+        {"12", "x", 1, "", 0},      {"aa", "aab", 3, "aa", 2},
+    };
+    for (const auto& c : cases) {
+        int cursor = c.cursor;
+        EXPECT_EQ(filteredEdit(digits, QString::fromUtf8(c.old), QString::fromUtf8(c.edited), cursor).toStdString(),
+                  c.kept)
+            << c.old << " -> " << c.edited;
+        EXPECT_EQ(cursor, c.caret) << c.old << " -> " << c.edited;
+    }
+}
+
+} // namespace
+} // namespace vanzer::desktop

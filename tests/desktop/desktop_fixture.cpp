@@ -1,0 +1,126 @@
+#include "desktop_fixture.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QSettings>
+
+#include "desktop/fields.h"
+
+namespace vanzer::desktop {
+
+BoxKeys::BoxKeys() {
+    qApp->installEventFilter(this);
+}
+
+BoxKeys::~BoxKeys() {
+    qApp->removeEventFilter(this);
+}
+
+bool BoxKeys::eventFilter(QObject* watched, QEvent* event) {
+    auto* const box = qobject_cast<QMessageBox*>(watched);
+    if (box == nullptr || event->type() != QEvent::Show)
+        return false;
+    QStringList buttons;
+    for (const QAbstractButton* button : box->buttons())
+        buttons << button->text().remove(u'&');
+    shown_.push_back({box->text(), box->windowTitle(), buttons});
+    const Qt::Key key = keys_.empty() ? Qt::Key_Escape : keys_.front();
+    if (!keys_.empty())
+        keys_.pop_front();
+    // Enter is meant for the default button, which has the focus once the box is open.
+    QMetaObject::invokeMethod(
+        box, [box, key] { QTest::keyClick(key == Qt::Key_Return ? box->focusWidget() : box, key); },
+        Qt::QueuedConnection);
+    return false;
+}
+
+void DesktopTest::SetUp() {
+    ASSERT_TRUE(directory.isValid());
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, directory.filePath(QStringLiteral("settings")));
+}
+
+void DesktopTest::TearDown() {
+    close();
+}
+
+void DesktopTest::open(Pace pace) {
+    close();
+    program_ = std::make_unique<Program>(
+        Ambiente{.directory = directory.path(), .decimalMark = u'.', .versione = QStringLiteral("1.0.0")}, clock_,
+        pace);
+    ASSERT_TRUE(program_->start());
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+}
+
+QString DesktopTest::focusName() {
+    const QWidget* const focus = QApplication::focusWidget();
+    return focus == nullptr ? QString() : focus->objectName();
+}
+
+QString DesktopTest::textOf(const char* name) {
+    QWidget* const widget = find(name);
+    if (auto* const line = qobject_cast<QLineEdit*>(widget))
+        return line->text();
+    if (auto* const list = qobject_cast<DropDown*>(widget))
+        return list->shownText();
+    auto* const button = qobject_cast<QAbstractButton*>(widget);
+    return button == nullptr ? QString() : button->text();
+}
+
+void DesktopTest::key(int key, Qt::KeyboardModifiers modifiers) {
+    QWidget* const focus = QApplication::focusWidget();
+    QTest::keyClick(focus == nullptr ? &window() : focus, static_cast<Qt::Key>(key), modifiers);
+}
+
+void DesktopTest::write(const char* text) {
+    for (const QChar c : QString::fromUtf8(text)) {
+        QWidget* const focus = QApplication::focusWidget();
+        ASSERT_NE(focus, nullptr);
+        QTest::sendKeyEvent(QTest::Click, focus, Qt::Key_unknown, c, Qt::NoModifier);
+    }
+}
+
+void DesktopTest::tab(int times) {
+    for (int i = 0; i < times; ++i)
+        key(Qt::Key_Tab);
+}
+
+void DesktopTest::tabTo(const char* name) {
+    constexpr int controls = 120;
+    for (int i = 0; i < controls && focusName() != QLatin1StringView(name); ++i)
+        key(Qt::Key_Tab);
+    ASSERT_EQ(focusName().toStdString(), name);
+}
+
+void DesktopTest::storeTrip(int legs) {
+    open();
+    form().txtLocalita.type(QStringLiteral("PROVA"));
+    form().txtNazione.type(QStringLiteral("ITALIA"));
+    boxes.expect(Qt::Key_Return);
+    form().cmdSalva.click();
+    form().cmdItinerario.click();
+    for (int i = 1; i <= legs; ++i) {
+        form().txtTappa.type(QStringLiteral("LUOGO %1").arg(i));
+        form().txtKm.type(i == 1 ? QString() : QStringLiteral("90"));
+        form().cmbSosta(1).setText(i % 3 == 0 ? QStringLiteral("03") : QStringLiteral("00"));
+        form().cmdInserisce.click();
+    }
+    boxes.expect(Qt::Key_Return);
+    form().cmdFine.click();
+    boxes.forget();
+    close();
+}
+
+void DesktopTest::typeDestination(const char* place, const char* nation) {
+    letter('n');
+    write(place);
+    tab();
+    write(nation);
+    boxes.expect(Qt::Key_Return);
+    letter('v');
+}
+
+} // namespace vanzer::desktop

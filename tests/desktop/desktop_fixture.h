@@ -1,0 +1,84 @@
+// The whole program with its real window, on an archive of its own, worked by keys and clicks alone.
+#pragma once
+
+#include <deque>
+#include <memory>
+#include <vector>
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "desktop/program.h"
+
+namespace vanzer::desktop {
+
+class FixedClock : public Clock {
+  public:
+    [[nodiscard]] QDateTime now() const override { return {QDate(2026, 6, 1), QTime(9, 10)}; }
+};
+
+/// A message box that came up.
+struct ShownBox {
+    QString text;
+    QString title;
+    QStringList buttons;
+};
+
+/// Presses keys in each message box that shows up, in the order told; Esc when none is told.
+class BoxKeys : public QObject {
+  public:
+    BoxKeys();
+    ~BoxKeys() override;
+    void expect(Qt::Key key) { keys_.push_back(key); }
+    [[nodiscard]] const std::vector<ShownBox>& shown() const { return shown_; }
+    void forget() { shown_.clear(); }
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    std::deque<Qt::Key> keys_;
+    std::vector<ShownBox> shown_;
+};
+
+class DesktopTest : public ::testing::Test {
+  protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    /// Starts the program on the test's archive; events run inside commands at the given pace.
+    void open(Pace pace = {});
+    void close() { program_.reset(); }
+
+    [[nodiscard]] Form& form() { return program_->form(); }
+    [[nodiscard]] MainWindow& window() { return program_->window(); }
+    template<typename T = QWidget> T* find(const char* name) {
+        T* const found = window().template findChild<T*>(QLatin1StringView(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+    [[nodiscard]] QString focusName();
+    [[nodiscard]] QString textOf(const char* name);
+
+    /// To whatever has the focus.
+    void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void write(const char* text);
+    /// An Alt letter.
+    void letter(char c) { key(QChar(QLatin1Char(c)).toUpper().unicode(), Qt::AltModifier); }
+    void tab(int times = 1);
+    /// Tab until the widget of that name has the focus; a failure when it never gets it.
+    void tabTo(const char* name);
+
+    /// A destination and its legs, put into the archive with the models alone.
+    void storeTrip(int legs);
+    /// Keys alone: a new destination, saved.
+    void typeDestination(const char* place, const char* nation);
+
+    BoxKeys boxes;
+    QTemporaryDir directory;
+
+  private:
+    FixedClock clock_;
+    std::unique_ptr<Program> program_;
+};
+
+} // namespace vanzer::desktop

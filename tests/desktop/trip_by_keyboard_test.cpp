@@ -1,0 +1,219 @@
+// A trip planned by hand: what a user does, key by key, and what the window shows.
+#include <QComboBox>
+#include <QSignalSpy>
+
+#include "desktop/table_view.h"
+#include "desktop_fixture.h"
+
+namespace vanzer::desktop {
+namespace {
+
+struct Leg {
+    const char* place;
+    const char* road;
+    const char* km;
+};
+constexpr Leg tenLegs[] = {
+    {"bologna", "", ""},        {"modena", "a1", "41"},           {"verona", "a22", "92"},    {"trento", "a22", "97"},
+    {"bolzano", "a22", "58"},   {"brennero", "a22", "82"},        {"innsbruck", "a13", "37"}, {"kufstein", "a12", "75"},
+    {"rosenheim", "a93", "33"}, {"monaco di baviera", "a8", "60"}};
+
+class TripByKeyboard : public DesktopTest {
+  protected:
+    /// In the leg editor, with the focus where it stands when a row is open.
+    void typeLegs() {
+        for (const Leg& leg : tenLegs) {
+            ASSERT_EQ(focusName(), QStringLiteral("txtTappa"));
+            key(Qt::Key_A, Qt::ControlModifier);
+            write(leg.place);
+            tab();
+            key(Qt::Key_A, Qt::ControlModifier);
+            write(leg.road);
+            tab();
+            write(leg.km);
+            letter('i');
+        }
+    }
+
+    /// Wanted days that no multiplier reaches, so that a calculation runs all its tests.
+    void wantManyDays() { form().cmbGiorni.setText(QStringLiteral("900")); }
+};
+
+TEST_F(TripByKeyboard, FirstStartOffersANewTripAndTheWayOut) {
+    open();
+    EXPECT_EQ(window().windowTitle(), QStringLiteral("Vanzer (v. 1.0.0, Vanzer) by Vanzer"));
+    for (const char* name : {"cmdSalva", "cmdRicerca", "cmdCancMeta", "cmdExport", "cmdItinerario", "cmdGuidaCitta",
+                             "cmdCalcola", "cmdStampa", "cmdCancItin", "cmdModStrada"})
+        EXPECT_FALSE(find(name)->isEnabled()) << name;
+    EXPECT_TRUE(find("cmdNuovo")->isEnabled());
+    EXPECT_TRUE(find("cmdEsce")->isEnabled());
+    EXPECT_FALSE(find("frmframe_12")->isVisible());
+    EXPECT_EQ(textOf("cmbOra_0").toStdString(), "09");
+    EXPECT_EQ(textOf("cmbInizio_2").toStdString(), "2026");
+    EXPECT_FALSE(find("txtPerc")->isVisible());
+}
+
+TEST_F(TripByKeyboard, DestinationIsTypedAndSaved) {
+    open();
+    letter('n');
+    EXPECT_EQ(focusName(), QStringLiteral("txtLocalita"));
+    write("capo nord");
+    tab();
+    write("norvegia");
+    tabTo("cmbInizio_0");
+    key(Qt::Key_Down);
+    boxes.expect(Qt::Key_Return);
+    letter('v');
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_EQ(boxes.shown()[0].text, QStringLiteral("Confermi inserimento meta?"));
+    EXPECT_EQ(boxes.shown()[0].title, QStringLiteral("Inserimento meta"));
+    EXPECT_EQ(boxes.shown()[0].buttons, QStringList({QStringLiteral("Sì"), QStringLiteral("No")}));
+    EXPECT_EQ(textOf("txtLocalita"), QStringLiteral("CAPO NORD"));
+    EXPECT_EQ(textOf("txtCodice"), QStringLiteral("000001"));
+    EXPECT_EQ(textOf("cmbInizio_0"), QStringLiteral("02"));
+    EXPECT_EQ(textOf("txtInizioGSett"), QStringLiteral("Mar"));
+    EXPECT_TRUE(find("cmdItinerario")->isEnabled());
+}
+
+TEST_F(TripByKeyboard, TenLegsAreTypedAndStandInTheArchiveAtTheNextStart) {
+    open();
+    typeDestination("monaco", "germania");
+    letter('i');
+    EXPECT_TRUE(find("frmframe_12")->isVisible());
+    EXPECT_FALSE(find("cmdNuovo")->isEnabled());
+    typeLegs();
+    EXPECT_EQ(textOf("txtRiga"), QStringLiteral("11"));
+    EXPECT_EQ(textOf("txtKmTot_4"), QStringLiteral("575"));
+    // The default button asks whether to store; Enter says yes.
+    boxes.expect(Qt::Key_Return);
+    key(Qt::Key_Return);
+    EXPECT_FALSE(find("frmframe_12")->isVisible());
+
+    open();
+    EXPECT_EQ(textOf("txtLocalita"), QStringLiteral("MONACO"));
+    const auto* const table = find<TableView>("mfgTab");
+    EXPECT_EQ(table->model()->index(9, 1).data().toString().toStdString(), "MONACO DI BAVIERA");
+    EXPECT_EQ(table->model()->index(9, 5).data().toString().toStdString(), "575");
+    EXPECT_EQ(textOf("txtKmTot_0"), QStringLiteral("575"));
+}
+
+TEST_F(TripByKeyboard, CalculationIsStoppedOnceAndFinishedOnce) {
+    storeTrip(12);
+    open({.patience = 0, .yields = 0, .frames = 0});
+    wantManyDays();
+    auto* const stop = find<QAbstractButton>("cmdEsce");
+    bool seen = false;
+    // Runs inside the calculation's own yields, as a user's click does.
+    QTimer whileItRuns;
+    QObject::connect(&whileItRuns, &QTimer::timeout, [this, stop, &seen, &whileItRuns] {
+        if (stop->text() != QStringLiteral("&Stop"))
+            return;
+        whileItRuns.stop();
+        seen = find("txtPerc")->isVisible();
+        stop->click();
+    });
+    whileItRuns.start(0);
+    boxes.expect(Qt::Key_Return);
+    letter('c');
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_EQ(boxes.shown()[0].text, QStringLiteral("Vuoi interrompere l'elaborazione?"));
+    EXPECT_TRUE(seen) << "no progress line during the calculation";
+    EXPECT_EQ(textOf("cmdCalcola"), QStringLiteral("&Calcola"));
+    const auto* const table = find<TableView>("mfgTab");
+    EXPECT_EQ(table->model()->index(11, 1).data().toString().toStdString(), "LUOGO 12");
+
+    // The stop has brought the stored trip back, with no wish for days.
+    wantManyDays();
+    boxes.forget();
+    QSignalSpy grown(table->model(), &QAbstractItemModel::modelReset);
+    letter('c');
+    EXPECT_GT(grown.size(), 2) << "the table was not seen growing";
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_TRUE(boxes.shown()[0].text.startsWith(QStringLiteral("Elaborazione impossibile! (tentativi effettuati")));
+    EXPECT_EQ(boxes.shown()[0].buttons, QStringList({QStringLiteral("OK")}));
+    EXPECT_EQ(textOf("cmdCalcola"), QStringLiteral("&Sblocca"));
+    EXPECT_EQ(focusName(), QStringLiteral("cmdCalcola"));
+    EXPECT_FALSE(find("txtPerc")->isVisible());
+    key(Qt::Key_Return);
+    EXPECT_EQ(textOf("cmdCalcola"), QStringLiteral("&Calcola"));
+    EXPECT_EQ(table->model()->index(11, 1).data().toString().toStdString(), "LUOGO 12");
+}
+
+TEST_F(TripByKeyboard, TableKeysMoveTheRow) {
+    storeTrip(40);
+    open();
+    letter('i');
+    find("mfgTab")->setFocus();
+    const struct {
+        int key;
+        const char* row;
+    } steps[] = {{Qt::Key_Down, "2"},      {Qt::Key_Down, "3"},      {Qt::Key_Up, "2"},     {Qt::Key_PageDown, "20"},
+                 {Qt::Key_PageDown, "38"}, {Qt::Key_PageDown, "41"}, {Qt::Key_PageUp, "23"}};
+    for (const auto& step : steps) {
+        key(step.key);
+        EXPECT_EQ(textOf("txtRiga").toStdString(), step.row);
+        EXPECT_EQ(focusName(), QStringLiteral("mfgTab"));
+    }
+    const auto* const table = find<TableView>("mfgTab");
+    EXPECT_EQ(textOf("txtTappa").toStdString(), "LUOGO 23");
+    EXPECT_EQ(table->currentIndex().row(), 22);
+    const QRect row = table->visualRect(table->currentIndex());
+    EXPECT_TRUE(table->viewport()->rect().contains(row));
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, row.center() + QPoint(0, row.height()));
+    EXPECT_EQ(textOf("txtTappa").toStdString(), "LUOGO 24");
+}
+
+TEST_F(TripByKeyboard, SearchListsArePickedFromAndLeftByKeys) {
+    storeTrip(12);
+    open();
+    letter('r');
+    EXPECT_EQ(focusName(), QStringLiteral("cmbRicerca"));
+    EXPECT_FALSE(find("cmdItinerario")->isEnabled());
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(find("cmbRicerca")->isVisible());
+    EXPECT_TRUE(find("cmdItinerario")->isEnabled());
+    letter('r');
+    key(Qt::Key_Return);
+    EXPECT_TRUE(find("cmdItinerario")->isEnabled());
+    EXPECT_EQ(textOf("txtCodice"), QStringLiteral("000001"));
+
+    letter('i');
+    letter('e');
+    EXPECT_EQ(focusName(), QStringLiteral("cmbRicercaTappa"));
+    EXPECT_FALSE(find("mfgTab")->isEnabled());
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(find("mfgTab")->isEnabled());
+    EXPECT_TRUE(find("frmframe_12")->isVisible());
+    letter('e');
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    EXPECT_EQ(textOf("txtTappa").toStdString(), "LUOGO 10") << "sorted by name";
+    EXPECT_EQ(focusName(), QStringLiteral("txtTappa"));
+}
+
+TEST_F(TripByKeyboard, TheCloseButtonAsksAndLeaves) {
+    storeTrip(3);
+    open();
+    EXPECT_FALSE(window().close()) << "Esc in the box is no";
+    EXPECT_TRUE(window().isVisible());
+    letter('i');
+    EXPECT_FALSE(window().close());
+    ASSERT_EQ(boxes.shown().size(), 2U);
+    EXPECT_EQ(boxes.shown()[0].text, QStringLiteral("Vuoi chiudere la procedura?"));
+    QStringList offered = boxes.shown()[1].buttons;
+    offered.sort();
+    EXPECT_EQ(offered, QStringList({QStringLiteral("Annulla"), QStringLiteral("No"), QStringLiteral("Sì")}));
+    EXPECT_TRUE(find("frmframe_12")->isVisible()) << "Esc in the box cancels";
+    boxes.expect(Qt::Key_N);
+    EXPECT_FALSE(window().close());
+    EXPECT_FALSE(find("frmframe_12")->isVisible());
+    window().resize(1400, 900);
+    boxes.expect(Qt::Key_Return);
+    EXPECT_TRUE(window().close());
+    EXPECT_FALSE(window().isVisible());
+    open();
+    EXPECT_EQ(window().size(), QSize(1400, 900)) << "the window remembers its size";
+}
+
+} // namespace
+} // namespace vanzer::desktop
