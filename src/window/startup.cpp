@@ -5,6 +5,7 @@
 #include "core/place_name.h"
 #include "core/text.h"
 #include "guide/guide_screen.h"
+#include "help/help_screen.h"
 #include "itinerary/leg_editor_screen.h"
 #include "itinerary/leg_table_screen.h"
 #include "itinerary/list_pick_screen.h"
@@ -89,6 +90,20 @@ void wireGuide(Form& form) {
     form.txtGGruppo.onKeyPress = [&form](int& code) { txtGGruppo_KeyPress(form, code); };
 }
 
+void wireHelp(Form& form) {
+    form.cmdHelpGenerico.onClick = wired(form, cmdHelpGenerico_Click);
+    form.cmdHelpTotale1.onClick = wired(form, cmdHelpTotale1_Click);
+    form.cmdHelpTotale2.onClick = wired(form, cmdHelpTotale2_Click);
+    form.cmdHelpTt.onClick = wired(form, cmdHelpTt_Click);
+    form.cmdHelpKm.onClick = wired(form, cmdHelpKm_Click);
+    for (int i = 0; i < form.cmdHelpItin.count(); ++i)
+        form.cmdHelpItin(i).onClick = wired(form, cmdHelpItin_Click, i);
+    form.cmdHelpDuplica.onClick = wired(form, cmdHelpDuplica_Click);
+    form.cmdHelpExport.onClick = wired(form, cmdHelpExport_Click);
+    for (int i = 0; i < form.cmdHelpGuida.count(); ++i)
+        form.cmdHelpGuida(i).onClick = wired(form, cmdHelpGuida_Click, i);
+}
+
 void digitsOnly(int& code) {
     if (code < u'0' || code > u'9')
         code = 0;
@@ -125,6 +140,7 @@ void wire(Form& form) {
     wireParameters(form);
     wireLegEditor(form);
     wireGuide(form);
+    wireHelp(form);
     wireKeys(form);
 }
 
