@@ -3,6 +3,7 @@
 #include <array>
 #include <ctime>
 #include <span>
+#include <utility>
 
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -114,22 +115,37 @@ QString PlatformDialogs::save(const QString& filter) {
 }
 
 void PacedYield::begin() {
-    lastYield_ = coarseTime() + pace_.patience - pace_.yields;
-    lastFrame_ = coarseTime();
+    const qint64 now = coarseTime();
+    lastYield_ = now + pace_.patience - pace_.yields;
+    lastFrame_ = now;
+    lastLook_ = now;
+    skips_ = 0;
+    frameDue_ = false;
 }
 
+/// A loop that yields every microsecond looks at the clock at every sixteenth call only, a slow one each time.
 void PacedYield::yield() {
-    if (coarseTime() - lastYield_ < pace_.yields)
+    constexpr int skippedByFastLoops = 15;
+    constexpr qint64 fast = 2; // ms between two looks at the clock
+    if (skips_ > 0) {
+        --skips_;
+        return;
+    }
+    const qint64 now = coarseTime();
+    skips_ = now - lastLook_ <= fast && pace_.yields > 0 ? skippedByFastLoops : 0;
+    lastLook_ = now;
+    frameDue_ = now - lastFrame_ >= pace_.frames;
+    if (now - lastYield_ < pace_.yields)
         return;
     QCoreApplication::processEvents();
     lastYield_ = coarseTime();
+    lastLook_ = lastYield_;
 }
 
 bool PacedYield::frameDue() {
-    const qint64 now = coarseTime();
-    if (now - lastFrame_ < pace_.frames)
+    if (!std::exchange(frameDue_, false))
         return false;
-    lastFrame_ = now;
+    lastFrame_ = coarseTime();
     return true;
 }
 

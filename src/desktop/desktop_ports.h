@@ -44,7 +44,7 @@ class SystemClock : public Clock {
 /// When events run inside a command, in milliseconds.
 struct Pace {
     qint64 patience = 60; ///< of a command before events run inside it: most have ended by then
-    qint64 yields = 20;   ///< from one run of events to the next
+    qint64 yields = 50;   ///< from one run of events to the next
     qint64 frames = 100;  ///< from one look at half-done work to the next
 };
 
@@ -61,6 +61,9 @@ class PacedYield : public EventYield {
     Pace pace_;
     qint64 lastYield_ = 0;
     qint64 lastFrame_ = 0;
+    qint64 lastLook_ = 0;
+    int skips_ = 0;
+    bool frameDue_ = false;
 };
 
 } // namespace vanzer::desktop

@@ -182,6 +182,19 @@ QSize HelpButton::sizeHint() const {
     return {side, side};
 }
 
+void ShortenedLabel::setText(const QString& text) {
+    text_ = text;
+    setAccessibleName(text);
+    update();
+}
+
+void ShortenedLabel::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    const QString shown = fontMetrics().elidedText(text_, Qt::ElideMiddle, width());
+    style()->drawItemText(&painter, rect(), static_cast<int>(alignment_), palette(), isEnabled(), shown,
+                          QPalette::WindowText);
+}
+
 WideStrip::WideStrip(QWidget* parent) : QScrollArea(parent) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

@@ -82,6 +82,26 @@ class HelpButton : public QPushButton {
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 };
 
+/// A text that gives way: what has no room is left out in its middle. Another text moves nothing else in the window.
+class ShortenedLabel : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment)
+  public:
+    explicit ShortenedLabel(QWidget* parent = nullptr) : QWidget(parent) {}
+    void setText(const QString& text);
+    [[nodiscard]] const QString& text() const { return text_; }
+    void setAlignment(Qt::Alignment alignment) { alignment_ = alignment; }
+    [[nodiscard]] Qt::Alignment alignment() const { return alignment_; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {0, fontMetrics().height()}; }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    QString text_;
+    Qt::Alignment alignment_ = Qt::AlignLeft | Qt::AlignVCenter;
+};
+
 /// A strip of the window as high as what it holds; one that is too wide for the window can be pushed aside.
 class WideStrip : public QScrollArea {
     Q_OBJECT

@@ -34,7 +34,7 @@ struct RowDelegate::Cell {
     Qt::Alignment across;
     bool marked;
     bool selected;
-    Tints tints;
+    const Tints& tints;
 
     [[nodiscard]] QColor ink() const {
         if (selected)
@@ -57,7 +57,7 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, c
                     .across = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>(),
                     .marked = index.data(GridModel::MarkedRole).toBool(),
                     .selected = option.state.testFlag(QStyle::State_Selected),
-                    .tints = Tints(option.palette)};
+                    .tints = view_.tints()};
     painter->save();
     painter->setClipRect(option.rect);
     drawGround(*painter, cell);
@@ -94,10 +94,15 @@ void RowDelegate::drawGround(QPainter& painter, const Cell& cell) const {
 }
 
 void RowDelegate::drawText(QPainter& painter, const Cell& cell) const {
+    if (cell.text.isEmpty())
+        return;
     const QRect rect = cell.textRect();
     const Qt::Alignment across = isTotal(cell.look) ? Qt::Alignment(Qt::AlignLeft) : cell.across;
-    const QString shown = painter.fontMetrics().elidedText(cell.text.trimmed(), Qt::ElideRight, rect.width());
-    painter.drawText(rect, static_cast<int>((across & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter), shown);
+    const QString text = cell.text.trimmed();
+    const QFontMetrics metrics = painter.fontMetrics();
+    const bool fits = text.size() * metrics.maxWidth() <= rect.width();
+    painter.drawText(rect, static_cast<int>((across & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter),
+                     fits ? text : metrics.elidedText(text, Qt::ElideRight, rect.width()));
 }
 
 /// Kilometres, driving, stops: parts between tabs, each at the same place in every line.

@@ -7,7 +7,6 @@
 
 namespace vanzer::desktop {
 
-struct Tints;
 class TableView;
 
 class RowDelegate : public QStyledItemDelegate {

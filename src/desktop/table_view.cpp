@@ -14,7 +14,7 @@ namespace vanzer::desktop {
 
 namespace {
 
-constexpr int cellPadding = 10;
+constexpr int cellPadding = 12;
 /// Twips of the narrowest left-aligned column that takes its part of the spare room.
 constexpr int flexibleTwips = 900;
 /// Twips of a digit in the font that the grid's layouts were made for.
@@ -33,7 +33,7 @@ int movingCode(int key) {
 
 } // namespace
 
-TableView::TableView(QWidget* parent) : QTableView(parent) {
+TableView::TableView(QWidget* parent) : QTableView(parent), tints_(palette()) {
     setItemDelegate(new RowDelegate(*this));
     setEditTriggers(NoEditTriggers);
     setSelectionMode(NoSelection);
@@ -62,14 +62,15 @@ TableView::TableView(QWidget* parent) : QTableView(parent) {
 void TableView::setGrid(Grid& grid) {
     grid_ = &grid;
     setModel(&grid.model());
-    const auto forget = [this] { forgetLooks(); };
+    const auto forget = [this] {
+        looksKnown_ = false;
+        textWidths_.clear();
+    };
     connect(model(), &QAbstractItemModel::dataChanged, this, forget);
     connect(model(), &QAbstractItemModel::rowsInserted, this, forget);
     connect(model(), &QAbstractItemModel::rowsRemoved, this, forget);
-    connect(model(), &QAbstractItemModel::modelReset, this, [this] {
-        forgetLooks();
-        topShown_ = -1;
-    });
+    connect(model(), &QAbstractItemModel::modelReset, this, forget);
+    connect(model(), &QAbstractItemModel::modelReset, this, [this] { topShown_ = -1; });
 }
 
 const AspettoRiga& TableView::look(int row) const {
@@ -127,15 +128,42 @@ bool TableView::flexible(int column) const {
     return grid_->alignment(column) == Allineamento::Sinistra && grid_->columnWidth(column) >= flexibleTwips;
 }
 
-/// The width of the longest text of a column; the rows of totals have the whole width.
-int TableView::textWidth(int column) const {
-    const QString* longest = nullptr;
-    for (int row = 1; row < grid_->rows(); ++row) {
-        const QString& text = grid_->cell(row, column);
-        if ((longest == nullptr || text.size() > longest->size()) && !text.contains(u'\t'))
-            longest = &text;
+/// The widths of the longest texts of each column, told by their length: the first few of the greatest length that
+/// differ from their forerunner are measured, and of a long table only a part of the rows is looked at. The rows of
+/// totals have the whole width.
+void TableView::measureTexts() const {
+    constexpr int measuredPerLength = 8;
+    constexpr int rowsLookedAt = 500;
+    struct Longest {
+        const QString* text = nullptr;
+        int measured = 0;
+    };
+    const QFontMetrics metrics(font());
+    std::vector<Longest> longest(static_cast<std::size_t>(grid_->columns()));
+    textWidths_.assign(longest.size(), 0);
+    const int step = grid_->rows() / rowsLookedAt + 1;
+    for (int row = 1; row < grid_->rows(); row += step) {
+        for (std::size_t c = 0; c < longest.size(); ++c) {
+            const QString& text = grid_->cell(row, static_cast<int>(c));
+            Longest& best = longest[c];
+            const qsizetype length = best.text == nullptr ? 0 : best.text->size();
+            if (text.isEmpty() || text.size() < length || text.startsWith(u'\t'))
+                continue;
+            if (text.size() > length)
+                best = {};
+            else if (text == *best.text)
+                continue;
+            best.text = &text;
+            if (++best.measured <= measuredPerLength)
+                textWidths_[c] = std::max(textWidths_[c], metrics.horizontalAdvance(text));
+        }
     }
-    return longest == nullptr ? 0 : QFontMetrics(font()).horizontalAdvance(*longest);
+}
+
+int TableView::textWidth(int column) const {
+    if (textWidths_.empty())
+        measureTexts();
+    return textWidths_[static_cast<std::size_t>(column)];
 }
 
 int TableView::headWidth(int column) const {
@@ -190,7 +218,10 @@ void TableView::resizeEvent(QResizeEvent* event) {
 
 void TableView::changeEvent(QEvent* event) {
     QTableView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        tints_ = Tints(palette());
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        textWidths_.clear();
         fitRows();
         fitColumns();
     }

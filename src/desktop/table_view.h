@@ -5,6 +5,7 @@
 
 #include <QTableView>
 
+#include "desktop/tints.h"
 #include "schedule/row_look.h"
 #include "toolkit/grid.h"
 
@@ -25,6 +26,7 @@ class TableView : public QTableView {
 
     /// `row` counts from 1, as in the grid.
     [[nodiscard]] const AspettoRiga& look(int row) const;
+    [[nodiscard]] const Tints& tints() const { return tints_; }
 
   signals:
     void rowClicked(int row);
@@ -42,7 +44,7 @@ class TableView : public QTableView {
   private:
     void fitColumns();
     void fitRows();
-    void forgetLooks() { looksKnown_ = false; }
+    void measureTexts() const;
     void spanTotals();
     [[nodiscard]] int ownWidth(int column) const;
     [[nodiscard]] int headWidth(int column) const;
@@ -51,6 +53,8 @@ class TableView : public QTableView {
     void tellCell(const QPoint& at);
 
     Grid* grid_ = nullptr;
+    Tints tints_;
+    mutable std::vector<int> textWidths_; ///< by column; empty when the texts have changed
     mutable std::vector<AspettoRiga> looks_;
     mutable bool looksKnown_ = false;
     bool showing_ = false;

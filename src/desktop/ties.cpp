@@ -70,16 +70,16 @@ class OptionTie : public Tie {
     QRadioButton& option_;
 };
 
-class LabelTie : public Tie {
+template<typename View> class LabelTie : public Tie {
   public:
-    LabelTie(Label& model, QLabel& label, Binder& to) : Tie(model, label, to), model_(model), label_(label) {}
+    LabelTie(Label& model, View& label, Binder& to) : Tie(model, label, to), model_(model), label_(label) {}
 
   protected:
     void showOwn() override { label_.setText(model_.caption()); }
 
   private:
     Label& model_;
-    QLabel& label_;
+    View& label_;
 };
 
 class FrameTie : public Tie {
@@ -171,10 +171,11 @@ void Tie::show() {
 
 std::unique_ptr<Tie> makeTie(Control& control, QWidget& widget, Binder& binder) {
     using Maker = std::unique_ptr<Tie> (*)(Control&, QWidget&, Binder&);
-    constexpr std::array<Maker, 10> makers{made<Button, QPushButton, ButtonTie>,
+    constexpr std::array<Maker, 11> makers{made<Button, QPushButton, ButtonTie>,
                                            made<CheckBox, QCheckBox, CheckTie>,
                                            made<OptionButton, QRadioButton, OptionTie>,
-                                           made<Label, QLabel, LabelTie>,
+                                           made<Label, QLabel, LabelTie<QLabel>>,
+                                           made<Label, ShortenedLabel, LabelTie<ShortenedLabel>>,
                                            made<Frame, QGroupBox, FrameTie>,
                                            made<TextBox, PercentBar, PercentTie>,
                                            made<TextControl, QLineEdit, FieldTie>,

@@ -8,7 +8,7 @@
 namespace vanzer {
 
 /// The most rows that one call makes texts for: about a millisecond's work.
-inline constexpr std::size_t massimoRigheNuove = 1000;
+inline constexpr std::size_t massimoRigheNuove = 400;
 
 /// Brings the texts of a test's first rows up to what it has written so far, or as near as one call goes. `rows` holds
 /// what an earlier call made for the same test, or nothing; all but its last two rows stay as they are.

@@ -48,6 +48,8 @@ class Controls : public DesktopTest {
             return button->text();
         if (const auto* const box = qobject_cast<const QGroupBox*>(&widget))
             return box->title();
+        if (const auto* const giving = qobject_cast<const ShortenedLabel*>(&widget))
+            return giving->text();
         const auto* const label = qobject_cast<const QLabel*>(&widget);
         return label == nullptr ? QString() : label->text();
     }

@@ -1,0 +1,106 @@
+// What an open window costs a calculation: the same trip calculated with the window and without, in turns, and the
+// longest time in which a click on "&Stop" would have to wait. Needs a display.
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <vector>
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QTimer>
+#include <QWindow>
+
+#include "../big_trip.h"
+#include "desktop/program.h"
+
+namespace {
+
+using namespace vanzer;
+
+constexpr int legs = 9999;
+constexpr int turns = 31;
+
+double now() {
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+double median(std::vector<double> times) {
+    std::ranges::sort(times);
+    return times[times.size() / 2];
+}
+
+/// Milliseconds of one calculation with all its tests; no box at its end.
+template<typename Press> double calculation(Form& form, const Press& press) {
+    form.cmbGiorni.setText(QStringLiteral("997"));
+    form.colonne(0) = QStringLiteral("Stampa");
+    const double begin = now();
+    press();
+    const double taken = now() - begin;
+    press(); // the legs back
+    return taken;
+}
+
+/// Waits until the window has been drawn for the first time: that is no part of a calculation.
+void drawn(const QWidget& window) {
+    while (!window.windowHandle()->isExposed())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QCoreApplication::processEvents();
+}
+
+/// The longest time between two runs of the event loop, milliseconds.
+class Gaps : public QObject {
+  public:
+    Gaps() {
+        timer_.callOnTimeout(this, [this] { look(); });
+        timer_.start(0);
+    }
+    void begin() {
+        last_ = now();
+        longest_ = 0;
+    }
+    void look() {
+        const double time = now();
+        longest_ = std::max(longest_, time - last_);
+        last_ = time;
+    }
+    [[nodiscard]] double longest() const { return longest_; }
+
+  private:
+    QTimer timer_;
+    double last_ = 0;
+    double longest_ = 0;
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    bench::BigTrip trip(legs);
+    std::vector<double> without;
+    std::vector<double> with;
+    std::vector<double> waits;
+    for (int i = 0; i < turns; ++i) {
+        trip.reopen();
+        without.push_back(calculation(trip.form(), [&trip] { trip.form().cmdCalcola.click(); }));
+        trip.close();
+
+        desktop::SystemClock clock;
+        desktop::Program program({.directory = QFileInfo(trip.archive()).path(), .decimalMark = u'.', .versione = {}},
+                                 clock);
+        if (!program.start())
+            return 1;
+        drawn(program.window());
+        Gaps gaps;
+        gaps.begin();
+        with.push_back(calculation(program.form(), [&program, &gaps] {
+            program.window().binder().input([&program] { program.form().cmdCalcola.click(); });
+            gaps.look();
+        }));
+        waits.push_back(gaps.longest());
+    }
+    std::printf("%d legs, median of %d: without a window %.1f ms, with one %.1f ms, ratio %.3f\n", legs, turns,
+                median(without), median(with), median(with) / median(without));
+    std::printf("longest wait of a click: %.1f ms\n", *std::ranges::max_element(waits));
+    return 0;
+}
