@@ -41,9 +41,9 @@ struct StatoViaggio {
     QString PulsantiMeta;
     QString PulsantiItinerario;
     QString PulsantiPrimaDellaRicerca; ///< what a search of a destination that is given up goes back to
-    bool ViandoriaCalcolata = false; ///< a schedule for the data on the screen exists
-    bool InterrompiCalcolo = false;  ///< the user asked to stop
-    int ModoRicerca = 0;             ///< what a pick means: 1 destination, 2 leg, 3 source of a copy, 4 its legs
+    bool ViandoriaCalcolata = false;   ///< a schedule for the data on the screen exists
+    bool InterrompiCalcolo = false;    ///< the user asked to stop
+    int ModoRicerca = 0;               ///< what a pick means: 1 destination, 2 leg, 3 source of a copy, 4 its legs
     bool ModoGuida = false;
     int Risposta = 0; ///< answer of the last question: 6 yes, 7 no, 2 cancel
     double PercentualeCorrente = 0;

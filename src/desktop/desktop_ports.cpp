@@ -54,13 +54,14 @@ bool setOut(const QString& text) {
     return text.contains(u'\t') || text.contains(QStringLiteral("\n   "));
 }
 
-QString tabsAsBlanks(const QString& text) {
+/// Tabs as blanks, and blanks at which no line is broken.
+QString inColumns(const QString& text) {
     constexpr qsizetype tab = 8;
     QString result;
     qsizetype column = 0;
     for (const QChar c : text) {
-        const qsizetype blanks = c == u'\t' ? tab - column % tab : 0;
-        result += blanks > 0 ? QString(blanks, u' ') : QString(c);
+        const qsizetype blanks = c == u'\t' ? tab - column % tab : c == u' ' ? 1 : 0;
+        result += blanks > 0 ? QString(blanks, QChar::Nbsp) : QString(c);
         column = c == u'\n' ? 0 : column + std::max<qsizetype>(blanks, 1);
     }
     return result;
@@ -91,7 +92,7 @@ int DialogBoxes::show(const QString& text, const QString& title, Pulsanti button
     box.setIcon(sign(icon, buttons));
     box.setTextFormat(Qt::PlainText);
     const QString plain = QString(text).remove(u'\r');
-    box.setText(tabsAsBlanks(plain));
+    box.setText(setOut(plain) ? inColumns(plain) : plain);
     if (setOut(plain))
         box.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     for (const Choice& choice : choices(buttons))

@@ -35,6 +35,7 @@ constexpr int head = 8;     // px of its head row
 
 std::vector<QWidget*> makeFrames(QWidget& window) {
     std::vector<QWidget*> frames;
+    frames.reserve(designs.size());
     for (const auto make : designs)
         frames.push_back(make(window));
     return frames;

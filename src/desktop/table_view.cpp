@@ -135,7 +135,7 @@ void TableView::measureTexts() const {
     constexpr int measuredPerLength = 8;
     constexpr int rowsLookedAt = 500;
     struct Longest {
-        const QString* text = nullptr;
+        QString last;
         int measured = 0;
     };
     const QFontMetrics metrics(font());
@@ -146,14 +146,11 @@ void TableView::measureTexts() const {
         for (std::size_t c = 0; c < longest.size(); ++c) {
             const QString& text = grid_->cell(row, static_cast<int>(c));
             Longest& best = longest[c];
-            const qsizetype length = best.text == nullptr ? 0 : best.text->size();
-            if (text.isEmpty() || text.size() < length || text.startsWith(u'\t'))
+            if (text.size() < best.last.size() || text == best.last || text.startsWith(u'\t'))
                 continue;
-            if (text.size() > length)
-                best = {};
-            else if (text == *best.text)
-                continue;
-            best.text = &text;
+            if (text.size() > best.last.size())
+                best.measured = 0;
+            best.last = text;
             if (++best.measured <= measuredPerLength)
                 textWidths_[c] = std::max(textWidths_[c], metrics.horizontalAdvance(text));
         }

@@ -48,7 +48,7 @@ QString filteredEdit(const TextControl& model, const QString& old, const QString
     }
     if (model.room() >= 0)
         brought.truncate(std::max<qsizetype>(model.room() - start - tail, 0));
-    const QString result = edited.left(start) + brought + edited.right(tail);
+    QString result = edited.left(start) + brought + edited.right(tail);
     cursor = static_cast<int>(start + brought.size());
     return result;
 }

@@ -44,6 +44,9 @@ forbid 'No room knows the programs on top of it' '(desktop|batch)/' "${files[@]}
 mapfile -t files < <(sources -not -name '*_screen.*' -not -path 'src/window/*' -not -path 'src/desktop/*' -not -path 'src/batch/*')
 forbid 'An engine knows no screen and no window' '([a-z_/]*_screen\.h|window/)' "${files[@]}"
 
+mapfile -t files < <(sources -path 'src/desktop/*')
+forbid 'The desktop draws and knows no handler' '(store|batch)/|[a-z_/]*_screen\.h' "${files[@]}"
+
 # No circle between files: the include graph can be sorted. Project paths are given from src.
 if ! circle=$(grep -rHoE --include='*.h' --include='*.cpp' '^#include "[a-z_0-9]+/[a-z_0-9]+\.h"' src |
     sed -E 's|^src/([^:]*):#include "(.*)"|\1 \2|' | tsort 2>&1 >/dev/null); then
