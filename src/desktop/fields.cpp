@@ -21,7 +21,7 @@ int digits(const QWidget& widget, int n) {
 
 bool changesColours(const QEvent& event) {
     switch (event.type()) {
-    case QEvent::ApplicationPaletteChange:
+    case QEvent::PaletteChange:
     case QEvent::ReadOnlyChange:
     case QEvent::ParentChange:
     case QEvent::StyleChange: return true;
@@ -34,9 +34,8 @@ void layGround(QWidget& field, bool computed, bool& tinting) {
     if (tinting || field.parentWidget() == nullptr)
         return;
     tinting = true;
-    const QPalette& around = field.parentWidget()->palette();
-    const Tints tints(around);
-    field.setPalette(fieldPalette(around, computed ? tints.computed : tints.fillable));
+    const Tints tints(field.parentWidget()->palette());
+    field.setPalette(fieldPalette(computed ? tints.computed : tints.fillable));
     tinting = false;
 }
 

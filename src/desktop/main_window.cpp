@@ -17,6 +17,7 @@ namespace vanzer::desktop {
 
 namespace {
 
+constexpr QSize firstSize{1280, 720};
 const QString placeKey = QStringLiteral("finestra/posto");
 
 /// The frame of the window that a widget stands in.
@@ -33,6 +34,7 @@ const QWidget* outerFrame(const QWidget* widget) {
 
 MainWindow::MainWindow(Form& form) : form_(form), ui_(std::make_unique<Ui::MainWindow>()), binder_(form) {
     ui_->setupUi(this);
+    resize(firstSize);
     addFrames();
     setWindowTitle(form.caption);
     binder_.bind(*this);

@@ -38,8 +38,8 @@ struct RowDelegate::Cell {
 
     [[nodiscard]] QColor ink() const {
         if (selected)
-            return option.palette.color(QPalette::HighlightedText);
-        return look.tipo == Tipo::NuovoGiorno ? tints.faint : option.palette.color(QPalette::Text);
+            return option.palette.color(QPalette::Active, QPalette::HighlightedText);
+        return look.tipo == Tipo::NuovoGiorno ? tints.faint : option.palette.color(QPalette::Active, QPalette::Text);
     }
     [[nodiscard]] QRect textRect() const {
         const bool inset = column == colTappa && (look.tipo == Tipo::Sosta || look.tipo == Tipo::NuovoGiorno);
@@ -75,9 +75,9 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, c
 
 void RowDelegate::drawGround(QPainter& painter, const Cell& cell) const {
     const QRect& rect = cell.option.rect;
-    QColor ground = cell.option.palette.color(QPalette::Base);
+    QColor ground = cell.option.palette.color(QPalette::Active, QPalette::Base);
     if (cell.selected)
-        ground = cell.option.palette.color(QPalette::Highlight);
+        ground = cell.option.palette.color(QPalette::Active, QPalette::Highlight);
     else if (isTotal(cell.look))
         ground = cell.tints.total;
     else if (cell.marked)

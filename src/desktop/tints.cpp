@@ -27,8 +27,8 @@ Tints::Tints(const QPalette& palette) {
     faint = mixed(text, base, 0.35F);
 }
 
-QPalette fieldPalette(const QPalette& palette, const QColor& ground) {
-    QPalette result = palette;
+QPalette fieldPalette(const QColor& ground) {
+    QPalette result;
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
         result.setColor(group, QPalette::Base, ground);
         result.setColor(group, QPalette::Button, ground);

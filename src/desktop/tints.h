@@ -18,7 +18,7 @@ struct Tints {
     QColor faint;    ///< texts that stand back
 };
 
-/// The palette of a field: its ground in the tint, for entry boxes as for lists.
-[[nodiscard]] QPalette fieldPalette(const QPalette& palette, const QColor& ground);
+/// What a field's palette has of its own: its ground, for entry boxes as for lists. All else stays the window's.
+[[nodiscard]] QPalette fieldPalette(const QColor& ground);
 
 } // namespace vanzer::desktop

@@ -19,11 +19,18 @@ void chiedeDiChiudere(Form& form) {
             return;
         }
     }
+    rinunciaAllaScelta(form);
 }
 
 void rinunciaAllaScelta(Form& form) {
     if (form.cmbRicercaTappa.reachable() && form.cmdFine.reachable()) {
         form.cmdFine.click();
+    } else if (form.cmbRicercaTappa.reachable() && form.stato.ModoGuida) {
+        form.cmbRicercaTappa.setVisible(false);
+        for (Control* const control : {static_cast<Control*>(&form.mfgTab), static_cast<Control*>(&form.frmframe(24)),
+                                       static_cast<Control*>(&form.frmframe(28))})
+            control->setEnabled(true);
+        form.setFocus(form.txtGDescr);
     } else if (form.cmbRicerca.reachable()) {
         form.cmbRicerca.setVisible(false);
         AbilitaPulsantiMeta(form, form.stato.PulsantiPrimaDellaRicerca);

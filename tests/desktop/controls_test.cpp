@@ -54,6 +54,19 @@ class Controls : public DesktopTest {
         return label == nullptr ? QString() : label->text();
     }
 
+    void checkGrounds() {
+        const Tints tints(window().palette());
+        EXPECT_NE(tints.fillable, tints.computed);
+        for (const char* name : {"txtLocalita", "txtNazione"})
+            EXPECT_EQ(find(name)->palette().color(QPalette::Base), tints.fillable) << name;
+        for (const char* name : {"txtCodice", "txtFine_0", "txtKmTot_4", "txtTempo_0", "txtTragh", "txtInizioGSett"}) {
+            EXPECT_EQ(find(name)->palette().color(QPalette::Base), tints.computed) << name;
+            EXPECT_TRUE(find<QLineEdit>(name)->isReadOnly()) << name;
+        }
+        for (const char* name : {"cmbOra_0", "cmbMediaKm_0", "cmbInizio_4"})
+            EXPECT_EQ(find(name)->palette().color(QPalette::Button), tints.fillable) << name;
+    }
+
     [[nodiscard]] static QString spokenName(QWidget& widget) {
         QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(&widget);
         return face == nullptr ? QString() : face->text(QAccessible::Name);
@@ -86,17 +99,14 @@ TEST_F(Controls, EachHasItsWidgetWithCaptionTipKeyAndName) {
     EXPECT_GT(checked, 140);
 }
 
-TEST_F(Controls, FieldsTellByTheirGroundWhatCanBeFilledIn) {
-    const Tints tints(window().palette());
-    EXPECT_NE(tints.fillable, tints.computed);
-    for (const char* name : {"txtLocalita", "txtNazione"})
-        EXPECT_EQ(find(name)->palette().color(QPalette::Base), tints.fillable) << name;
-    for (const char* name : {"txtCodice", "txtFine_0", "txtKmTot_4", "txtTempo_0", "txtTragh", "txtInizioGSett"}) {
-        EXPECT_EQ(find(name)->palette().color(QPalette::Base), tints.computed) << name;
-        EXPECT_TRUE(find<QLineEdit>(name)->isReadOnly()) << name;
-    }
-    for (const char* name : {"cmbOra_0", "cmbMediaKm_0", "cmbInizio_4"})
-        EXPECT_EQ(find(name)->palette().color(QPalette::Button), tints.fillable) << name;
+TEST_F(Controls, FieldsTellByTheirGroundWhatCanBeFilledInAlsoInTheDark) {
+    const QPalette light = QApplication::palette();
+    checkGrounds();
+    QApplication::setPalette(QPalette(QColor(0x35, 0x35, 0x35), QColor(0x2a, 0x2d, 0x31)));
+    QCoreApplication::processEvents();
+    EXPECT_LT(window().palette().color(QPalette::Base).lightness(), 128);
+    checkGrounds();
+    QApplication::setPalette(light);
 }
 
 TEST_F(Controls, TabGoesInTheOrderOfTheEye) {

@@ -191,6 +191,25 @@ TEST_F(TripByKeyboard, SearchListsArePickedFromAndLeftByKeys) {
     EXPECT_EQ(focusName(), QStringLiteral("txtTappa"));
 }
 
+TEST_F(TripByKeyboard, GuideIsSearchedAndLeftByKeys) {
+    storeTrip(5);
+    open();
+    letter('g');
+    ASSERT_TRUE(find("frmframe_24")->isVisible());
+    for (const Qt::Key leaves : {Qt::Key_Escape, Qt::Key_Return}) {
+        letter('e');
+        EXPECT_EQ(focusName(), QStringLiteral("cmbRicercaTappa"));
+        EXPECT_FALSE(find("frmframe_24")->isEnabled());
+        key(leaves);
+        EXPECT_TRUE(find("frmframe_24")->isEnabled());
+        EXPECT_EQ(focusName(), QStringLiteral("txtGDescr"));
+    }
+    EXPECT_EQ(textOf("txtGCitta").toStdString(), "Luogo 1");
+    EXPECT_FALSE(window().close()) << "the window's close button leaves the guide first";
+    EXPECT_FALSE(find("frmframe_24")->isVisible());
+    EXPECT_TRUE(find("cmdItinerario")->isEnabled());
+}
+
 TEST_F(TripByKeyboard, TheCloseButtonAsksAndLeaves) {
     storeTrip(3);
     open();
