@@ -210,6 +210,18 @@ TEST_F(TripByKeyboard, GuideIsSearchedAndLeftByKeys) {
     EXPECT_TRUE(find("cmdItinerario")->isEnabled());
 }
 
+TEST_F(TripByKeyboard, ASecondProgramOnTheSameArchiveIsToldSo) {
+    storeTrip(2);
+    open();
+    FixedClock clock;
+    Program second({.directory = directory.path(), .decimalMark = u'.', .versione = {}}, clock);
+    EXPECT_FALSE(second.start());
+    EXPECT_FALSE(second.window().isVisible());
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_TRUE(boxes.shown()[0].text.startsWith(QStringLiteral("Errore apertura database ") + directory.path()));
+    EXPECT_EQ(textOf("txtLocalita"), QStringLiteral("PROVA"));
+}
+
 TEST_F(TripByKeyboard, TheCloseButtonAsksAndLeaves) {
     storeTrip(3);
     open();
