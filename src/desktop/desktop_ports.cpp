@@ -118,7 +118,7 @@ QString PlatformDialogs::save(const QString& filter) {
 void PacedYield::begin() {
     const qint64 now = coarseTime();
     lastYield_ = now + pace_.patience - pace_.yields;
-    lastFrame_ = now;
+    lastFrame_ = now + pace_.frames;
     lastLook_ = now;
     skips_ = 0;
     frameDue_ = false;

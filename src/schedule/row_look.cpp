@@ -67,7 +67,8 @@ class AspettoViandoria {
     }
 
     void followDate(const QString& date) {
-        if (date.isEmpty() || date == date_)
+        // The rows of a day mostly share one text: no need to read it again.
+        if (date.isEmpty() || date.constData() == date_.constData() || date == date_)
             return;
         if (!date_.isEmpty()) {
             endDay();
