@@ -45,8 +45,8 @@ class SystemClock : public Clock {
 struct Pace {
     qint64 patience = 60; ///< of a command before events run inside it: most have ended by then
     qint64 yields = 50;   ///< from one run of events to the next
-    qint64 frames =
-        100; ///< from one look at half-done work to the next; twice that to the first: a short flash helps nobody
+    /// From one look at half-done work to the next; twice that to the first, since a flash helps nobody.
+    qint64 frames = 100;
 };
 
 /// Lets events run inside a command at a pace. Looks at a coarse clock, so that a call costs next to nothing.
