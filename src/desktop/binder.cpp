@@ -11,17 +11,13 @@ namespace vanzer::desktop {
 
 namespace {
 
-QString withoutAmpersand(QString caption) {
-    return caption.remove(u'&').trimmed();
-}
-
-/// What a screen reader says: the caption, else the tool tip; a name that the form gives goes before both.
+/// What a screen reader says: the name that the form gives, else the caption that the widget shows at the time, else
+/// the tool tip.
 void nameForReaders(QWidget& widget, const Control& control) {
-    if (!widget.accessibleName().isEmpty())
-        return;
     const auto* const captioned = dynamic_cast<const Captioned*>(&control);
-    const QString caption = captioned == nullptr ? QString() : withoutAmpersand(captioned->caption());
-    widget.setAccessibleName(caption.size() > 1 ? caption : control.tooltip());
+    const bool speaks = captioned != nullptr && captioned->caption().size() > 1;
+    if (widget.accessibleName().isEmpty() && !speaks)
+        widget.setAccessibleName(control.tooltip());
 }
 
 } // namespace

@@ -9,7 +9,6 @@
 #include <QSettings>
 
 #include "desktop/frames.h"
-#include "desktop/table_view.h"
 #include "ui_main_window.h"
 #include "window/ways_out.h"
 
@@ -54,7 +53,6 @@ void MainWindow::addFrames() {
         frame->setAutoFillBackground(true);
         frame->installEventFilter(this);
     }
-    ui_->mfgTab->installEventFilter(this);
 }
 
 /// Frames at the side and below take their room from the table; the others lie over it.

@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QToolTip>
 
+#include "desktop/key_codes.h"
 #include "desktop/row_delegate.h"
 
 namespace vanzer::desktop {
@@ -19,17 +20,6 @@ constexpr int cellPadding = 12;
 constexpr int flexibleTwips = 900;
 /// Twips of a digit in the font that the grid's layouts were made for.
 constexpr int digitTwips = 90;
-
-/// The codes of the keys that move; 0 for every other key.
-int movingCode(int key) {
-    switch (key) {
-    case Qt::Key_Up: return 38;
-    case Qt::Key_Down: return 40;
-    case Qt::Key_PageUp: return 33;
-    case Qt::Key_PageDown: return 34;
-    default: return 0;
-    }
-}
 
 } // namespace
 
@@ -225,7 +215,7 @@ void TableView::changeEvent(QEvent* event) {
 }
 
 void TableView::keyPressEvent(QKeyEvent* event) {
-    const int moving = movingCode(event->key());
+    const int moving = rowKeyCode(event->key());
     const bool confirms = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (moving == 0 && (confirms || event->text().isEmpty() || event->key() == Qt::Key_Escape)) {
         event->ignore();

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "desktop/key_codes.h"
+
 namespace vanzer::desktop {
 
 namespace {
@@ -12,20 +14,16 @@ constexpr int firstCharacter = 32;
 /// Key-down codes: letters and digits are their own, the keys that move have those of old.
 int keyDownCode(int key) {
     switch (key) {
-    case Qt::Key_PageUp: return 33;
-    case Qt::Key_PageDown: return 34;
     case Qt::Key_End: return 35;
     case Qt::Key_Home: return 36;
     case Qt::Key_Left: return 37;
-    case Qt::Key_Up: return 38;
     case Qt::Key_Right: return 39;
-    case Qt::Key_Down: return 40;
     case Qt::Key_Backspace: return backspace;
     case Qt::Key_Tab: return 9;
     case Qt::Key_Return:
     case Qt::Key_Enter: return 13;
     case Qt::Key_Escape: return 27;
-    default: return key >= firstCharacter && key <= Qt::Key_Z ? key : 0;
+    default: return key >= firstCharacter && key <= Qt::Key_Z ? key : rowKeyCode(key);
     }
 }
 
@@ -78,18 +76,23 @@ bool TextTie::keyPressed(const QKeyEvent& event) {
     if (const int code = keyDownCode(event.key()); code != 0 && model_.onKeyDown)
         binder().input([this, code] { model_.keyDown(code); });
     if (event.key() == Qt::Key_Backspace)
-        return model_.filterKey(backspace) == 0;
+        return filtered(backspace) == 0;
     const bool command = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
     const bool character = event.text().size() == 1 && event.text().at(0).unicode() >= firstCharacter;
     return !command && character && event.key() != Qt::Key_Delete && typed(event.text().at(0).unicode());
+}
+
+int TextTie::filtered(int code) {
+    int passed = 0;
+    binder().input([this, code, &passed] { passed = model_.filterKey(code); });
+    return passed;
 }
 
 /// A key that is dropped leaves a selected text as it is.
 bool TextTie::typed(int code) {
     if (line_ == nullptr || line_->isReadOnly())
         return false;
-    int passed = 0;
-    binder().input([this, code, &passed] { passed = model_.filterKey(code); });
+    const int passed = filtered(code);
     const qsizetype kept = line_->text().size() - line_->selectedText().size();
     if (passed < firstCharacter || (model_.room() >= 0 && kept >= model_.room()))
         return true;

@@ -28,6 +28,8 @@ class TextTie : public Tie {
     void follow(QLineEdit& line);
 
   private:
+    /// What the model's handler makes of a key; 0 if it drops it.
+    [[nodiscard]] int filtered(int code);
     bool typed(int code);
     void edited(const QString& text);
 

@@ -23,7 +23,7 @@ class Tie : public QObject {
     [[nodiscard]] Binder& binder() const { return binder_; }
     /// The part that only this kind of control has.
     virtual void showOwn() {}
-    /// Enabled by the model and not for show alone.
+    /// The next flush shows the model anew.
     void markChanged();
 
   private:

@@ -27,6 +27,8 @@ void txtGGruppo_KeyPress(Form& form, int& code);
 /// Filters by the text of the description, or offers the list of the places if there is none.
 void cmdFind_Click(Form& form);
 void CercaLocalitaGuida(Form& form);
+/// Leaves the list of the places with nothing picked.
+void RinunciaRicercaGuida(Form& form);
 /// Puts the groups in order and goes back to the legs.
 void cmdFineInserimento_Click(Form& form);
 

@@ -92,6 +92,12 @@ void CercaLocalitaGuida(Form& form) {
     enableEditor(form, true);
 }
 
+void RinunciaRicercaGuida(Form& form) {
+    form.cmbRicercaTappa.setVisible(false);
+    enableEditor(form, true);
+    form.setFocus(form.txtGDescr);
+}
+
 void cmdFineInserimento_Click(Form& form) {
     for (int r = 1; r < form.mfgTab.rows(); ++r)
         sortGroup(form, r);

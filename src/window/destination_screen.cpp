@@ -329,6 +329,11 @@ void cmdRicerca_Click(Form& form) {
     form.mfgTab.setTopRow(1);
 }
 
+void RinunciaRicerca(Form& form) {
+    form.cmbRicerca.setVisible(false);
+    AbilitaPulsantiMeta(form, form.stato.PulsantiPrimaDellaRicerca);
+}
+
 void RichiamaMeta(Form& form, const QString& localita) {
     PulisciFinestre(form);
     ImpostaGriglia(form, Disposizione::Tappe);

@@ -23,6 +23,8 @@ void cmdSalva_Click(Form& form);
 void cmdCancMeta_Click(Form& form);
 void cmdCancItin_Click(Form& form);
 void cmdRicerca_Click(Form& form);
+/// Leaves the list of the destinations with nothing picked: the buttons are as before the search.
+void RinunciaRicerca(Form& form);
 void cmbRicerca_Click(Form& form);
 
 } // namespace vanzer

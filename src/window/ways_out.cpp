@@ -1,6 +1,7 @@
 #include "window/ways_out.h"
 
-#include "window/modes.h"
+#include "guide/guide_screen.h"
+#include "window/destination_screen.h"
 
 namespace vanzer {
 
@@ -23,18 +24,12 @@ void chiedeDiChiudere(Form& form) {
 }
 
 void rinunciaAllaScelta(Form& form) {
-    if (form.cmbRicercaTappa.reachable() && form.cmdFine.reachable()) {
+    if (form.cmbRicercaTappa.reachable() && form.cmdFine.reachable())
         form.cmdFine.click();
-    } else if (form.cmbRicercaTappa.reachable() && form.stato.ModoGuida) {
-        form.cmbRicercaTappa.setVisible(false);
-        for (Control* const control : {static_cast<Control*>(&form.mfgTab), static_cast<Control*>(&form.frmframe(24)),
-                                       static_cast<Control*>(&form.frmframe(28))})
-            control->setEnabled(true);
-        form.setFocus(form.txtGDescr);
-    } else if (form.cmbRicerca.reachable()) {
-        form.cmbRicerca.setVisible(false);
-        AbilitaPulsantiMeta(form, form.stato.PulsantiPrimaDellaRicerca);
-    }
+    else if (form.cmbRicercaTappa.reachable() && form.stato.ModoGuida)
+        RinunciaRicercaGuida(form);
+    else if (form.cmbRicerca.reachable())
+        RinunciaRicerca(form);
 }
 
 } // namespace vanzer

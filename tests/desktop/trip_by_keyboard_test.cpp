@@ -1,5 +1,5 @@
 // A trip planned by hand: what a user does, key by key, and what the window shows.
-#include <QComboBox>
+#include <QAccessible>
 #include <QSignalSpy>
 
 #include "desktop/table_view.h"
@@ -132,6 +132,8 @@ TEST_F(TripByKeyboard, CalculationIsStoppedOnceAndFinishedOnce) {
     EXPECT_TRUE(boxes.shown()[0].text.startsWith(QStringLiteral("Elaborazione impossibile! (tentativi effettuati")));
     EXPECT_EQ(boxes.shown()[0].buttons, QStringList({QStringLiteral("OK")}));
     EXPECT_EQ(textOf("cmdCalcola"), QStringLiteral("&Sblocca"));
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(find("cmdCalcola"))->text(QAccessible::Name).toStdString(),
+              "Sblocca");
     EXPECT_EQ(focusName(), QStringLiteral("cmdCalcola"));
     EXPECT_FALSE(find("txtPerc")->isVisible());
     key(Qt::Key_Return);
