@@ -10,14 +10,29 @@ namespace vanzer::bench {
 
 namespace {
 
-QString place(int i) {
-    return QStringLiteral("Luogo numero ") + Zero(i, 5);
+std::vector<QString> numberedPlaces(int count) {
+    std::vector<QString> places;
+    for (int i = 1; i <= count; ++i)
+        places.push_back(QStringLiteral("Luogo numero ") + Zero(i, 5));
+    return places;
+}
+
+std::vector<GuideEntry> oneEntryEach(const std::vector<QString>& places) {
+    std::vector<GuideEntry> entries;
+    for (int i = 1; const QString& place : places) {
+        entries.push_back({place, Zero(i % 9 + 1, 2), QString(), QStringLiteral("Cosa da vedere %1").arg(i),
+                           i % 4 == 0 ? QStringLiteral("00:00") : QStringLiteral("00:15")});
+        ++i;
+    }
+    return entries;
 }
 
 } // namespace
 
-BigTrip::BigTrip(int legs)
-    : legs_(legs),
+BigTrip::BigTrip(int legs) : BigTrip(numberedPlaces(legs), oneEntryEach(numberedPlaces(legs))) {}
+
+BigTrip::BigTrip(const std::vector<QString>& places, const std::vector<GuideEntry>& guide)
+    : legs_(static_cast<int>(places.size())),
       session_({.directory = directory_.path(), .decimalMark = u'.', .versione = QStringLiteral("bench")}) {
     session_.clock.set(QDateTime(QDate(2003, 6, 21), QTime(8, 30)));
     session_.start();
@@ -26,25 +41,26 @@ BigTrip::BigTrip(int legs)
     form().txtNazione.type(QStringLiteral("EUROPA"));
     answer(rispostaSi);
     form().cmdSalva.click();
-    storeGuide();
-    storeLegs();
+    storeGuide(guide);
+    storeLegs(places);
     if (form().stato.NumeroTappe != legs_)
         throw std::runtime_error("the trip could not be stored");
 }
 
-void BigTrip::storeLegs() {
-    comando(form(), [this] {
+void BigTrip::storeLegs(const std::vector<QString>& places) {
+    comando(form(), [this, &places] {
         Grid& grid = form().mfgTab;
         {
             const SenzaRidisegno quiet(grid);
             grid.setRows(legs_ + 2);
-            for (int i = 1; i <= legs_; ++i) {
-                grid.setCell(i, 1, place(i) + (i == 1 ? QStringLiteral(" [Start]") : QString()));
+            for (int i = 1; const QString& place : places) {
+                grid.setCell(i, 1, place + (i == 1 ? QStringLiteral(" [Start]") : QString()));
                 grid.setCell(i, 2, QStringLiteral("SS%1").arg(i % 300));
                 grid.setCell(i, 3, QString::number(5 + i % 16));
                 grid.setCell(i, 4, QString(u"ASPL"[i % 4]));
                 if (i % 10 == 0)
                     grid.setCell(i, 7, QStringLiteral("00:00:30"));
+                ++i;
             }
         }
         MemorizzaTappeItinerario(form());
@@ -52,20 +68,20 @@ void BigTrip::storeLegs() {
     });
 }
 
-void BigTrip::storeGuide() {
-    comando(form(), [this] {
+void BigTrip::storeGuide(const std::vector<GuideEntry>& guide) {
+    comando(form(), [this, &guide] {
         form().archivio.StringaSQL = QStringLiteral("SELECT * FROM GuidaCitta");
         form().archivio.RecordSetImposta(0, store::GuidaCitta);
-        store::Recordset& guide = form().archivio.Rs(store::GuidaCitta);
-        for (int i = 1; i <= legs_; ++i) {
-            guide.AddNew();
-            guide.scrive("Localita", place(i));
-            guide.scrive("CodiceGuida", Zero(i % 9 + 1, 2));
-            guide.scrive("Gruppo", QString());
-            guide.scrive("Descrizione", QStringLiteral("Cosa da vedere %1").arg(i));
-            guide.scrive("TempoSosta", i % 4 == 0 ? QStringLiteral("00:00") : QStringLiteral("00:15"));
-            guide.scrive("FlagVisto", QStringLiteral("0"));
-            guide.Update();
+        store::Recordset& records = form().archivio.Rs(store::GuidaCitta);
+        for (const GuideEntry& entry : guide) {
+            records.AddNew();
+            records.scrive("Localita", entry.place);
+            records.scrive("CodiceGuida", entry.category);
+            records.scrive("Gruppo", entry.group);
+            records.scrive("Descrizione", entry.description);
+            records.scrive("TempoSosta", entry.time);
+            records.scrive("FlagVisto", QStringLiteral("0"));
+            records.Update();
         }
     });
 }

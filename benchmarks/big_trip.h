@@ -1,5 +1,7 @@
-// A trip of many legs with a guide entry at every place, in a window without a display.
+// A trip of many legs in a window without a display, with its guide.
 #pragma once
+
+#include <vector>
 
 #include <QTemporaryDir>
 
@@ -7,9 +9,19 @@
 
 namespace vanzer::bench {
 
+struct GuideEntry {
+    QString place;
+    QString category;
+    QString group;
+    QString description;
+    QString time;
+};
+
 class BigTrip {
   public:
+    /// Numbered places with one entry of the guide each.
     explicit BigTrip(int legs);
+    BigTrip(const std::vector<QString>& places, const std::vector<GuideEntry>& guide);
 
     [[nodiscard]] Form& form() { return *session_.window(); }
     [[nodiscard]] int legs() const { return legs_; }
@@ -23,8 +35,8 @@ class BigTrip {
     void reopen() { session_.start(); }
 
   private:
-    void storeLegs();
-    void storeGuide();
+    void storeLegs(const std::vector<QString>& places);
+    void storeGuide(const std::vector<GuideEntry>& guide);
 
     int legs_;
     QTemporaryDir directory_;

@@ -174,4 +174,15 @@ void searchList(benchmark::State& state) {
 }
 BENCHMARK(searchList)->Arg(1000)->Arg(9999)->Unit(benchmark::kMillisecond);
 
+/// The guide of all the trip's places, opened and closed.
+void guideOfTrip(benchmark::State& state) {
+    BigTrip trip(legs(state));
+    Form& form = trip.form();
+    for (auto _ : state) {
+        form.cmdGuidaCitta.click();
+        form.cmdFineInserimento.click();
+    }
+}
+BENCHMARK(guideOfTrip)->Arg(1000)->Arg(9999)->Unit(benchmark::kMillisecond);
+
 } // namespace vanzer::bench

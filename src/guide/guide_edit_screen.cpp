@@ -29,40 +29,47 @@ VoceDigitata typedEntry(const Form& form) {
     };
 }
 
-/// Opens the entries of the places that a pattern finds, by their description; none for an empty description.
-store::Recordset& openEntries(Form& form, const QString& places, const QString& description) {
-    using enum store::Condition::Test;
-    form.archivio.RecordSetImposta(
-        0, store::GuidaCitta,
-        {store::TabelleNomi(store::GuidaCitta),
-         {{QStringLiteral("Localita"), Like, places}, {QStringLiteral("Descrizione"), Like, LikeTesto(description)}},
-         {}});
+store::Recordset& openWhere(Form& form, const std::vector<store::Condition>& conditions) {
+    form.archivio.RecordSetImposta(0, store::GuidaCitta, {store::TabelleNomi(store::GuidaCitta), conditions, {}});
     return form.archivio.Rs(store::GuidaCitta);
 }
 
-template<typename Test> bool moveTo(store::Recordset& records, const Test& wanted) {
+/// Opens the entries of the places that a pattern finds, by their description; none for an empty description.
+store::Recordset& openEntries(Form& form, const QString& places, const QString& description) {
+    using enum store::Condition::Test;
+    return openWhere(form, {{QStringLiteral("Localita"), Like, places},
+                            {QStringLiteral("Descrizione"), Like, LikeTesto(description)}});
+}
+
+bool moveToDescription(store::Recordset& records, const QString& description) {
     for (records.MoveFirst(); !records.EOF_(); records.MoveNext()) {
-        if (wanted())
+        if (uguale(Trim(records.testo(u"Descrizione")), Trim(description)))
             return true;
     }
     return false;
 }
 
-/// Moves to the entry that the row shows. A pattern may find more than that: the very description goes first, and of
-/// several the very place.
-bool moveToOld(store::Recordset& records, const QString& place, const QString& description) {
-    const auto sameText = [&] { return uguale(Trim(records.testo(u"Descrizione")), Trim(description)); };
-    const auto samePlace = [&] { return uguale(records.testo(u"Localita"), place); };
-    if (moveTo(records, [&] { return sameText() && samePlace(); }) || moveTo(records, sameText))
+/// Moves to the stored entry that the row shows: the one of that description at this very place. Only where there is
+/// none the patterns of the place and of the description are asked, again for the very description first.
+bool moveToOld(Form& form, const QString& place, const QString& description) {
+    if (description.isEmpty())
+        return false;
+    const QString& shownPlace = form.txtGCitta.text();
+    if (uguale(shownPlace, place) &&
+        moveToDescription(openWhere(form, {{QStringLiteral("Localita"), store::Condition::Test::Equal, place}}),
+                          description))
+        return true;
+    store::Recordset& records = openEntries(form, LikeTesto(shownPlace), description);
+    if (moveToDescription(records, description))
         return true;
     records.MoveFirst();
     return !records.EOF_();
 }
 
 void storeEntry(Form& form, const VoceDigitata& entry) {
-    const QString old = cellOfRow(form, guidaDescrizione);
-    store::Recordset& records = openEntries(form, LikeTesto(form.txtGCitta.text()), old);
-    if (!old.isEmpty() && moveToOld(records, entry.luogo, old))
+    const bool stored = moveToOld(form, entry.luogo, cellOfRow(form, guidaDescrizione));
+    store::Recordset& records = form.archivio.Rs(store::GuidaCitta);
+    if (stored)
         records.Edit();
     else
         records.AddNew();
