@@ -96,12 +96,13 @@ void Binder::flush() {
     giveFocus();
 }
 
+/// As the tab key gives it: the text of a field is selected, so that what is typed takes its place.
 void Binder::giveFocus() {
     QWidget* const widget = std::exchange(wanted_, nullptr);
     if (widget == nullptr || !widget->isEnabled())
         return;
     displaced_ = nullptr;
-    widget->setFocus(Qt::OtherFocusReason);
+    widget->setFocus(Qt::TabFocusReason);
 }
 
 /// A widget that was switched off while it had the focus gets it back when it is on again, unless the user has gone on.

@@ -50,13 +50,17 @@ Posto posto(const QWidget& frame) {
     return Posto::Centro;
 }
 
+int frameHeight(const QWidget& frame, int width) {
+    return frame.hasHeightForWidth() ? frame.heightForWidth(width) : frame.sizeHint().height();
+}
+
 QRect frameRect(const QWidget& frame, const QRect& table, const QRect& whole, int sideTop) {
     const QSize wish = frame.sizeHint();
     const QRect inner = table.adjusted(inset, inset, -inset, -inset);
     QRect rect(QPoint(), wish.boundedTo(whole.size()));
     switch (posto(frame)) {
     case Posto::Fianco: return {whole.right() + 1 - wish.width(), sideTop, wish.width(), table.bottom() + 1 - sideTop};
-    case Posto::Sotto: return {whole.left(), table.bottom() + 1, whole.width(), wish.height()};
+    case Posto::Sotto: return {whole.left(), table.bottom() + 1, whole.width(), frameHeight(frame, whole.width())};
     case Posto::Sinistra: return {inner.left() + numbers, inner.top() + head, rect.width(), inner.height() - head};
     case Posto::Destra: rect.moveTopRight(inner.topRight()); break;
     case Posto::Piede:

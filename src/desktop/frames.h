@@ -17,6 +17,9 @@ enum class Posto { Fianco, Sotto, Sinistra, Centro, Destra, Piede };
 /// What the frame's form says; over the middle if it says nothing.
 [[nodiscard]] Posto posto(const QWidget& frame);
 
+/// The height that a frame needs when it is `width` wide.
+[[nodiscard]] int frameHeight(const QWidget& frame, int width);
+
 /// Where a frame lies. `table` is the table as it is, `whole` the window without its margins, `sideTop` the height from
 /// which a frame beside the table begins.
 [[nodiscard]] QRect frameRect(const QWidget& frame, const QRect& table, const QRect& whole, int sideTop);

@@ -57,6 +57,7 @@ void MainWindow::addFrames() {
 
 /// Frames at the side and below take their room from the table; the others lie over it.
 void MainWindow::layOutFrames() {
+    const QRect whole = contentsRect().marginsRemoved(layout()->contentsMargins());
     int side = 0;
     int below = 0;
     for (const QWidget* const frame : frames_) {
@@ -65,11 +66,10 @@ void MainWindow::layOutFrames() {
         if (posto(*frame) == Posto::Fianco)
             side = std::max(side, frame->sizeHint().width() + ui_->areaTabella->spacing());
         if (posto(*frame) == Posto::Sotto)
-            below = std::max(below, frame->sizeHint().height() + ui_->areaTabella->spacing());
+            below = std::max(below, frameHeight(*frame, whole.width()) + ui_->areaTabella->spacing());
     }
     ui_->areaTabella->setContentsMargins(0, 0, side, below);
     layout()->activate();
-    const QRect whole = contentsRect().marginsRemoved(layout()->contentsMargins());
     const int sideTop = ui_->parametri->mapTo(this, QPoint()).y();
     const QRect table(ui_->mfgTab->mapTo(this, QPoint()), ui_->mfgTab->size());
     for (QWidget* const frame : frames_) {
@@ -96,7 +96,8 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 /// A letter takes the focus to its button and presses it at once, so that what is typed next goes where it should. Of
-/// several that share it the one in the frame that has the focus is meant, else the one that isn't a second choice.
+/// several that share it the one in the frame that has the focus is meant, else the one that isn't a second choice. One
+/// that shares it with a field's label gets the focus alone, in turn with the field.
 bool MainWindow::pressMnemonic(QAbstractButton& button, bool ambiguous) {
     QAbstractButton* const meant = ambiguous ? meantBy(button) : &button;
     if (meant == nullptr)
@@ -111,6 +112,8 @@ QAbstractButton* MainWindow::meantBy(const QAbstractButton& button) const {
     sharing.removeIf([&button](const QAbstractButton* other) {
         return other->shortcut() != button.shortcut() || !other->isVisible() || !other->isEnabled();
     });
+    if (sharing.size() < 2)
+        return nullptr;
     const QWidget* const frame = outerFrame(QApplication::focusWidget());
     const auto only = [&sharing](const auto& fits) -> QAbstractButton* {
         return std::ranges::count_if(sharing, fits) == 1 ? *std::ranges::find_if(sharing, fits) : nullptr;

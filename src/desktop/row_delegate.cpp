@@ -6,6 +6,7 @@
 
 #include "desktop/table_view.h"
 #include "desktop/tints.h"
+#include "guide/entries.h"
 #include "schedule/rows.h"
 #include "toolkit/grid_model.h"
 
@@ -39,10 +40,12 @@ struct RowDelegate::Cell {
     [[nodiscard]] QColor ink() const {
         if (selected)
             return option.palette.color(QPalette::Active, QPalette::HighlightedText);
-        return look.tipo == Tipo::NuovoGiorno ? tints.faint : option.palette.color(QPalette::Active, QPalette::Text);
+        const bool standsBack = look.tipo == Tipo::NuovoGiorno || (look.tipo == Tipo::Voce && column == guidaLuogo);
+        return standsBack ? tints.faint : option.palette.color(QPalette::Active, QPalette::Text);
     }
     [[nodiscard]] QRect textRect() const {
-        const bool inset = column == colTappa && (look.tipo == Tipo::Sosta || look.tipo == Tipo::NuovoGiorno);
+        const bool inset = column == colTappa &&
+                           (look.tipo == Tipo::Sosta || look.tipo == Tipo::NuovoGiorno || look.tipo == Tipo::Voce);
         return option.rect.adjusted(sideMargin + (inset ? stopIndent : 0), 0, -sideMargin, 0);
     }
 };
@@ -63,11 +66,13 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, c
     drawGround(*painter, cell);
     painter->setPen(cell.ink());
     QFont font = option.font;
-    font.setBold(cell.look.tipo == Tipo::TitoloTotale);
+    font.setBold(cell.look.tipo == Tipo::TitoloTotale || (cell.look.tipo == Tipo::Luogo && cell.column == guidaLuogo));
     font.setItalic(cell.look.tipo == Tipo::NuovoGiorno);
     painter->setFont(font);
     if (cell.look.tipo == Tipo::Totale)
         drawTotal(*painter, cell);
+    else if (cell.look.tipo == Tipo::Voce && cell.column == guidaTipo)
+        drawCategory(*painter, cell);
     else
         drawText(*painter, cell);
     painter->restore();
@@ -80,6 +85,8 @@ void RowDelegate::drawGround(QPainter& painter, const Cell& cell) const {
         ground = cell.option.palette.color(QPalette::Active, QPalette::Highlight);
     else if (isTotal(cell.look))
         ground = cell.tints.total;
+    else if (cell.look.tipo == Tipo::Luogo)
+        ground = cell.tints.place;
     else if (cell.marked)
         ground = cell.tints.marked;
     else if (cell.look.viandoria && cell.look.giorno % 2 == 1)
@@ -116,6 +123,26 @@ void RowDelegate::drawTotal(QPainter& painter, const Cell& cell) const {
         const QRect rect = cell.textRect().adjusted(totalColumns[place++] * digit, 0, 0, 0);
         painter.drawText(rect, Qt::AlignLeft | Qt::AlignVCenter, part.trimmed());
     }
+}
+
+/// The first letter of the category on its colour, and its name.
+void RowDelegate::drawCategory(QPainter& painter, const Cell& cell) const {
+    const QString name = cell.text.trimmed();
+    const QFontMetrics metrics = painter.fontMetrics();
+    const QRect rect = cell.textRect();
+    QRect badge(0, 0, metrics.height() + 4, metrics.height());
+    badge.moveCenter(rect.center());
+    badge.moveLeft(rect.left());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(cell.selected ? cell.ink() : Qt::transparent);
+    painter.setBrush(coloreCategoria(cell.look.categoria));
+    painter.drawRoundedRect(badge, 4, 4);
+    painter.setPen(Qt::white);
+    painter.drawText(badge, Qt::AlignCenter, name.left(1).toUpper());
+    painter.setPen(cell.ink());
+    const QRect beside = rect.adjusted(badge.width() + sideMargin, 0, 0, 0);
+    painter.drawText(beside, Qt::AlignLeft | Qt::AlignVCenter,
+                     metrics.elidedText(name, Qt::ElideRight, beside.width()));
 }
 
 } // namespace vanzer::desktop

@@ -1,4 +1,5 @@
-// Draws the cells of a table view: days in bands, their ends ruled off, stops set in, totals on a ground of their own.
+// Draws the cells of a table view: days in bands, their ends ruled off, stops set in, totals on a ground of their own;
+// in the guide places on theirs, and entries with a badge of their category.
 #pragma once
 
 #include <QStyledItemDelegate>
@@ -20,6 +21,7 @@ class RowDelegate : public QStyledItemDelegate {
     void drawGround(QPainter& painter, const Cell& cell) const;
     void drawText(QPainter& painter, const Cell& cell) const;
     void drawTotal(QPainter& painter, const Cell& cell) const;
+    void drawCategory(QPainter& painter, const Cell& cell) const;
 
     TableView& view_;
 };

@@ -49,8 +49,9 @@ TableView::TableView(QWidget* parent) : QTableView(parent), tints_(palette()) {
     });
 }
 
-void TableView::setGrid(Grid& grid) {
+void TableView::setGrid(Grid& grid, std::span<const QString> categories) {
     grid_ = &grid;
+    categories_ = categories;
     setModel(&grid.model());
     const auto forget = [this] {
         looksKnown_ = false;
@@ -65,8 +66,8 @@ void TableView::setGrid(Grid& grid) {
 
 const AspettoRiga& TableView::look(int row) const {
     if (!looksKnown_) {
-        looks_ =
-            aspettoRighe(grid_->rows(), [this](int r, int column) -> const QString& { return grid_->cell(r, column); });
+        looks_ = aspettoRighe(
+            grid_->rows(), [this](int r, int column) -> const QString& { return grid_->cell(r, column); }, categories_);
         looksKnown_ = true;
     }
     return looks_[static_cast<std::size_t>(row)];

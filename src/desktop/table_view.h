@@ -1,6 +1,7 @@
 // The grid as the user sees it: the cells of a grid model, with the rows told apart by what they are.
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include <QTableView>
@@ -16,8 +17,8 @@ class TableView : public QTableView {
   public:
     explicit TableView(QWidget* parent = nullptr);
 
-    /// The grid lives longer than the view.
-    void setGrid(Grid& grid);
+    /// The grid and the names of the guide's categories live longer than the view.
+    void setGrid(Grid& grid, std::span<const QString> categories);
     [[nodiscard]] const Grid& grid() const { return *grid_; }
 
     /// Column widths, current row and top row as the grid has them now.
@@ -53,6 +54,7 @@ class TableView : public QTableView {
     void tellCell(const QPoint& at);
 
     Grid* grid_ = nullptr;
+    std::span<const QString> categories_;
     Tints tints_;
     mutable std::vector<int> textWidths_; ///< by column; empty when the texts have changed
     mutable std::vector<AspettoRiga> looks_;

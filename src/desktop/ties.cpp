@@ -113,7 +113,7 @@ class PercentTie : public Tie {
 class GridTie : public Tie {
   public:
     GridTie(Grid& model, TableView& view, Binder& to) : Tie(model, view, to), model_(model), view_(view) {
-        view.setGrid(model);
+        view.setGrid(model, to.form().TipiGuidaDescrizione);
         connect(&model, &Grid::selectionChanged, this, &GridTie::markChanged);
         connect(&view, &TableView::rowClicked, this,
                 [this](int row) { binder().input([this, row] { model_.clickRow(row); }); });

@@ -1,5 +1,7 @@
 #include "desktop/tints.h"
 
+#include <array>
+
 namespace vanzer::desktop {
 
 namespace {
@@ -25,6 +27,17 @@ Tints::Tints(const QPalette& palette) {
     marked = mixed(base, QColor(0xf5, 0xb8, 0x3d), dark ? 0.35F : 0.40F);
     rule = mixed(base, text, 0.55F);
     faint = mixed(text, base, 0.35F);
+    place = mixed(base, accent, dark ? 0.24F : 0.12F);
+}
+
+QColor coloreCategoria(int category) {
+    constexpr std::array<QRgb, 14> colours{0xff6b7075,                                     // not known
+                                           0xffb3261e, 0xffc2500e, 0xff96700a, 0xff7d7340, // visits
+                                           0xff1560b5, 0xff0a7d95,                         // places to stop
+                                           0xff2c7a34, 0xff8a3f9e, 0xff4f5b93,             // camp site, restaurant, gas
+                                           0xff795548, 0xff795548, 0xff59682f, 0xff6b7075};
+    const bool known = category > 0 && category < static_cast<int>(colours.size());
+    return QColor::fromRgb(colours[known ? static_cast<std::size_t>(category) : 0]);
 }
 
 QPalette fieldPalette(const QColor& ground) {

@@ -16,7 +16,12 @@ struct Tints {
     QColor marked;   ///< cells with the window's own colour
     QColor rule;     ///< the line below the end of a day
     QColor faint;    ///< texts that stand back
+    QColor place;    ///< rows of the guide's places
 };
+
+/// The colour of a category of the guide, told by its number: warm for what is worth a visit, the warmer the more, cold
+/// for where to stay, eat and fill up, a grey for one that isn't known. White can be read on each of them.
+[[nodiscard]] QColor coloreCategoria(int category);
 
 /// What a field's palette has of its own: its ground, for entry boxes as for lists. All else stays the window's.
 [[nodiscard]] QPalette fieldPalette(const QColor& ground);

@@ -24,6 +24,7 @@ enum ColonnaGuida {
 };
 
 inline constexpr QStringView segnoVoce = u"1";
+inline constexpr QStringView testaGruppo = u"Gruppo"; ///< head of the column, which no other layout of the grid has
 
 enum class TipoRigaGuida {
     Vuota,

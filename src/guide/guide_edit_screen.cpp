@@ -18,6 +18,15 @@ QString placeOfRow(const Form& form) {
     return form.stato.RigaCorrente < 1 ? QString() : Trim(RiPulisceNomeLocalita(cellOfRow(form, guidaLuogo)));
 }
 
+/// A list that was made anew has its mark on the first row, whatever row was at hand before: what the user sees counts.
+/// True if another row is at hand now.
+bool takeMarkedRow(Form& form) {
+    if (form.stato.RigaCorrente == form.mfgTab.row())
+        return false;
+    form.stato.RigaCorrente = form.mfgTab.row();
+    return true;
+}
+
 VoceDigitata typedEntry(const Form& form) {
     const int code = CodiceTipoGuida(form.TipiGuidaDescrizione, form.cmbGTipo.text());
     return {
@@ -119,6 +128,21 @@ void scrollDownTo(Form& form, int row) {
         grid.setTopRow(Maggiore(Minore(grid.rows() - 2, row - righeInVista), 1));
 }
 
+/// False for a key that leads to no other row. Fields that were filled for a row of another list are nobody's entry.
+bool saveAndMove(Form& form, int code) {
+    const bool anotherList = takeMarkedRow(form);
+    int& row = form.stato.RigaCorrente;
+    const int next = rigaDopoTasto(row, code, form.mfgTab.rows());
+    scrollDownTo(form, next);
+    if (next == row)
+        return false;
+    if (!anotherList)
+        SalvaLaRigaGuidaCitta(form, false);
+    row = next;
+    AggiornaTabellaRigaCorrenteItinerario(form);
+    return true;
+}
+
 } // namespace
 
 void CmdSalvaRiga_Click(Form& form) {
@@ -126,6 +150,7 @@ void CmdSalvaRiga_Click(Form& form) {
 }
 
 void SalvaLaRigaGuidaCitta(Form& form, bool avvisa) {
+    takeMarkedRow(form);
     const VoceDigitata entry = typedEntry(form);
     const EsitoVoce result = controllaVoce(entry);
     if (result != EsitoVoce::Buona) {
@@ -141,6 +166,8 @@ void SalvaLaRigaGuidaCitta(Form& form, bool avvisa) {
 }
 
 void cmdCancellaRiga_Click(Form& form) {
+    if (takeMarkedRow(form))
+        InserisciGuida(form);
     if (!form.txtGDescr.text().isEmpty())
         askAndDelete(form, openEntries(form, LikeTesto(form.txtGCitta.text()) + u'*', form.txtGDescr.text()));
     rebuildList(form);
@@ -155,16 +182,12 @@ void cmdCancellaRiga_Click(Form& form) {
 }
 
 void txtGDescr_KeyDown(Form& form, int code) {
-    int& row = form.stato.RigaCorrente;
-    const int next = rigaDopoTasto(row, code, form.mfgTab.rows());
-    scrollDownTo(form, next);
-    if (next == row) {
+    if (!saveAndMove(form, code))
         applyShortForm(form, formaBreve(form.txtGDescr.text()));
-        return;
-    }
-    SalvaLaRigaGuidaCitta(form, false);
-    row = next;
-    AggiornaTabellaRigaCorrenteItinerario(form);
+}
+
+void txtGGruppo_KeyDown(Form& form, int code) {
+    saveAndMove(form, code);
 }
 
 void txtGDescr_KeyPress(Form& form, int& code) {

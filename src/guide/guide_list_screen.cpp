@@ -140,8 +140,10 @@ void cmdGuidaCitta_Click(Form& form) {
     s.FiltroGuida.clear();
     s.ModoGuida = true;
     CreaLaListadellaGuida(form);
-    if (s.ModoGuida)
-        form.setDefault(form.cmdFineInserimento);
+    if (!s.ModoGuida)
+        return;
+    form.setDefault(form.cmdFineInserimento);
+    form.setFocus(form.txtGDescr);
 }
 
 void CreaLaListadellaGuida(Form& form) {

@@ -19,8 +19,10 @@ void CmdSalvaRiga_Click(Form& form);
 /// missing is told if `avvisa`, else nothing happens.
 void SalvaLaRigaGuidaCitta(Form& form, bool avvisa);
 void cmdCancellaRiga_Click(Form& form);
-/// The row keys store the row and move on.
+/// The row keys store the row and move on, to the group of the next one; every other key writes the short forms out.
 void txtGDescr_KeyDown(Form& form, int code);
+/// The row keys go on from there as they do in the description.
+void txtGGruppo_KeyDown(Form& form, int code);
 void txtGDescr_KeyPress(Form& form, int& code);
 void txtGGruppo_KeyPress(Form& form, int& code);
 

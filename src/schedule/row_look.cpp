@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "guide/entries.h"
 #include "schedule/rows.h"
 
 namespace vanzer {
@@ -29,6 +30,20 @@ void legLooks(std::vector<AspettoRiga>& looks, const Cella& cell) {
         AspettoRiga& look = looks[static_cast<std::size_t>(r)];
         look.tipo = Tipo::Tappa;
         look.fineGiornata = cell(r, colSostaTappa).startsWith(u'*');
+    }
+}
+
+void guideLooks(std::vector<AspettoRiga>& looks, const Cella& cell, std::span<const QString> categories) {
+    for (int r = 1; r < static_cast<int>(looks.size()); ++r) {
+        AspettoRiga& look = looks[static_cast<std::size_t>(r)];
+        switch (tipoRigaGuida(cell(r, guidaLuogo), cell(r, guidaSegno))) {
+        case TipoRigaGuida::Luogo: look.tipo = Tipo::Luogo; break;
+        case TipoRigaGuida::Voce:
+            look.tipo = Tipo::Voce;
+            look.categoria = std::max(CodiceTipoGuida(categories, cell(r, guidaTipo)), 0);
+            break;
+        default: break;
+        }
     }
 }
 
@@ -92,9 +107,11 @@ class AspettoViandoria {
 
 } // namespace
 
-std::vector<AspettoRiga> aspettoRighe(int rows, const Cella& cell) {
+std::vector<AspettoRiga> aspettoRighe(int rows, const Cella& cell, std::span<const QString> categories) {
     std::vector<AspettoRiga> looks(static_cast<std::size_t>(std::max(rows, 1)));
-    if (isSchedule(rows, cell))
+    if (cell(0, guidaGruppo) == testaGruppo)
+        guideLooks(looks, cell, categories);
+    else if (isSchedule(rows, cell))
         AspettoViandoria(looks, cell).scrive();
     else
         legLooks(looks, cell);

@@ -87,6 +87,7 @@ void wireGuide(Form& form) {
     form.cmdFineInserimento.onClick = wired(form, cmdFineInserimento_Click);
     form.txtGDescr.onKeyDown = [&form](int code) { comando(form, [&form, code] { txtGDescr_KeyDown(form, code); }); };
     form.txtGDescr.onKeyPress = [&form](int& code) { txtGDescr_KeyPress(form, code); };
+    form.txtGGruppo.onKeyDown = [&form](int code) { comando(form, [&form, code] { txtGGruppo_KeyDown(form, code); }); };
     form.txtGGruppo.onKeyPress = [&form](int& code) { txtGGruppo_KeyPress(form, code); };
 }
 

@@ -1,6 +1,7 @@
 // How the rows of the table are told apart.
 #include <gtest/gtest.h>
 
+#include "guide/entries.h"
 #include "schedule/row_look.h"
 #include "schedule/rows.h"
 
@@ -12,22 +13,27 @@ namespace {
 using Row = std::map<int, QString>;
 using Looks = std::vector<std::string>;
 
-/// "V" for a row of a schedule, the kind's name, the day, "|" at its end.
+/// "V" for a row of a schedule, the kind's name, the day or the category, "|" at its end.
 std::string told(const AspettoRiga& look) {
-    constexpr std::array<const char*, 6> kinds{"vuota", "tappa", "sosta", "mattino", "titolo", "totale"};
+    constexpr std::array<const char*, 8> kinds{"vuota",  "tappa",  "sosta", "mattino",
+                                               "titolo", "totale", "luogo", "voce"};
     return std::string(look.viandoria ? "V " : "") + kinds[static_cast<std::size_t>(look.tipo)] + ' ' +
-           std::to_string(look.giorno) + (look.fineGiornata ? "|" : "");
+           std::to_string(look.giorno + look.categoria) + (look.fineGiornata ? "|" : "");
 }
 
-Looks looks(const std::vector<Row>& rows) {
-    const auto cell = [&rows](int row, int column) -> const QString& {
+/// Below a head row whose column of the groups is called `group`.
+Looks looks(const std::vector<Row>& rows, const QString& group = QStringLiteral("Km.")) {
+    const std::array<QString, 4> categories{QStringLiteral("Zero"), QStringLiteral("Ottimo"),
+                                            QStringLiteral("Campeggio"), QStringLiteral("Altro")};
+    const Row head{{guidaGruppo, group}};
+    const auto cell = [&rows, &head](int row, int column) -> const QString& {
         static const QString none;
-        const Row& cells = rows.at(static_cast<std::size_t>(row - 1));
+        const Row& cells = row == 0 ? head : rows.at(static_cast<std::size_t>(row - 1));
         const auto found = cells.find(column);
         return found == cells.end() ? none : found->second;
     };
     Looks result;
-    for (const AspettoRiga& look : aspettoRighe(static_cast<int>(rows.size()) + 1, cell))
+    for (const AspettoRiga& look : aspettoRighe(static_cast<int>(rows.size()) + 1, cell, categories))
         result.push_back(told(look));
     result.erase(result.begin());
     return result;
@@ -46,6 +52,12 @@ Row onDay(const char16_t* number, const char16_t* place, const char16_t* date) {
 
 Row line(QStringView place) {
     return {{colTappa, place.toString()}};
+}
+
+Row entry(const char16_t* place, const char16_t* category) {
+    return {{guidaLuogo, QString::fromUtf16(place)},
+            {guidaTipo, QString::fromUtf16(category)},
+            {guidaSegno, segnoVoce.toString()}};
 }
 
 } // namespace
@@ -89,6 +101,18 @@ TEST(AspettoRighe, AreToldFromTheTexts) {
     };
     for (const auto& c : cases)
         EXPECT_EQ(looks(c.rows), c.looks) << c.what;
+}
+
+TEST(AspettoRighe, PlacesOfTheGuideAndTheirEntries) {
+    EXPECT_EQ(looks({leg(u"ROMA [Start]", u"*"),
+                     entry(u"Roma", u"Ottimo"),
+                     entry(u"Roma", u"CAMPEGGIO"),
+                     entry(u"Roma", u"Museo"),
+                     entry(u"Roma", u"Zero"),
+                     line(u"PISA"),
+                     {}},
+                    testaGruppo.toString()),
+              Looks({"luogo 0", "voce 1", "voce 2", "voce 0", "voce 0", "luogo 0", "vuota 0"}));
 }
 
 } // namespace vanzer

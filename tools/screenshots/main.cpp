@@ -62,10 +62,10 @@ class Scene {
     void click(int row) {
         program_.window().binder().input([this, row] { program_.form().mfgTab.clickRow(row); });
     }
-    void scrollToEnd() {
-        program_.window().binder().input(
-            [this] { program_.form().mfgTab.setTopRow(program_.form().mfgTab.rows() - 1); });
+    void scrollTo(int row) {
+        program_.window().binder().input([this, row] { program_.form().mfgTab.setTopRow(row); });
     }
+    void scrollToEnd() { scrollTo(program_.form().mfgTab.rows() - 1); }
 
   private:
     FixedClock clock_;
@@ -104,7 +104,12 @@ const std::array shots{
              calculate(scene);
              scene.scrollToEnd();
          }},
-    Shot{"guida", smallest, false, false, [](Scene& scene) { scene.press("cmdGuidaCitta"); }},
+    Shot{"guida", smallest, false, false,
+         [](Scene& scene) {
+             scene.press("cmdGuidaCitta");
+             scene.scrollTo(42);
+             scene.click(44);
+         }},
     Shot{"scuro", usual, false, true, calculate},
 };
 
