@@ -4,7 +4,6 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
 #include <random>
 #include <unordered_set>
 #include <vector>
@@ -19,6 +18,7 @@
 #include "itinerary/leg_editor_screen.h"
 #include "itinerary/leg_table_screen.h"
 #include "schedule/preparation_screen.h"
+#include "timing.h"
 #include "window/command.h"
 
 namespace vanzer::bench {
@@ -70,12 +70,6 @@ std::vector<QString> tripThrough(const std::vector<QString>& names) {
     for (std::size_t i = 0; trip.size() < legs; ++i)
         trip.push_back(names[i % places]);
     return trip;
-}
-
-double seconds(const std::function<void()>& work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
 /// Times `work` on the trip with a guide of as many entries as told; `after` puts back what it changed.
@@ -133,6 +127,11 @@ int storeOwnEntry(BigTrip& trip) {
     return rowOf(form, QStringLiteral("Nuova"));
 }
 
+int openWithOwnEntry(BigTrip& trip) {
+    openEditor(trip);
+    return storeOwnEntry(trip);
+}
+
 void deleteRow(BigTrip& trip, int row) {
     trip.form().mfgTab.clickRow(row);
     trip.answer(rispostaSi);
@@ -173,11 +172,7 @@ void closeGuideAndSortGroups(benchmark::State& state) {
 void changeEntry(benchmark::State& state) {
     int row = 0;
     withGuide(
-        state,
-        [&row](BigTrip& trip) {
-            openEditor(trip);
-            row = storeOwnEntry(trip);
-        },
+        state, [&row](BigTrip& trip) { row = openWithOwnEntry(trip); },
         [&row](BigTrip& trip) { stores(trip, row, QStringLiteral("Nuova")); }, nothing);
 }
 
@@ -191,12 +186,8 @@ void addEntry(benchmark::State& state) {
 void deleteEntry(benchmark::State& state) {
     int row = 0;
     withGuide(
-        state,
-        [&row](BigTrip& trip) {
-            openEditor(trip);
-            row = storeOwnEntry(trip);
-        },
-        [&row](BigTrip& trip) { deleteRow(trip, row); }, [&row](BigTrip& trip) { row = storeOwnEntry(trip); });
+        state, [&row](BigTrip& trip) { row = openWithOwnEntry(trip); }, [&row](BigTrip& trip) { deleteRow(trip, row); },
+        [&row](BigTrip& trip) { row = storeOwnEntry(trip); });
 }
 
 void prepareCalculation(benchmark::State& state) {

@@ -2,7 +2,6 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
 #include <functional>
 #include <vector>
 
@@ -16,17 +15,12 @@
 #include "itinerary/leg_table_screen.h"
 #include "schedule/calculation_screen.h"
 #include "schedule/preparation_screen.h"
+#include "timing.h"
 #include "window/command.h"
 
 namespace vanzer::bench {
 
 namespace {
-
-double seconds(const std::function<void()>& work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
 
 double median(std::vector<double> times) {
     std::sort(times.begin(), times.end());

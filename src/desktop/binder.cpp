@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QRegularExpression>
 
 #include "desktop/ties.h"
@@ -102,6 +103,8 @@ void Binder::giveFocus() {
     if (widget == nullptr || !widget->isEnabled())
         return;
     displaced_ = nullptr;
+    if (auto* const field = qobject_cast<QLineEdit*>(widget); field != nullptr && field->hasFocus())
+        field->selectAll();
     widget->setFocus(Qt::TabFocusReason);
 }
 

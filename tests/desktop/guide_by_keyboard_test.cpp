@@ -100,6 +100,8 @@ TEST_F(GuideByKeyboard, GroupsAndShortFormsAreTyped) {
     letter('g');
     EXPECT_EQ(cell(2, guidaGruppo), "A-B");
     key(Qt::Key_Down);
+    key(Qt::Key_Up);
+    key(Qt::Key_Down);
     EXPECT_EQ(textOf("txtGGruppo"), QStringLiteral("A-B"));
     write("z");
     key(Qt::Key_Up);
