@@ -25,7 +25,7 @@ QString twoDigits(const QString& box) {
 }
 
 bool wholeDays(const QString& hours) {
-    return hours.size() == 2 && hours[0] == u'G' && hours[1] >= u'1' && hours[1] <= u'8';
+    return hours.size() == 2 && hours[0].toUpper() == u'G' && hours[1] >= u'1' && hours[1] <= u'8';
 }
 
 } // namespace

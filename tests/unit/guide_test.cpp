@@ -82,8 +82,8 @@ TEST(GuideTime, BoxesAndStoredText) {
     };
     for (const auto& [time, hours, minutes] :
          {Row{u"02:30", u"02", u"30"}, Row{u"G8:15", u"G8", u"15"}, Row{u"G1:00", u"G1", u"00"},
-          Row{u"G9:00", u"00", u"00"}, Row{u"G0:45", u"00", u"45"}, Row{u":", u"00", u"00"}, Row{u" ", u"00", u"00"},
-          Row{u"1:5", u"01", u"00"}}) {
+          Row{u"g2:00", u"g2", u"00"}, Row{u"G9:00", u"00", u"00"}, Row{u"G0:45", u"00", u"45"},
+          Row{u":", u"00", u"00"}, Row{u" ", u"00", u"00"}, Row{u"1:5", u"01", u"00"}}) {
         EXPECT_EQ(oreMostrate(text(time)), text(hours)) << text(time).toStdString();
         EXPECT_EQ(minutiMostrati(text(time)), text(minutes)) << text(time).toStdString();
     }
