@@ -4,7 +4,7 @@
 
 #include <QSaveFile>
 
-#include "batch/code_page.h"
+#include "core/code_page.h"
 
 namespace vanzer::batch {
 

@@ -84,7 +84,7 @@ void RecordingPrinter::box(Punto from, Punto to, int width, std::optional<quint3
     draw({.kind = Operazione::Kind::Box, .a = from, .b = to, .width = width, .fill = fill});
 }
 
-void RecordingPrinter::picture(const Picture& /*picture*/, Punto at, Punto size) {
+void RecordingPrinter::picture(Immagine /*picture*/, Punto at, Punto size) {
     draw({.kind = Operazione::Kind::Picture, .a = at, .b = size});
 }
 

@@ -36,7 +36,7 @@ class RecordingPrinter : public Printer {
     void text(Punto at, const QString& text) override;
     void line(Punto from, Punto to, int width) override;
     void box(Punto from, Punto to, int width, std::optional<quint32> fill) override;
-    void picture(const Picture& picture, Punto at, Punto size) override;
+    void picture(Immagine picture, Punto at, Punto size) override;
 
     [[nodiscard]] int page() const override { return page_; }
     void newPage() override;

@@ -8,8 +8,8 @@
 #include <QJsonArray>
 
 #include "batch/answer.h"
-#include "batch/code_page.h"
 #include "batch/state_view.h"
+#include "core/code_page.h"
 #include "window/startup.h"
 
 namespace vanzer::batch {

@@ -8,7 +8,16 @@
 
 namespace vanzer {
 
-class Picture;
+/// The pictures of the window that go to the paper.
+enum class Immagine {
+    LogoSito, ///< imgLogoSito, at the head of every page
+    Logo      ///< imgLogo1(1), on covers
+};
+
+/// An operation of the printer that failed; the text says why, in Italian.
+struct PrinterError {
+    QString testo;
+};
 
 /// Position or size on the sheet, mm.
 struct Punto {
@@ -16,6 +25,7 @@ struct Punto {
     double y = 0;
 };
 
+/// Whatever draws, opens a page or ends a document throws PrinterError when it fails.
 class Printer {
   public:
     virtual ~Printer() = default;
@@ -49,7 +59,7 @@ class Printer {
     /// `fill` is 0xRRGGBB; nothing leaves the box open.
     virtual void box(Punto from, Punto to, int width, std::optional<quint32> fill) = 0;
     /// The picture scaled into the box of that size.
-    virtual void picture(const Picture& picture, Punto at, Punto size) = 0;
+    virtual void picture(Immagine picture, Punto at, Punto size) = 0;
 
     /// Number of the page being drawn; 0 before anything is drawn.
     [[nodiscard]] virtual int page() const = 0;

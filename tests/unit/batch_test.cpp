@@ -4,7 +4,6 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "batch/code_page.h"
 #include "batch/interpreter.h"
 #include "batch/line.h"
 #include "batch/pdf_file.h"
@@ -52,16 +51,6 @@ TEST(BatchLine, SkipsCommentsAndEmptyLines) {
         EXPECT_FALSE(saysNothing(QString::fromUtf8(line))) << line;
 }
 
-TEST(BatchCodePage, GoesThereAndBack) {
-    QByteArray all;
-    for (int byte = 0; byte < 256; ++byte)
-        all.append(static_cast<char>(byte));
-    EXPECT_EQ(toCodePage(fromCodePage(all)), all);
-    EXPECT_EQ(fromCodePage("\x80\xE8\x9F"), QStringLiteral("€èŸ"));
-    EXPECT_EQ(toCodePage(QStringLiteral("ŁódźŸ")), QByteArray("?\xF3"
-                                                              "d?\x9F"));
-}
-
 TEST(BatchBoxes, AnswerFromTheQueueThenByTheButtons) {
     QueuedBoxes boxes;
     boxes.enqueue(rispostaSi);
@@ -98,7 +87,6 @@ class BatchPrinter : public testing::Test {
   protected:
     QueuedDialogs dialogs;
     RecordingPrinter printer{dialogs};
-    Picture logo{QStringLiteral("imgLogoSito"), -1, nullptr};
 };
 
 TEST_F(BatchPrinter, MeasuresWithoutAFont) {
@@ -128,7 +116,7 @@ TEST_F(BatchPrinter, RecordsWhatIsDrawn) {
     EXPECT_EQ(printer.page(), 2);
     printer.box({1, 2}, {3, 4}, 3, 0x00FF0AU);
     printer.box({1, 2}, {3, 4}, 2, {});
-    printer.picture(logo, {22, 20}, {15, 15});
+    printer.picture(Immagine::LogoSito, {22, 20}, {15, 15});
     printer.newPage();
     printer.endDoc();
     printer.endDoc();

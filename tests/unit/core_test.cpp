@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "core/code_page.h"
 #include "core/columns.h"
 #include "core/place_name.h"
 #include "core/text.h"
@@ -194,6 +195,29 @@ TEST(NomiDiLuogo, FormOfTheGuide) {
         EXPECT_EQ(PulisceNomeLocalita(QString::fromUtf16(c.name)), QString::fromUtf16(c.filed));
     EXPECT_EQ(RiPulisceNomeLocalita(u" PISA  [End]"_s), u"Pisa");
     EXPECT_EQ(RiPulisceNomeLocalita(u"ORTE (svincolo)"_s), u"Orte (svincolo)");
+}
+
+TEST(CodePage, GoesThereAndBack) {
+    QByteArray all;
+    for (int byte = 0; byte < 256; ++byte)
+        all.append(static_cast<char>(byte));
+    EXPECT_EQ(toCodePage(fromCodePage(all)), all);
+    EXPECT_EQ(fromCodePage("\x80\xE8\x9F"), u"€èŸ");
+}
+
+TEST(CodePage, WhatHasNoPlaceIsWrittenAsItsBaseLetter) {
+    const struct {
+        QString text;
+        const char* bytes;
+    } cases[] = {{u"Łódź"_s, "L\xF3"
+                             "dz"},
+                 {u"Çeşme, Čačak"_s, "\xC7"
+                                     "esme, Cacak"},
+                 {u"cafe\u0301"_s, "caf\xE9"},
+                 {u"Αθήνα 😀"_s, "????? ?"},
+                 {u"\u1EC7"_s, "e"}};
+    for (const auto& c : cases)
+        EXPECT_EQ(toCodePage(c.text).toStdString(), c.bytes) << c.text.toStdString();
 }
 
 } // namespace vanzer

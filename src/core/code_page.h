@@ -4,11 +4,11 @@
 #include <QByteArray>
 #include <QString>
 
-namespace vanzer::batch {
+namespace vanzer {
 
 /// Every byte has a character: the five that the code page leaves free are the controls of that number.
 [[nodiscard]] QString fromCodePage(QByteArrayView bytes);
-/// What has no place in the code page becomes "?".
+/// A letter that has no place in the code page becomes its base letter, anything else "?".
 [[nodiscard]] QByteArray toCodePage(const QString& text);
 
-} // namespace vanzer::batch
+} // namespace vanzer
