@@ -7,15 +7,15 @@
 
 #include <sqlite3.h>
 
-#include "store/collation.h"
+#include "core/collation.h"
 
 namespace vanzer::bench {
 
 namespace {
 
 int collate(void*, int aLength, const void* a, int bLength, const void* b) {
-    return store::confronta({static_cast<const char*>(a), static_cast<std::size_t>(aLength)},
-                            {static_cast<const char*>(b), static_cast<std::size_t>(bLength)});
+    return confronta({static_cast<const char*>(a), static_cast<std::size_t>(aLength)},
+                     {static_cast<const char*>(b), static_cast<std::size_t>(bLength)});
 }
 
 struct Finalizer {

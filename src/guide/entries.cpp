@@ -4,6 +4,7 @@
 
 #include <QStringList>
 
+#include "core/collation.h"
 #include "core/columns.h"
 #include "core/text.h"
 
@@ -63,7 +64,7 @@ bool stessoGruppo(const QString& a, const QString& b) {
 }
 
 QString gruppoOrdinato(const QString& group) {
-    QString line = QString(group).replace(u'-', u'\t');
+    QString line = QString(group).replace(u'-', u'\t') + u'\t';
     Colonne pieces;
     SeparaColonne(line, pieces);
     QStringList marks;
@@ -72,7 +73,7 @@ QString gruppoOrdinato(const QString& group) {
             marks << pieces(i);
     }
     std::stable_sort(marks.begin(), marks.end(),
-                     [](const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
+                     [](const QString& a, const QString& b) { return confrontaTesti(a, b) < 0; });
     return marks.join(u'-');
 }
 

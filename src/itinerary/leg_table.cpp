@@ -55,13 +55,13 @@ TrattoDellaGuida::Passo TrattoDellaGuida::prossimo(const QString& localita) {
     };
     cut(u"(");
     start_ = cut(marcaStart) || start_;
-    const bool end = cut(marcaEnd);
+    end_ = cut(marcaEnd) || end_;
     Passo step{start_, {}};
     if (start_) {
         last_ = RiPulisceNomeLocalita(s);
         step.luogo = last_.endsWith(u'*') ? Left(last_, last_.size() - 1) : last_;
     }
-    if (end)
+    if (end_)
         start_ = false;
     return step;
 }

@@ -58,6 +58,7 @@ class TrattoDellaGuida {
   private:
     QString last_;
     bool start_ = false;
+    bool end_ = false; ///< an end was met: a start behind it opens its own place alone
 };
 
 } // namespace vanzer

@@ -9,7 +9,7 @@
 
 #include <sqlite3.h>
 
-#include "store/collation.h"
+#include "core/collation.h"
 #include "store/query_sql.h"
 
 namespace vanzer::store {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "store/collation.h"
+#include "core/collation.h"
 
 namespace vanzer::store {
 

@@ -1,13 +1,32 @@
 #include "toolkit/control.h"
 
 #include <algorithm>
+#include <numeric>
+#include <string>
+#include <vector>
+
+#include "core/collation.h"
 
 namespace vanzer {
 
 namespace {
 
-bool before(const QString& a, const QString& b) {
-    return a.compare(b, Qt::CaseInsensitive) < 0;
+/// Entries that tie stay as they were.
+QStringList sorted(const QStringList& entries) {
+    std::vector<std::string> keys;
+    keys.reserve(static_cast<std::size_t>(entries.size()));
+    for (const QString& entry : entries)
+        keys.push_back(entry.toStdString());
+    std::vector<qsizetype> order(keys.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(), [&keys](qsizetype a, qsizetype b) {
+        return confronta(keys[static_cast<std::size_t>(a)], keys[static_cast<std::size_t>(b)]) < 0;
+    });
+    QStringList result;
+    result.reserve(entries.size());
+    for (const qsizetype i : order)
+        result.append(entries[i]);
+    return result;
 }
 
 } // namespace
@@ -114,13 +133,17 @@ void TextControl::leave() {
 }
 
 void TextBox::type(const QString& text) {
-    setText(maxLength_ > 0 ? text.left(maxLength_) : text);
+    QString kept = maxLength_ > 0 ? text.left(maxLength_) : text;
+    if (kept.size() < text.size() && kept.back().isHighSurrogate())
+        kept.chop(1); // no half of a character
+    setText(kept);
 }
 
 ListControl::ListControl(QString baseName, int index, Frame* frame, bool box)
     : TextControl(std::move(baseName), index, frame), box_(box) {}
 
 void ListControl::add(const QString& entry) {
+    const auto before = [](const QString& a, const QString& b) { return confrontaTesti(a, b) < 0; };
     if (sorted_)
         entries_.insert(std::upper_bound(entries_.begin(), entries_.end(), entry, before), entry);
     else
@@ -129,10 +152,7 @@ void ListControl::add(const QString& entry) {
 }
 
 void ListControl::setEntries(const QStringList& entries) {
-    QStringList ordered = entries;
-    if (sorted_)
-        std::stable_sort(ordered.begin(), ordered.end(), before);
-    assign(entries_, ordered);
+    assign(entries_, sorted_ ? sorted(entries) : entries);
 }
 
 void ListControl::setEntriesOnly() {

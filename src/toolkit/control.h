@@ -212,7 +212,7 @@ class ListControl : public TextControl {
     void setEntries(const QStringList& entries);
     /// No entries and no text.
     void clear();
-    /// Keeps the entries sorted, capitals ignored.
+    /// Keeps the entries sorted: letters first without regard to case and accents.
     void setSorted(bool on) { sorted_ = on; }
     /// The user picks from the entries and never types.
     [[nodiscard]] bool entriesOnly() const { return entriesOnly_; }

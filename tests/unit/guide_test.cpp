@@ -41,7 +41,8 @@ TEST(GuideGroup, MarksAreSortedAndJoined) {
     };
     for (const auto& [group, sorted] :
          {Row{u"B-A", u"A-B"}, Row{u"10-2-1", u"1-10-2"}, Row{u" C ", u"C"}, Row{u"b-A-c", u"A-b-c"}, Row{u"-", u""},
-          Row{u"---", u""}, Row{u"-B--A-", u"A-B"}, Row{u"A-A", u"A-A"}, Row{u" ", u""}, Row{u"B - A", u"A-B"}})
+          Row{u"---", u""}, Row{u"-B--A-", u"A-B"}, Row{u"A-A", u"A-A"}, Row{u" ", u""}, Row{u"B - A", u"A-B"},
+          Row{u"B,A", u"B,A"}})
         EXPECT_EQ(gruppoOrdinato(text(group)), text(sorted)) << text(group).toStdString();
 }
 

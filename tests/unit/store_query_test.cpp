@@ -1,7 +1,7 @@
 // How the archive compares, sorts and searches.
 #include "store_fixture.h"
 
-#include "store/collation.h"
+#include "core/collation.h"
 #include "store/query_sql.h"
 
 namespace vanzer::store {

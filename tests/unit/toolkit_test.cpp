@@ -56,9 +56,13 @@ TEST(Controlli, TextChangesAreToldOnceAndOnlyWhenTheyAreReal) {
 TEST(Controlli, ListsSortAndPickWithoutRegardToCapitals) {
     ListControl list(u"cmbRicercaTappa"_s, -1, nullptr, true);
     list.setSorted(true);
-    for (const auto& entry : {u"roma"_s, u"Bari"_s, u"ANCONA"_s})
+    const QStringList unsorted{u"roma"_s, u"Èze"_s, u"Bari"_s, u"EZE"_s, u"ANCONA"_s};
+    const QStringList sorted{u"ANCONA"_s, u"Bari"_s, u"EZE"_s, u"Èze"_s, u"roma"_s};
+    for (const auto& entry : unsorted)
         list.add(entry);
-    EXPECT_EQ(list.entries(), (QStringList{u"ANCONA"_s, u"Bari"_s, u"roma"_s}));
+    EXPECT_EQ(list.entries(), sorted);
+    list.setEntries(unsorted);
+    EXPECT_EQ(list.entries(), sorted);
     int clicks = 0;
     list.onClick = [&clicks] { ++clicks; };
     EXPECT_TRUE(list.pick(u"BARI"_s));

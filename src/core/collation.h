@@ -1,4 +1,4 @@
-// How the archive compares texts: its sort order and its LIKE, both on UTF-8.
+// How the system sorts texts, and the archive's LIKE, both on UTF-8.
 //
 // The order looks first at the letters without regard to case and accents: canonical decomposition, base letters,
 // simple folding per character ("ß" stays one letter), combining marks passed over. Texts that tie there are compared
@@ -9,12 +9,14 @@
 #include <string_view>
 
 #include <QByteArray>
+#include <QString>
 #include <QStringView>
 
-namespace vanzer::store {
+namespace vanzer {
 
 /// Below, at or above 0 as `a` sorts before, with or behind `b`.
 [[nodiscard]] int confronta(std::string_view a, std::string_view b);
+[[nodiscard]] int confrontaTesti(const QString& a, const QString& b);
 
 /// True if `text` has the form of `pattern`: "*" any text, "?" one character, nothing else is special; case is ignored,
 /// accents count. Never more than pattern length times text length steps.
@@ -27,4 +29,4 @@ namespace vanzer::store {
 /// A byte that no UTF-8 text holds; it sorts behind every letter.
 inline constexpr char oltreOgniLettera = '\xff';
 
-} // namespace vanzer::store
+} // namespace vanzer

@@ -1,4 +1,4 @@
-#include "store/collation.h"
+#include "core/collation.h"
 
 #include <algorithm>
 #include <array>
@@ -9,7 +9,7 @@
 #include <QList>
 #include <QString>
 
-namespace vanzer::store {
+namespace vanzer {
 
 namespace {
 
@@ -185,6 +185,10 @@ int confronta(std::string_view textA, std::string_view textB) {
     return compareLetters(a, aEnd, b, bEnd);
 }
 
+int confrontaTesti(const QString& a, const QString& b) {
+    return confronta(a.toStdString(), b.toStdString());
+}
+
 bool somiglia(std::string_view pattern, std::string_view text) {
     const char* p = pattern.data();
     const char* t = text.data();
@@ -227,4 +231,4 @@ QByteArray lettereBase(QStringView text) {
     return QString::fromUcs4(bases.data(), static_cast<qsizetype>(bases.size())).toUtf8();
 }
 
-} // namespace vanzer::store
+} // namespace vanzer
