@@ -83,8 +83,6 @@ QJsonObject Interpreter::execute(const QString& text) {
         answer = failure(QString::fromLocal8Bit(error.what()));
     }
     --depth_;
-    if (const QString lost = session_.printer.takeFailure(); !lost.isEmpty())
-        answer.insert(u"error", QStringLiteral("can't write %1").arg(lost));
     answer.insert(u"cmd", text);
     addShown(answer, QStringLiteral("boxes"), session_.boxes.exchange(outerBoxes));
     addShown(answer, QStringLiteral("files"), session_.dialogs.exchange(outerFiles));

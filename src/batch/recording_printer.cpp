@@ -104,11 +104,19 @@ void RecordingPrinter::endDoc() {
     }
     const std::vector<Pagina> drawn = std::exchange(pdf_, {});
     if (!pdfPath_.isEmpty() && !writePdf(pdfPath_, drawn))
-        failed_ = pdfPath_;
+        throw PrinterError{QStringLiteral("Impossibile scrivere il file ") + pdfPath_};
+}
+
+void RecordingPrinter::dropDoc() {
+    page_ = 0;
+    pdf_.clear();
 }
 
 void RecordingPrinter::reset() {
-    endDoc();
+    try {
+        endDoc();
+    } catch (const PrinterError&) { // nobody is left to be told
+    }
     device_ = Device::Registro;
     font_ = {.name = onlyFont};
 }
@@ -122,10 +130,6 @@ QJsonObject RecordingPrinter::take() {
         pages.append(operations);
     }
     return {{"printer", current()}, {"pages", pages}, {"documents", std::exchange(documents_, 0)}};
-}
-
-QString RecordingPrinter::takeFailure() {
-    return std::exchange(failed_, {});
 }
 
 } // namespace vanzer::batch

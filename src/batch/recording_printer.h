@@ -41,13 +41,12 @@ class RecordingPrinter : public Printer {
     [[nodiscard]] int page() const override { return page_; }
     void newPage() override;
     void endDoc() override;
+    void dropDoc() override;
 
     /// What a program's end does: an open document is ended, the default printer is current again.
     void reset();
     /// What was recorded since the last call, and the name of the current printer.
     [[nodiscard]] QJsonObject take();
-    /// The file of a PDF that could not be written since the last call; empty if all went well.
-    [[nodiscard]] QString takeFailure();
 
   private:
     enum class Device { Registro, Pdf };
@@ -63,7 +62,6 @@ class RecordingPrinter : public Printer {
     int documents_ = 0;
     std::vector<Pagina> pdf_; ///< the document that is being drawn
     QString pdfPath_;         ///< empty: the user didn't want it
-    QString failed_;
 };
 
 } // namespace vanzer::batch

@@ -59,6 +59,10 @@ struct StatoViaggio {
     int NumeroTest = 0;
     int GiorniCalcolati = 0;
 
+    int TipoStampa = 0;            ///< what the choice of the printer starts: 1 the schedule, 2 the guide
+    bool StampaInCorso = false;    ///< pages are being drawn
+    bool InterrompiStampa = false; ///< the user wants no more of them
+
     QString FiltroGuida; ///< what the user asked the guide to find; empty: all
 };
 

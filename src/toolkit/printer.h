@@ -66,6 +66,8 @@ class Printer {
     virtual void newPage() = 0;
     /// Sends the document; nothing happens if nothing was begun.
     virtual void endDoc() = 0;
+    /// Gives the document up: what wasn't sent yet never is.
+    virtual void dropDoc() = 0;
 };
 
 } // namespace vanzer

@@ -10,6 +10,7 @@
 #include "itinerary/leg_table_screen.h"
 #include "itinerary/list_pick_screen.h"
 #include "itinerary/return_screen.h"
+#include "reports/print_screen.h"
 #include "schedule/calculation_screen.h"
 #include "schedule/stops_screen.h"
 #include "window/command.h"
@@ -46,6 +47,7 @@ void wireMenu(Form& form) {
     form.cmdItinerario.onClick = wired(form, cmdItinerario_Click);
     form.cmdGuidaCitta.onClick = wired(form, cmdGuidaCitta_Click);
     form.cmdCalcola.onClick = wired(form, cmdCalcola_Click);
+    form.cmdStampa.onClick = wired(form, cmdStampa_Click);
     form.cmbRicerca.onClick = wired(form, cmbRicerca_Click);
     form.cmbRicercaTappa.onClick = wired(form, cmbRicercaTappa_Click);
 }
@@ -89,6 +91,15 @@ void wireGuide(Form& form) {
     form.txtGDescr.onKeyPress = [&form](int& code) { txtGDescr_KeyPress(form, code); };
     form.txtGGruppo.onKeyDown = [&form](int code) { comando(form, [&form, code] { txtGGruppo_KeyDown(form, code); }); };
     form.txtGGruppo.onKeyPress = [&form](int& code) { txtGGruppo_KeyPress(form, code); };
+}
+
+void wirePrinting(Form& form) {
+    form.cmdStampaGuidaCitta.onClick = wired(form, cmdStampaGuidaCitta_Click);
+    for (int i = 0; i < 2; ++i) {
+        form.cmdEsegui(i).onClick = wired(form, CmdEsegui_Click, i);
+        form.cmdStampaGuida(i).onClick = wired(form, cmdStampaGuida_Click, i);
+        form.cmdSelStampante(i).onClick = wired(form, cmdSelStampante_Click, i);
+    }
 }
 
 void wireHelp(Form& form) {
@@ -141,6 +152,7 @@ void wire(Form& form) {
     wireParameters(form);
     wireLegEditor(form);
     wireGuide(form);
+    wirePrinting(form);
     wireHelp(form);
     wireKeys(form);
 }

@@ -1,6 +1,7 @@
 #include "window/ways_out.h"
 
 #include "guide/guide_screen.h"
+#include "reports/print_screen.h"
 #include "window/destination_screen.h"
 
 namespace vanzer {
@@ -24,7 +25,9 @@ void chiedeDiChiudere(Form& form) {
 }
 
 void rinunciaAllaScelta(Form& form) {
-    if (form.cmbRicercaTappa.reachable() && form.cmdFine.reachable())
+    if (form.stato.StampaInCorso)
+        chiedeDiInterrompereLaStampa(form);
+    else if (form.cmbRicercaTappa.reachable() && form.cmdFine.reachable())
         form.cmdFine.click();
     else if (form.cmbRicercaTappa.reachable() && form.stato.ModoGuida)
         RinunciaRicercaGuida(form);

@@ -1,0 +1,129 @@
+#include "reports/guide_print_screen.h"
+
+#include "core/place_name.h"
+#include "core/text.h"
+#include "guide/entries.h"
+#include "reports/guide_report.h"
+#include "reports/print_run_screen.h"
+#include "window/modes.h"
+
+namespace vanzer {
+
+namespace {
+
+using enum store::Condition::Test;
+
+const QString place = QStringLiteral("Localita");
+
+store::Recordset& openGuide(Form& form, const std::vector<store::Condition>& where,
+                            const std::vector<store::Order>& order) {
+    form.archivio.RecordSetImposta(0, store::GuidaCitta, {store::TabelleNomi(store::GuidaCitta), where, order});
+    return form.archivio.Rs(store::GuidaCitta);
+}
+
+/// Every place of the guide once.
+QStringList allPlaces(Form& form) {
+    store::Recordset& records = openGuide(form, {}, {{place}});
+    const int field = records.campo(place);
+    QStringList places;
+    QString last;
+    for (; !records.EOF_(); records.MoveNext()) {
+        const QString name = Trim(records.testo(field));
+        if (places.isEmpty() || !uguale(name, last))
+            places << name;
+        last = name;
+    }
+    return places;
+}
+
+/// The places of the trip that the guide knows, numbered in the order of the route.
+QStringList placesOfTrip(Form& form) {
+    form.archivio.RecordSetImposta(0, store::Itinerari,
+                                   {store::TabelleNomi(store::Itinerari),
+                                    {{QStringLiteral("CodiceMeta"), Equal, form.stato.CodiceMeta}},
+                                    {{QStringLiteral("Sequenza")}}});
+    store::Recordset& legs = form.archivio.Rs(store::Itinerari);
+    const int field = legs.campo(place);
+    QStringList places;
+    for (; !legs.EOF_(); legs.MoveNext()) {
+        const QString name = RiPulisceNomeLocalita(legs.testo(field));
+        if (!openGuide(form, {{place, Like, LikeTesto(name) + u'*'}}, {}).EOF_())
+            places << Zero(static_cast<int>(places.size()), 5) + u' ' + name;
+    }
+    return places;
+}
+
+class StampaGuida {
+  public:
+    explicit StampaGuida(Form& form)
+        : form_(form), ofTrip_(form.optGuidaListaStampa(1).value()),
+          detail_(form.optGuidaDettaglioStampa(1).value() ? DettaglioGuida::Voci : DettaglioGuida::Nomi), run_(form),
+          report_(run_.foglio(), detail_, title(), run_.piede()) {}
+
+    void stampa() {
+        constexpr int numberBeforeName = 6;
+        form_.lstStampanti.clear();
+        run_.passo([this] { run_.foglio().imposta(); });
+        form_.lblElaborazione.setCaption(QStringLiteral("Stampa della viandoria"));
+        form_.lblElaborazione.setCaption(QStringLiteral("Stampa della viandoria") + pageShown());
+        form_.lstStampanti.setEntries(ofTrip_ ? placesOfTrip(form_) : allPlaces(form_));
+        const QStringList places = form_.lstStampanti.entries();
+        form_.stato.PercentualeTotale = static_cast<double>(places.size());
+        for (qsizetype i = 0; i < places.size() && !run_.finita(); ++i) {
+            form_.stato.PercentualeCorrente = static_cast<double>(i) + 1;
+            AggiornaPercentuale(form_);
+            printPlace(ofTrip_ ? places[i].mid(numberBeforeName) : places[i]);
+            form_.lblElaborazione.setCaption(QStringLiteral("Stampa della guida citta") + pageShown());
+        }
+        bool printed = false;
+        run_.passo([&] { printed = report_.chiude(); });
+        if (printed)
+            run_.fineDocumento();
+        AzzeraPercentuale(form_);
+        AbilitaPulsantiMeta(form_, QStringLiteral("zz"));
+        run_.dicePerduto();
+    }
+
+  private:
+    [[nodiscard]] QString title() const {
+        QString text = QStringLiteral("Guida Città: - ") +
+                       form_.optGuidaDettaglioStampa(detail_ == DettaglioGuida::Voci ? 1 : 0).caption() +
+                       QStringLiteral(" - ") + form_.optGuidaListaStampa(ofTrip_ ? 1 : 0).caption();
+        if (ofTrip_)
+            text += QStringLiteral(": ") + form_.txtLocalita.text();
+        return text.remove(u'&');
+    }
+
+    [[nodiscard]] QString pageShown() { return QStringLiteral(" (pag. %1)").arg(run_.foglio().pagina()); }
+
+    void printPlace(const QString& name) {
+        const bool entries = detail_ == DettaglioGuida::Voci;
+        store::Recordset& records = entries
+                                        ? openGuide(form_, {{place, Equal, name}}, {{QStringLiteral("CodiceGuida")}})
+                                        : openGuide(form_, {{place, Like, LikeTesto(name)}}, {});
+        for (; !records.EOF_() && !run_.finita(); records.MoveNext()) {
+            run_.passo([&] { report_.StampaRigaGuidaCitta(entryOf(records)); });
+            if (!entries)
+                return;
+        }
+    }
+
+    [[nodiscard]] VoceStampata entryOf(store::Recordset& record) const {
+        return {record.testo(u"Localita"), nomeTipoGuida(form_.TipiGuidaDescrizione, record.testo(u"CodiceGuida")),
+                record.testo(u"Gruppo"), record.testo(u"Descrizione"), record.testo(u"TempoSosta")};
+    }
+
+    Form& form_;
+    bool ofTrip_;
+    DettaglioGuida detail_;
+    CorsaDiStampa run_;
+    ReportGuida report_;
+};
+
+} // namespace
+
+void StampaDelleMete(Form& form) {
+    StampaGuida(form).stampa();
+}
+
+} // namespace vanzer

@@ -1,0 +1,10 @@
+// The print of the guide.
+#pragma once
+
+#include "window/form.h"
+
+namespace vanzer {
+
+void StampaDelleMete(Form& form);
+
+} // namespace vanzer

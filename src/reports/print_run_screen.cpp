@@ -1,0 +1,42 @@
+#include "reports/print_run_screen.h"
+
+namespace vanzer {
+
+CorsaDiStampa::CorsaDiStampa(Form& form) : form_(form), sheet_(*form.ports.printer) {
+    form_.stato.InterrompiStampa = false;
+    form_.stato.StampaInCorso = true;
+}
+
+CorsaDiStampa::~CorsaDiStampa() {
+    form_.stato.StampaInCorso = false;
+}
+
+Piede CorsaDiStampa::piede() const {
+    return {form_.ports.clock.now().toString(QStringLiteral("dd/MM/yyyy")), form_.caption};
+}
+
+void CorsaDiStampa::fallita(const QString& reason) {
+    failed_ = true;
+    manca(reason);
+}
+
+void CorsaDiStampa::manca(const QString& what) {
+    if (!what.isEmpty() && !missing_.contains(what))
+        missing_ << what;
+}
+
+void CorsaDiStampa::fineDocumento() {
+    if (form_.stato.InterrompiStampa)
+        form_.ports.printer->dropDoc();
+    else
+        passo([this] { sheet_.fineDocumento(); });
+}
+
+void CorsaDiStampa::dicePerduto() {
+    manca(sheet_.perduto());
+    if (!missing_.isEmpty())
+        form_.messaggio(QStringLiteral("La stampa non è completa:\n\n") + missing_.join(u'\n'),
+                        QStringLiteral("Stampa"), Icona::Avviso);
+}
+
+} // namespace vanzer

@@ -1,0 +1,50 @@
+// A print while it runs: the printer with its sheet, the user's wish to stop, and what failed on the way.
+#pragma once
+
+#include <QStringList>
+
+#include "reports/sheet.h"
+#include "window/form.h"
+
+namespace vanzer {
+
+class CorsaDiStampa {
+  public:
+    explicit CorsaDiStampa(Form& form);
+    ~CorsaDiStampa();
+    CorsaDiStampa(const CorsaDiStampa&) = delete;
+    CorsaDiStampa& operator=(const CorsaDiStampa&) = delete;
+
+    [[nodiscard]] Foglio& foglio() { return sheet_; }
+    /// Today's date and the window's caption.
+    [[nodiscard]] Piede piede() const;
+
+    /// Carries out a step. One that fails ends the print; false if it did.
+    template<typename Step> bool passo(const Step& step) {
+        try {
+            step();
+        } catch (const PrinterError& error) {
+            fallita(error.testo);
+        }
+        return !finita();
+    }
+    /// Keeps what failed, for the message at the end, and ends the print.
+    void fallita(const QString& reason);
+    /// Kept for the message at the end; the print goes on.
+    void manca(const QString& what);
+
+    /// A step has failed, or the user wants no more.
+    [[nodiscard]] bool finita() const { return failed_ || form_.stato.InterrompiStampa; }
+    /// Sends the document; one that the user gave up is dropped.
+    void fineDocumento();
+    /// Tells what is missing of the print, if anything is.
+    void dicePerduto();
+
+  private:
+    Form& form_;
+    Foglio sheet_;
+    bool failed_ = false;
+    QStringList missing_;
+};
+
+} // namespace vanzer

@@ -1,0 +1,178 @@
+#include "reports/schedule_print_screen.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+#include "core/text_file.h"
+#include "reports/print_run_screen.h"
+#include "reports/schedule_report.h"
+#include "reports/text_files.h"
+#include "schedule/rows.h"
+#include "window/modes.h"
+
+namespace vanzer {
+
+namespace {
+
+const QString placesFile = QStringLiteral("ListaLocalita.txt");
+const QString commandFile = QStringLiteral("CommandLine.txt");
+const QString formsProgram = QStringLiteral("Scribolo");
+const QString printing = QStringLiteral("Stampa della viandoria");
+
+constexpr int colFineGiornata = 14;
+
+std::array<QString, 3> texts(const Serie<ListControl>& lists) {
+    return {lists(0).text(), lists(1).text(), lists(2).text()};
+}
+std::array<QString, 3> texts(const Serie<TextBox>& boxes) {
+    return {boxes(0).text(), boxes(1).text(), boxes(2).text()};
+}
+
+DatiViandoria shownTrip(const Form& form) {
+    DatiViandoria trip{
+        .localita = form.txtLocalita.text(),
+        .nazione = form.txtNazione.text(),
+        .giornoInizio = form.txtInizioGSett.text(),
+        .inizio = texts(form.cmbInizio),
+        .oraInizio = {form.cmbInizio(3).text(), form.cmbInizio(4).text()},
+        .giornoFine = form.txtFine(5).text(),
+        .fine = texts(form.txtFine),
+        .oraFine = {form.txtFine(3).text(), form.txtFine(4).text()},
+        .giorni = form.txtFine(6).text(),
+        .kmTotali = form.txtKmTot(4).text(),
+        .strade = {},
+        .traghetti = form.txtTragh.text(),
+        .orari = {},
+        .range = form.cmbRange.text(),
+        .riposoMinuti = form.cmbRipM.text(),
+        .riposoOre = form.cmbRipH.text(),
+        .riposoGiorni = form.cmbRipG.text(),
+        .riposoDopoGiorni = form.cmbRipGG.text(),
+    };
+    for (int i = 0; i < 4; ++i)
+        trip.strade[static_cast<std::size_t>(i)] = {form.lblTipoStrada(i).caption(), form.cmbMediaKm(i).text(),
+                                                    form.txtKmTot(i).text(), form.txtTempo(i).text()};
+    for (int i = 0; i < 8; ++i)
+        trip.orari[static_cast<std::size_t>(i)] = {form.cmbOra(i).text(), form.cmbMin(i).text()};
+    return trip;
+}
+
+class StampaItinerario {
+  public:
+    explicit StampaItinerario(Form& form)
+        : form_(form), run_(form), trip_(shownTrip(form)), cell_([&form](int row, int column) -> const QString& {
+              static const QString beyond;
+              return row < form.mfgTab.rows() ? form.mfgTab.cell(row, column) : beyond;
+          }),
+          report_(run_.foglio(), trip_, run_.piede(), cell_) {}
+
+    void stampa() {
+        form_.frmframe(18).setVisible(false);
+        table_ = intestazioneTabella(trip_.localita);
+        if (pages() || forms() || cover())
+            run_.passo([this] { run_.foglio().imposta(); });
+        form_.lblElaborazione.setCaption(printing);
+        form_.stato.PercentualeTotale = form_.mfgTab.rows() - 1;
+        covers();
+        rows();
+        writeFile(fileTabella.toString(), table_);
+        writeFile(placesFile, listaLocalita(form_.mfgTab.rows(), cell_));
+        AzzeraPercentuale(form_);
+        if (pages())
+            run_.passo([this] { report_.finePagina(); });
+        else if (cover())
+            run_.fineDocumento();
+        if (forms())
+            logbook();
+        tell();
+        AbilitaPulsantiMeta(form_, QStringLiteral("all"));
+    }
+
+  private:
+    [[nodiscard]] bool pages() const { return form_.chkTabella.value(); }
+    [[nodiscard]] bool forms() const { return form_.chkModuli.value(); }
+    [[nodiscard]] bool cover() const { return form_.chkFrontespizio.value(); }
+
+    void covers() {
+        VociFrontespizio titles{};
+        for (std::size_t i = 0; i < titles.size(); ++i)
+            titles[i] = form_.chkVociFrontespizio(static_cast<int>(i)).value();
+        if (cover())
+            run_.passo([&] { report_.frontespizioGenerale(titles); });
+        if (pages())
+            run_.passo([this] { report_.frontespizioViandoria(); });
+    }
+
+    void rows() {
+        const int last = form_.mfgTab.rows() - 1;
+        for (int r = 1; r <= last && !run_.finita(); ++r) {
+            form_.stato.PercentualeCorrente = r;
+            AggiornaPercentuale(form_);
+            if (pages())
+                run_.passo([this, r] { printRow(r); });
+            table_ << rigaTabella(r, cell_);
+            form_.yield();
+        }
+    }
+
+    void printRow(int r) {
+        report_.preparaPagina(r);
+        form_.lblElaborazione.setCaption(printing + QStringLiteral(" (pag. %1)").arg(run_.foglio().pagina()));
+        form_.mfgTab.setCell(r, colFineGiornata, {});
+        report_.StampaRiga(r);
+    }
+
+    void writeFile(const QString& name, const QStringList& lines) {
+        if (const QString reason = scriveFileTesto(form_.archivio.PercorsoProgramma + name, lines); !reason.isEmpty())
+            run_.manca(QStringLiteral("%1: %2").arg(percorsoMostrato(form_, name), reason));
+    }
+
+    void logbook() {
+        form_.frmframe(16).setVisible(true);
+        const QString trip = viaggioPerModuli(trip_.localita, trip_.inizio, trip_.fine);
+        const QString directory = QDir(form_.archivio.PercorsoProgramma).absolutePath();
+        writeFile(commandFile, {comandoModuli(QDir::toNativeSeparators(directory), trip)});
+        const QString program = QDir(QCoreApplication::applicationDirPath()).filePath(formsProgram);
+        if (!form_.ports.programs.start(program, {QStringLiteral("--dir"), directory, trip}))
+            run_.fallita(QStringLiteral("i moduli per il diario: non si può avviare ") +
+                         QDir::toNativeSeparators(program));
+        form_.frmframe(16).setVisible(false);
+    }
+
+    void tell() {
+        QString done;
+        if (pages())
+            done = QStringLiteral("Viandoria ");
+        if (pages() && forms())
+            done += QStringLiteral(" e \n");
+        if (forms())
+            done += QStringLiteral("Moduli per Diario di Bordo");
+        if (!done.isEmpty()) {
+            run_.fineDocumento();
+            form_.messaggio(QStringLiteral("Stampa ") + done + QStringLiteral(" completata..."));
+        }
+        form_.messaggio(QStringLiteral("Stampa dei file: \n\n") + percorsoMostrato(form_, fileTabella) +
+                        QStringLiteral("\n") + percorsoMostrato(form_, placesFile) + QStringLiteral("\n\ncompletata!"));
+        run_.dicePerduto();
+    }
+
+    Form& form_;
+    CorsaDiStampa run_;
+    DatiViandoria trip_;
+    CellaViandoria cell_;
+    ReportViandoria report_;
+    QStringList table_;
+};
+
+} // namespace
+
+QString percorsoMostrato(const Form& form, QStringView file) {
+    return QDir::toNativeSeparators(form.archivio.PercorsoProgramma + file.toString());
+}
+
+void StampaDellItinerario(Form& form) {
+    StampaItinerario(form).stampa();
+}
+
+} // namespace vanzer
