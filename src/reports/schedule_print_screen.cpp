@@ -104,15 +104,18 @@ class StampaItinerario {
             run_.passo([this] { report_.frontespizioViandoria(); });
     }
 
+    /// The table gets all rows, even if the pages end early.
     void rows() {
         const int last = form_.mfgTab.rows() - 1;
-        for (int r = 1; r <= last && !run_.finita(); ++r) {
-            form_.stato.PercentualeCorrente = r;
-            AggiornaPercentuale(form_);
-            if (pages())
-                run_.passo([this, r] { printRow(r); });
+        for (int r = 1; r <= last; ++r) {
+            if (!run_.finita()) {
+                form_.stato.PercentualeCorrente = r;
+                AggiornaPercentuale(form_);
+                if (pages())
+                    run_.passo([this, r] { printRow(r); });
+                form_.yield();
+            }
             table_ << rigaTabella(r, cell_);
-            form_.yield();
         }
     }
 
@@ -148,10 +151,12 @@ class StampaItinerario {
             done += QStringLiteral(" e \n");
         if (forms())
             done += QStringLiteral("Moduli per Diario di Bordo");
-        if (!done.isEmpty()) {
+        if (!done.isEmpty())
             run_.fineDocumento();
+        if (form_.stato.InterrompiStampa)
+            form_.messaggio(QStringLiteral("Stampa interrotta!"));
+        else if (!done.isEmpty())
             form_.messaggio(QStringLiteral("Stampa ") + done + QStringLiteral(" completata..."));
-        }
         form_.messaggio(QStringLiteral("Stampa dei file: \n\n") + percorsoMostrato(form_, fileTabella) +
                         QStringLiteral("\n") + percorsoMostrato(form_, placesFile) + QStringLiteral("\n\ncompletata!"));
         run_.dicePerduto();

@@ -3,10 +3,15 @@
 
 #include <cmath>
 
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
 #include "core/code_page.h"
 #include "core/columns.h"
 #include "core/place_name.h"
 #include "core/text.h"
+#include "core/text_file.h"
 #include "core/time_values.h"
 
 namespace vanzer {
@@ -218,6 +223,23 @@ TEST(CodePage, WhatHasNoPlaceIsWrittenAsItsBaseLetter) {
                  {u"\u1EC7"_s, "e"}};
     for (const auto& c : cases)
         EXPECT_EQ(toCodePage(c.text).toStdString(), c.bytes) << c.text.toStdString();
+}
+
+TEST(TextFile, IsWrittenWholeOrNotAtAll) {
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(u"lista.txt"_s);
+    const auto content = [&path] {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "none";
+    };
+    EXPECT_EQ(scriveFileTesto(path, {u"Città"_s, {}}), u"");
+    EXPECT_EQ(content(), "Citt\xE0\r\n\r\n");
+    EXPECT_EQ(scriveFileTesto(path, {}), u"");
+    EXPECT_EQ(content(), "");
+    EXPECT_NE(scriveFileTesto(directory.filePath(u"altrove/lista.txt"_s), {u"x"_s}), u"");
+    ASSERT_TRUE(QDir(directory.path()).mkdir(u"cartella"_s));
+    EXPECT_NE(scriveFileTesto(directory.filePath(u"cartella"_s), {u"x"_s}), u"");
+    EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files), QStringList(u"lista.txt"_s)) << "nothing is left aside";
 }
 
 } // namespace vanzer
