@@ -140,7 +140,7 @@ QByteArray pdfOf(const std::vector<Pagina>& pages) {
 
 bool writePdf(const QString& path, const std::vector<Pagina>& pages) {
     QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(pdfOf(pages)) >= 0 && file.commit();
+    return file.open(QIODevice::WriteOnly) && file.write(pdfOf(pages)) >= 0 && file.flush() && file.commit();
 }
 
 } // namespace vanzer::batch

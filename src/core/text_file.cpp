@@ -12,7 +12,8 @@ QString scriveFileTesto(const QString& path, const QStringList& lines) {
         return file.errorString();
     for (const QString& line : lines)
         file.write(toCodePage(line) + "\r\n");
-    return file.commit() ? QString() : file.errorString();
+    // Without the flush a disk that is full at the last part would go unseen.
+    return file.flush() && file.commit() ? QString() : file.errorString();
 }
 
 } // namespace vanzer

@@ -137,7 +137,7 @@ class StampaItinerario {
         const QString directory = QDir(form_.archivio.PercorsoProgramma).absolutePath();
         writeFile(commandFile, {comandoModuli(QDir::toNativeSeparators(directory), trip)});
         const QString program = QDir(QCoreApplication::applicationDirPath()).filePath(formsProgram);
-        if (!form_.ports.programs.start(program, {QStringLiteral("--dir"), directory, trip}))
+        if (!form_.ports.programs.start(program, {QStringLiteral("--dir"), directory, QStringLiteral("--"), trip}))
             run_.fallita(QStringLiteral("i moduli per il diario: non si può avviare ") +
                          QDir::toNativeSeparators(program));
         form_.frmframe(16).setVisible(false);

@@ -20,7 +20,7 @@ sources() {
     find src \( -name '*.cpp' -o -name '*.h' \) "$@" | sort
 }
 
-upper='window|itinerary|schedule|guide|reports|exchange|help|desktop|batch'
+upper='window|itinerary|schedule|guide|reports|exchange|help|desktop|batch|scribolo'
 screen_classes='Application|GuiApplication|Widget|Painter|PainterPath|Print[A-Za-z]*|PdfWriter|PagedPaintDevice|Font[A-Za-z]*'
 screen_classes+='|Color|Brush|Pen|Image|Pixmap|Icon|Picture|Dialog|MainWindow|MessageBox|FileDialog|Action|Shortcut|Clipboard'
 screen_classes+='|TableView|LineEdit|ComboBox|PushButton|[A-Za-z]*Event[A-Z][A-Za-z]*Widget|UiLoader|Style[A-Za-z]*|Palette'
@@ -28,8 +28,8 @@ screen_classes+='|TableView|LineEdit|ComboBox|PushButton|[A-Za-z]*Event[A-Z][A-Z
 mapfile -t files < <(sources -not -path 'src/store/*')
 forbid 'Only the store knows SQLite' 'sqlite3' "${files[@]}"
 
-mapfile -t files < <(sources -not -path 'src/desktop/*')
-forbid 'Only the desktop draws' "(QtGui|QtWidgets|QtPrintSupport|QtUiTools)[/>]|Q($screen_classes)>" "${files[@]}"
+mapfile -t files < <(sources -not -path 'src/desktop/*' -not -path 'src/scribolo/*')
+forbid 'Only the desktop and the logbook draw' "(QtGui|QtWidgets|QtPrintSupport|QtUiTools)[/>]|Q($screen_classes)>" "${files[@]}"
 
 mapfile -t files < <(sources -path 'src/core/*')
 forbid 'core stands on nothing' "($upper|toolkit|store)/" "${files[@]}"
@@ -38,8 +38,11 @@ forbid 'toolkit stands on core alone' "($upper|store)/" "${files[@]}"
 mapfile -t files < <(sources -path 'src/store/*')
 forbid 'store stands on core alone' "($upper|toolkit)/" "${files[@]}"
 
-mapfile -t files < <(sources -not -path 'src/desktop/*' -not -path 'src/batch/*')
-forbid 'No room knows the programs on top of it' '(desktop|batch)/' "${files[@]}"
+mapfile -t files < <(sources -path 'src/scribolo/*')
+forbid 'The logbook stands on core alone' "(${upper%|scribolo}|toolkit|store)/|Q[A-Za-z]*Widget" "${files[@]}"
+
+mapfile -t files < <(sources -not -path 'src/desktop/*' -not -path 'src/batch/*' -not -path 'src/scribolo/*')
+forbid 'No room knows the programs on top of it' '(desktop|batch|scribolo)/' "${files[@]}"
 
 mapfile -t files < <(sources -not -name '*_screen.*' -not -path 'src/window/*' -not -path 'src/desktop/*' -not -path 'src/batch/*')
 forbid 'An engine knows no screen and no window' '([a-z_/]*_screen\.h|window/)' "${files[@]}"

@@ -1,0 +1,99 @@
+// Scribolo: the blank pages of a trip's logbook, as a PDF.
+
+#include <cstdio>
+#include <optional>
+
+#include <QCommandLineParser>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QUrl>
+
+#include "scribolo/pdf.h"
+
+namespace {
+
+using namespace vanzer::scribolo;
+using namespace Qt::StringLiterals;
+
+constexpr int noLogbook = 1;
+constexpr int badUsage = 2;
+
+void say(FILE* where, const QString& text) {
+    std::fputs((text + u'\n').toLocal8Bit().constData(), where);
+}
+
+/// With no display, or one that doesn't answer, pages are drawn all the same. What the user has chosen stays.
+void choosePlatform() {
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        return;
+    const bool display = !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    qputenv("QT_QPA_PLATFORM", display ? "xcb;wayland;offscreen" : "offscreen");
+}
+
+bool hasDisplay() {
+    return QGuiApplication::platformName() != u"offscreen"_s && QGuiApplication::platformName() != u"minimal"_s;
+}
+
+/// What the arguments ask for.
+struct Request {
+    QString directory; ///< absolute
+    QString word;      ///< empty when the command file holds it
+};
+
+/// Everything behind the first word belongs to the trip, as a name may hold " -".
+std::optional<Request> requested(const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"Prepara il diario di bordo di un viaggio, da stampare e compilare a mano."_s);
+    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    const QCommandLineOption help({u"h"_s, u"help"_s}, u"Mostra questo aiuto."_s);
+    parser.addOption(help);
+    const QCommandLineOption dir(u"dir"_s, u"La cartella di CommandLine.txt e del PDF."_s, u"CARTELLA"_s);
+    parser.addOption(dir);
+    parser.addPositionalArgument(u"viaggio"_s, u"Senza viaggio vale la riga di CommandLine.txt."_s,
+                                 u"[NOME,gg/mm/aaaa,gg/mm/aaaa]"_s);
+    if (!parser.parse(arguments) || (parser.isSet(dir) && parser.value(dir).isEmpty())) {
+        say(stderr, parser.errorText() + u'\n' + parser.helpText());
+        return std::nullopt;
+    }
+    if (parser.isSet(help))
+        parser.showHelp();
+    const QString directory = parser.isSet(dir) ? parser.value(dir) : u"."_s;
+    return Request{QDir::cleanPath(QDir(directory).absolutePath()), parser.positionalArguments().join(u' ')};
+}
+
+QString wordOfFile(const QString& directory) {
+    constexpr qint64 enough = 65536; // bytes of one line
+    QFile file(QDir(directory).filePath(u"CommandLine.txt"_s));
+    if (!file.open(QIODevice::ReadOnly))
+        throw Problem(u"Il file %1 non può essere letto."_s.arg(QDir::toNativeSeparators(file.fileName())));
+    return wordOfCommand(file.read(enough));
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    choosePlatform();
+    // The platform would take words out of a trip's name that look like options of its own.
+    int own = 1;
+    const QGuiApplication application(own, argv);
+
+    const auto request = requested(arguments);
+    if (!request)
+        return badUsage;
+    try {
+        const Trip trip = tripOf(request->word.isEmpty() ? wordOfFile(request->directory) : request->word);
+        const QString path = writePdf(trip, request->directory);
+        say(stdout, QDir::toNativeSeparators(path));
+        if (hasDisplay() && !QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+            say(stderr, u"Nessun programma apre il PDF."_s);
+    } catch (const Problem& problem) {
+        say(stderr, QString::fromUtf8(problem.what()));
+        return noLogbook;
+    }
+    return 0;
+}

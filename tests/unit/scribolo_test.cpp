@@ -1,0 +1,127 @@
+// The logbook's trip: how it is told, how it is called on the disk, and the pages it needs.
+#include <gtest/gtest.h>
+
+#include "core/code_page.h"
+#include "scribolo/plan.h"
+
+namespace vanzer::scribolo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// "NAME|first day|number of days", or the words of the problem.
+std::string told(const QString& word) {
+    try {
+        const Trip trip = tripOf(word);
+        return (trip.name + u'|' + trip.start.toString(Qt::ISODate) + u'|' + QString::number(trip.days)).toStdString();
+    } catch (const Problem& problem) {
+        return problem.what();
+    }
+}
+
+Trip trip(int days) {
+    return {.name = u"Elba"_s, .start = {2026, 6, 1}, .end = QDate(2026, 6, 1).addDays(days - 1), .days = days};
+}
+
+} // namespace
+
+TEST(Scribolo, AWordTellsATrip) {
+    const struct {
+        const char16_t* word;
+        const char* trip;
+    } cases[] = {
+        {u"Elba,01/06/2026,03/06/2026", "Elba|2026-06-01|3"},
+        {u"Elba,01/06/2026,01/06/2026", "Elba|2026-06-01|1"},
+        {u"Elba, Giglio, 2ª volta,01/06/2026,03/06/2026", "Elba, Giglio, 2ª volta|2026-06-01|3"},
+        {u"Elba,01/01/2025,02/01/2025,01/06/2026,03/06/2026", "Elba,01/01/2025,02/01/2025|2026-06-01|3"},
+        {u"  Łódź \n e \u0007ritorno , 28/02/2028 , 01/03/2028 ", "Łódź e ritorno|2028-02-28|3"},
+        {u"Capodanno,31/12/2026,01/01/2027", "Capodanno|2026-12-31|2"},
+        {u"Un anno,01/01/2028,31/12/2028", "Un anno|2028-01-01|366"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(told(QString::fromUtf16(c.word)), c.trip);
+}
+
+TEST(Scribolo, WhatIsNoTripIsToldInPlainWords) {
+    const struct {
+        const char16_t* word;
+        const char* part; // of the problem
+    } cases[] = {
+        {u"", "Il viaggio va indicato"},
+        {u"Elba", "Il viaggio va indicato"},
+        {u"Elba,01/06/2026", "Il viaggio va indicato"},
+        {u",01/06/2026", "Il viaggio va indicato"},
+        {u" ,01/06/2026,03/06/2026", "Manca il nome"},
+        {u"Elba,31/06/2026,03/07/2026", "\"31/06/2026\" non è una data"},
+        {u"Elba,01/06/2026,29/02/2027", "\"29/02/2027\" non è una data"},
+        {u"Elba,2026-06-01,03/06/2026", "\"2026-06-01\" non è una data"},
+        {u"Elba,01/06/26,03/06/26", "\"01/06/26\" non è una data"},
+        {u"Elba,//,//", "\"//\" non è una data"},
+        {u"Elba,03/06/2026,02/06/2026", "finisce prima di cominciare"},
+        {u"Elba,01/01/2027,02/01/2028", "dura 367 giorni"},
+    };
+    for (const auto& c : cases)
+        EXPECT_TRUE(QString::fromStdString(told(QString::fromUtf16(c.word))).contains(QString::fromUtf8(c.part)))
+            << c.part << ", not: " << told(QString::fromUtf16(c.word));
+}
+
+TEST(Scribolo, TheCommandFileHoldsTheWordBehindTheProgram) {
+    const struct {
+        const char16_t* file;
+        const char16_t* word;
+    } cases[] = {
+        {u"C:\\Vanzer\\Scribolo.exe Elba,01/06/2026,03/06/2026\r\n", u"Elba,01/06/2026,03/06/2026"},
+        {u"/home/anna/I miei viaggi\\Scribolo.exe L'Elba, 2 volte,a,b", u"L'Elba, 2 volte,a,b"},
+        {u"D:\\Scribolo.exe vecchio\\Scribolo.exe Elba\r\nC:\\Scribolo.exe Giglio\r\n", u"Elba"},
+        {u"C:\\SCRIBOLO.EXE Forlì – €,a,b\n", u"Forlì – €,a,b"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(wordOfCommand(toCodePage(QString::fromUtf16(c.file))), QString::fromUtf16(c.word));
+    for (const char* file : {"", "\r\n", "Elba,01/06/2026,03/06/2026\r\n", "\r\nC:\\Scribolo.exe Elba\r\n"})
+        EXPECT_THROW(static_cast<void>(wordOfCommand(file)), Problem) << file;
+}
+
+TEST(Scribolo, EveryNameCanBeAFile) {
+    EXPECT_EQ(fileName(u"Elba, Łódź e ritorno"_s), u"Diario di bordo - Elba, Łódź e ritorno.pdf");
+    EXPECT_EQ(fileName(u"A/B\\C:D*E?F\"G<H>I|J\u0001."_s), u"Diario di bordo - A_B_C_D_E_F_G_H_I_J_..pdf");
+    EXPECT_EQ(fileName(QString(300, u'è')).toUtf8().size(), 240);
+    const QString campers = fileName(u"🚐"_s.repeated(100));
+    EXPECT_LE(campers.toUtf8().size(), 240);
+    EXPECT_TRUE(campers.isValidUtf16()) << "no character is cut in two";
+}
+
+TEST(Scribolo, DatesAreItalianWhereverTheProgramRuns) {
+    EXPECT_EQ(dateWithWeekday({2026, 6, 1}), u"Lunedì 1 giugno 2026");
+    EXPECT_EQ(dateWithWeekday({2028, 2, 29}), u"Martedì 29 febbraio 2028");
+    EXPECT_EQ(shortDate({2026, 6, 3}), u"mer 03/06");
+    EXPECT_EQ(period(trip(3)), u"1 giugno 2026 – 3 giugno 2026");
+    EXPECT_EQ(period(trip(1)), u"1 giugno 2026");
+    EXPECT_EQ(length(trip(1)), u"1 giorno");
+    EXPECT_EQ(length(trip(31)), u"31 giorni");
+    EXPECT_EQ(dayDate(trip(31), 31), QDate(2026, 7, 1));
+}
+
+TEST(Scribolo, EveryDayHasAPageAndOneRowOfTheSummary) {
+    const struct {
+        int days;
+        int summaries;
+    } cases[] = {{1, 1}, {27, 1}, {28, 2}, {40, 2}, {54, 2}, {55, 3}, {366, 14}};
+    for (const auto& c : cases) {
+        const std::vector<Page> pages = plan(trip(c.days));
+        ASSERT_EQ(pages.size(), static_cast<std::size_t>(1 + c.days + c.summaries));
+        EXPECT_EQ(pages.front().kind, Page::Kind::Cover);
+        std::vector<int> days(static_cast<std::size_t>(c.days));
+        std::vector<int> rows = days;
+        for (const Page& page : pages) {
+            std::vector<int>& seen = page.kind == Page::Kind::Day ? days : rows;
+            for (int day = page.firstDay; page.kind != Page::Kind::Cover && day <= page.lastDay; ++day)
+                ++seen.at(static_cast<std::size_t>(day - 1));
+        }
+        EXPECT_EQ(days, std::vector<int>(days.size(), 1)) << c.days;
+        EXPECT_EQ(rows, std::vector<int>(rows.size(), 1)) << c.days;
+        EXPECT_EQ(pages.back().lastDay, c.days);
+    }
+}
+
+} // namespace vanzer::scribolo
