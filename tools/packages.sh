@@ -1,6 +1,6 @@
 # Sourced by run and test: the Debian packages that they need, and how to get what is missing.
 
-build_packages=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev libsqlite3-dev qt6-translations-l10n fonts-dejavu-core)
+build_packages=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev libsqlite3-dev qt6-translations-l10n fonts-dejavu-core fonts-liberation)
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev locales clang-format clang-tidy xvfb xauth desktop-file-utils poppler-utils)
 
 as_root() {

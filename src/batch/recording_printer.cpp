@@ -94,17 +94,19 @@ void RecordingPrinter::newPage() {
     openPage();
 }
 
-void RecordingPrinter::endDoc() {
+/// A PDF without a file counts as sent: nobody asks for it again.
+bool RecordingPrinter::endDoc() {
     if (page_ == 0)
-        return;
+        return true;
     page_ = 0;
     if (device_ == Device::Registro) {
         ++documents_;
-        return;
+        return true;
     }
     const std::vector<Pagina> drawn = std::exchange(pdf_, {});
     if (!pdfPath_.isEmpty() && !writePdf(pdfPath_, drawn))
         throw PrinterError{QStringLiteral("Impossibile scrivere il file ") + pdfPath_};
+    return true;
 }
 
 void RecordingPrinter::dropDoc() {

@@ -40,7 +40,7 @@ class RecordingPrinter : public Printer {
 
     [[nodiscard]] int page() const override { return page_; }
     void newPage() override;
-    void endDoc() override;
+    bool endDoc() override;
     void dropDoc() override;
 
     /// What a program's end does: an open document is ended, the default printer is current again.

@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QMessageBox>
 #include <QPushButton>
@@ -112,7 +113,11 @@ QString PlatformDialogs::open(const QString& filter) {
 }
 
 QString PlatformDialogs::save(const QString& filter) {
-    return QFileDialog::getSaveFileName(opening(), QStringLiteral("Salva con nome"), {}, platformFilter(filter));
+    QFileDialog dialog(opening(), QStringLiteral("Salva con nome"), {}, platformFilter(filter));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // With the ending put on here the dialog asks before it lets an older file go.
+    dialog.setDefaultSuffix(QFileInfo(filter.section(u'|', 1, 1)).suffix());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 void PacedYield::begin() {

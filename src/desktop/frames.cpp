@@ -4,21 +4,55 @@
 #include <array>
 #include <utility>
 
+#include <QStyleOption>
+#include <QStylePainter>
+
+#include "desktop/tints.h"
 #include "ui_frame_12.h"
+#include "ui_frame_16.h"
+#include "ui_frame_18.h"
+#include "ui_frame_23.h"
 #include "ui_frame_24.h"
+#include "ui_frame_25.h"
 
 namespace vanzer::desktop {
 
 namespace {
 
+/// What lies over the table has an outline around all of it, with its caption inside.
+class FrameBox : public QGroupBox {
+  public:
+    using QGroupBox::QGroupBox;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override {
+        const Posto place = posto(*this);
+        if (place == Posto::Fianco || place == Posto::Sotto) {
+            QGroupBox::paintEvent(event);
+            return;
+        }
+        constexpr QPoint captionInset(12, 5);
+        QStylePainter painter(this);
+        painter.setPen(Tints(palette()).rule);
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        QStyleOptionGroupBox option;
+        initStyleOption(&option);
+        option.subControls = QStyle::SC_GroupBoxLabel;
+        painter.translate(captionInset);
+        painter.drawComplexControl(QStyle::CC_GroupBox, option);
+    }
+};
+
 template<typename Design> QWidget* made(QWidget& window) {
-    auto* const frame = new QGroupBox(&window);
+    auto* const frame = new FrameBox(&window);
     Design().setupUi(frame);
     frame->hide();
     return frame;
 }
 
-constexpr std::array designs{made<Ui::Frame12>, made<Ui::Frame24>};
+/// Of two that lie over each other the later one is on top: the choice of the printer, then the waiting note.
+constexpr std::array designs{made<Ui::Frame12>, made<Ui::Frame24>, made<Ui::Frame18>,
+                             made<Ui::Frame25>, made<Ui::Frame23>, made<Ui::Frame16>};
 
 constexpr std::array<std::pair<const char*, Posto>, 6> places{{{"fianco", Posto::Fianco},
                                                                {"sotto", Posto::Sotto},
@@ -69,6 +103,9 @@ QRect frameRect(const QWidget& frame, const QRect& table, const QRect& whole, in
         break;
     default: rect.moveCenter(table.center());
     }
+    // One that is higher than the table rises over what is above it.
+    rect.moveBottom(std::min(rect.bottom(), whole.bottom()));
+    rect.moveTop(std::max(rect.top(), whole.top()));
     return rect;
 }
 

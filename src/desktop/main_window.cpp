@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QRadioButton>
 #include <QSettings>
 
 #include "desktop/frames.h"
@@ -29,6 +31,24 @@ const QWidget* outerFrame(const QWidget* widget) {
     return outermost;
 }
 
+/// The letter that reaches a button or a label's field.
+QKeySequence mnemonic(const QWidget& widget) {
+    if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget))
+        return button->shortcut();
+    const auto* const label = qobject_cast<const QLabel*>(&widget);
+    return label == nullptr || label->buddy() == nullptr ? QKeySequence() : QKeySequence::mnemonic(label->text());
+}
+
+/// What a frame's form names to begin with: a widget, or the chosen one of an array of options.
+QWidget* firstOf(const QWidget& frame) {
+    const QString name = frame.property("fuoco").toString();
+    for (auto* const option : frame.findChildren<QRadioButton*>()) {
+        if (option->isChecked() && option->objectName().startsWith(name + u'_'))
+            return option;
+    }
+    return name.isEmpty() ? nullptr : frame.findChild<QWidget*>(name);
+}
+
 } // namespace
 
 MainWindow::MainWindow(Form& form) : form_(form), ui_(std::make_unique<Ui::MainWindow>()), binder_(form) {
@@ -39,6 +59,8 @@ MainWindow::MainWindow(Form& form) : form_(form), ui_(std::make_unique<Ui::MainW
     binder_.bind(*this);
     for (QAbstractButton* const button : findChildren<QAbstractButton*>())
         button->installEventFilter(this);
+    for (QLabel* const label : findChildren<QLabel*>())
+        label->installEventFilter(this);
     connect(&binder_, &Binder::closed, this, &QWidget::close);
     layOutFrames();
 }
@@ -86,20 +108,41 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     const QEvent::Type type = event->type();
     if (type == QEvent::Shortcut) {
-        if (auto* const button = qobject_cast<QAbstractButton*>(watched))
-            return pressMnemonic(*button, static_cast<QShortcutEvent*>(event)->isAmbiguous());
+        if (auto* const widget = qobject_cast<QWidget*>(watched))
+            return pressMnemonic(*widget, static_cast<QShortcutEvent*>(event)->isAmbiguous());
     }
     const bool arranges = type == QEvent::ShowToParent || type == QEvent::HideToParent;
-    if (arranges && std::ranges::find(frames_, watched) != frames_.end())
+    if (const auto frame = std::ranges::find(frames_, watched); arranges && frame != frames_.end()) {
         layOutFrames();
+        type == QEvent::ShowToParent ? takeFocus(**frame) : giveFocusBack(**frame);
+    }
     return QWidget::eventFilter(watched, event);
+}
+
+/// A frame that says where it begins takes the focus when it comes up.
+void MainWindow::takeFocus(QWidget& frame) {
+    QWidget* const first = firstOf(frame);
+    if (first == nullptr)
+        return;
+    before_[&frame] = QApplication::focusWidget();
+    first->setFocus(Qt::TabFocusReason);
+}
+
+void MainWindow::giveFocusBack(QWidget& frame) {
+    const auto found = before_.find(&frame);
+    if (found == before_.end())
+        return;
+    QWidget* const before = found->second;
+    before_.erase(found);
+    if (before != nullptr && before->isVisible() && before->isEnabled())
+        before->setFocus(Qt::OtherFocusReason);
 }
 
 /// A letter takes the focus to its button and presses it at once, so that what is typed next goes where it should. Of
 /// several that share it the one in the frame that has the focus is meant, else the one that isn't a second choice. One
-/// that shares it with a field's label gets the focus alone, in turn with the field.
-bool MainWindow::pressMnemonic(QAbstractButton& button, bool ambiguous) {
-    QAbstractButton* const meant = ambiguous ? meantBy(button) : &button;
+/// that shares it there with a field's label gets the focus alone, in turn with the field.
+bool MainWindow::pressMnemonic(QWidget& widget, bool ambiguous) {
+    QAbstractButton* const meant = ambiguous ? meantBy(widget) : qobject_cast<QAbstractButton*>(&widget);
     if (meant == nullptr)
         return false;
     meant->setFocus(Qt::ShortcutFocusReason);
@@ -107,20 +150,25 @@ bool MainWindow::pressMnemonic(QAbstractButton& button, bool ambiguous) {
     return true;
 }
 
-QAbstractButton* MainWindow::meantBy(const QAbstractButton& button) const {
+QAbstractButton* MainWindow::meantBy(const QWidget& widget) const {
+    const auto other = [letter = mnemonic(widget)](const QWidget* one) {
+        return mnemonic(*one) != letter || !one->isVisible() || !one->isEnabled();
+    };
     QList<QAbstractButton*> sharing = findChildren<QAbstractButton*>();
-    sharing.removeIf([&button](const QAbstractButton* other) {
-        return other->shortcut() != button.shortcut() || !other->isVisible() || !other->isEnabled();
-    });
-    if (sharing.size() < 2)
-        return nullptr;
-    const QWidget* const frame = outerFrame(QApplication::focusWidget());
+    QList<QLabel*> labels = findChildren<QLabel*>();
+    sharing.removeIf(other);
+    labels.removeIf(other);
+    const auto near = [frame = outerFrame(QApplication::focusWidget())](const QWidget* one) {
+        return outerFrame(one) == frame;
+    };
     const auto only = [&sharing](const auto& fits) -> QAbstractButton* {
         return std::ranges::count_if(sharing, fits) == 1 ? *std::ranges::find_if(sharing, fits) : nullptr;
     };
-    if (QAbstractButton* const near = only([frame](const QWidget* other) { return outerFrame(other) == frame; }))
-        return near;
-    return only([](const QWidget* other) { return !other->property("secondaScelta").toBool(); });
+    if (sharing.size() < 2)
+        return std::ranges::any_of(labels, near) ? nullptr : only(near);
+    if (QAbstractButton* const nearest = only(near))
+        return nearest;
+    return only([](const QWidget* one) { return !one->property("secondaScelta").toBool(); });
 }
 
 /// Presses the button that has the focus, else the default one.

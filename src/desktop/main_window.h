@@ -2,10 +2,12 @@
 // Esc, the close button, size and place.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <vector>
 
 #include <QAbstractButton>
+#include <QPointer>
 #include <QWidget>
 
 #include "desktop/binder.h"
@@ -37,13 +39,16 @@ class MainWindow : public QWidget {
     void addFrames();
     void layOutFrames();
     void pressEnter();
-    bool pressMnemonic(QAbstractButton& button, bool ambiguous);
-    [[nodiscard]] QAbstractButton* meantBy(const QAbstractButton& button) const;
+    void takeFocus(QWidget& frame);
+    void giveFocusBack(QWidget& frame);
+    bool pressMnemonic(QWidget& widget, bool ambiguous);
+    [[nodiscard]] QAbstractButton* meantBy(const QWidget& widget) const;
     void savePlace() const;
 
     Form& form_;
     std::unique_ptr<Ui::MainWindow> ui_;
-    std::vector<QWidget*> frames_; ///< laid over and beside the table
+    std::vector<QWidget*> frames_;                       ///< laid over and beside the table
+    std::map<const QWidget*, QPointer<QWidget>> before_; ///< what had the focus before a frame took it
     Binder binder_;
 };
 

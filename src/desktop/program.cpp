@@ -13,11 +13,12 @@ constexpr int slowStart = 300; // ms; a start that takes longer shows its window
 } // namespace
 
 Program::Program(const Ambiente& surroundings, Clock& clock, Pace pace)
-    : events_(pace), ports_{boxes_, dialogs_, clock, events_, programs_}, form_(nuovaFinestra(surroundings, ports_)),
-      window_(std::make_unique<MainWindow>(*form_)) {
+    : events_(pace), ports_{boxes_, dialogs_, clock, events_, programs_, &printer_},
+      form_(nuovaFinestra(surroundings, ports_)), window_(std::make_unique<MainWindow>(*form_)) {
     boxes_.setWindow(window_.get());
     dialogs_.setWindow(window_.get());
-    boxes_.onOpen = dialogs_.onOpen = [this] { window_->binder().flush(); };
+    printer_.setWindow(window_.get());
+    boxes_.onOpen = dialogs_.onOpen = printer_.onOpen = [this] { window_->binder().flush(); };
     QObject::connect(&window_->binder(), &Binder::inputBegins, [this] { events_.begin(); });
 }
 

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "desktop/desktop_ports.h"
+#include "desktop/desktop_printer.h"
 #include "desktop/main_window.h"
 #include "toolkit/program_starter.h"
 
@@ -25,6 +26,7 @@ class Program {
     PlatformDialogs dialogs_;
     PacedYield events_;
     DetachedStarter programs_;
+    DesktopPrinter printer_{dialogs_};
     Ports ports_;
     std::unique_ptr<Form> form_;
     std::unique_ptr<MainWindow> window_;

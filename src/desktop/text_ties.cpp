@@ -154,13 +154,15 @@ bool DropDownTie::keyPressed(const QKeyEvent& event) {
 }
 
 ListBoxTie::ListBoxTie(ListControl& model, QListView& view, Binder& to)
-    : Tie(model, view, to), model_(model), view_(view) {
+    : Tie(model, view, to), model_(model), view_(view), marks_(view.property("segna").toBool()) {
     view.setModel(&entries_);
     view.setUniformItemSizes(true);
     view.setSpacing(1);
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
     view.installEventFilter(this);
     connect(&view, &QListView::clicked, this, &ListBoxTie::pickCurrent);
+    if (marks_)
+        connect(view.selectionModel(), &QItemSelectionModel::currentChanged, this, &ListBoxTie::pickCurrent);
 }
 
 bool ListBoxTie::eventFilter(QObject* watched, QEvent* event) {
@@ -172,22 +174,25 @@ bool ListBoxTie::eventFilter(QObject* watched, QEvent* event) {
         }
     }
     // A list comes up to be picked from.
-    if (event->type() == QEvent::Show)
+    if (event->type() == QEvent::Show && !marks_)
         view_.setFocus(Qt::OtherFocusReason);
     return Tie::eventFilter(watched, event);
 }
 
 void ListBoxTie::pickCurrent() {
     const QString entry = view_.currentIndex().data().toString();
-    if (!entry.isEmpty())
+    if (!entry.isEmpty() && !binder().showing())
         binder().input([this, &entry] { model_.pick(entry); });
 }
 
 void ListBoxTie::showOwn() {
-    if (entries_.stringList() == model_.entries())
-        return;
-    entries_.setStringList(model_.entries());
-    view_.setCurrentIndex(entries_.index(0));
+    const bool changed = entries_.stringList() != model_.entries();
+    if (changed)
+        entries_.setStringList(model_.entries());
+    if (marks_)
+        view_.setCurrentIndex(entries_.index(static_cast<int>(model_.entries().indexOf(model_.text()))));
+    else if (changed)
+        view_.setCurrentIndex(entries_.index(0));
 }
 
 } // namespace vanzer::desktop

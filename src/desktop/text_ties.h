@@ -66,6 +66,8 @@ class DropDownTie : public TextTie {
     QStringList shown_;
 };
 
+/// A list box: a click or Enter picks. Where the form sets "segna" the list only marks what a button then takes: it
+/// comes up with nothing marked, and the arrows mark too.
 class ListBoxTie : public Tie {
     Q_OBJECT
   public:
@@ -80,6 +82,7 @@ class ListBoxTie : public Tie {
     ListControl& model_;
     QListView& view_;
     QStringListModel entries_;
+    bool marks_;
 };
 
 } // namespace vanzer::desktop

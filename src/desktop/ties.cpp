@@ -82,14 +82,30 @@ template<typename View> class LabelTie : public Tie {
     View& label_;
 };
 
+/// A frame that another one holds may have its form elsewhere in the window, and follows that one all the same.
 class FrameTie : public Tie {
   public:
-    FrameTie(Frame& model, QGroupBox& box, Binder& to) : Tie(model, box, to), model_(model), box_(box) {}
+    FrameTie(Frame& model, QGroupBox& box, Binder& to) : Tie(model, box, to), model_(model), box_(box) {
+        for (const Frame* holder = model.frame(); holder != nullptr; holder = holder->frame())
+            connect(holder, &Control::changed, this, &FrameTie::markChanged);
+    }
 
   protected:
     void showOwn() override { box_.setTitle(model_.caption()); }
+    [[nodiscard]] bool enabled() const override { return throughout(&Control::enabled); }
+    [[nodiscard]] bool visible() const override { return throughout(&Control::visible); }
 
   private:
+    /// So it is for the frame and for those that hold it but not its form.
+    [[nodiscard]] bool throughout(bool (Control::*is)() const) const {
+        bool all = (model_.*is)();
+        for (const Frame* holder = model_.frame(); holder != nullptr; holder = holder->frame()) {
+            const QWidget* const form = binder().widget(*holder);
+            all = all && ((holder->*is)() || (form != nullptr && form->isAncestorOf(&box_)));
+        }
+        return all;
+    }
+
     Frame& model_;
     QGroupBox& box_;
 };
@@ -165,8 +181,8 @@ void Tie::show() {
     showOwn();
     if (widget_.toolTip() != control_.tooltip())
         widget_.setToolTip(control_.tooltip());
-    widget_.setEnabled(control_.enabled());
-    widget_.setVisible(control_.visible());
+    widget_.setEnabled(enabled());
+    widget_.setVisible(visible());
 }
 
 std::unique_ptr<Tie> makeTie(Control& control, QWidget& widget, Binder& binder) {

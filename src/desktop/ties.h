@@ -23,6 +23,8 @@ class Tie : public QObject {
     [[nodiscard]] Binder& binder() const { return binder_; }
     /// The part that only this kind of control has.
     virtual void showOwn() {}
+    [[nodiscard]] virtual bool enabled() const { return control_.enabled(); }
+    [[nodiscard]] virtual bool visible() const { return control_.visible(); }
     /// The next flush shows the model anew.
     void markChanged();
 

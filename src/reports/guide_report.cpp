@@ -32,7 +32,6 @@ ReportGuida::Edges ReportGuida::edgesOf(DettaglioGuida detail) {
 
 void ReportGuida::StampaIntestaPaginaGuida() {
     sheet_.imposta();
-    sheet_.perdona(true);
     y_ = 15;
     sheet_.immagine(Immagine::LogoSito, 10, 0, 15);
     sheet_.StampaTesto(title_, y_, x_[1], x_[columns], {.dimensione = 10, .grassetto = true, .posizione = Centro});
@@ -51,7 +50,6 @@ void ReportGuida::StampaIntestaPaginaGuida() {
     nextName_ = 0;
     top_ = arrotonda(y_ + 2);
     y_ += interlinea + 2;
-    sheet_.perdona(false);
 }
 
 void ReportGuida::StampaFinePaginaGuida() {

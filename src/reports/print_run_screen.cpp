@@ -26,14 +26,16 @@ void CorsaDiStampa::manca(const QString& what) {
 }
 
 void CorsaDiStampa::fineDocumento() {
-    if (form_.stato.InterrompiStampa)
-        form_.ports.printer->dropDoc();
-    else
-        passo([this] { sheet_.fineDocumento(); });
+    Printer& printer = *form_.ports.printer;
+    if (form_.stato.InterrompiStampa) {
+        unwanted_ = true;
+        printer.dropDoc();
+    } else {
+        passo([this, &printer] { unwanted_ = !printer.endDoc(); });
+    }
 }
 
 void CorsaDiStampa::dicePerduto() {
-    manca(sheet_.perduto());
     if (!missing_.isEmpty())
         form_.messaggio(QStringLiteral("La stampa non è completa:\n\n") + missing_.join(u'\n'),
                         QStringLiteral("Stampa"), Icona::Avviso);

@@ -19,14 +19,15 @@ class CorsaDiStampa {
     /// Today's date and the window's caption.
     [[nodiscard]] Piede piede() const;
 
-    /// Carries out a step. One that fails ends the print; false if it did.
-    template<typename Step> bool passo(const Step& step) {
+    /// Carries out a step of the drawing, unless one before it has failed. A step that fails ends the print.
+    template<typename Step> void passo(const Step& step) {
+        if (failed_)
+            return;
         try {
             step();
         } catch (const PrinterError& error) {
             fallita(error.testo);
         }
-        return !finita();
     }
     /// Keeps what failed, for the message at the end, and ends the print.
     void fallita(const QString& reason);
@@ -37,6 +38,8 @@ class CorsaDiStampa {
     [[nodiscard]] bool finita() const { return failed_ || form_.stato.InterrompiStampa; }
     /// Sends the document; one that the user gave up is dropped.
     void fineDocumento();
+    /// The user didn't want the document after all.
+    [[nodiscard]] bool rinunciata() const { return unwanted_; }
     /// Tells what is missing of the print, if anything is.
     void dicePerduto();
 
@@ -44,6 +47,7 @@ class CorsaDiStampa {
     Form& form_;
     Foglio sheet_;
     bool failed_ = false;
+    bool unwanted_ = false;
     QStringList missing_;
 };
 

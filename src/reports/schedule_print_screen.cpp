@@ -153,7 +153,7 @@ class StampaItinerario {
             done += QStringLiteral("Moduli per Diario di Bordo");
         if (!done.isEmpty())
             run_.fineDocumento();
-        if (form_.stato.InterrompiStampa)
+        if (run_.rinunciata())
             form_.messaggio(QStringLiteral("Stampa interrotta!"));
         else if (!done.isEmpty())
             form_.messaggio(QStringLiteral("Stampa ") + done + QStringLiteral(" completata..."));

@@ -209,7 +209,6 @@ void ReportViandoria::preparaPagina(int row) {
 
 void ReportViandoria::StampaIntestaPagina(bool first) {
     sheet_.imposta();
-    sheet_.perdona(true);
     sheet_.penna(3);
     sheet_.riempie(verdeChiaro);
     sheet_.riquadro(40, 10, 130, 20);
@@ -233,7 +232,6 @@ void ReportViandoria::StampaIntestaPagina(bool first) {
     headings(y_);
     top_ = arrotonda(y_ + 2.5);
     y_ = top_ + interlinea;
-    sheet_.perdona(false);
 }
 
 void ReportViandoria::headings(double y) {

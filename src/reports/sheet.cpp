@@ -15,18 +15,6 @@ const QString serif = QStringLiteral("Times new roman");
 
 } // namespace
 
-template<typename Draw> void Foglio::draws(const Draw& draw) {
-    if (!forgiving_) {
-        draw();
-        return;
-    }
-    try {
-        draw();
-    } catch (const PrinterError& error) {
-        lost_ = error.testo;
-    }
-}
-
 void Foglio::imposta() {
     printer_.setPaperSize(9);
     printer_.setOrientation(1);
@@ -68,19 +56,19 @@ void Foglio::StampaTesto(const QString& text, double y, double left, double righ
         x = (left + right) / 2 - printer_.textWidth(t) / 2 - 1;
     else if (style.posizione == Posizione::Destra)
         x = right - printer_.textWidth(t) - 3;
-    draws([&] { printer_.text({x, y - printer_.textHeight(t)}, t); });
+    printer_.text({x, y - printer_.textHeight(t)}, t);
 }
 
 void Foglio::linea(double x1, double y1, double x2, double y2) {
-    draws([&] { printer_.line({x1, y1}, {x2, y2}, pen_); });
+    printer_.line({x1, y1}, {x2, y2}, pen_);
 }
 
 void Foglio::riquadro(double x1, double y1, double x2, double y2) {
-    draws([&] { printer_.box({x1, y1}, {x2, y2}, pen_, fill_); });
+    printer_.box({x1, y1}, {x2, y2}, pen_, fill_);
 }
 
 void Foglio::immagine(Immagine picture, double x, double y, double size) {
-    draws([&] { printer_.picture(picture, {x, y}, {size, size}); });
+    printer_.picture(picture, {x, y}, {size, size});
 }
 
 void StampaFinePagina(Foglio& sheet, const Piede& foot, double y, double top, double left, double dateRight,

@@ -47,24 +47,15 @@ class Foglio {
     void riquadro(double x1, double y1, double x2, double y2);
     void immagine(Immagine picture, double x, double y, double size);
 
-    /// While it is on, an operation that fails is left out and what follows is drawn; the failure is kept.
-    void perdona(bool on) { forgiving_ = on; }
-    /// What was left out since the last call; empty if nothing was.
-    [[nodiscard]] QString perduto() { return std::exchange(lost_, {}); }
-
     [[nodiscard]] int pagina() const { return printer_.page(); }
     void nuovaPagina() { printer_.newPage(); }
-    void fineDocumento() { printer_.endDoc(); }
 
   private:
     void setFont(const Stile& style);
-    template<typename Draw> void draws(const Draw& draw);
 
     Printer& printer_;
     int pen_ = 1;
     std::optional<quint32> fill_;
-    bool forgiving_ = false;
-    QString lost_;
 };
 
 /// Light green of the headings.

@@ -25,7 +25,8 @@ struct Punto {
     double y = 0;
 };
 
-/// Whatever draws, opens a page or ends a document throws PrinterError when it fails.
+/// Whatever draws, opens a page or ends a document throws PrinterError when it fails; the document is dropped then, and
+/// what is drawn next begins another one.
 class Printer {
   public:
     virtual ~Printer() = default;
@@ -64,8 +65,8 @@ class Printer {
     /// Number of the page being drawn; 0 before anything is drawn.
     [[nodiscard]] virtual int page() const = 0;
     virtual void newPage() = 0;
-    /// Sends the document; nothing happens if nothing was begun.
-    virtual void endDoc() = 0;
+    /// Sends the document; nothing happens if nothing was begun. False if the user gave it up instead.
+    virtual bool endDoc() = 0;
     /// Gives the document up: what wasn't sent yet never is.
     virtual void dropDoc() = 0;
 };

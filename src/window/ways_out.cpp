@@ -1,5 +1,7 @@
 #include "window/ways_out.h"
 
+#include <algorithm>
+
 #include "guide/guide_screen.h"
 #include "reports/print_screen.h"
 #include "window/destination_screen.h"
@@ -7,14 +9,9 @@
 namespace vanzer {
 
 void chiedeDiChiudere(Form& form) {
-    Button* const waysOut[] = {&form.cmdEsce,
-                               &form.cmdFine,
-                               &form.cmdFineInserimento,
-                               &form.cmdInsEsegui(1),
-                               &form.cmdSelStampante(1),
-                               &form.cmdEsegui(1),
-                               &form.cmdImExp(1),
-                               &form.cmdTappaSEl(3)};
+    Button* const waysOut[] = {
+        &form.cmdEsce,         &form.cmdFine,      &form.cmdSelStampante(1), &form.cmdFineInserimento,
+        &form.cmdInsEsegui(1), &form.cmdEsegui(1), &form.cmdImExp(1),        &form.cmdTappaSEl(3)};
     for (Button* const button : waysOut) {
         if (button->reachable()) {
             button->click();
@@ -25,8 +22,12 @@ void chiedeDiChiudere(Form& form) {
 }
 
 void rinunciaAllaScelta(Form& form) {
+    Button* const choices[] = {&form.cmdSelStampante(1), &form.cmdEsegui(1), &form.cmdStampaGuida(1)};
+    const auto* const open = std::ranges::find_if(choices, [](const Button* b) { return b->reachable(); });
     if (form.stato.StampaInCorso)
         chiedeDiInterrompereLaStampa(form);
+    else if (open != std::end(choices))
+        (*open)->click();
     else if (form.cmbRicercaTappa.reachable() && form.cmdFine.reachable())
         form.cmdFine.click();
     else if (form.cmbRicercaTappa.reachable() && form.stato.ModoGuida)

@@ -1,0 +1,117 @@
+// A trip and its guide printed from the window by keys alone.
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QListView>
+#include <QProcess>
+
+#include "desktop_fixture.h"
+
+namespace vanzer::desktop {
+namespace {
+
+class PrintByKeyboard : public DesktopTest {
+  protected:
+    /// The trip's schedule, up to the choice of the printer.
+    void openChoice(int legs) {
+        storeTrip(legs);
+        open();
+        letter('s');
+        ASSERT_TRUE(find("frmframe_18")->isVisible());
+        EXPECT_EQ(focusName(), QStringLiteral("chkTabella"));
+        key(Qt::Key_Space);
+        letter('s');
+        ASSERT_TRUE(find("frmframe_23")->isVisible());
+    }
+
+    /// Marks "PDF", the last printer, and prints; the dialog that asks for the file gets this one.
+    void printTo(const QString& path) {
+        find("lstStampanti")->setFocus();
+        key(Qt::Key_End);
+        QTimer answer;
+        QObject::connect(&answer, &QTimer::timeout, [&answer, &path] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr)
+                return;
+            answer.stop();
+            dialog->findChild<QLineEdit*>()->setText(path);
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        answer.start(20);
+        letter('s');
+    }
+
+    [[nodiscard]] static QString textOfPdf(const QString& path) {
+        QProcess reader;
+        reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, QStringLiteral("-")});
+        EXPECT_TRUE(reader.waitForFinished());
+        return QString::fromUtf8(reader.readAllStandardOutput());
+    }
+};
+
+TEST_F(PrintByKeyboard, AScheduleGoesToAPdf) {
+    openChoice(12);
+    const QString path = directory.filePath(QStringLiteral("prova.pdf"));
+    for (int box = 0; box < 2; ++box)
+        boxes.expect(Qt::Key_Return);
+    printTo(path);
+    ASSERT_EQ(boxes.shown().size(), 2U);
+    EXPECT_EQ(boxes.shown()[0].text, QStringLiteral("Stampa Viandoria  completata..."));
+    const QString text = textOfPdf(path);
+    for (const char* printed :
+         {"PROVA", "ITALIA", "Pagina: 02", "Luogo 12", "Tempi tecnici giornalieri/Riposi/Visite:"})
+        EXPECT_TRUE(text.contains(QLatin1StringView(printed))) << printed;
+    EXPECT_EQ(text.count(u'\f'), 2) << "the cover and one page, no blank one";
+    EXPECT_TRUE(QFile::exists(directory.filePath(QStringLiteral("Vanztabl.txt"))));
+    EXPECT_FALSE(find("frmframe_18")->isVisible());
+    EXPECT_EQ(textOf("cmdCalcola"), QStringLiteral("&Sblocca"));
+}
+
+TEST_F(PrintByKeyboard, APrintIsStoppedByEsc) {
+    openChoice(300);
+    close();
+    open({.patience = 0, .yields = 0, .frames = 0});
+    letter('s');
+    if (!form().chkTabella.value())
+        key(Qt::Key_Space);
+    letter('s');
+    const QString path = directory.filePath(QStringLiteral("prova.pdf"));
+    QTimer whileItRuns;
+    QObject::connect(&whileItRuns, &QTimer::timeout, [this, &whileItRuns] {
+        if (!form().stato.StampaInCorso || QApplication::activeModalWidget() != nullptr ||
+            form().stato.PercentualeCorrente < 3)
+            return;
+        whileItRuns.stop();
+        QTest::keyClick(&window(), Qt::Key_Escape);
+    });
+    whileItRuns.start(0);
+    boxes.expect(Qt::Key_Return); // yes, stop
+    boxes.expect(Qt::Key_Return);
+    boxes.expect(Qt::Key_Return);
+    printTo(path);
+    ASSERT_EQ(boxes.shown().size(), 3U);
+    EXPECT_EQ(boxes.shown()[0].text, QStringLiteral("Vuoi interrompere la stampa?"));
+    EXPECT_EQ(boxes.shown()[1].text, QStringLiteral("Stampa interrotta!"));
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(PrintByKeyboard, TheFramesAreLeftByEsc) {
+    openChoice(3);
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(find("frmframe_23")->isVisible());
+    EXPECT_TRUE(find("frmframe_18")->isVisible());
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(find("frmframe_18")->isVisible());
+    EXPECT_TRUE(find("cmdCalcola")->isEnabled());
+    find("cmdCalcola")->setFocus();
+    key(Qt::Key_Space); // the legs back
+    letter('g');
+    find("cmdStampaGuidaCitta")->setFocus();
+    key(Qt::Key_Space);
+    EXPECT_TRUE(find("frmframe_25")->isVisible());
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(find("frmframe_25")->isVisible());
+    EXPECT_TRUE(boxes.shown().empty());
+}
+
+} // namespace
+} // namespace vanzer::desktop
