@@ -1,12 +1,14 @@
 // Pictures of the window for the README: screenshots ARCHIVE-FOLDER EMPTY-FOLDER PICTURE-FOLDER [NAME...] takes those
-// named, else all of them. The archive holds some trips, the current one with legs and a guide. Drives the real
-// widgets; docs/screenshots/make prepares the folders.
+// named, else all of them; "pagine" prints the schedule to viandoria.pdf in the first folder. The archive holds some
+// trips, the current one with legs and a guide. Drives the real widgets; docs/screenshots/make prepares the folders.
 
 #include <array>
 #include <cstdio>
 
 #include <QApplication>
 #include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStyle>
@@ -24,15 +26,25 @@ class FixedClock : public Clock {
     [[nodiscard]] QDateTime now() const override { return {QDate(2026, 6, 1), QTime(9, 10)}; }
 };
 
-/// Presses the default button of every message box as soon as it shows.
+/// Presses the default button of every message box as soon as it shows; a file that is asked for is `file`.
 class Agreeable : public QObject {
   public:
+    explicit Agreeable(QString file) : file_(std::move(file)) {}
     bool eventFilter(QObject* watched, QEvent* event) override {
-        auto* const box = qobject_cast<QMessageBox*>(watched);
-        if (box != nullptr && event->type() == QEvent::Show)
+        if (event->type() != QEvent::Show)
+            return false;
+        if (auto* const box = qobject_cast<QMessageBox*>(watched)) {
             QMetaObject::invokeMethod(box->defaultButton(), &QPushButton::click, Qt::QueuedConnection);
+        } else if (auto* const dialog = qobject_cast<QFileDialog*>(watched)) {
+            dialog->findChild<QLineEdit*>()->setText(file_);
+            QMetaObject::invokeMethod(
+                dialog, [dialog] { QTest::keyClick(dialog, Qt::Key_Return); }, Qt::QueuedConnection);
+        }
         return false;
     }
+
+  private:
+    QString file_;
 };
 
 /// The window at work.
@@ -58,6 +70,17 @@ class Scene {
     void choose(const char* control, const char* text) {
         if (auto* const list = dynamic_cast<ListControl*>(program_.form().find(QLatin1StringView(control))))
             list->setText(QLatin1StringView(text));
+    }
+    /// Print options, with the choice of the printer above them; "PDF" is marked.
+    void choosePrinter() {
+        Form& form = program_.form();
+        form.chkTabella.setValue(true);
+        form.chkFrontespizio.setValue(true);
+        for (const int title : {0, 2})
+            form.chkVociFrontespizio(title).setValue(true);
+        press("cmdStampa");
+        press("cmdEsegui_0");
+        form.lstStampanti.setText(QStringLiteral("PDF"));
     }
     void click(int row) {
         program_.window().binder().input([this, row] { program_.form().mfgTab.clickRow(row); });
@@ -110,6 +133,17 @@ const std::array shots{
              scene.scrollTo(42);
              scene.click(44);
          }},
+    Shot{"stampa", smallest, false, false,
+         [](Scene& scene) {
+             calculate(scene);
+             scene.choosePrinter();
+         }},
+    Shot{"pagine", smallest, false, false, // the pages go to the file
+         [](Scene& scene) {
+             calculate(scene);
+             scene.choosePrinter();
+             scene.press("cmdSelStampante_0");
+         }},
     Shot{"scuro", usual, false, true, calculate},
 };
 
@@ -140,9 +174,9 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setApplicationName(QStringLiteral("Vanzer screenshots"));
-    Agreeable agreeable;
-    application.installEventFilter(&agreeable);
     const QStringList arguments = QApplication::arguments().mid(1);
+    Agreeable agreeable(QDir(arguments.value(0)).absoluteFilePath(QStringLiteral("viandoria.pdf")));
+    application.installEventFilter(&agreeable);
     if (arguments.size() < 3) {
         std::fputs("screenshots ARCHIVE-FOLDER EMPTY-FOLDER PICTURE-FOLDER [NAME...]\n", stderr);
         return 2;
