@@ -81,6 +81,7 @@ class Scene {
         press("cmdStampa");
         press("cmdEsegui_0");
         form.lstStampanti.setText(QStringLiteral("PDF"));
+        form.txtfileTabella.setText(QStringLiteral("/home/anna/Vanzer/Vanztabl.txt"));
     }
     void click(int row) {
         program_.window().binder().input([this, row] { program_.form().mfgTab.clickRow(row); });
