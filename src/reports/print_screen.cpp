@@ -43,7 +43,7 @@ void CmdEsegui_Click(Form& form, int index) {
         offerPrinters(form, form.stato.TipoStampa);
         return;
     }
-    form.frmframe(18).setVisible(false);
+    RinunciaStampa(form);
     AbilitaPulsantiMeta(form, QStringLiteral("all"));
 }
 

@@ -287,6 +287,7 @@ void cmdCalcola_Click(Form& form) {
     form.cmbRicerca.setText(form.txtLocalita.text());
     AbilitaPulsantiMeta(form, QStringLiteral("zz"));
     if (!uguale(form.cmdCalcola.caption(), u"&Calcola")) {
+        RinunciaStampa(form);
         AttivitaInserimentoItinerario(form);
         AbilitaPulsantiMeta(form, QStringLiteral("all"));
         AttivaFormMeta(form, true);

@@ -102,6 +102,11 @@ void PulisciFinestre(Form& form) {
     form.mfgTab.setHeight(4055);
 }
 
+void RinunciaStampa(Form& form) {
+    form.frmframe(18).setVisible(false);
+    form.frmframe(23).setVisible(false);
+}
+
 void AggiornaPercentuale(Form& form) {
     StatoViaggio& s = form.stato;
     s.PercentualeCorrente = Maggiore(Minore(s.PercentualeCorrente, s.PercentualeTotale), 0.0);

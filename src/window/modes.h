@@ -18,6 +18,9 @@ void AttivaFormMeta(Form& form, bool changing);
 /// Back to the plain window: no frame over the grid.
 void PulisciFinestre(Form& form);
 
+/// Takes the options of a print away, and the choice of its printer: there is nothing to be printed any more.
+void RinunciaStampa(Form& form);
+
 /// Shows PercentualeCorrente of PercentualeTotale and yields; 0 brings back the idle text.
 void AggiornaPercentuale(Form& form);
 void AzzeraPercentuale(Form& form);
