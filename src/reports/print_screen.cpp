@@ -1,8 +1,5 @@
 #include "reports/print_screen.h"
 
-#include <QDir>
-
-#include "core/text.h"
 #include "reports/guide_print_screen.h"
 #include "reports/schedule_print_screen.h"
 #include "schedule/calculation_screen.h"

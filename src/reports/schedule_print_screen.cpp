@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 
 #include "core/text_file.h"
 #include "reports/print_run_screen.h"

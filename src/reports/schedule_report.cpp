@@ -127,7 +127,7 @@ DueRighe splitRoad(const QString& text) {
 
 } // namespace
 
-ReportViandoria::ReportViandoria(Foglio& sheet, const DatiViandoria& trip, const Piede& foot, Cella cell)
+ReportViandoria::ReportViandoria(Foglio& sheet, const DatiViandoria& trip, const Piede& foot, CellaViandoria cell)
     : sheet_(sheet), trip_(trip), foot_(foot), cell_(std::move(cell)) {}
 
 void ReportViandoria::frontespizioGenerale(const VociFrontespizio& titles) {

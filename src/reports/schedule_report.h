@@ -2,12 +2,12 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <vector>
 
 #include <QString>
 
 #include "reports/sheet.h"
+#include "reports/text_files.h"
 
 namespace vanzer {
 
@@ -49,10 +49,8 @@ using VociFrontespizio = std::array<bool, 4>;
 
 class ReportViandoria {
   public:
-    /// A cell of the schedule by row and column; an empty text beyond its end.
-    using Cella = std::function<const QString&(int row, int column)>;
-
-    ReportViandoria(Foglio& sheet, const DatiViandoria& trip, const Piede& foot, Cella cell);
+    /// `cell` gives an empty text beyond the schedule's end.
+    ReportViandoria(Foglio& sheet, const DatiViandoria& trip, const Piede& foot, CellaViandoria cell);
 
     void frontespizioGenerale(const VociFrontespizio& titles);
     void frontespizioViandoria();
@@ -83,7 +81,7 @@ class ReportViandoria {
     Foglio& sheet_;
     const DatiViandoria& trip_;
     Piede foot_;
-    Cella cell_;
+    CellaViandoria cell_;
     double y_ = nessunaPagina; ///< bottom of the row at hand
     double top_ = 0;           ///< of the table on this page
 };
