@@ -10,6 +10,9 @@
 
 namespace vanzer {
 
+/// The day unit of clock times and stops: 24 hours, in hundredths.
+inline constexpr float giornoIntero = 2400;
+
 /// gg:hh:mm, hh:mm or less to hundredths; what is no digit reads as 0.
 [[nodiscard]] float ghmStringa2Centesimi(const QString& text, float dayUnit);
 

@@ -9,11 +9,12 @@
 #include <QPrinterInfo>
 #include <QSaveFile>
 
+#include "desktop/print_font.h"
+
 namespace vanzer::desktop {
 
 namespace {
 
-constexpr double mmPerInch = 25.4;
 constexpr int pdfResolution = 1200; // dots per inch
 
 const QPageLayout& upright() {

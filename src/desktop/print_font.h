@@ -24,6 +24,8 @@ struct PrintFont {
     double points = 10;
 };
 
+inline constexpr double mmPerInch = 25.4;
+
 /// Pixels of the em in which measuring and drawing are done.
 inline constexpr int emPixels = 1000;
 
@@ -32,7 +34,7 @@ inline constexpr int emPixels = 1000;
 
 /// mm for each pixel of the large font.
 [[nodiscard]] constexpr double mmPerPixel(double points) {
-    constexpr double mmPerPoint = 25.4 / 72;
+    constexpr double mmPerPoint = mmPerInch / 72;
     return points * mmPerPoint / emPixels;
 }
 

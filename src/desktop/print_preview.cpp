@@ -11,6 +11,8 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include "desktop/print_font.h"
+
 namespace vanzer::desktop {
 
 namespace {
@@ -18,7 +20,6 @@ namespace {
 const QString wishKey = QStringLiteral("stampa/anteprima");
 
 constexpr int around = 12; // px of ground around the sheet
-constexpr double mmPerInch = 25.4;
 constexpr double zoomStep = 1.25;
 constexpr double smallest = 0.25; // zooms, 1 is the size of the paper
 constexpr double largest = 4;

@@ -12,7 +12,6 @@ namespace vanzer {
 
 namespace {
 
-constexpr float giornoIntero = 2400;
 constexpr int colonnaFineGiorno = 14;
 
 /// One row of the table for each record. The places are told apart from the rows' marks later.

@@ -26,7 +26,7 @@ void packTable(Form& form) {
         grid.clearRow(r, 0);
 }
 
-std::vector<RigaRitorno> readLegs(const Form& form) {
+std::vector<RigaRitorno> readWayOut(const Form& form) {
     const Grid& grid = form.mfgTab;
     std::vector<RigaRitorno> legs;
     for (int r = 1; r <= form.stato.NumeroTappe; ++r)
@@ -54,7 +54,7 @@ void cmdRitorno_Click(Form& form) {
     {
         const SenzaRidisegno quiet(form.mfgTab);
         packTable(form);
-        const Ritorno home = ritornoAStart(readLegs(form));
+        const Ritorno home = ritornoAStart(readWayOut(form));
         if (home.riga > 0) {
             appendLegs(form, home);
             form.stato.RigaCorrente = home.riga;

@@ -13,7 +13,7 @@ namespace {
 
 using enum store::Condition::Test;
 
-const QString place = QStringLiteral("Localita");
+const QString localita = QStringLiteral("Localita");
 
 store::Recordset& openGuide(Form& form, const std::vector<store::Condition>& where,
                             const std::vector<store::Order>& order) {
@@ -23,8 +23,8 @@ store::Recordset& openGuide(Form& form, const std::vector<store::Condition>& whe
 
 /// Every place of the guide once.
 QStringList allPlaces(Form& form) {
-    store::Recordset& records = openGuide(form, {}, {{place}});
-    const int field = records.campo(place);
+    store::Recordset& records = openGuide(form, {}, {{localita}});
+    const int field = records.campo(localita);
     QStringList places;
     QString last;
     for (; !records.EOF_(); records.MoveNext()) {
@@ -43,11 +43,11 @@ QStringList placesOfTrip(Form& form) {
                                     {{QStringLiteral("CodiceMeta"), Equal, form.stato.CodiceMeta}},
                                     {{QStringLiteral("Sequenza")}}});
     store::Recordset& legs = form.archivio.Rs(store::Itinerari);
-    const int field = legs.campo(place);
+    const int field = legs.campo(localita);
     QStringList places;
     for (; !legs.EOF_(); legs.MoveNext()) {
         const QString name = RiPulisceNomeLocalita(legs.testo(field));
-        if (!openGuide(form, {{place, Like, LikeTesto(name) + u'*'}}, {}).EOF_())
+        if (!openGuide(form, {{localita, Like, LikeTesto(name) + u'*'}}, {}).EOF_())
             places << Zero(static_cast<int>(places.size()), 5) + u' ' + name;
     }
     return places;
@@ -99,8 +99,8 @@ class StampaGuida {
     void printPlace(const QString& name) {
         const bool entries = detail_ == DettaglioGuida::Voci;
         store::Recordset& records = entries
-                                        ? openGuide(form_, {{place, Equal, name}}, {{QStringLiteral("CodiceGuida")}})
-                                        : openGuide(form_, {{place, Like, LikeTesto(name)}}, {});
+                                        ? openGuide(form_, {{localita, Equal, name}}, {{QStringLiteral("CodiceGuida")}})
+                                        : openGuide(form_, {{localita, Like, LikeTesto(name)}}, {});
         for (; !records.EOF_() && !run_.finita(); records.MoveNext()) {
             run_.passo([&] { report_.StampaRigaGuidaCitta(entryOf(records)); });
             if (!entries)

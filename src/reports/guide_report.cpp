@@ -8,7 +8,7 @@ using enum Posizione;
 
 namespace {
 
-constexpr double lastLine = 280; ///< a row below it goes to the next page
+constexpr double lastGuideLine = 280; ///< a row below it goes to the next page
 constexpr double leftEdge = 5;
 constexpr double rowSize = 8; ///< points
 
@@ -71,7 +71,7 @@ void ReportGuida::prossimaRiga() {
 }
 
 void ReportGuida::StampaRigaGuidaCitta(const VoceStampata& entry) {
-    if (y_ > lastLine) {
+    if (y_ > lastGuideLine) {
         StampaFinePaginaGuida();
         StampaIntestaPaginaGuida();
     }

@@ -13,7 +13,7 @@ using enum Posizione;
 
 namespace {
 
-constexpr double lastLine = 285; ///< a row below it goes to the next page
+constexpr double lastScheduleLine = 285; ///< a row below it goes to the next page
 constexpr int printedColumns = 13;
 
 struct Colonna {
@@ -201,7 +201,7 @@ void ReportViandoria::finePagina() {
 }
 
 void ReportViandoria::preparaPagina(int row) {
-    if (y_ <= lastLine)
+    if (y_ <= lastScheduleLine)
         return;
     finePagina();
     StampaIntestaPagina(row == 1);

@@ -27,7 +27,7 @@ QString cell(const Celle& cells, std::size_t column) {
     return column < cells.size() ? cells[column] : QString();
 }
 
-std::vector<TappaDaPreparare> readLegs(const Grid::Rows& rows) {
+std::vector<TappaDaPreparare> legsToPrepare(const Grid::Rows& rows) {
     std::vector<TappaDaPreparare> legs;
     legs.reserve(rows.size());
     int number = 0;
@@ -110,7 +110,7 @@ RigheDiLavoro PreparaTabellaPerCalcoloViandoria(Form& form) {
                 AggiornaPercentuale(form);
             },
     };
-    RigheDiLavoro prepared = preparaRighe(readLegs(*form.tappeConservate), with);
+    RigheDiLavoro prepared = preparaRighe(legsToPrepare(*form.tappeConservate), with);
     guide.scrive();
     showWorkingRows(form, prepared.righe, *form.tappeConservate);
     return prepared;

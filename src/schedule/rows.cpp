@@ -13,8 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr float giornoIntero = 2400;
-
 /// The texts of a day, made once for all its rows.
 struct TestiGiorno {
     float giuliano = -1;

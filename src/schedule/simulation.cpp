@@ -9,7 +9,6 @@ namespace vanzer {
 
 namespace {
 
-using Tipo = RigaViandoria::Tipo;
 using Fine = RigaViandoria::Fine;
 
 double d(float x) {
@@ -86,7 +85,7 @@ class Prova {
         cenaFatta_ = false;
     }
 
-    RigaViandoria& aggiunge(Tipo type, int work) {
+    RigaViandoria& aggiunge(RigaViandoria::Tipo type, int work) {
         RigaViandoria& row = result_.righe.emplace_back();
         row.tipo = type;
         row.lavoro = work;
@@ -107,11 +106,11 @@ class Prova {
         }
         sosta(index, row);
         if (row.tipo == RigaDiLavoro::Tipo::Menzione)
-            aggiunge(Tipo::Menzione, index);
+            aggiunge(RigaViandoria::Tipo::Menzione, index);
         if (row.fineGiorno && ora_ > p_.oraColazione) {
             ora_ = p_.oraColazione;
             giuliano_ += 1;
-            aggiunge(Tipo::NuovoGiorno, index);
+            aggiunge(RigaViandoria::Tipo::NuovoGiorno, index);
         }
     }
 
@@ -130,7 +129,7 @@ class Prova {
             longRest();
             ora_ = f(d(ora_) + d(tempoTratta_));
             kmTotali_ += km;
-            RigaViandoria& row = aggiunge(Tipo::Tratto, index);
+            RigaViandoria& row = aggiunge(RigaViandoria::Tipo::Tratto, index);
             row.km = km;
             row.kmTotali = kmTotali_;
             row.tempo = tempoTratta_;
@@ -223,8 +222,8 @@ class Prova {
         const float dayBefore = giuliano_;
         spend(total);
         mealsFromClock();
-        RigaViandoria& written = aggiunge(Tipo::Sosta, index);
-        const float unit = p_.oreVisitaGiorno > 0 ? p_.oreVisitaGiorno : 2400;
+        RigaViandoria& written = aggiunge(RigaViandoria::Tipo::Sosta, index);
+        const float unit = p_.oreVisitaGiorno > 0 ? p_.oreVisitaGiorno : giornoIntero;
         written.sosta = ricompone(scompone(total, unit), unit);
         written.sostaGuida = row.sostaGuida;
         written.domani = tomorrow;

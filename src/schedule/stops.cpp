@@ -4,11 +4,7 @@
 
 namespace vanzer {
 
-namespace {
-
-constexpr float giornoIntero = 2400;
-
-}
+namespace {}
 
 QString sostaConGuida(const QString& stop, const std::vector<QString>& times, float visitingDay) {
     const float day = visitingDay > 0 ? visitingDay : giornoIntero;

@@ -16,7 +16,7 @@ struct Tratti {
 };
 
 /// Rows without a place are blanked on the way.
-Tratti readLegs(Form& form) {
+Tratti readStretches(Form& form) {
     Grid& grid = form.mfgTab;
     Tratti read;
     for (int r = 1; r < grid.rows(); ++r) {
@@ -79,7 +79,7 @@ Medie medieMostrate(const Form& form) {
 void CalcolaKmTempiItinerario(Form& form) {
     ControllaVariabiliConvertite(form);
     const SenzaRidisegno quiet(form.mfgTab);
-    const Tratti read = readLegs(form);
+    const Tratti read = readStretches(form);
     const TotaliItinerario totals = calcolaTotali(read.legs, medieMostrate(form));
     form.stato.NumeroTraghetti = totals.traghetti;
     showRunningColumns(form, read, totals);

@@ -7,7 +7,6 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr double gap = 3.5;       // mm between two groups of fields
-constexpr double inset = 1.6;     // mm between a frame and its text
 constexpr double costsWidth = 62; // mm, at the right edge
 constexpr double leftWidth = fullWidth - costsWidth - 6;
 constexpr Style rowName{.size = 3.3, .colour = ink, .bold = true};

@@ -14,7 +14,6 @@ using namespace Qt::StringLiterals;
 /// The painter's own unit is this part of a millimetre: sizes of fonts are whole numbers of it.
 constexpr double units = 100;
 constexpr double smallestShare = 0.8; // of its size, that a text is shrunk to
-constexpr double inset = 1.6;         // mm between a frame and its text
 constexpr double tick = 3.6;          // mm, the side of a box to tick
 constexpr double headingHeight = 5.5; // mm
 constexpr Style label{};

@@ -20,6 +20,8 @@ inline constexpr double rightEdge = 196;
 inline constexpr double topEdge = 14;
 inline constexpr double footLine = 285;
 inline constexpr double fullWidth = rightEdge - leftEdge;
+/// Between a frame and its text.
+inline constexpr double inset = 1.6;
 
 /// What a traveller writes on by hand is at least this high.
 inline constexpr double writingRow = 8;

@@ -8,7 +8,6 @@ namespace vanzer {
 
 namespace {
 
-constexpr float giorno = 2400;
 constexpr int troppeVolte = 100;
 
 /// A list from "first" to "last" at a fixed width.
@@ -103,7 +102,7 @@ store::Recordset& openDefaults(Form& form) {
 }
 
 float timeShown(Form& form, int pair) {
-    return ghmStringa2Centesimi(form.cmbOra(pair).text() + u':' + form.cmbMin(pair).text(), giorno);
+    return ghmStringa2Centesimi(form.cmbOra(pair).text() + u':' + form.cmbMin(pair).text(), giornoIntero);
 }
 
 /// One pair: empty lists take their first entry, hours outside the list its end. The time before the correction.
@@ -149,14 +148,14 @@ void readStart(Form& form) {
     s.AnnoInizio = arrotonda(Val(form.cmbInizio(2).text()));
     s.GiulianoInizio = Data2Giul(Zero(s.GiornoInizio, 2) + Zero(s.MeseInizio, 2) + Zero(s.AnnoInizio, 4));
     s.GiulianoCorrente = s.GiulianoInizio;
-    s.OraInizioViaggio = ghmStringa2Centesimi(form.cmbInizio(3).text() + u':' + form.cmbInizio(4).text(), giorno);
+    s.OraInizioViaggio = ghmStringa2Centesimi(form.cmbInizio(3).text() + u':' + form.cmbInizio(4).text(), giornoIntero);
     s.OraCorrente = s.OraInizioViaggio;
 }
 
 /// Hours and minutes of a clock value, into the lists of a pair.
 void writeTime(Form& form, int pair, float value) {
-    const bool endOfDay = value >= giorno;
-    const QString text = Right(ghmCentesimi2Stringa(value, giorno), 5);
+    const bool endOfDay = value >= giornoIntero;
+    const QString text = Right(ghmCentesimi2Stringa(value, giornoIntero), 5);
     scriveCoppia(form, pair, endOfDay ? QStringLiteral("24") : Left(text, 2), Mid(text, 4, 2));
 }
 
@@ -176,7 +175,7 @@ bool orderDay(Form& form) {
         writeTime(form, coppiaNotte, s.OraCena + s.DurataCena);
         corrected = true;
     }
-    if (s.OraNotte > giorno)
+    if (s.OraNotte > giornoIntero)
         scriveCoppia(form, coppiaNotte, QStringLiteral("24"), QStringLiteral("00"));
     if (s.InizioVisita < s.OraColazione) {
         scriveCoppia(form, coppiaInizioVisita, form.cmbOra(coppiaColazione).text(),
@@ -205,8 +204,8 @@ void boundClock(StatoViaggio& s) {
         s.OraCena = 2000;
     if (s.OraNotte < 1900)
         s.OraNotte = 1900;
-    if (s.OraNotte > 2400)
-        s.OraNotte = 2400;
+    if (s.OraNotte > giornoIntero)
+        s.OraNotte = giornoIntero;
     if (s.OraPranzo <= s.OraColazione)
         s.OraPranzo = s.OraColazione + 100;
     if (s.OraPranzo + s.DurataPranzo >= s.OraCena)

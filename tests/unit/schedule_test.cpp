@@ -44,7 +44,7 @@ TappaDaPreparare leg(int row, const QString& place, const QString& stop = {}) {
     return {.riga = row, .luogo = place, .strada = {}, .km = 10, .tipoStrada = u"A"_s, .sosta = stop};
 }
 
-using Rows = std::vector<std::string>;
+using RowTexts = std::vector<std::string>;
 
 } // namespace
 
@@ -90,7 +90,7 @@ TEST(Preparazione, SourcesOfTheStops) {
     const std::string stop = " > a Roma (centro) [Start]=200";
     const struct {
         FonteSoste source;
-        Rows rows;
+        RowTexts rows;
     } cases[] = {
         {FonteSoste::Itinerario, {name, stop + "*"}},
         {FonteSoste::Guida, {name, " > A * Foro=200", " > Colosseo=100", " > Area*"}},
@@ -120,9 +120,9 @@ TEST(Preparazione, StretchOfTheGuide) {
                                                           {u"C"_s, {entry(u"c"_s, u"01:00"_s)}}};
     EXPECT_EQ(prepared({leg(1, u"A"_s), leg(2, {}), leg(3, u"B [Start]"_s), leg(4, u"C [End]"_s), leg(5, u"A"_s)},
                        FonteSoste::Guida, guide),
-              (Rows{"A", "B [Start]", " > b=100", "C [End]", " > c=100", "A"}));
+              (RowTexts{"A", "B [Start]", " > b=100", "C [End]", " > c=100", "A"}));
     EXPECT_EQ(prepared({leg(1, u"A [End]"_s), leg(2, u"B [Start]"_s), leg(3, u"C"_s)}, FonteSoste::Guida, guide),
-              (Rows{"A", "B [Start]", " > b=100", "C", " > c=100"}))
+              (RowTexts{"A", "B [Start]", " > b=100", "C", " > c=100"}))
         << "an end before the start goes";
     EXPECT_TRUE(prepared({leg(1, {})}, FonteSoste::Guida, guide).empty());
 }

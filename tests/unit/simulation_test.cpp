@@ -9,7 +9,6 @@ namespace vanzer {
 namespace {
 
 using namespace Qt::StringLiterals;
-using Tipo = RigaViandoria::Tipo;
 using Fine = RigaViandoria::Fine;
 
 /// A plain day at 100 km/h: a kilometre is one hundredth of an hour.
@@ -59,7 +58,7 @@ std::string told(const RigaViandoria& row, float start) {
     static constexpr std::array kinds{"tratto", "sosta", "menzione", "mattino"};
     std::string text = kinds[static_cast<std::size_t>(row.tipo)];
     const auto add = [&text](const char* before, int number) { (text += before) += std::to_string(number); };
-    if (row.tipo == Tipo::Tratto) {
+    if (row.tipo == RigaViandoria::Tipo::Tratto) {
         add(" ", row.km);
         text += row.verso ? " verso" : "";
     }
@@ -82,12 +81,12 @@ std::vector<std::string> walk(const std::vector<RigaDiLavoro>& rows, const Param
     return told_;
 }
 
-using Rows = std::vector<std::string>;
+using RowTexts = std::vector<std::string>;
 
 } // namespace
 
 TEST(Simulazione, DepartureAlwaysHasARow) {
-    EXPECT_EQ(walk({leg(0), leg(0), leg(50)}, plainDay()), (Rows{"tratto 0 g0 900", "tratto 50 g0 950"}));
+    EXPECT_EQ(walk({leg(0), leg(0), leg(50)}, plainDay()), (RowTexts{"tratto 0 g0 900", "tratto 50 g0 950"}));
 }
 
 TEST(Simulazione, DepartureWithinAMealOrBehindTheNight) {
@@ -109,7 +108,7 @@ TEST(Simulazione, BandOfLunch) {
     // Lunch at 1250, range 25: an arrival from 1242 to 1274 is driven whole and eats; from 1275 on the piece is cut.
     const struct {
         int km;
-        Rows rows;
+        RowTexts rows;
     } cases[] = {
         {341, {"tratto 341 g0 1241", "tratto 9 verso g0 1250 pranzo", "tratto 91 g0 1591"}},
         {342, {"tratto 342 g0 1242 pranzo", "tratto 100 g0 1592"}},
@@ -122,11 +121,12 @@ TEST(Simulazione, BandOfLunch) {
 
 TEST(Simulazione, ALongLegGoesThroughLunchDinnerAndNight) {
     const Viandoria v = simula({leg(1500)}, plainDay(), 1);
-    Rows rows;
+    RowTexts rows;
     for (const RigaViandoria& row : v.righe)
         rows.push_back(told(row, plainDay().giulianoInizio));
-    EXPECT_EQ(rows, (Rows{"tratto 350 verso g0 1250 pranzo", "tratto 500 verso g0 2000 cena",
-                          "tratto 75 verso g0 2250 notte", "tratto 350 verso g1 1250 pranzo", "tratto 225 g1 1725"}));
+    EXPECT_EQ(rows,
+              (RowTexts{"tratto 350 verso g0 1250 pranzo", "tratto 500 verso g0 2000 cena",
+                        "tratto 75 verso g0 2250 notte", "tratto 350 verso g1 1250 pranzo", "tratto 225 g1 1725"}));
     EXPECT_EQ(v.righe[0].fine, Fine::Pranzo);
     EXPECT_EQ(v.righe[1].fine, Fine::Cena);
     EXPECT_EQ(v.righe[2].fine, Fine::Notte);
@@ -139,7 +139,7 @@ TEST(Simulazione, AnArrivalPastTheNightOutsideTheBandBeginsTheNextDay) {
     ParametriSimulazione p = plainDay();
     p.medie = {1, 1, 1, 1}; // a kilometre takes an hour, so that pieces jump over the bands
     p.oraInizioViaggio = 2190;
-    EXPECT_EQ(walk({leg(1), leg(1)}, p), (Rows{"tratto 1 g0 2290", "tratto 1 g1 1000"}));
+    EXPECT_EQ(walk({leg(1), leg(1)}, p), (RowTexts{"tratto 1 g0 2290", "tratto 1 g1 1000"}));
 }
 
 TEST(Simulazione, Breaks) {
@@ -148,11 +148,11 @@ TEST(Simulazione, Breaks) {
     p.riposoMinuti = 25;
     p.oraPranzo = 1500;
     const Viandoria v = simula({leg(250)}, p, 1);
-    Rows rows;
+    RowTexts rows;
     for (const RigaViandoria& row : v.righe)
         rows.push_back(told(row, p.giulianoInizio));
-    EXPECT_EQ(rows,
-              (Rows{"tratto 100 verso g0 1000 pausa", "tratto 100 verso g0 1125 pausa", "tratto 50 g0 1200 pausa"}));
+    EXPECT_EQ(rows, (RowTexts{"tratto 100 verso g0 1000 pausa", "tratto 100 verso g0 1125 pausa",
+                              "tratto 50 g0 1200 pausa"}));
     EXPECT_EQ(v.righe[0].fine, Fine::Pausa);
     // At a crawl the piece before a break still moves on.
     p.medie = {0.5, 0.5, 0.5, 0.5};
@@ -165,9 +165,9 @@ TEST(Simulazione, LongRests) {
     p.riposoDopoGiorni = 1;
     // The rest falls before the first piece driven on the day after; its trace is on the row before the last one.
     EXPECT_EQ(walk({leg(10), leg(10, true), leg(10)}, p),
-              (Rows{"tratto 10 g0 910", "tratto 10 g0 920 riposo", "mattino g1 900", "tratto 10 g2 910"}));
+              (RowTexts{"tratto 10 g0 910", "tratto 10 g0 920 riposo", "mattino g1 900", "tratto 10 g2 910"}));
     EXPECT_EQ(walk({leg(10, true), leg(10)}, p),
-              (Rows{"tratto 10 g0 910 riposo", "mattino g1 900", "tratto 10 g2 910"}));
+              (RowTexts{"tratto 10 g0 910 riposo", "mattino g1 900", "tratto 10 g2 910"}));
 }
 
 TEST(Simulazione, Stops) {
@@ -217,8 +217,8 @@ TEST(Simulazione, EndOfDayAndMention) {
     mention.tipo = RigaDiLavoro::Tipo::Menzione;
     mention.fineGiorno = true;
     EXPECT_EQ(walk({leg(10), mention, leg(10)}, plainDay()),
-              (Rows{"tratto 10 g0 910", "menzione g0 910", "mattino g1 900", "tratto 10 g1 910"}));
-    EXPECT_EQ(walk({leg(0, true), leg(10)}, plainDay()), (Rows{"tratto 0 g0 900", "tratto 10 g0 910"}))
+              (RowTexts{"tratto 10 g0 910", "menzione g0 910", "mattino g1 900", "tratto 10 g1 910"}));
+    EXPECT_EQ(walk({leg(0, true), leg(10)}, plainDay()), (RowTexts{"tratto 0 g0 900", "tratto 10 g0 910"}))
         << "the day has only just begun";
 }
 
@@ -244,7 +244,8 @@ TEST(Simulazione, WithoutASpeedTheCalculationStillEnds) {
     p.medie = {0, 100, 100, 100};
     RigaDiLavoro other = leg(30);
     other.strada = 1;
-    EXPECT_EQ(walk({leg(20), other, leg(20)}, p), (Rows{"tratto 20 g0 900", "tratto 30 g0 930", "tratto 20 g0 960"}))
+    EXPECT_EQ(walk({leg(20), other, leg(20)}, p),
+              (RowTexts{"tratto 20 g0 900", "tratto 30 g0 930", "tratto 20 g0 960"}))
         << "the time of the piece stays the last one";
 }
 
