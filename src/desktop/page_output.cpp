@@ -9,6 +9,7 @@
 #include <QPrinterInfo>
 #include <QSaveFile>
 
+#include "core/text_file.h"
 #include "desktop/print_font.h"
 
 namespace vanzer::desktop {
@@ -76,20 +77,10 @@ class PdfOutput : public DeviceOutput {
     PrinterError error() const override {
         const QString file = QDir::toNativeSeparators(file_.fileName());
         return {QStringLiteral("Il file %1 non si può scrivere: %2 Se ce n'era già uno, è rimasto com'era.")
-                    .arg(file, reason())};
+                    .arg(file, motivoNonScritto(file_.fileName()))};
     }
 
   private:
-    [[nodiscard]] QString reason() const {
-        const QFileInfo file(file_.fileName());
-        const QFileInfo folder(file.absolutePath());
-        if (!folder.isDir())
-            return QStringLiteral("la sua cartella non c'è.");
-        if (!folder.isWritable() || file.isDir() || (file.exists() && !file.isWritable()))
-            return QStringLiteral("lì non è permesso scrivere.");
-        return QStringLiteral("il disco è pieno o protetto.");
-    }
-
     QSaveFile file_;
     QPdfWriter writer_;
 };

@@ -1,8 +1,6 @@
 // What the printers of the desktop bring to paper, read back from the PDF; the preview; the frames of printing.
-#include <csignal>
 #include <deque>
 #include <functional>
-#include <sys/resource.h>
 
 #include <QApplication>
 #include <QDir>
@@ -15,6 +13,7 @@
 
 #include "desktop/print_preview.h"
 #include "desktop_fixture.h"
+#include "support/full_disk.h"
 
 namespace vanzer::desktop {
 namespace {
@@ -60,23 +59,6 @@ class PreviewKeys : public QObject {
             dialog.reject();
     }
     std::vector<QKeyCombination> keys_;
-};
-
-/// Files that are written grow no more than this while it lives, as on a full disk.
-class FullDisk {
-  public:
-    explicit FullDisk(rlim_t bytes) {
-        getrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit narrow{bytes, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &narrow);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-  private:
-    rlimit before_{};
 };
 
 struct Word {

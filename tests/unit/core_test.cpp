@@ -13,6 +13,7 @@
 #include "core/text.h"
 #include "core/text_file.h"
 #include "core/time_values.h"
+#include "support/full_disk.h"
 
 namespace vanzer {
 
@@ -236,9 +237,21 @@ TEST(TextFile, IsWrittenWholeOrNotAtAll) {
     EXPECT_EQ(content(), "Citt\xE0\r\n\r\n");
     EXPECT_EQ(scriveFileTesto(path, {}), u"");
     EXPECT_EQ(content(), "");
-    EXPECT_NE(scriveFileTesto(directory.filePath(u"altrove/lista.txt"_s), {u"x"_s}), u"");
+    ASSERT_EQ(scriveFileTesto(path, {u"di prima"_s}), u"");
     ASSERT_TRUE(QDir(directory.path()).mkdir(u"cartella"_s));
-    EXPECT_NE(scriveFileTesto(directory.filePath(u"cartella"_s), {u"x"_s}), u"");
+    const FullDisk full(4096);
+    const struct {
+        QString name;
+        QString reason;
+    } cases[] = {{u"altrove/lista.txt"_s, u"cartella non c'è"_s},
+                 {u"lista.txt/lista.txt"_s, u"cartella non c'è"_s},
+                 {u"cartella"_s, u"non è permesso"_s},
+                 {u"lista.txt"_s, u"disco è pieno"_s}};
+    for (const auto& c : cases) {
+        const QString reason = scriveFileTesto(directory.filePath(c.name), {QString(5000, u'x')});
+        EXPECT_TRUE(reason.contains(c.reason)) << c.name.toStdString() << ": " << reason.toStdString();
+    }
+    EXPECT_EQ(content(), "di prima\r\n");
     EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files), QStringList(u"lista.txt"_s)) << "nothing is left aside";
 }
 

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <csignal>
+#include <sys/resource.h>
+
+namespace vanzer {
+
+/// Files that are written grow no more than this while it lives, as on a full disk.
+class FullDisk {
+  public:
+    explicit FullDisk(rlim_t bytes) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit narrow{bytes, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &narrow);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+  private:
+    rlimit before_{};
+};
+
+} // namespace vanzer
