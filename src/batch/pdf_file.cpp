@@ -2,19 +2,19 @@
 
 #include <array>
 
+#include <QBuffer>
 #include <QSaveFile>
 
 #include "core/code_page.h"
+#include "toolkit/pdf_structure.h"
 
 namespace vanzer::batch {
 
 namespace {
 
-constexpr double pointsPerMm = 72 / 25.4;
-constexpr double sheetWidth = 210; // mm
-constexpr double sheetHeight = 297;
-constexpr double baseline = 0.32; // mm below the top of a text, for each point of its size
-constexpr double penStep = 0.1;   // mm
+constexpr double sheetHeight = 297; // mm
+constexpr double baseline = 0.32;   // mm below the top of a text, for each point of its size
+constexpr double penStep = 0.1;     // mm
 constexpr std::array cuts{"Times-Roman", "Times-Bold", "Times-Italic", "Times-BoldItalic"};
 
 QByteArray number(double x) {
@@ -74,68 +74,25 @@ QByteArray contentOf(const Pagina& page) {
     return code;
 }
 
-/// The file's numbered objects, and where each begins.
-class Objects {
-  public:
-    void add(const QByteArray& body) {
-        starts_.push_back(bytes_.size());
-        bytes_ += QByteArray::number(starts_.size()) + " 0 obj\n" + body + "\nendobj\n";
-    }
-
-    /// Object 1 is the catalogue.
-    [[nodiscard]] QByteArray finished() && {
-        const QByteArray count = QByteArray::number(starts_.size() + 1);
-        const QByteArray tableStart = QByteArray::number(bytes_.size());
-        bytes_ += "xref\n0 " + count + "\n0000000000 65535 f \n";
-        for (const qsizetype start : starts_)
-            bytes_ += QByteArray::number(start).rightJustified(10, '0') + " 00000 n \n";
-        bytes_ += "trailer\n<</Size " + count + "/Root 1 0 R>>\nstartxref\n" + tableStart + "\n%%EOF\n";
-        return std::move(bytes_);
-    }
-
-  private:
-    QByteArray bytes_ = "%PDF-1.4\n";
-    QList<qsizetype> starts_;
-};
-
-/// Catalogue, list of pages and the fonts come first, then each page and its content.
-constexpr int firstFont = 3;
-constexpr int firstPage = firstFont + static_cast<int>(cuts.size());
-
-QByteArray reference(qsizetype object) {
-    return QByteArray::number(object) + " 0 R ";
-}
-
-QByteArray pageList(qsizetype count) {
-    QByteArray kids;
-    for (qsizetype i = 0; i < count; ++i)
-        kids += reference(firstPage + 2 * i);
-    return "<</Type/Pages/Kids[" + kids + "]/Count " + QByteArray::number(count) + ">>";
-}
-
-QByteArray pageHead(qsizetype content) {
-    QByteArray fonts;
-    for (int i = 0; i < static_cast<int>(cuts.size()); ++i)
-        fonts += "/F" + QByteArray::number(i) + ' ' + reference(firstFont + i);
-    return "<</Type/Page/Parent 2 0 R/MediaBox[0 0 " + across(sheetWidth) + across(sheetHeight) +
-           "]/Resources<</Font<<" + fonts + ">>>>/Contents " + reference(content) + ">>";
+/// The reader's own fonts, under the names by which contents call them.
+QByteArray fonts() {
+    QByteArray named;
+    for (std::size_t i = 0; i < cuts.size(); ++i)
+        named += "/F" + QByteArray::number(i) + "<</Type/Font/Subtype/Type1/Encoding/WinAnsiEncoding/BaseFont/" +
+                 cuts[i] + ">>";
+    return "/Font<<" + named + ">>";
 }
 
 } // namespace
 
 QByteArray pdfOf(const std::vector<Pagina>& pages) {
-    Objects objects;
-    const auto count = static_cast<qsizetype>(pages.size());
-    objects.add("<</Type/Catalog/Pages 2 0 R>>");
-    objects.add(pageList(count));
-    for (const char* cut : cuts)
-        objects.add(QByteArray("<</Type/Font/Subtype/Type1/Encoding/WinAnsiEncoding/BaseFont/") + cut + ">>");
-    for (qsizetype i = 0; i < count; ++i) {
-        const QByteArray content = contentOf(pages[static_cast<std::size_t>(i)]);
-        objects.add(pageHead(firstPage + 2 * i + 1));
-        objects.add("<</Length " + QByteArray::number(content.size()) + ">>\nstream\n" + content + "endstream");
-    }
-    return std::move(objects).finished();
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    PdfStructure file(bytes);
+    for (const Pagina& page : pages)
+        file.addPage({.data = contentOf(page)});
+    file.finish(fonts());
+    return bytes.data();
 }
 
 bool writePdf(const QString& path, const std::vector<Pagina>& pages) {

@@ -65,6 +65,9 @@ QString fromCodePage(QByteArrayView bytes) {
 }
 
 QByteArray toCodePage(const QString& text) {
+    // Most lines are plain: every form and every code page has those characters.
+    if (std::ranges::all_of(text, [](QChar c) { return c.unicode() < firstOwn; }))
+        return text.toLatin1();
     QByteArray bytes;
     for (const char32_t c : text.normalized(QString::NormalizationForm_C).toUcs4())
         bytes.append(encoded(c));

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include <QFontMetricsF>
 #include <QPrinterInfo>
 
 #include "desktop/print_preview.h"
@@ -59,31 +58,41 @@ void DesktopPrinter::choose(const QString& name) {
 }
 
 void DesktopPrinter::setFontName(const QString& name) {
+    if (name == font_.face.name && face_ != nullptr)
+        return;
     auto known = typefaces_.find(name);
     if (known == typefaces_.end())
         known = typefaces_.emplace(name, typefaceFor(name)).first;
     if (font_.face.family == known->second.family && font_.face.name == known->second.name)
         return;
     font_.face = known->second;
-    large_ = largeFont(font_);
+    chooseFace();
 }
 
 void DesktopPrinter::setBold(bool on) {
     if (std::exchange(font_.bold, on) != on)
-        large_ = largeFont(font_);
+        chooseFace();
 }
 
 void DesktopPrinter::setItalic(bool on) {
     if (std::exchange(font_.italic, on) != on)
-        large_ = largeFont(font_);
+        chooseFace();
+}
+
+/// Faces stay: what was drawn knows them.
+void DesktopPrinter::chooseFace() {
+    std::unique_ptr<PrintFace>& face = faces_[{font_.face.family, font_.bold, font_.italic}];
+    if (face == nullptr)
+        face = std::make_unique<PrintFace>(largeFont(font_));
+    face_ = face.get();
 }
 
 double DesktopPrinter::textWidth(const QString& text) const {
-    return QFontMetricsF(large_).horizontalAdvance(text) * mmPerPixel(font_.points);
+    return face_->width(text) * mmPerPixel(font_.points);
 }
 
 double DesktopPrinter::textHeight(const QString& /*text*/) const {
-    return QFontMetricsF(large_).height() * mmPerPixel(font_.points);
+    return face_->height() * mmPerPixel(font_.points);
 }
 
 template<typename Step> void DesktopPrinter::orDrop(Step step) {
@@ -111,18 +120,17 @@ void DesktopPrinter::begin() {
     }
 }
 
-void DesktopPrinter::draw(Drawing drawing) {
-    orDrop([this, &drawing] {
-        if (page_ == 0)
-            begin();
-        page_ = std::max(page_, 1);
-        if (!unwanted_)
-            drawn_.push_back(std::move(drawing));
-    });
+template<typename Drawn> void DesktopPrinter::draw(Drawn&& drawing) {
+    if (page_ == 0) {
+        orDrop([this] { begin(); });
+        page_ = 1;
+    }
+    if (!unwanted_)
+        drawn_.emplace_back(std::forward<Drawn>(drawing));
 }
 
 void DesktopPrinter::text(Punto at, const QString& text) {
-    draw(DrawnText{at, text, large_, mmPerPixel(font_.points)});
+    draw(DrawnText{at, text, face_, mmPerPixel(font_.points)});
 }
 
 void DesktopPrinter::line(Punto from, Punto to, int width) {
@@ -138,11 +146,11 @@ void DesktopPrinter::picture(Immagine picture, Punto at, Punto size) {
 }
 
 void DesktopPrinter::pageDone() {
-    DrawnPage page = std::exchange(drawn_, {});
     if (previewed_)
-        waiting_.push_back(std::move(page));
+        waiting_.push_back(std::exchange(drawn_, {}));
     else
-        output_->write(page);
+        output_->write(drawn_);
+    drawn_.clear();
 }
 
 void DesktopPrinter::newPage() {

@@ -4,6 +4,7 @@
 
 #include <map>
 #include <memory>
+#include <tuple>
 #include <vector>
 
 #include "desktop/desktop_ports.h"
@@ -48,8 +49,9 @@ class DesktopPrinter : public Printer, public BeforeWindow {
   private:
     /// Throws what `step` throws, with the document dropped.
     template<typename Step> void orDrop(Step step);
+    void chooseFace();
     void begin();
-    void draw(Drawing drawing);
+    template<typename Drawn> void draw(Drawn&& drawing);
     void pageDone();
     [[nodiscard]] bool approved();
     void drop();
@@ -58,7 +60,8 @@ class DesktopPrinter : public Printer, public BeforeWindow {
     QString chosen_; ///< empty: the platform's default
     std::map<QString, Typeface> typefaces_;
     PrintFont font_;
-    QFont large_;
+    PrintFace* face_ = nullptr; ///< of that font
+    std::map<std::tuple<QString, bool, bool>, std::unique_ptr<PrintFace>> faces_;
 
     // The document that is being drawn.
     int page_ = 0;

@@ -1,6 +1,5 @@
 #include "desktop/drawn_page.h"
 
-#include <QFontMetricsF>
 #include <QPixmap>
 
 /// The pictures lie in a library: named here, they come into every program that draws.
@@ -32,9 +31,9 @@ void draw(const DrawnText& text, QPainter& painter) {
     painter.save();
     painter.translate(text.at.x, text.at.y);
     painter.scale(text.scale, text.scale);
-    painter.setFont(text.font);
+    painter.setFont(text.face->font());
     painter.setPen(Qt::black);
-    painter.drawText(QPointF(0, QFontMetricsF(text.font).ascent()), text.text);
+    painter.drawText(QPointF(0, text.face->ascent()), text.text);
     painter.restore();
 }
 
@@ -49,7 +48,7 @@ void draw(const DrawnBox& box, QPainter& painter) {
     painter.drawRect(rect(box.from, box.to));
 }
 
-/// Both pictures are the product's sign. A PDF holds it once; what is smaller on the screen is made smaller with care.
+/// What is smaller on the screen is made smaller with care.
 void draw(const DrawnPicture& picture, QPainter& painter) {
     const QRectF place(picture.at.x, picture.at.y, picture.size.x, picture.size.y);
     const QSize shown = painter.deviceTransform().mapRect(place).size().toSize();
@@ -59,6 +58,10 @@ void draw(const DrawnPicture& picture, QPainter& painter) {
 }
 
 } // namespace
+
+QImage signPicture() {
+    return sign().toImage();
+}
 
 void replay(const DrawnPage& page, QPainter& painter, double perMm) {
     painter.save();

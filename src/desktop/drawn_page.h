@@ -6,10 +6,11 @@
 #include <variant>
 #include <vector>
 
-#include <QFont>
+#include <QImage>
 #include <QPainter>
 #include <QSizeF>
 
+#include "desktop/print_face.h"
 #include "toolkit/printer.h"
 
 namespace vanzer::desktop {
@@ -17,8 +18,8 @@ namespace vanzer::desktop {
 struct DrawnText {
     Punto at; ///< top left corner of the line
     QString text;
-    QFont font;   ///< in the size in which texts are measured
-    double scale; ///< mm for each of its pixels
+    const PrintFace* face; ///< lives longer than the page
+    double scale;          ///< mm for each pixel of its font
 };
 
 struct DrawnLine {
@@ -45,6 +46,9 @@ using DrawnPage = std::vector<Drawing>;
 
 /// The sheet, A4 upright, mm.
 inline constexpr QSizeF sheetSize{210, 297};
+
+/// Both pictures are the product's sign.
+[[nodiscard]] QImage signPicture();
 
 /// Draws the page with the sheet's corner at the painter's origin; `perMm` units of the painter are one mm.
 void replay(const DrawnPage& page, QPainter& painter, double perMm);

@@ -1,5 +1,7 @@
 #include "reports/schedule_print_screen.h"
 
+#include <utility>
+
 #include <QCoreApplication>
 #include <QDir>
 
@@ -120,9 +122,15 @@ class StampaItinerario {
 
     void printRow(int r) {
         report_.preparaPagina(r);
-        form_.lblElaborazione.setCaption(printing + QStringLiteral(" (pag. %1)").arg(run_.foglio().pagina()));
+        form_.lblElaborazione.setCaption(pageShown());
         form_.mfgTab.setCell(r, colFineGiornata, {});
         report_.StampaRiga(r);
+    }
+
+    const QString& pageShown() {
+        if (std::exchange(page_, run_.foglio().pagina()) != run_.foglio().pagina())
+            pageText_ = printing + QStringLiteral(" (pag. %1)").arg(page_);
+        return pageText_;
     }
 
     void writeFile(const QString& name, const QStringList& lines) {
@@ -167,6 +175,8 @@ class StampaItinerario {
     CellaViandoria cell_;
     ReportViandoria report_;
     QStringList table_;
+    int page_ = -1; ///< that the text below names
+    QString pageText_;
 };
 
 } // namespace

@@ -26,7 +26,8 @@ void Foglio::imposta() {
 
 void Foglio::SettaFontNamePrinter() {
     printer_.setFontName(condensed);
-    if (!uguale(printer_.fontName(), condensed))
+    const QString given = printer_.fontName();
+    if (given != condensed && !uguale(given, condensed))
         printer_.setFontName(serif);
 }
 

@@ -42,7 +42,9 @@ QStringList intestazioneTabella(const QString& trip) {
 }
 
 QString rigaTabella(int row, const CellaViandoria& cell) {
+    constexpr qsizetype usual = 100;
     QString line;
+    line.reserve(usual);
     for (int c = 0; c < cellsOfLine; ++c)
         line += Trim(cell(row, c)) + tab;
     return line;

@@ -4,32 +4,18 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QImage>
 #include <QLabel>
 #include <QListView>
-#include <QProcess>
 #include <QRadioButton>
-#include <QRegularExpression>
 
 #include "desktop/print_preview.h"
-#include "desktop_fixture.h"
+#include "printing_fixture.h"
 #include "support/full_disk.h"
 
 namespace vanzer::desktop {
 namespace {
 
-constexpr double mmPerPoint = 25.4 / 72;
-
-class QueuedFiles : public FileDialogs {
-  public:
-    QString open(const QString& /*filter*/) override { return {}; }
-    QString save(const QString& filter) override {
-        filters << filter;
-        return answers.isEmpty() ? QString() : answers.takeFirst();
-    }
-    QStringList answers;
-    QStringList filters;
-};
+using Printing = PrintingTest;
 
 /// Works the preview that comes up with keys, and keeps what it said of its page after each.
 class PreviewKeys : public QObject {
@@ -59,68 +45,6 @@ class PreviewKeys : public QObject {
             dialog.reject();
     }
     std::vector<QKeyCombination> keys_;
-};
-
-struct Word {
-    int page;
-    QRectF box; ///< mm
-};
-
-class Printing : public DesktopTest {
-  protected:
-    void SetUp() override {
-        DesktopTest::SetUp();
-        printer.choose(QStringLiteral("pdf"));
-        ASSERT_EQ(printer.current(), QStringLiteral("PDF"));
-    }
-
-    [[nodiscard]] QString inFolder(const char* name) const { return directory.filePath(QString::fromUtf8(name)); }
-
-    static QString output(const char* program, const QStringList& arguments) {
-        QProcess process;
-        process.start(QLatin1StringView(program), arguments);
-        EXPECT_TRUE(process.waitForFinished() && process.exitCode() == 0) << program;
-        return QString::fromUtf8(process.readAllStandardOutput());
-    }
-
-    static int pageCount(const QString& pdf) {
-        static const QRegularExpression pages(QStringLiteral("Pages: +(\\d+)"));
-        return pages.match(output("pdfinfo", {pdf})).captured(1).toInt();
-    }
-
-    static std::map<QString, Word> wordsOf(const QString& pdf) {
-        static const QRegularExpression word(
-            QStringLiteral("<page|<word xMin=\"(.*)\" yMin=\"(.*)\" xMax=\"(.*)\" yMax=\"(.*)\">(.*)</word>"));
-        std::map<QString, Word> words;
-        int page = 0;
-        for (auto match = word.globalMatch(output("pdftotext", {QStringLiteral("-bbox"), pdf, QStringLiteral("-")}));
-             match.hasNext();) {
-            const QRegularExpressionMatch one = match.next();
-            if (!one.hasCaptured(5)) {
-                ++page;
-                continue;
-            }
-            const auto mm = [&one](int i) { return one.captured(i).toDouble() * mmPerPoint; };
-            words[one.captured(5)] = {page, QRectF(QPointF(mm(1), mm(2)), QPointF(mm(3), mm(4)))};
-        }
-        return words;
-    }
-
-    void drawPages(int pages, const char* text = "Viandoria") {
-        for (int i = 1; i <= pages; ++i) {
-            printer.text({20, 20}, QString::fromUtf8(text) + QString::number(i));
-            if (i < pages)
-                printer.newPage();
-        }
-    }
-
-    [[nodiscard]] QByteArray contents(const QString& path) const {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    QueuedFiles files;
-    DesktopPrinter printer{files};
 };
 
 TEST_F(Printing, TextsStandWhereTheyWereDrawnAndAreAsWideAsMeasured) {
@@ -187,10 +111,15 @@ TEST_F(Printing, LinesBoxesAndPicturesFillTheirPlaces) {
     printer.line({60, 60}, {60, 90}, 20);
     printer.picture(Immagine::LogoSito, {10, 100}, {15, 15});
     printer.picture(Immagine::Logo, {170, 100}, {18, 18});
+    printer.line({20, 150}, {20, 160}, 3);
+    printer.line({20, 160}, {20, 170}, 3); // of the next row
+    printer.line({20, 171}, {20, 180}, 3);
+    printer.line({40, 150}, {60, 150}, 3);
+    printer.text({45, 149}, QStringLiteral("coperto"));
+    printer.box({45, 145}, {55, 155}, 1, 0xc0ffc0U);
+    printer.line({50, 140}, {50, 152}, 3);
     printer.endDoc();
-    output("pdftoppm", {QStringLiteral("-png"), QStringLiteral("-singlefile"), QStringLiteral("-r"),
-                        QStringLiteral("508"), inFolder("forme.pdf"), inFolder("forme")});
-    const QImage sheet(inFolder("forme.png"));
+    const QImage sheet = rendered("forme", 508);
     ASSERT_NEAR(sheet.width(), 210 * 20, 4);
     ASSERT_NEAR(sheet.height(), 297 * 20, 4);
     enum class Ink { Black, White, Green, Colour };
@@ -220,6 +149,15 @@ TEST_F(Printing, LinesBoxesAndPicturesFillTheirPlaces) {
         {17.5, 115.2, Ink::White, "below it"},
         {187, 109, Ink::Colour, "the other one"},
         {188.2, 109, Ink::White, "beside it"},
+        {20, 150.1, Ink::Black, "a line in pieces"},
+        {20, 160, Ink::Black, "where they meet"},
+        {20, 169.9, Ink::Black, "its end"},
+        {20, 170.5, Ink::White, "a gap"},
+        {20, 175, Ink::Black, "behind the gap"},
+        {42, 150, Ink::Black, "a line"},
+        {47, 150, Ink::Green, "a box laid over it"},
+        {50, 151.5, Ink::Black, "a line laid over the box"},
+        {50, 153, Ink::Green, "below its end"},
     };
     for (const auto& c : cases) {
         const QColor seen = sheet.pixelColor(static_cast<int>(c.x * 20), static_cast<int>(c.y * 20));
