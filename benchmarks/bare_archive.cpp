@@ -116,4 +116,43 @@ long BareArchive::readGuide(int places) {
     return bytes;
 }
 
+std::vector<TableRows> BareArchive::readTrips() {
+    std::vector<TableRows> tables;
+    for (const char* name : {"MeteVanzer", "Itinerari", "GuidaCitta"}) {
+        TableRows& table = tables.emplace_back(TableRows{name, {}});
+        const Statement all = prepare(connection_.get(), ("SELECT * FROM " + table.table).c_str());
+        const int columns = sqlite3_column_count(all.get());
+        while (sqlite3_step(all.get()) == SQLITE_ROW) {
+            auto& row = table.rows.emplace_back();
+            for (int c = 0; c < columns; ++c) {
+                const auto* const text = reinterpret_cast<const char*>(sqlite3_column_text(all.get(), c));
+                row.push_back(text == nullptr ? std::nullopt : std::optional<std::string>(text));
+            }
+        }
+    }
+    return tables;
+}
+
+void BareArchive::insert(const std::vector<TableRows>& tables) {
+    run("BEGIN");
+    for (const TableRows& table : tables) {
+        std::string sql = "INSERT INTO " + table.table + " VALUES (?";
+        for (std::size_t c = 1; c < table.rows.front().size(); ++c)
+            sql += ",?";
+        const Statement statement = prepare(connection_.get(), (sql + ')').c_str());
+        for (const auto& row : table.rows) {
+            for (std::size_t c = 0; c < row.size(); ++c) {
+                if (row[c])
+                    bindText(statement.get(), static_cast<int>(c) + 1, *row[c]);
+                else
+                    sqlite3_bind_null(statement.get(), static_cast<int>(c) + 1);
+            }
+            if (sqlite3_step(statement.get()) != SQLITE_DONE)
+                throw std::runtime_error(sqlite3_errmsg(connection_.get()));
+            sqlite3_reset(statement.get());
+        }
+    }
+    run("COMMIT");
+}
+
 } // namespace vanzer::bench

@@ -2,12 +2,21 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include <QString>
 
 struct sqlite3;
 
 namespace vanzer::bench {
+
+/// A table's records as texts.
+struct TableRows {
+    std::string table;
+    std::vector<std::vector<std::optional<std::string>>> rows;
+};
 
 class BareArchive {
   public:
@@ -22,6 +31,9 @@ class BareArchive {
     void rewriteLegs(int legs);
     /// One indexed query for each place of the trip.
     long readGuide(int places);
+    /// The destinations, legs and guide, and the same put in, in one transaction that is safe on the disk.
+    [[nodiscard]] std::vector<TableRows> readTrips();
+    void insert(const std::vector<TableRows>& tables);
 
   private:
     void run(const char* sql);

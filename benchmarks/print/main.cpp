@@ -31,7 +31,7 @@ class OneFile : public FileDialogs {
   public:
     explicit OneFile(QString path) : path_(std::move(path)) {}
     QString open(const QString& /*filter*/) override { return {}; }
-    QString save(const QString& /*filter*/) override { return path_; }
+    QString save(const QString& /*filter*/, Ricopertura /*overwriting*/) override { return path_; }
 
   private:
     QString path_;

@@ -41,7 +41,9 @@ class QueuedDialogs : public FileDialogs, public ShownList {
     /// An empty path is a cancel.
     void enqueue(const QString& path) { paths_.push_back(path); }
     [[nodiscard]] QString open(const QString& filter) override { return next(QStringLiteral("open"), filter); }
-    [[nodiscard]] QString save(const QString& filter) override { return next(QStringLiteral("save"), filter); }
+    [[nodiscard]] QString save(const QString& filter, Ricopertura /*overwriting*/) override {
+        return next(QStringLiteral("save"), filter);
+    }
 
   private:
     [[nodiscard]] QString next(const QString& kind, const QString& filter);

@@ -58,7 +58,7 @@ double RecordingPrinter::textHeight(const QString& /*text*/) const {
 
 void RecordingPrinter::openPage() {
     if (page_ == 0 && device_ == Device::Pdf)
-        pdfPath_ = files_.save(pdfFilter);
+        pdfPath_ = files_.save(pdfFilter, Ricopertura::ChiedeIlDialogo);
     ++page_;
     pages().emplace_back();
 }

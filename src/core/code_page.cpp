@@ -25,10 +25,12 @@ QChar decoded(char byte) {
 
 /// Nothing for a character that has no place.
 std::optional<char> placeOf(char32_t c) {
+    if (c < firstOwn)
+        return static_cast<char>(c);
     const auto found = std::find(own.begin(), own.end(), c);
     if (found != own.end())
         return static_cast<char>(firstOwn + (found - own.begin()));
-    if (c < firstOwn || (c >= firstOwn + own.size() && c <= 0xFF))
+    if (c >= firstOwn + own.size() && c <= 0xFF)
         return static_cast<char>(c);
     return std::nullopt;
 }
@@ -56,6 +58,10 @@ char encoded(char32_t c) {
     return placeOf(parts.toUcs4().front()).value_or('?');
 }
 
+bool isAscii(const QString& text) {
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < firstOwn; });
+}
+
 } // namespace
 
 QString fromCodePage(QByteArrayView bytes) {
@@ -65,13 +71,27 @@ QString fromCodePage(QByteArrayView bytes) {
 }
 
 QByteArray toCodePage(const QString& text) {
-    // Most lines are plain: every form and every code page has those characters.
-    if (std::ranges::all_of(text, [](QChar c) { return c.unicode() < firstOwn; }))
+    if (isAscii(text))
         return text.toLatin1();
     QByteArray bytes;
+    bytes.reserve(text.size());
     for (const char32_t c : text.normalized(QString::NormalizationForm_C).toUcs4())
         bytes.append(encoded(c));
     return bytes;
+}
+
+std::vector<LetteraSostituita> lettereSostituite(const QString& text) {
+    std::vector<LetteraSostituita> letters;
+    if (isAscii(text))
+        return letters;
+    for (const char32_t c : text.normalized(QString::NormalizationForm_C).toUcs4()) {
+        if (placeOf(c))
+            continue;
+        const LetteraSostituita letter{QString::fromUcs4(&c, 1), decoded(encoded(c))};
+        if (std::find(letters.begin(), letters.end(), letter) == letters.end())
+            letters.push_back(letter);
+    }
+    return letters;
 }
 
 } // namespace vanzer

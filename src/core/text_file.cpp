@@ -1,11 +1,23 @@
 #include "core/text_file.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QStringConverter>
 
 #include "core/code_page.h"
 
 namespace vanzer {
+
+namespace {
+
+QString decoded(const QByteArray& contents) {
+    QStringDecoder utf8(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
+    QString text = utf8(contents);
+    return utf8.hasError() ? fromCodePage(contents) : text;
+}
+
+} // namespace
 
 QString motivoNonScritto(const QString& path) {
     const QFileInfo file(path);
@@ -17,14 +29,48 @@ QString motivoNonScritto(const QString& path) {
     return QStringLiteral("il disco è pieno o protetto.");
 }
 
-QString scriveFileTesto(const QString& path, const QStringList& lines) {
+QString scriveFile(const QString& path, const QByteArray& contents) {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return motivoNonScritto(path);
-    for (const QString& line : lines)
-        file.write(toCodePage(line) + "\r\n");
+    file.write(contents);
     // Without the flush a disk that is full at the last part would go unseen.
     return file.flush() && file.commit() ? QString() : motivoNonScritto(path);
+}
+
+QString scriveFileTesto(const QString& path, const QStringList& lines) {
+    QByteArray contents;
+    for (const QString& line : lines)
+        contents += toCodePage(line) + "\r\n";
+    return scriveFile(path, contents);
+}
+
+FileLetto leggeFile(const QString& path) {
+    QFile file(path);
+    if (!file.exists())
+        return {};
+    if (!file.open(QIODevice::ReadOnly))
+        return {{}, QStringLiteral("non è permesso leggerlo.")};
+    FileLetto read{file.readAll(), {}};
+    if (file.error() != QFileDevice::NoError)
+        read.errore = QStringLiteral("il disco non lo dà.");
+    return read;
+}
+
+RigheTesto::RigheTesto(const QByteArray& contents)
+    : text_(decoded(contents)), end_(text_.contains(u'\n') || !text_.contains(u'\r') ? u'\n' : u'\r') {}
+
+bool RigheTesto::prossima() {
+    if (at_ >= text_.size())
+        return false;
+    const qsizetype found = text_.indexOf(end_, at_);
+    const qsizetype end = found < 0 ? text_.size() : found;
+    line_ = QStringView(text_).mid(at_, end - at_);
+    while (line_.endsWith(u'\r'))
+        line_.chop(1);
+    at_ = end + 1;
+    ++number_;
+    return true;
 }
 
 } // namespace vanzer

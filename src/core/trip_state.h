@@ -63,6 +63,9 @@ struct StatoViaggio {
     bool StampaInCorso = false;    ///< pages are being drawn
     bool InterrompiStampa = false; ///< the user wants no more of them
 
+    QString NomeFileScambio;     ///< the file that destinations go out to or come in from
+    bool ScambioInCorso = false; ///< such a file is being read or written
+
     QString FiltroGuida; ///< what the user asked the guide to find; empty: all
 };
 

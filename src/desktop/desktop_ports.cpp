@@ -112,10 +112,11 @@ QString PlatformDialogs::open(const QString& filter) {
     return QFileDialog::getOpenFileName(opening(), QStringLiteral("Apri"), {}, platformFilter(filter));
 }
 
-QString PlatformDialogs::save(const QString& filter) {
+QString PlatformDialogs::save(const QString& filter, Ricopertura overwriting) {
     QFileDialog dialog(opening(), QStringLiteral("Salva con nome"), {}, platformFilter(filter));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    // With the ending put on here the dialog asks before it lets an older file go.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, overwriting == Ricopertura::ChiedeIlComando);
+    // With the ending put on here the dialog knows which older file it is that would go.
     dialog.setDefaultSuffix(QFileInfo(filter.section(u'|', 1, 1)).suffix());
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }

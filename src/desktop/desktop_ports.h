@@ -33,7 +33,7 @@ class DialogBoxes : public MessageBoxes, public BeforeWindow {
 class PlatformDialogs : public FileDialogs, public BeforeWindow {
   public:
     [[nodiscard]] QString open(const QString& filter) override;
-    [[nodiscard]] QString save(const QString& filter) override;
+    [[nodiscard]] QString save(const QString& filter, Ricopertura overwriting) override;
 };
 
 class SystemClock : public Clock {

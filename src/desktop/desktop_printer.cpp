@@ -108,7 +108,7 @@ void DesktopPrinter::begin() {
     target_ = current();
     previewed_ = previewWanted();
     if (isPdf(target_)) {
-        QString path = files_.save(pdfFilter);
+        QString path = files_.save(pdfFilter, Ricopertura::ChiedeIlDialogo);
         unwanted_ = path.isEmpty();
         if (unwanted_)
             return;

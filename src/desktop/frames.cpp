@@ -11,6 +11,7 @@
 #include "ui_frame_12.h"
 #include "ui_frame_16.h"
 #include "ui_frame_18.h"
+#include "ui_frame_22.h"
 #include "ui_frame_23.h"
 #include "ui_frame_24.h"
 #include "ui_frame_25.h"
@@ -51,7 +52,7 @@ template<typename Design> QWidget* made(QWidget& window) {
 }
 
 /// Of two that lie over each other the later one is on top: the choice of the printer, then the waiting note.
-constexpr std::array designs{made<Ui::Frame12>, made<Ui::Frame24>, made<Ui::Frame18>,
+constexpr std::array designs{made<Ui::Frame12>, made<Ui::Frame24>, made<Ui::Frame22>, made<Ui::Frame18>,
                              made<Ui::Frame25>, made<Ui::Frame23>, made<Ui::Frame16>};
 
 constexpr std::array<std::pair<const char*, Posto>, 6> places{{{"fianco", Posto::Fianco},

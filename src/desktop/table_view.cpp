@@ -165,7 +165,8 @@ int TableView::ownWidth(int column) const {
 }
 
 /// Columns keep the widths of the layout, in the measure of the font; what is left goes to the columns of long texts,
-/// by what their texts ask for.
+/// by what their texts ask for. A list that is chosen from keeps to its layout, so that nothing jumps as rows come and
+/// go.
 void TableView::fitColumns() {
     if (grid_ == nullptr)
         return;
@@ -177,7 +178,8 @@ void TableView::fitColumns() {
         if (isColumnHidden(c))
             continue;
         if (flexible(c)) {
-            wishes.emplace_back(c, std::max(textWidth(c) + 3 * cellPadding, headWidth(c)));
+            wishes.emplace_back(c, choosing() ? grid_->columnWidth(c)
+                                              : std::max(textWidth(c) + 3 * cellPadding, headWidth(c)));
             wished += wishes.back().second;
         } else {
             setColumnWidth(c, ownWidth(c));
@@ -215,7 +217,35 @@ void TableView::changeEvent(QEvent* event) {
     }
 }
 
+bool TableView::choosing() const {
+    return property("sceglie").toBool();
+}
+
+/// The arrows move the mark, Enter and the blank are a click on the marked row; every other key is the window's.
+void TableView::pressChoosingKey(QKeyEvent& event) {
+    const int last = grid_->rows() - 1;
+    const int page = std::max(viewport()->height() / std::max(verticalHeader()->defaultSectionSize(), 1) - 1, 1);
+    int row = grid_->row();
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space: emit rowClicked(row); return;
+    case Qt::Key_Up: --row; break;
+    case Qt::Key_Down: ++row; break;
+    case Qt::Key_PageUp: row -= page; break;
+    case Qt::Key_PageDown: row += page; break;
+    case Qt::Key_Home: row = 1; break;
+    case Qt::Key_End: row = last; break;
+    default: event.ignore(); return;
+    }
+    emit rowMarked(std::clamp(row, 1, std::max(last, 1)));
+}
+
 void TableView::keyPressEvent(QKeyEvent* event) {
+    if (choosing()) {
+        pressChoosingKey(*event);
+        return;
+    }
     const int moving = rowKeyCode(event->key());
     const bool confirms = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (moving == 0 && (confirms || event->text().isEmpty() || event->key() == Qt::Key_Escape)) {

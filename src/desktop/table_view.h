@@ -32,6 +32,8 @@ class TableView : public QTableView {
   signals:
     void rowClicked(int row);
     void rowDoubleClicked(int row);
+    /// A key moved the mark of a table that is chosen from.
+    void rowMarked(int row);
     /// Arrows and page keys come as 38, 40, 33, 34, every other key as its character code.
     void keyCode(int code);
     void scrolledTo(int topRow);
@@ -43,6 +45,9 @@ class TableView : public QTableView {
     bool viewportEvent(QEvent* event) override;
 
   private:
+    /// The table is chosen from: its form says "sceglie".
+    [[nodiscard]] bool choosing() const;
+    void pressChoosingKey(QKeyEvent& event);
     void fitColumns();
     void fitRows();
     void measureTexts() const;

@@ -225,6 +225,11 @@ void Archive::rollbackCommand() noexcept {
         file->rollbackCommand();
 }
 
+void Archive::undoSoFar() noexcept {
+    if (Database* const file = databases_.front().get(); file != nullptr)
+        file->undoSoFar();
+}
+
 TabellaLetta Archive::tabella(const QString& name) {
     Recordset records(archive(), {name, {}, {}});
     TabellaLetta table;

@@ -94,6 +94,8 @@ class Archive {
     void beginCommand() { archive().beginCommand(); }
     void commitCommand() { archive().commitCommand(); }
     void rollbackCommand() noexcept;
+    void storeSoFar() { archive().storeSoFar(); }
+    void undoSoFar() noexcept;
 
     [[nodiscard]] TabellaLetta tabella(const QString& name);
     [[nodiscard]] QStringList indici(const QString& table) { return archive().indici(table); }

@@ -200,6 +200,10 @@ void Database::commitCommand() {
         throw StoreError(StoreError::Kind::Other, path_, QStringLiteral("nessun comando in corso"));
     if (--depth_ > 0)
         return;
+    storeSoFar();
+}
+
+void Database::storeSoFar() {
     std::optional<StoreError> failure = std::exchange(spoiled_, std::nullopt);
     if (!failure && inTransaction()) {
         const int result = sqlite3_exec(connection_.get(), "COMMIT", nullptr, nullptr, nullptr);
@@ -229,6 +233,11 @@ void Database::rollbackNow() noexcept {
         set->annullato();
     tables_.clear();
     translations_.clear();
+}
+
+void Database::undoSoFar() noexcept {
+    rollbackNow();
+    spoiled_.reset();
 }
 
 bool Database::inTransaction() const {

@@ -73,6 +73,10 @@ class Database {
     void commitCommand();
     /// Undoes all that the outermost command wrote; it can only be rolled back from there on.
     void rollbackCommand() noexcept;
+    /// Stores what the running command has written so far; it goes on. Throws as commitCommand.
+    void storeSoFar();
+    /// Undoes what the running command has written since then; it goes on with a clean sheet.
+    void undoSoFar() noexcept;
     [[nodiscard]] bool inTransaction() const;
 
     void aggiunge(LiveSet& set);

@@ -9,8 +9,10 @@ namespace vanzer {
 
 namespace {
 
+constexpr qint64 cellsPerRow = 64; // of the keys; no grid is wider
+
 qint64 cellKey(int row, int column) {
-    return static_cast<qint64>(row) * 64 + column;
+    return static_cast<qint64>(row) * cellsPerRow + column;
 }
 
 const QString emptyCell;
@@ -57,7 +59,7 @@ void Grid::setRows(int rows) {
     if (tell)
         model_->beginRemoveRows({}, rows - 1, old - 2);
     cells_.resize(static_cast<std::size_t>(rows));
-    std::erase_if(marked_, [rows](qint64 key) { return key / 64 >= rows; });
+    std::erase_if(marked_, [rows](qint64 key) { return key / cellsPerRow >= rows; });
     keepInside();
     if (tell)
         model_->endRemoveRows();
@@ -113,6 +115,21 @@ void Grid::copyRow(int from, int to, int firstColumn) {
 void Grid::clearRow(int row, int firstColumn) {
     for (int c = firstColumn; c < columns_; ++c)
         setCell(row, c, {});
+}
+
+void Grid::removeRow(int row) {
+    if (row < 1 || row >= rows())
+        return;
+    setRedraw(false);
+    cells_.erase(cells_.begin() + row);
+    cells_.emplace_back();
+    std::unordered_set<qint64> moved;
+    for (const qint64 key : marked_) {
+        if (key / cellsPerRow != row)
+            moved.insert(key / cellsPerRow > row ? key - cellsPerRow : key);
+    }
+    marked_ = std::move(moved);
+    setRedraw(true);
 }
 
 void Grid::clearCells() {

@@ -36,6 +36,8 @@ class Grid : public Control {
     /// Copies the cells from `firstColumn` on of one row over those of another.
     void copyRow(int from, int to, int firstColumn);
     void clearRow(int row, int firstColumn);
+    /// Takes a row from 1 on out; those below it move up, and an empty one comes in at the end.
+    void removeRow(int row);
     /// Empties all cells, the head row's too.
     void clearCells();
 

@@ -24,12 +24,15 @@ class MessageBoxes {
     [[nodiscard]] virtual int show(const QString& text, const QString& title, Pulsanti buttons, Icona icon) = 0;
 };
 
+/// Who asks before a file that is there already is overwritten.
+enum class Ricopertura { ChiedeIlDialogo, ChiedeIlComando };
+
 class FileDialogs {
   public:
     virtual ~FileDialogs() = default;
     /// The chosen path; empty is a cancel. The filter is written "Name|*.ext".
     [[nodiscard]] virtual QString open(const QString& filter) = 0;
-    [[nodiscard]] virtual QString save(const QString& filter) = 0;
+    [[nodiscard]] virtual QString save(const QString& filter, Ricopertura overwriting) = 0;
 };
 
 class Clock {

@@ -49,6 +49,10 @@ const std::array workingRows{
     Colonna{9, u"Data", 550, none},   Colonna{10, u"Ore", 550, none},       Colonna{11, u"Note", 1000, Sinistra},
     Colonna{12, nullptr, 1100, none},
 };
+const std::array destinationsToChoose{
+    Colonna{0, u"Num", 450, none},     Colonna{1, u"Mèta", 3000, none}, Colonna{2, u"Nazione", 2300, none},
+    Colonna{3, u"Record", 1000, none}, Colonna{4, nullptr, 300, none},
+};
 
 void layOut(Grid& grid, std::span<const Colonna> columns) {
     for (const Colonna& c : columns) {
@@ -96,6 +100,10 @@ void ImpostaGriglia(Form& form, int n) {
     case 5: layOut(form.mfgCopia, workingRows); break;
     default: break;
     }
+}
+
+void ImpostaListaScambio(Grid& list) {
+    layOut(list, destinationsToChoose);
 }
 
 void SelezioneGriglia(Form& form, int riga, int rigaFine, int colonna, int colonnaFine) {

@@ -1,4 +1,4 @@
-// The uses of the two grids: heads, widths and alignments of each, and the selection of a block of cells.
+// The uses of the grids: heads, widths and alignments of each, and the selection of a block of cells.
 #pragma once
 
 #include "window/form.h"
@@ -13,6 +13,9 @@ void ImpostaGriglia(Form& form, int n);
 inline void ImpostaGriglia(Form& form, Disposizione d) {
     ImpostaGriglia(form, static_cast<int>(d));
 }
+
+/// Lays out a list of destinations to be exchanged.
+void ImpostaListaScambio(Grid& list);
 
 /// Selects a block of the table; rows and columns are kept inside it, an end column above 20 means the last one. A row
 /// above the visible part comes into view.

@@ -4,6 +4,7 @@
 
 #include "core/place_name.h"
 #include "core/text.h"
+#include "exchange/exchange_screen.h"
 #include "guide/guide_screen.h"
 #include "help/help_screen.h"
 #include "itinerary/leg_editor_screen.h"
@@ -102,6 +103,16 @@ void wirePrinting(Form& form) {
     }
 }
 
+void wireExchange(Form& form) {
+    form.cmdExport.onClick = wired(form, cmdExport_Click);
+    for (int i = 0; i < 2; ++i) {
+        form.cmdImportExport(i).onClick = wired(form, cmdImportExport_Click, i);
+        form.mfgImExp(i).onClick = wired(form, mfgImExp_Click, i);
+        form.cmdTutto(i).onClick = wired(form, cmdTutto_Click, i);
+        form.cmdImExp(i).onClick = wired(form, cmdImExp_Click, i);
+    }
+}
+
 void wireHelp(Form& form) {
     form.cmdHelpGenerico.onClick = wired(form, cmdHelpGenerico_Click);
     form.cmdHelpTotale1.onClick = wired(form, cmdHelpTotale1_Click);
@@ -153,6 +164,7 @@ void wire(Form& form) {
     wireLegEditor(form);
     wireGuide(form);
     wirePrinting(form);
+    wireExchange(form);
     wireHelp(form);
     wireKeys(form);
 }
@@ -164,6 +176,8 @@ void layOutWindow(Form& form) {
     for (const int hidden : {23, 18, 24, 25, 1, 22, 12, 17, 19, 16})
         form.frmframe(hidden).setVisible(false);
     form.cmdConverte.setVisible(false);
+    for (Button* const button : {&form.cmdImExp(0), &form.cmdTutto(0), &form.cmdTutto(1)})
+        button->setEnabled(false);
     form.lblAutore.setCaption(product);
     const Geometria base = form.txtBase.geometria();
     form.txtPerc.place(base.left, base.top, 0, base.height);

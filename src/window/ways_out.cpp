@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "exchange/exchange_screen.h"
 #include "guide/guide_screen.h"
 #include "reports/print_screen.h"
 #include "window/destination_screen.h"
@@ -26,6 +27,8 @@ void rinunciaAllaScelta(Form& form) {
     const auto* const open = std::ranges::find_if(choices, [](const Button* b) { return b->reachable(); });
     if (form.stato.StampaInCorso)
         chiedeDiInterrompereLaStampa(form);
+    else if (form.stato.ScambioInCorso)
+        chiedeDiInterrompereLoScambio(form);
     else if (open != std::end(choices))
         (*open)->click();
     else if (form.cmbRicercaTappa.reachable() && form.cmdFine.reachable())
@@ -34,6 +37,8 @@ void rinunciaAllaScelta(Form& form) {
         RinunciaRicercaGuida(form);
     else if (form.cmbRicerca.reachable())
         RinunciaRicerca(form);
+    else if (form.cmdImExp(1).reachable())
+        form.cmdImExp(1).click();
 }
 
 } // namespace vanzer

@@ -1,9 +1,11 @@
 #include "desktop_fixture.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSettings>
+#include <QTimer>
 
 #include "desktop/fields.h"
 
@@ -93,6 +95,23 @@ void DesktopTest::tabTo(const char* name) {
     for (int i = 0; i < controls && focusName() != QLatin1StringView(name); ++i)
         key(Qt::Key_Tab);
     ASSERT_EQ(focusName().toStdString(), name);
+}
+
+void DesktopTest::withFile(const QString& path, const std::function<void()>& work) {
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, [&answer, &path] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr)
+            return;
+        answer.stop();
+        dialog->findChild<QLineEdit*>()->setText(path);
+        QTest::keyClick(dialog, Qt::Key_Return);
+    });
+    answer.start(20);
+    work();
+    // The dialog took the focus; keys are for the window again once it has it back.
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
 }
 
 void DesktopTest::storeTrip(int legs) {

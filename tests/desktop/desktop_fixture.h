@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -67,6 +68,9 @@ class DesktopTest : public ::testing::Test {
     void tab(int times = 1);
     /// Tab until the widget of that name has the focus; a failure when it never gets it.
     void tabTo(const char* name);
+
+    /// Does `work`; the file dialog that it opens gets this path.
+    void withFile(const QString& path, const std::function<void()>& work);
 
     /// A destination and its legs, put into the archive with the models alone.
     void storeTrip(int legs);

@@ -1,6 +1,4 @@
 // A trip and its guide printed from the window by keys alone.
-#include <QFileDialog>
-#include <QLineEdit>
 #include <QListView>
 #include <QProcess>
 
@@ -27,17 +25,7 @@ class PrintByKeyboard : public DesktopTest {
     void printTo(const QString& path) {
         find("lstStampanti")->setFocus();
         key(Qt::Key_End);
-        QTimer answer;
-        QObject::connect(&answer, &QTimer::timeout, [&answer, &path] {
-            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            if (dialog == nullptr)
-                return;
-            answer.stop();
-            dialog->findChild<QLineEdit*>()->setText(path);
-            QTest::keyClick(dialog, Qt::Key_Return);
-        });
-        answer.start(20);
-        letter('s');
+        withFile(path, [this] { letter('s'); });
     }
 
     [[nodiscard]] static QString textOfPdf(const QString& path) {

@@ -19,7 +19,7 @@ inline constexpr double mmPerPoint = 25.4 / 72;
 class QueuedFiles : public FileDialogs {
   public:
     QString open(const QString& /*filter*/) override { return {}; }
-    QString save(const QString& filter) override {
+    QString save(const QString& filter, Ricopertura /*overwriting*/) override {
         filters << filter;
         return answers.isEmpty() ? QString() : answers.takeFirst();
     }

@@ -86,6 +86,10 @@ class Scene {
     void click(int row) {
         program_.window().binder().input([this, row] { program_.form().mfgTab.clickRow(row); });
     }
+    /// In the exchange: of the list's destinations the one in that row goes over.
+    void moveDestination(int row) {
+        program_.window().binder().input([this, row] { program_.form().mfgImExp(0).clickRow(row); });
+    }
     void scrollTo(int row) {
         program_.window().binder().input([this, row] { program_.form().mfgTab.setTopRow(row); });
     }
@@ -144,6 +148,13 @@ const std::array shots{
              calculate(scene);
              scene.choosePrinter();
              scene.press("cmdSelStampante_0");
+         }},
+    Shot{"scambio", smallest, false, false,
+         [](Scene& scene) {
+             scene.press("cmdExport");
+             scene.press("cmdImportExport_0");
+             for (const int row : {1, 2})
+                 scene.moveDestination(row);
          }},
     Shot{"scuro", usual, false, true, calculate},
 };

@@ -1,0 +1,325 @@
+#include "exchange/choice_screen.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QDir>
+
+#include "core/collation.h"
+#include "core/text.h"
+#include "core/text_file.h"
+#include "exchange/iei_file.h"
+#include "window/destination_screen.h"
+#include "window/grid_layouts.h"
+#include "window/modes.h"
+
+namespace vanzer {
+
+namespace {
+
+constexpr int righeMinime = 15;
+/// A name is at most 30 characters; what a broken file has in its place isn't shown whole.
+constexpr qsizetype lunghezzaCella = 255;
+
+const QString metaCampo = QStringLiteral("Localita");
+const QString nazioneCampo = QStringLiteral("Nazione");
+const QString codiceCampo = QStringLiteral("CodiceMeta");
+
+int firstEmptyRow(const Grid& list) {
+    int row = 1;
+    while (row < list.rows() && !list.cell(row, scambioMeta).isEmpty())
+        ++row;
+    return row;
+}
+
+void sortByName(Grid& list) {
+    struct Entry {
+        std::string name;
+        int row;
+    };
+    std::vector<Entry> order;
+    for (int r = 1; r < list.rows(); ++r)
+        order.push_back({list.cell(r, scambioMeta).toStdString(), r});
+    const auto before = [](const Entry& a, const Entry& b) { return confronta(a.name, b.name) < 0; };
+    if (std::ranges::is_sorted(order, before))
+        return;
+    std::ranges::stable_sort(order, before);
+    const int row = list.row();
+    const int rowSel = list.rowSel();
+    const int topRow = list.topRow();
+    const SenzaRidisegno quiet(list);
+    Grid::Rows rows = list.takeContents();
+    Grid::Rows sorted;
+    for (const Entry& entry : order)
+        sorted.push_back(std::move(rows[static_cast<std::size_t>(entry.row - 1)]));
+    list.setContents(std::move(sorted));
+    list.select(row, list.col(), rowSel, list.colSel());
+    list.setTopRow(topRow);
+}
+
+void numberRows(Grid& list) {
+    for (int r = 1; r < list.rows(); ++r) {
+        if (const QString number = QString::number(r); list.cell(r, scambioNumero) != number)
+            list.setCell(r, scambioNumero, number);
+    }
+}
+
+/// False for a row without a destination.
+bool moveCurrentRow(Grid& from, Grid& to) {
+    const int row = from.row();
+    if (from.cell(row, scambioMeta).isEmpty())
+        return false;
+    to.setRows(to.rows() + 2);
+    const int free = firstEmptyRow(to);
+    for (int c = scambioMeta; c < to.columns(); ++c)
+        to.setCell(free, c, from.cell(row, c));
+    from.removeRow(row);
+    return true;
+}
+
+void chooseForExport(Form& form) {
+    form.lblExLista.setCaption(QStringLiteral("Mète in memoria (da selezionare)"));
+    form.lblExSelez.setCaption(QStringLiteral("Lista delle mète selezionate per l'EXPORT"));
+    form.cmdImExp(0).setCaption(QStringLiteral("Esporta"));
+    if (!CaricaListaMete(form))
+        form.messaggio(QStringLiteral("Non ci sono altre mète da esportare..."));
+    AzzeraPercentuale(form);
+    AggiornaPulsantiImportExport(form);
+    form.setFocus(form.mfgImExp(0));
+}
+
+QString captionOfAll(int count) {
+    return QStringLiteral("<--- Tutti [%1]").arg(count);
+}
+
+/// The destinations of a file, into the second list.
+class ElencoDelFile {
+  public:
+    explicit ElencoDelFile(Form& form)
+        : form_(form), list_(form.mfgImExp(1)),
+          reader_({QStringList(), campiDellaTabella(form, store::MeteVanzer), QStringList(), QStringList()}) {}
+
+    /// False when the user gave up.
+    bool legge() {
+        RigheTesto lines(leggeFileScambio(form_));
+        ScambioInCorso running(form_);
+        form_.stato.PercentualeTotale = static_cast<double>(lines.lunghezza());
+        form_.lblElaborazione.setCaption(QStringLiteral("Esportazione mète"));
+        double done = 0;
+        while (lines.prossima()) {
+            done += static_cast<double>(lines.riga().size());
+            if (!running.avanza(done))
+                return false;
+            riga(lines.riga());
+        }
+        return true;
+    }
+
+  private:
+    /// The first line of the destinations is their head, all others are destinations.
+    void riga(QStringView line) {
+        section_ = sezioneDellaRiga(line, section_);
+        if (section_ != nessunaSezione)
+            form_.lblElaborazione.setCaption(QStringLiteral("Esportazione tabella ") + store::TabelleNomi(section_) +
+                                             QStringLiteral("in corso"));
+        if (section_ != store::MeteVanzer || line.isEmpty())
+            return;
+        if (std::exchange(headRead_, true)) {
+            reader_.leggeRecord(line);
+            voce();
+        } else {
+            reader_.leggeTesta(line, section_);
+        }
+    }
+
+    void voce() {
+        ++count_;
+        if (count_ >= list_.rows() - 2)
+            list_.setRows(list_.rows() + 3);
+        list_.setCell(count_, scambioMeta, cella(metaCampo));
+        list_.setCell(count_, scambioNazione, cella(nazioneCampo));
+        list_.setCell(count_, scambioCodice, cella(codiceCampo));
+        form_.cmdTutto(1).setCaption(captionOfAll(count_));
+        form_.yield();
+    }
+
+    QString cella(const QString& field) {
+        return reader_.colonna(reader_.campo(field)).left(lunghezzaCella).toString();
+    }
+
+    Form& form_;
+    Grid& list_;
+    LettoreIei reader_;
+    int section_ = nessunaSezione;
+    bool headRead_ = false;
+    int count_ = 0;
+};
+
+void chooseForImport(Form& form) {
+    form.lblExLista.setCaption(QStringLiteral("Lista delle mète selezionate per l'Import"));
+    form.lblExSelez.setCaption(QStringLiteral("Lista delle mete nel file selezionato"));
+    form.cmdImExp(0).setCaption(QStringLiteral("Importa"));
+    AggiornaPulsantiImportExport(form);
+    const QString path = form.ports.files.open(filtroScambio.toString());
+    if (path.isEmpty())
+        return;
+    form.stato.NomeFileScambio = path;
+    const bool whole = ElencoDelFile(form).legge();
+    if (form.chiusa)
+        return;
+    if (!whole) {
+        form.mfgImExp(1).setRows(1);
+        form.messaggio(QStringLiteral("Lettura del file interrotta!"));
+    }
+    AzzeraPercentuale(form);
+    AggiornaPulsantiImportExport(form);
+    form.setFocus(form.mfgImExp(1));
+}
+
+} // namespace
+
+bool importaScelto(const Form& form) {
+    return uguale(form.cmdImExp(0).caption(), u"importa");
+}
+
+void PreparaExportImport(Form& form) {
+    AzzeraSchermo(form);
+    form.frmframe(22).setVisible(true);
+    form.cmdExport.setEnabled(false);
+    for (Grid* const list : form.mfgImExp) {
+        list->clearCells();
+        ImpostaListaScambio(*list);
+        list->setRows(righeMinime);
+    }
+    AggiornaPulsantiImportExport(form);
+}
+
+bool CaricaListaMete(Form& form) {
+    store::Archive& archive = form.archivio;
+    archive.RecordSetImposta(0, store::Archive::slotAppoggio,
+                             {store::TabelleNomi(store::MeteVanzer), {}, {{metaCampo}}});
+    store::Recordset& records = archive.Rs(store::Archive::slotAppoggio);
+    Grid& list = form.mfgImExp(0);
+    const SenzaRidisegno quiet(list);
+    int count = 0;
+    for (; !records.EOF_(); records.MoveNext()) {
+        ++count;
+        if (count >= list.rows() - 2)
+            list.setRows(count + 3);
+        list.setCell(count, scambioNumero, QString::number(count));
+        list.setCell(count, scambioMeta, records.testo(metaCampo));
+        list.setCell(count, scambioNazione, records.testo(nazioneCampo));
+        list.setCell(count, scambioCodice, records.testo(codiceCampo));
+    }
+    return count > 0;
+}
+
+void TrasferisceMetaImportExport(Form& form, int n) {
+    Grid& from = form.mfgImExp(n);
+    if (!moveCurrentRow(from, form.mfgImExp(1 - n)))
+        return;
+    AggiornaPulsantiImportExport(form);
+    form.setFocus(from);
+}
+
+void AggiornaPulsantiImportExport(Form& form) {
+    for (Grid* const list : form.mfgImExp)
+        list->setRows(firstEmptyRow(*list));
+    const auto entries = [&form](int n) { return form.mfgImExp(n).rows() - 1; };
+    form.cmdTutto(0).setCaption(QStringLiteral("[%1] Tutti --->").arg(entries(0)));
+    form.cmdTutto(1).setCaption(captionOfAll(entries(1)));
+    for (int n = 0; n < 2; ++n)
+        form.cmdTutto(n).setEnabled(entries(n) > 0);
+    form.cmdImExp(0).setEnabled(entries(importaScelto(form) ? 0 : 1) > 0);
+    form.cmdImExp(1).setEnabled(true);
+    for (Grid* const list : form.mfgImExp) {
+        sortByName(*list);
+        list->setRows(Maggiore(list->rows(), righeMinime));
+        numberRows(*list);
+    }
+}
+
+QStringList campiDellaTabella(Form& form, int table) {
+    const auto stored = form.archivio.Db(0)->tabella(store::TabelleNomi(table));
+    QStringList names;
+    for (const store::FieldDef& field : stored->campi)
+        names += field.name;
+    return names;
+}
+
+QStringList codiciDellaLista(const Grid& list) {
+    QStringList codes;
+    for (int r = 1; r < list.rows(); ++r) {
+        if (const QString& code = list.cell(r, scambioCodice); !Trim(code).isEmpty())
+            codes << code;
+    }
+    return codes;
+}
+
+QByteArray leggeFileScambio(Form& form) {
+    const QString& name = form.stato.NomeFileScambio;
+    FileLetto file = leggeFile(QDir(form.archivio.PercorsoProgramma).filePath(name));
+    if (file.errore.isEmpty())
+        return std::move(file.contenuto);
+    form.messaggio(
+        QStringLiteral("Il file %1 non può essere letto:\n%2").arg(QDir::toNativeSeparators(name), file.errore),
+        QStringLiteral("Import"), Icona::Avviso);
+    return {};
+}
+
+ScambioInCorso::ScambioInCorso(Form& form) : form_(form) {
+    form_.stato.ScambioInCorso = true;
+    form_.stato.InterrompiCalcolo = false;
+    form_.frmframe(22).setEnabled(false);
+}
+
+ScambioInCorso::~ScambioInCorso() {
+    form_.stato.ScambioInCorso = false;
+    form_.frmframe(22).setEnabled(true);
+}
+
+bool ScambioInCorso::avanza(double done) {
+    form_.stato.PercentualeCorrente = done;
+    AggiornaPercentuale(form_);
+    return !form_.stato.InterrompiCalcolo && !form_.chiusa;
+}
+
+void cmdExport_Click(Form& form) {
+    form.frmframe(22).setVisible(true);
+}
+
+void cmdImportExport_Click(Form& form, int n) {
+    PreparaExportImport(form);
+    n == 0 ? chooseForExport(form) : chooseForImport(form);
+}
+
+void mfgImExp_Click(Form& form, int n) {
+    TrasferisceMetaImportExport(form, n);
+}
+
+void cmdTutto_Click(Form& form, int n) {
+    Grid& from = form.mfgImExp(n);
+    form.stato.PercentualeTotale = from.rows() - 1;
+    form.stato.PercentualeCorrente = 0;
+    form.lblElaborazione.setCaption(QStringLiteral("Lettura mète"));
+    while (!from.cell(1, scambioMeta).isEmpty()) {
+        ++form.stato.PercentualeCorrente;
+        AggiornaPercentuale(form);
+        if (form.chiusa)
+            return;
+        from.select(1, from.col(), 1, from.colSel());
+        if (!moveCurrentRow(from, form.mfgImExp(1 - n)))
+            break;
+    }
+    form.setFocus(from);
+    AzzeraPercentuale(form);
+    AggiornaPulsantiImportExport(form);
+}
+
+void chiedeDiInterrompereLoScambio(Form& form) {
+    if (form.domanda(QStringLiteral("Vuoi interrompere l'elaborazione?"), QStringLiteral("Fine Lavoro"),
+                     Pulsanti::SiNo) == rispostaSi)
+        form.stato.InterrompiCalcolo = true;
+}
+
+} // namespace vanzer

@@ -1,0 +1,136 @@
+#include "exchange/exchange_screen.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include "core/text.h"
+#include "exchange/choice_screen.h"
+#include "exchange/export_screen.h"
+#include "exchange/import_screen.h"
+#include "itinerary/leg_table_screen.h"
+#include "window/confirmation.h"
+#include "window/destination_screen.h"
+#include "window/modes.h"
+
+namespace vanzer {
+
+namespace {
+
+/// Lists and buttons are at the user's again.
+void giveListsBack(Form& form) {
+    for (Grid* const list : form.mfgImExp)
+        list->setEnabled(true);
+    AggiornaPulsantiImportExport(form);
+}
+
+/// Keeps the lists and the buttons off while the work is done.
+class ElenchiSpenti {
+  public:
+    explicit ElenchiSpenti(Form& form) : form_(form) {
+        for (Grid* const list : form.mfgImExp)
+            list->setEnabled(false);
+        for (const auto* const buttons : {&form.cmdImExp, &form.cmdTutto}) {
+            for (Button* const button : *buttons)
+                button->setEnabled(false);
+        }
+    }
+    ~ElenchiSpenti() { giveListsBack(form_); }
+    ElenchiSpenti(const ElenchiSpenti&) = delete;
+    ElenchiSpenti& operator=(const ElenchiSpenti&) = delete;
+
+  private:
+    Form& form_;
+};
+
+void EsciExportImport(Form& form) {
+    form.mfgTab.setVisible(true);
+    form.frmframe(28).setVisible(true);
+    form.frmframe(22).setVisible(false);
+    form.cmdExport.setEnabled(true);
+}
+
+/// What the work may have changed is shown anew.
+void reloadMainScreen(Form& form) {
+    form.stato.CodiceMeta.clear();
+    CaricaDatiAnagraficiMeta(form);
+    CaricaTappeItinerario(form);
+    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+}
+
+void importDestinations(Form& form) {
+    BoxConferma(form, QStringLiteral("IM"));
+    if (form.stato.Risposta == rispostaSi) {
+        AttivaFormMeta(form, true);
+        form.frmframe(22).setVisible(false);
+        const ElenchiSpenti off(form);
+        const EsitoImport result = leggeFileImport(form);
+        if (form.chiusa)
+            return;
+        AzzeraPercentuale(form);
+        EsciExportImport(form);
+        if (result.riuscito)
+            form.messaggio(result.testo);
+        else
+            form.messaggio(result.testo, QStringLiteral("Import"), Icona::Avviso);
+    } else {
+        giveListsBack(form);
+    }
+    reloadMainScreen(form);
+}
+
+/// The file that the destinations go to; false when the user wants none.
+bool askForFile(Form& form) {
+    form.stato.NomeFileScambio = form.ports.files.save(filtroScambio.toString(), Ricopertura::ChiedeIlComando);
+    const QString& name = form.stato.NomeFileScambio;
+    if (name.isEmpty())
+        return false;
+    const QFileInfo file(QDir(form.archivio.PercorsoProgramma).filePath(name));
+    const QString shown = QDir::toNativeSeparators(name);
+    if (!file.exists())
+        return true;
+    if (file.canonicalFilePath() == QFileInfo(form.archivio.PercorsoDatabase).canonicalFilePath()) {
+        form.messaggio(QStringLiteral("Il file %1 è l'archivio: scegliere un altro nome.").arg(shown),
+                       QStringLiteral("Export"), Icona::Avviso);
+        return false;
+    }
+    return form.domanda(QStringLiteral("Il file %1 esiste già: ricopro?").arg(shown),
+                        QStringLiteral("File %1 esistente").arg(shown), Pulsanti::SiNo) == rispostaSi;
+}
+
+void exportDestinations(Form& form) {
+    if (!askForFile(form)) {
+        giveListsBack(form);
+        return;
+    }
+    BoxConferma(form, QStringLiteral("EX"));
+    if (form.stato.Risposta == rispostaSi) {
+        const ElenchiSpenti off(form);
+        scriveFileScambio(form);
+        if (form.chiusa)
+            return;
+    }
+    giveListsBack(form);
+    AzzeraPercentuale(form);
+    reloadMainScreen(form);
+}
+
+} // namespace
+
+void cmdImExp_Click(Form& form, int n) {
+    if (n != 0) {
+        form.frmframe(22).setVisible(false);
+        reloadMainScreen(form);
+        return;
+    }
+    for (Button* const button : form.cmdImExp)
+        button->setEnabled(false);
+    if (importaScelto(form)) {
+        importDestinations(form);
+    } else if (uguale(form.cmdImExp(0).caption(), u"esporta")) {
+        exportDestinations(form);
+    } else {
+        reloadMainScreen(form);
+    }
+}
+
+} // namespace vanzer

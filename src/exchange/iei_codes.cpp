@@ -1,0 +1,66 @@
+#include "exchange/iei_codes.h"
+
+#include <vector>
+
+#include <QSet>
+
+#include "core/text.h"
+
+namespace vanzer {
+
+namespace {
+
+QString key(QStringView code) {
+    return code.toString().toCaseFolded();
+}
+
+} // namespace
+
+CodiciMete::Esito CodiciMete::assegna(const QStringList& stored, const QStringList& chosen, int longest) {
+    codes_.clear();
+    QString all;
+    QSet<QString> taken;
+    for (const QString& code : stored) {
+        all += key(code) + u'\\';
+        taken.insert(key(code));
+    }
+    std::vector<bool> inUse;
+    for (const QString& code : chosen) {
+        failed_ = code;
+        if (code.size() > longest)
+            return Esito::CodiceTroppoLungo;
+        inUse.push_back(all.contains(key(code)));
+        if (!inUse.back())
+            taken.insert(key(code));
+    }
+    double highest = stored.isEmpty() ? 0 : Val(stored.last());
+    for (std::size_t i = 0; i < inUse.size(); ++i) {
+        const QString& code = chosen[static_cast<qsizetype>(i)];
+        QString fresh = code;
+        if (inUse[i]) {
+            failed_ = code;
+            // More numbers than are taken: one of them is free, unless so few digits don't make as many.
+            qsizetype attempts = taken.size() + 1;
+            do {
+                if (attempts-- == 0)
+                    return Esito::CodiciEsauriti;
+                fresh = Zero(++highest, static_cast<int>(code.size()));
+            } while (taken.contains(key(fresh)));
+            taken.insert(key(fresh));
+        }
+        codes_[key(code)].push_back(fresh);
+    }
+    return Esito::Assegnati;
+}
+
+const QString* CodiciMete::nuovo(QStringView old) const {
+    const auto found = codes_.constFind(key(old));
+    return found == codes_.cend() || found->empty() ? nullptr : &found->front();
+}
+
+void CodiciMete::rifiuta(QStringView old) {
+    if (const auto found = codes_.find(key(old)); found != codes_.end() && !found->empty())
+        found->pop_front();
+}
+
+} // namespace vanzer

@@ -1,0 +1,135 @@
+#include "exchange/iei_file.h"
+
+#include <algorithm>
+
+#include "core/text.h"
+
+namespace vanzer {
+
+namespace {
+
+/// By section; element 0 is nobody's.
+constexpr std::array<char16_t, ultimaSezione + 1> separators{u'\0', u'\x00ff', u'\x00fe', u'\x00fd'};
+
+/// A line gives no more columns than this.
+constexpr std::size_t mostColumns = 100;
+
+bool leftOut(QChar c) {
+    return c == u'"' || (c < u' ' && c != u'\t');
+}
+
+QStringView withoutBlanks(QStringView text) {
+    while (text.startsWith(u' '))
+        text = text.mid(1);
+    while (text.endsWith(u' '))
+        text.chop(1);
+    return text;
+}
+
+} // namespace
+
+QChar separatoreIei(int section) {
+    return separators[static_cast<std::size_t>(section)];
+}
+
+int sezioneDellaRiga(QStringView line, int before) {
+    for (int section = primaSezione; section <= ultimaSezione; ++section) {
+        if (line.contains(separatoreIei(section)))
+            return section;
+    }
+    return before;
+}
+
+LettoreIei::Riga LettoreIei::legge(QStringView line) {
+    const int section = sezioneDellaRiga(line, section_);
+    if (section == nessunaSezione)
+        return Riga::Estranea;
+    if (section != section_) {
+        leggeTesta(line, section);
+        return Riga::Testa;
+    }
+    leggeRecord(line);
+    return Riga::Record;
+}
+
+void LettoreIei::leggeTesta(QStringView line, int section) {
+    section_ = section;
+    leggeRecord(line);
+    tieColumns();
+}
+
+void LettoreIei::leggeRecord(QStringView line) {
+    line_ = line;
+    divided_ = false;
+}
+
+int LettoreIei::campo(QStringView name) const {
+    const auto found = std::ranges::find_if(campi(), [name](const QString& field) { return uguale(field, name); });
+    return found == campi().end() ? -1 : static_cast<int>(found - campi().begin());
+}
+
+/// As every line of columns is taken apart: without quotes and control characters, the columns trimmed.
+void LettoreIei::divide() {
+    QStringView work = line_;
+    if (std::any_of(work.begin(), work.end(), leftOut)) {
+        cleaned_ = line_.toString();
+        cleaned_.removeIf(leftOut);
+        work = cleaned_;
+    }
+    const QChar separator = separatoreIei(section_);
+    columns_.clear();
+    for (bool more = true; more && columns_.size() < mostColumns;) {
+        const qsizetype end = work.indexOf(separator);
+        more = end >= 0;
+        columns_.push_back(withoutBlanks(more ? work.left(end) : work));
+        work = work.mid(more ? end + 1 : work.size());
+    }
+    divided_ = true;
+}
+
+void LettoreIei::tieColumns() {
+    divide();
+    columnOf_.assign(static_cast<std::size_t>(campi().size()), 0);
+    for (std::size_t column = 1; column < std::min(columns_.size() + 1, mostColumns); ++column) {
+        const int field = campo(columns_[column - 1]);
+        if (field >= 0 && columnOf_[static_cast<std::size_t>(field)] == 0)
+            columnOf_[static_cast<std::size_t>(field)] = static_cast<int>(column);
+    }
+}
+
+bool LettoreIei::haColonna(int field) const {
+    return field >= 0 && columnOf_[static_cast<std::size_t>(field)] > 0;
+}
+
+QStringView LettoreIei::colonna(int field) {
+    if (!haColonna(field))
+        return {};
+    if (!divided_)
+        divide();
+    const auto column = static_cast<std::size_t>(columnOf_[static_cast<std::size_t>(field)]);
+    return column <= columns_.size() ? columns_[column - 1] : QStringView();
+}
+
+QString LettoreIei::valore(int field) {
+    const QStringView text = colonna(field);
+    return text.isEmpty() ? QStringLiteral(" ") : text.toString();
+}
+
+void ScrittoreIei::testa(int section, const QStringList& names) {
+    for (const QString& name : names)
+        testo(section, name);
+    fineRiga();
+}
+
+void ScrittoreIei::testo(int section, const QString& text) {
+    const QString trimmed = Trim(text);
+    contents_ += toCodePage(trimmed);
+    contents_ += static_cast<char>(separatoreIei(section).unicode());
+    auto letters = lettereSostituite(trimmed);
+    if (letters.empty() || told_.contains(trimmed))
+        return;
+    told_.insert(trimmed);
+    replaced_.push_back({trimmed, std::move(letters)});
+}
+
+} // namespace vanzer

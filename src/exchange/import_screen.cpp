@@ -1,0 +1,201 @@
+#include "exchange/import_screen.h"
+
+#include <QDir>
+
+#include "core/text.h"
+#include "core/text_file.h"
+#include "exchange/choice_screen.h"
+#include "exchange/iei_import.h"
+#include "window/destination.h"
+#include "window/modes.h"
+
+namespace vanzer {
+
+namespace {
+
+constexpr qsizetype longestShown = 40;
+const QString perLeLettere =
+    QStringLiteral(", oppure un suo testo contiene una delle lettere ÿ þ ý, che nel file separano i campi.");
+const QString niente = QStringLiteral("\n\nNon è stato inserito nulla.");
+
+CampiIei fieldsOfTables(Form& form) {
+    CampiIei fields;
+    for (int section = primaSezione; section <= ultimaSezione; ++section)
+        fields[static_cast<std::size_t>(section)] = campiDellaTabella(form, section);
+    return fields;
+}
+
+store::Recordset wholeTable(Form& form, int table) {
+    return {*form.archivio.Db(0), {store::TabelleNomi(table), {}, {}}};
+}
+
+/// The import's way into the archive.
+class ArchivioAperto final : public ArchivioImport {
+  public:
+    explicit ArchivioAperto(Form& form) : form_(form) {
+        for (int table = primaSezione; table <= ultimaSezione; ++table)
+            tables_[static_cast<std::size_t>(table)] = wholeTable(form, table);
+    }
+
+    bool haMeta(const QString& localita) override {
+        using enum store::Condition::Test;
+        const QString field = QStringLiteral("Localita");
+        form_.archivio.RecordSetImposta(
+            0, store::Archive::slotAppoggio,
+            {store::TabelleNomi(store::MeteVanzer), {{field, Like, LikeTesto(localita)}}, {}});
+        store::Recordset& found = form_.archivio.Rs(store::Archive::slotAppoggio);
+        while (!found.EOF_() && !stessaMeta(found.testo(field), localita))
+            found.MoveNext();
+        return !found.EOF_();
+    }
+
+    void aggiunge(int section, std::vector<QString>& values) override {
+        store::Recordset& table = tables_[static_cast<std::size_t>(section)];
+        table.AddNew();
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            const int field = static_cast<int>(i);
+            const bool text = table.kind(field) == store::FieldKind::Text;
+            if (section == store::MeteVanzer && !text)
+                continue;
+            table.scrive(field, values[i]);
+            if (text && values[i].size() > table.size(field))
+                values[i] = table.testo(field);
+        }
+        table.Update();
+    }
+
+    std::vector<QString> luoghiTappe() override {
+        std::vector<QString> places;
+        store::Recordset legs = wholeTable(form_, store::Itinerari);
+        const int place = legs.campo(u"Localita");
+        for (; !legs.EOF_(); legs.MoveNext()) {
+            form_.yield();
+            if (QString name = legs.testo(place); !name.isEmpty())
+                places.push_back(std::move(name));
+        }
+        return places;
+    }
+
+    std::vector<Voce> vociGuida() override {
+        std::vector<Voce> entries;
+        store::Recordset guide = wholeTable(form_, store::GuidaCitta);
+        const int place = guide.campo(u"Localita");
+        const int description = guide.campo(u"Descrizione");
+        for (; !guide.EOF_(); guide.MoveNext()) {
+            form_.yield();
+            if (guide.haValore(place) && guide.haValore(description))
+                entries.push_back({guide.testo(place), guide.testo(description)});
+        }
+        return entries;
+    }
+
+  private:
+    Form& form_;
+    std::array<store::Recordset, ultimaSezione + 1> tables_;
+};
+
+QStringList storedCodes(Form& form) {
+    const QString code = QStringLiteral("CodiceMeta");
+    form.archivio.RecordSetImposta(0, store::Archive::slotAppoggio,
+                                   {store::TabelleNomi(store::MeteVanzer), {}, {{code}}});
+    store::Recordset& records = form.archivio.Rs(store::Archive::slotAppoggio);
+    QStringList codes;
+    for (; !records.EOF_(); records.MoveNext())
+        codes << records.testo(code);
+    return codes;
+}
+
+/// The most characters of a code.
+int codeLength(Form& form) {
+    const auto table = form.archivio.Db(0)->tabella(store::TabelleNomi(store::MeteVanzer));
+    return table->campi[static_cast<std::size_t>(table->campo(u"CodiceMeta"))].size;
+}
+
+QString cantAssign(const CodiciMete& codes, CodiciMete::Esito result) {
+    const QString code = codes.colpevole().left(longestShown);
+    if (result == CodiciMete::Esito::CodiciEsauriti)
+        return QStringLiteral("Per la mèta che nel file ha il codice %1 non c'è più nessun codice libero.").arg(code) +
+               niente;
+    return QStringLiteral("Il codice di mèta %1 è troppo lungo: il file è danneggiato%2").arg(code, perLeLettere) +
+           niente;
+}
+
+QString damaged(const Form& form, int line, int section) {
+    return QStringLiteral("La riga %1 del file %2 dovrebbe elencare i campi della tabella %3: il file è danneggiato%4")
+               .arg(QString::number(line), QDir::toNativeSeparators(form.stato.NomeFileScambio),
+                    store::TabelleNomi(section), perLeLettere) +
+           niente;
+}
+
+QString report(const ContatoriImport& counts) {
+    QString text = QStringLiteral("Sono stati inseriti:\n\n%1 mète/itinerari;\n%2 tratti stradali;\n%3 "
+                                  "guide/informazioni località.\n\n")
+                       .arg(migliaiaZero(counts.meteInserite), migliaiaZero(counts.tappeInserite),
+                            migliaiaZero(counts.vociInserite));
+    if (counts.meteScartate > 0 || counts.vociScartate > 0)
+        text += QStringLiteral("Sono stati scartati:\n\n%1 mète/itinerari;\n%2 guide/informazioni località,\n\nperchè "
+                               "già presenti nel database con lo stesso nome.")
+                    .arg(migliaiaZero(counts.meteScartate), migliaiaZero(counts.vociScartate));
+    return text;
+}
+
+/// Reads the whole file; what it leaves unstored is the caller's.
+class Lettura {
+  public:
+    Lettura(Form& form, CodiciMete codes)
+        : form_(form), archive_(form), import_(fieldsOfTables(form), std::move(codes), archive_),
+          lines_(leggeFileScambio(form)), running_(form) {}
+
+    /// Empty when all was read, else the reason why not.
+    QString legge() {
+        form_.stato.PercentualeTotale = static_cast<double>(lines_.lunghezza());
+        form_.lblElaborazione.setCaption(QStringLiteral("Importazione mète"));
+        AbilitaPulsantiMeta(form_, QStringLiteral("Es"));
+        double done = 0;
+        while (lines_.prossima()) {
+            done += static_cast<double>(lines_.riga().size());
+            if (!running_.avanza(done))
+                return QStringLiteral("Import interrotto!") + niente;
+            if (!import_.riga(lines_.riga()))
+                return damaged(form_, lines_.numero(), import_.sezione());
+            if (import_.sezione() != nessunaSezione)
+                form_.lblElaborazione.setCaption(QStringLiteral("Importazione ") +
+                                                 store::TabelleNomi(import_.sezione()));
+        }
+        return {};
+    }
+
+    [[nodiscard]] const ContatoriImport& contatori() const { return import_.contatori(); }
+
+  private:
+    Form& form_;
+    ArchivioAperto archive_;
+    Importazione import_;
+    RigheTesto lines_;
+    ScambioInCorso running_;
+};
+
+} // namespace
+
+EsitoImport leggeFileImport(Form& form) {
+    try {
+        CodiciMete codes;
+        const CodiciMete::Esito assigned =
+            codes.assegna(storedCodes(form), codiciDellaLista(form.mfgImExp(0)), codeLength(form));
+        if (assigned != CodiciMete::Esito::Assegnati)
+            return {false, cantAssign(codes, assigned)};
+        Lettura reading(form, std::move(codes));
+        QString failure = reading.legge();
+        if (failure.isEmpty()) {
+            form.archivio.storeSoFar();
+            return {true, report(reading.contatori())};
+        }
+        form.archivio.undoSoFar();
+        return {false, failure};
+    } catch (const store::StoreError& error) {
+        form.archivio.undoSoFar();
+        return {false, error.testo() + niente};
+    }
+}
+
+} // namespace vanzer

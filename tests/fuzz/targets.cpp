@@ -1,0 +1,21 @@
+#include <cstdio>
+#include <cstdlib>
+
+#include "fuzz_target.h"
+#include "iei_target.h"
+
+namespace vanzer::fuzz {
+
+std::span<const Target> targets() {
+    static constexpr Target all[] = {{"iei", readExchangeFile}};
+    return all;
+}
+
+void promise(bool kept, const QString& what) {
+    if (kept)
+        return;
+    std::fprintf(stderr, "broken promise: %s\n", what.toLocal8Bit().constData());
+    std::abort();
+}
+
+} // namespace vanzer::fuzz
