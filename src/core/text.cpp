@@ -5,6 +5,8 @@
 #include <charconv>
 #include <cmath>
 
+#include <QList>
+
 namespace vanzer {
 
 QString Left(const QString& s, qsizetype n) {
@@ -24,13 +26,16 @@ QString Right(const QString& s, qsizetype n) {
 }
 
 QString Trim(const QString& s) {
-    qsizetype first = 0;
-    qsizetype last = s.size();
-    while (first < last && s[first] == u' ')
-        ++first;
-    while (last > first && s[last - 1] == u' ')
-        --last;
-    return first == 0 && last == s.size() ? s : s.mid(first, last - first);
+    const QStringView trimmed = Trim(QStringView(s));
+    return trimmed.size() == s.size() ? s : trimmed.toString();
+}
+
+QStringView Trim(QStringView s) {
+    while (s.startsWith(u' '))
+        s = s.mid(1);
+    while (s.endsWith(u' '))
+        s.chop(1);
+    return s;
 }
 
 double Val(QStringView s) {
@@ -200,6 +205,13 @@ QString minuscolo(const QString& s) {
     for (QChar& c : result)
         c = c.toLower();
     return result;
+}
+
+QString senzaMaiuscole(const QString& s) {
+    QList<uint> characters = s.toUcs4();
+    for (uint& c : characters)
+        c = QChar::toCaseFolded(c);
+    return QString::fromUcs4(reinterpret_cast<const char32_t*>(characters.constData()), characters.size());
 }
 
 bool uguale(QStringView a, QStringView b) {

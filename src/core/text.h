@@ -19,6 +19,7 @@ namespace vanzer {
 [[nodiscard]] QString Right(const QString& s, qsizetype n);
 /// Without blanks at either end; tabs and line breaks stay.
 [[nodiscard]] QString Trim(const QString& s);
+[[nodiscard]] QStringView Trim(QStringView s);
 
 /// The longest leading number: blanks are skipped, the point is the decimal mark, 0 for anything else.
 [[nodiscard]] double Val(QStringView s);
@@ -76,6 +77,9 @@ namespace vanzer {
 /// Upper and lower case letter by letter, so that the length never changes.
 [[nodiscard]] QString maiuscolo(const QString& s);
 [[nodiscard]] QString minuscolo(const QString& s);
+
+/// With case put away: two texts are equal without regard to case exactly if these are equal.
+[[nodiscard]] QString senzaMaiuscole(const QString& s);
 
 /// Equal, beginning, holding: all without regard to case.
 [[nodiscard]] bool uguale(QStringView a, QStringView b);

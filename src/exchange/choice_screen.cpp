@@ -316,10 +316,4 @@ void cmdTutto_Click(Form& form, int n) {
     AggiornaPulsantiImportExport(form);
 }
 
-void chiedeDiInterrompereLoScambio(Form& form) {
-    if (form.domanda(QStringLiteral("Vuoi interrompere l'elaborazione?"), QStringLiteral("Fine Lavoro"),
-                     Pulsanti::SiNo) == rispostaSi)
-        form.stato.InterrompiCalcolo = true;
-}
-
 } // namespace vanzer

@@ -108,8 +108,9 @@ void exportDestinations(Form& form) {
         scriveFileScambio(form);
         if (form.chiusa)
             return;
+    } else {
+        giveListsBack(form);
     }
-    giveListsBack(form);
     AzzeraPercentuale(form);
     reloadMainScreen(form);
 }

@@ -16,7 +16,4 @@ void cmdTutto_Click(Form& form, int n);
 /// 0 carries the export or import out, 1 leaves.
 void cmdImExp_Click(Form& form, int n);
 
-/// Asks whether the import or export that is running is to be given up.
-void chiedeDiInterrompereLoScambio(Form& form);
-
 } // namespace vanzer

@@ -18,14 +18,6 @@ bool leftOut(QChar c) {
     return c == u'"' || (c < u' ' && c != u'\t');
 }
 
-QStringView withoutBlanks(QStringView text) {
-    while (text.startsWith(u' '))
-        text = text.mid(1);
-    while (text.endsWith(u' '))
-        text.chop(1);
-    return text;
-}
-
 } // namespace
 
 QChar separatoreIei(int section) {
@@ -81,7 +73,7 @@ void LettoreIei::divide() {
     for (bool more = true; more && columns_.size() < mostColumns;) {
         const qsizetype end = work.indexOf(separator);
         more = end >= 0;
-        columns_.push_back(withoutBlanks(more ? work.left(end) : work));
+        columns_.push_back(Trim(more ? work.left(end) : work));
         work = work.mid(more ? end + 1 : work.size());
     }
     divided_ = true;

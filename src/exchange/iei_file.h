@@ -26,9 +26,9 @@
 namespace vanzer {
 
 /// The number of a section is that of its table.
-inline constexpr int primaSezione = 1;
-inline constexpr int ultimaSezione = 3;
-inline constexpr int nessunaSezione = 99;
+enum SezioneIei { sezioneMete = 1, sezioneTappe, sezioneGuida, nessunaSezione = 99 };
+inline constexpr int primaSezione = sezioneMete;
+inline constexpr int ultimaSezione = sezioneGuida;
 
 /// The names of the fields of the three tables, by section from 1; element 0 is empty.
 using CampiIei = std::array<QStringList, ultimaSezione + 1>;

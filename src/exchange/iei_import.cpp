@@ -7,8 +7,6 @@ namespace vanzer {
 
 namespace {
 
-enum Sezione { Mete = 1, Tappe, Guida };
-
 const QString campoCodice = QStringLiteral("CodiceMeta");
 const QString campoLocalita = QStringLiteral("Localita");
 const QString campoDescrizione = QStringLiteral("Descrizione");
@@ -43,8 +41,8 @@ bool Importazione::riga(QStringView line) {
     case LettoreIei::Riga::Record: break;
     }
     switch (reader_.sezione()) {
-    case Mete: meta(); break;
-    case Tappe: tappa(); break;
+    case sezioneMete: meta(); break;
+    case sezioneTappe: tappa(); break;
     default: voce();
     }
     return true;
@@ -54,7 +52,7 @@ bool Importazione::testa() {
     code_ = reader_.campo(campoCodice);
     place_ = reader_.campo(campoLocalita);
     description_ = reader_.campo(campoDescrizione);
-    return reader_.haColonna(reader_.sezione() == Guida ? place_ : code_);
+    return reader_.haColonna(reader_.sezione() == sezioneGuida ? place_ : code_);
 }
 
 void Importazione::meta() {

@@ -5,6 +5,8 @@
 
 #include <QList>
 
+#include "core/text.h"
+
 namespace vanzer {
 
 namespace {
@@ -35,13 +37,6 @@ QString modelloLuogo(const QString& place) {
         if (!plainLetter(c))
             c = U'?';
     }
-    return QString::fromUcs4(reinterpret_cast<const char32_t*>(characters.constData()), characters.size());
-}
-
-QString senzaMaiuscole(const QString& text) {
-    QList<uint> characters = text.toUcs4();
-    for (uint& c : characters)
-        c = folded(c);
     return QString::fromUcs4(reinterpret_cast<const char32_t*>(characters.constData()), characters.size());
 }
 

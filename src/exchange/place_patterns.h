@@ -20,9 +20,6 @@ namespace vanzer {
 /// The pattern of a place as a query has it: each character that isn't a letter A to Z becomes "?".
 [[nodiscard]] QString modelloLuogo(const QString& place);
 
-/// A text with case put away: two texts are the same to every pattern exactly if these are equal.
-[[nodiscard]] QString senzaMaiuscole(const QString& text);
-
 class LuoghiPerModello {
   public:
     /// The number of the text, from 0; a text that differs in case alone has the same one.

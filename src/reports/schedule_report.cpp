@@ -95,10 +95,6 @@ bool opensStop(const QString& cell) {
     return Trim(Left(cell, 2)).startsWith(u'>');
 }
 
-bool isBlank(const QString& text) {
-    return std::ranges::all_of(text, [](QChar c) { return c == u' '; });
-}
-
 QString without(QString text, QStringView marks) {
     text.removeIf([marks](QChar c) { return marks.contains(c); });
     return text;
@@ -354,7 +350,7 @@ void ReportViandoria::StampaRiga(int row) {
     std::size_t firstFilled = colItinerario; // separators stand from here on in any case
     for (std::size_t j = 1; j <= printedColumns; ++j) {
         const int column = static_cast<int>(j);
-        if (!isBlank(cell_(row, column - 1))) {
+        if (!Trim(QStringView(cell_(row, column - 1))).isEmpty()) {
             if (j > colLuogo)
                 firstFilled = std::min(firstFilled, j);
             cell(row, column, x);

@@ -7,6 +7,7 @@ namespace vanzer {
 namespace {
 
 const QString allMeta = QStringLiteral("NuRiSaCmCaStItGcCiEsImEx");
+const QString fineLavoro = QStringLiteral("Fine Lavoro");
 const QString allItinerario = QStringLiteral("InAgCaRcRtCeFiMeDuAzTr");
 
 bool isAll(const QString& codes) {
@@ -133,14 +134,16 @@ void AzzeraPercentuale(Form& form) {
     AggiornaPercentuale(form);
 }
 
+void chiedeDiInterrompere(Form& form) {
+    if (form.domanda(QStringLiteral("Vuoi interrompere l'elaborazione?"), fineLavoro, Pulsanti::SiNo) == rispostaSi)
+        form.stato.InterrompiCalcolo = true;
+}
+
 void cmdEsce_Click(Form& form) {
-    const QString title = QStringLiteral("Fine Lavoro");
-    if (uguale(form.cmdEsce.caption(), u"&Stop")) {
-        if (form.domanda(QStringLiteral("Vuoi interrompere l'elaborazione?"), title, Pulsanti::SiNo) == rispostaSi)
-            form.stato.InterrompiCalcolo = true;
-    } else if (form.domanda(QStringLiteral("Vuoi chiudere la procedura?"), title, Pulsanti::SiNo) == rispostaSi) {
+    if (uguale(form.cmdEsce.caption(), u"&Stop"))
+        chiedeDiInterrompere(form);
+    else if (form.domanda(QStringLiteral("Vuoi chiudere la procedura?"), fineLavoro, Pulsanti::SiNo) == rispostaSi)
         leaveProgram(form);
-    }
 }
 
 } // namespace vanzer

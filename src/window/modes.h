@@ -25,7 +25,10 @@ void RinunciaStampa(Form& form);
 void AggiornaPercentuale(Form& form);
 void AzzeraPercentuale(Form& form);
 
-/// "&Esce" leaves the program, "&Stop" asks the running calculation to end.
+/// Asks whether what is running is to be given up: InterrompiCalcolo.
+void chiedeDiInterrompere(Form& form);
+
+/// "&Esce" leaves the program, "&Stop" asks the running work to end.
 void cmdEsce_Click(Form& form);
 
 } // namespace vanzer

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "exchange/exchange_screen.h"
 #include "guide/guide_screen.h"
 #include "reports/print_screen.h"
 #include "window/destination_screen.h"
+#include "window/modes.h"
 
 namespace vanzer {
 
@@ -28,7 +28,7 @@ void rinunciaAllaScelta(Form& form) {
     if (form.stato.StampaInCorso)
         chiedeDiInterrompereLaStampa(form);
     else if (form.stato.ScambioInCorso)
-        chiedeDiInterrompereLoScambio(form);
+        chiedeDiInterrompere(form);
     else if (open != std::end(choices))
         (*open)->click();
     else if (form.cmbRicercaTappa.reachable() && form.cmdFine.reachable())
