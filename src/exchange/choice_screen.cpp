@@ -3,11 +3,10 @@
 #include <algorithm>
 #include <utility>
 
-#include <QDir>
-
 #include "core/collation.h"
 #include "core/text.h"
 #include "core/text_file.h"
+#include "exchange/chosen_file_screen.h"
 #include "exchange/iei_file.h"
 #include "window/destination_screen.h"
 #include "window/grid_layouts.h"
@@ -101,7 +100,7 @@ class ElencoDelFile {
 
     /// False when the user gave up.
     bool legge() {
-        RigheTesto lines(leggeFileScambio(form_));
+        RigheTesto lines(leggeFileScambio(form_).value_or(QByteArray()));
         ScambioInCorso running(form_);
         form_.stato.PercentualeTotale = static_cast<double>(lines.lunghezza());
         form_.lblElaborazione.setCaption(QStringLiteral("Esportazione mète"));
@@ -254,17 +253,6 @@ QStringList codiciDellaLista(const Grid& list) {
             codes << code;
     }
     return codes;
-}
-
-QByteArray leggeFileScambio(Form& form) {
-    const QString& name = form.stato.NomeFileScambio;
-    FileLetto file = leggeFile(QDir(form.archivio.PercorsoProgramma).filePath(name));
-    if (file.errore.isEmpty())
-        return std::move(file.contenuto);
-    form.messaggio(
-        QStringLiteral("Il file %1 non può essere letto:\n%2").arg(QDir::toNativeSeparators(name), file.errore),
-        QStringLiteral("Import"), Icona::Avviso);
-    return {};
 }
 
 ScambioInCorso::ScambioInCorso(Form& form) : form_(form) {

@@ -29,9 +29,6 @@ void AggiornaPulsantiImportExport(Form& form);
 /// The codes of a list's rows that have one.
 [[nodiscard]] QStringList codiciDellaLista(const Grid& list);
 
-/// The file of the exchange as it is on the disk; one that can't be read has been told to the user and is empty.
-[[nodiscard]] QByteArray leggeFileScambio(Form& form);
-
 /// An import or export that is running: the frame is off, and the user can give it up.
 class ScambioInCorso {
   public:

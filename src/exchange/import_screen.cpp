@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "core/text_file.h"
 #include "exchange/choice_screen.h"
+#include "exchange/chosen_file_screen.h"
 #include "exchange/iei_import.h"
 #include "window/destination.h"
 #include "window/modes.h"
@@ -144,7 +145,7 @@ class Lettura {
   public:
     Lettura(Form& form, CodiciMete codes)
         : form_(form), archive_(form), import_(fieldsOfTables(form), std::move(codes), archive_),
-          lines_(leggeFileScambio(form)), running_(form) {}
+          lines_(leggeFileScambio(form).value_or(QByteArray())), running_(form) {}
 
     /// Empty when all was read, else the reason why not.
     QString legge() {

@@ -4,6 +4,7 @@
 #include "core/text.h"
 #include "itinerary/leg_editor.h"
 #include "itinerary/leg_table_screen.h"
+#include "itinerary/stretch_screen.h"
 #include "schedule/totals_screen.h"
 #include "window/destination_screen.h"
 #include "window/grid_layouts.h"
@@ -26,14 +27,6 @@ void focusPlace(Form& form) {
 
 double kmAbove(const Form& form) {
     return ValoreSenzaPunti(form.mfgTab.cell(form.stato.RigaCorrente - 1, 5));
-}
-
-QString strTipoStrada(const Serie<OptionButton>& options) {
-    for (int i = 0; i < options.count(); ++i) {
-        if (options(i).value())
-            return Mid(QStringLiteral("ASPL"), i + 1, 1);
-    }
-    return {};
 }
 
 /// The table always ends in one empty row, and in no more than that beyond its least length.
@@ -154,6 +147,14 @@ void closeLists(Form& form) {
 }
 
 } // namespace
+
+QString strTipoStrada(const Serie<OptionButton>& options) {
+    for (int i = 0; i < options.count(); ++i) {
+        if (options(i).value())
+            return Mid(QStringLiteral("ASPL"), i + 1, 1);
+    }
+    return {};
+}
 
 void cmdItinerario_Click(Form& form) {
     AttivaFormMeta(form, true);
@@ -320,9 +321,8 @@ void cmdFine_Click(Form& form) {
     const QString question = QStringLiteral("Hai chiesto di uscire dalla funzione 'Itinerari':\n\n"
                                             "Vuoi salvare le eventuali modifiche?");
     const int answer = form.domanda(question, QStringLiteral("Fine inserimento"), Pulsanti::SiNoAnnulla);
-    if (answer == rispostaSi)
-        MemorizzaTappeItinerario(form);
-    if (answer != rispostaAnnulla) {
+    const bool refused = answer == rispostaSi && !MemorizzaTappeItinerario(form);
+    if (answer != rispostaAnnulla && !refused) {
         form.frmframe(12).setVisible(false);
         form.mfgTab.setWidth(largoIntero);
         reloadDestination(form);
@@ -335,8 +335,10 @@ void cmdFine_Click(Form& form) {
 void mfgTab_Click(Form& form) {
     form.chkMeta(0).setValue(false);
     form.chkMeta(1).setValue(false);
-    form.stato.RigaCorrente = form.mfgTab.row();
+    const int clicked = form.mfgTab.row();
+    form.stato.RigaCorrente = clicked;
     AggiornaTabellaRigaCorrenteItinerario(form);
+    scegliSingolaTappa(form, clicked);
 }
 
 void mfgTab_DblClick(Form& form) {

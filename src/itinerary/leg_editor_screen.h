@@ -5,6 +5,9 @@
 
 namespace vanzer {
 
+/// The road type whose option is on: "A", "S", "P" or "L".
+[[nodiscard]] QString strTipoStrada(const Serie<OptionButton>& options);
+
 /// Enters the mode.
 void cmdItinerario_Click(Form& form);
 /// Brings the fields up to date and sets the buttons; opens the frame if that was asked for. Legs that a schedule had

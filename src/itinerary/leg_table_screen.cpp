@@ -182,11 +182,11 @@ void SettaAZeroFlaGVisto(Form& form) {
     AzzeraPercentuale(form);
 }
 
-void MemorizzaTappeItinerario(Form& form) {
+bool MemorizzaTappeItinerario(Form& form) {
     AzzeraPercentuale(form);
     if (recordsNeeded(form) > massimoTratti) {
         form.messaggio(QStringLiteral("Impossibile: l'itinerario supera 9.999 tratti!"));
-        return;
+        return false;
     }
     StatoViaggio& s = form.stato;
     CancellaTabella(form, store::Itinerari, QStringLiteral("CodiceMeta"), s.CodiceMeta);
@@ -199,6 +199,7 @@ void MemorizzaTappeItinerario(Form& form) {
     form.archivio.RecordSetImposta(0, store::Itinerari);
     storeRows(form, form.archivio.Rs(store::Itinerari));
     AzzeraPercentuale(form);
+    return true;
 }
 
 void CancellaTabella(Form& form, int table, const QString& field, const QString& value) {

@@ -14,9 +14,9 @@ void CaricaTappeItinerario(Form& form);
 /// A run through the guide begins with no mark of use set: shown here, written with the marks of the run at its end.
 void SettaAZeroFlaGVisto(Form& form);
 
-/// Replaces the stored legs of the current destination by the table's rows. More records than a destination takes are
-/// refused with a message, and what was stored stays.
-void MemorizzaTappeItinerario(Form& form);
+/// Replaces the stored legs of the current destination by the table's rows. False if these are more records than a
+/// destination takes: the user is told, and what was stored stays.
+bool MemorizzaTappeItinerario(Form& form);
 
 /// Deletes the records of a table whose field matches the value, with progress.
 void CancellaTabella(Form& form, int table, const QString& field, const QString& value);

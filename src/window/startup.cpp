@@ -5,12 +5,15 @@
 #include "core/place_name.h"
 #include "core/text.h"
 #include "exchange/exchange_screen.h"
+#include "exchange/route_screen.h"
 #include "guide/guide_screen.h"
 #include "help/help_screen.h"
+#include "itinerary/copy_screen.h"
 #include "itinerary/leg_editor_screen.h"
 #include "itinerary/leg_table_screen.h"
 #include "itinerary/list_pick_screen.h"
 #include "itinerary/return_screen.h"
+#include "itinerary/stretch_screen.h"
 #include "reports/print_screen.h"
 #include "schedule/calculation_screen.h"
 #include "schedule/stops_screen.h"
@@ -82,6 +85,18 @@ void wireLegEditor(Form& form) {
     form.mfgTab.onKeyPress = [&form](int& code) { comando(form, [&form, code] { mfgTab_KeyPress(form, code); }); };
 }
 
+void wireStretches(Form& form) {
+    form.cmdModStrada.onClick = wired(form, cmdModStrada_Click);
+    for (int i = 0; i < form.cmdTappaSEl.count(); ++i)
+        form.cmdTappaSEl(i).onClick = wired(form, cmdTappaSEl_Click, i);
+    form.cmdDuplica.onClick = wired(form, cmdDuplica_Click);
+    form.mfgCopia.onClick = wired(form, mfgCopia_Click);
+    for (int i = 0; i < 2; ++i) {
+        form.cmdAssegna(i).onClick = wired(form, cmdAssegna_Click, i);
+        form.cmdInsEsegui(i).onClick = wired(form, cmdInsEsegui_Click, i);
+    }
+}
+
 void wireGuide(Form& form) {
     form.guideRowShown = [&form] { InserisciGuida(form); };
     form.cmdSalvaRiga.onClick = wired(form, CmdSalvaRiga_Click);
@@ -111,6 +126,8 @@ void wireExchange(Form& form) {
         form.cmdTutto(i).onClick = wired(form, cmdTutto_Click, i);
         form.cmdImExp(i).onClick = wired(form, cmdImExp_Click, i);
     }
+    form.cmdMapPoint.onClick = wired(form, cmdMapPoint_Click);
+    form.cmdSelezionaMete.onClick = wired(form, cmdSelezionaMete_Click);
 }
 
 void wireHelp(Form& form) {
@@ -162,6 +179,7 @@ void wire(Form& form) {
     wireMenu(form);
     wireParameters(form);
     wireLegEditor(form);
+    wireStretches(form);
     wireGuide(form);
     wirePrinting(form);
     wireExchange(form);
@@ -176,7 +194,7 @@ void layOutWindow(Form& form) {
     for (const int hidden : {23, 18, 24, 25, 1, 22, 12, 17, 19, 16})
         form.frmframe(hidden).setVisible(false);
     form.cmdConverte.setVisible(false);
-    for (Button* const button : {&form.cmdImExp(0), &form.cmdTutto(0), &form.cmdTutto(1)})
+    for (Button* const button : {&form.cmdImExp(0), &form.cmdTutto(0), &form.cmdTutto(1), &form.cmdInsEsegui(0)})
         button->setEnabled(false);
     form.lblAutore.setCaption(product);
     const Geometria base = form.txtBase.geometria();

@@ -23,7 +23,8 @@ void chiedeDiChiudere(Form& form) {
 }
 
 void rinunciaAllaScelta(Form& form) {
-    Button* const choices[] = {&form.cmdSelStampante(1), &form.cmdEsegui(1), &form.cmdStampaGuida(1)};
+    Button* const choices[] = {&form.cmdSelStampante(1), &form.cmdEsegui(1), &form.cmdStampaGuida(1),
+                               &form.cmdInsEsegui(1)};
     const auto* const open = std::ranges::find_if(choices, [](const Button* b) { return b->reachable(); });
     if (form.stato.StampaInCorso)
         chiedeDiInterrompereLaStampa(form);
@@ -31,7 +32,7 @@ void rinunciaAllaScelta(Form& form) {
         chiedeDiInterrompere(form);
     else if (open != std::end(choices))
         (*open)->click();
-    else if (form.cmbRicercaTappa.reachable() && form.cmdFine.reachable())
+    else if ((form.cmbRicercaTappa.reachable() || form.mfgCopia.reachable()) && form.cmdFine.reachable())
         form.cmdFine.click();
     else if (form.cmbRicercaTappa.reachable() && form.stato.ModoGuida)
         RinunciaRicercaGuida(form);
@@ -39,6 +40,8 @@ void rinunciaAllaScelta(Form& form) {
         RinunciaRicerca(form);
     else if (form.cmdImExp(1).reachable())
         form.cmdImExp(1).click();
+    else if (form.cmdTappaSEl(3).reachable())
+        form.cmdTappaSEl(3).click();
 }
 
 } // namespace vanzer

@@ -9,8 +9,9 @@ namespace vanzer {
 /// The close button: "&Esce" or "&Stop" where it can be pressed, else the button that leaves the open frame.
 void chiedeDiChiudere(Form& form);
 
-/// Esc: leaves a list that was opened to pick from, with nothing picked, and the frames of a print and of the exchange;
-/// a print, an import or an export that is running may be given up. Does nothing elsewhere.
+/// Esc: leaves a list that was opened to pick from, with nothing picked, and the frames of a print, of a copy, of a
+/// stretch and of the exchange; a print, an import or an export that is running may be given up. Does nothing
+/// elsewhere.
 void rinunciaAllaScelta(Form& form);
 
 } // namespace vanzer

@@ -3,11 +3,13 @@
 
 #include "fuzz_target.h"
 #include "iei_target.h"
+#include "route_target.h"
 
 namespace vanzer::fuzz {
 
 std::span<const Target> targets() {
-    static constexpr Target all[] = {{"iei", readExchangeFile}};
+    static constexpr Target all[] = {
+        {"iei", readExchangeFile}, {"pacchetto", readRoutePackage}, {"mete", readStopFile}};
     return all;
 }
 

@@ -1,0 +1,167 @@
+#include "exchange/route_screen.h"
+
+#include "core/text.h"
+#include "exchange/chosen_file_screen.h"
+#include "exchange/itn_filter.h"
+#include "exchange/route_package.h"
+#include "itinerary/leg_editor_screen.h"
+#include "schedule/totals_screen.h"
+#include "store/schema.h"
+#include "window/modes.h"
+
+namespace vanzer {
+
+namespace {
+
+constexpr int colonnaSosta = 7;
+
+bool emptyItinerary(const Form& form) {
+    return form.mfgTab.cell(1, 1).isEmpty();
+}
+
+/// Asks for the file of an exchange; false when the user wants none.
+bool askForFile(Form& form, const QString& filter) {
+    form.stato.NomeFileScambio = form.ports.files.open(filter);
+    return !form.stato.NomeFileScambio.isEmpty();
+}
+
+void SalvaRigaItinerarioImportato(Form& form, const TappaImportata& leg) {
+    Grid& grid = form.mfgTab;
+    const int r = form.stato.RigaCorrente++;
+    if (grid.rows() < r + 2)
+        grid.setRows(r + 5);
+    grid.setCell(r, 0, QString::number(r));
+    grid.setCell(r, 1, leg.luogo);
+    grid.setCell(r, 2, leg.strade);
+    grid.setCell(r, 3, QString::number(leg.km));
+    grid.setCell(r, 4, leg.autostrada ? QStringLiteral("A") : QStringLiteral("P"));
+    grid.setCell(r, 5, QString::number(leg.kmProgressivo));
+    if (leg.traghetto)
+        grid.setCell(r, colonnaSosta, QStringLiteral("00:") + form.cmbOra(8).text() + u':' + form.cmbMin(8).text());
+}
+
+void writeLegs(Form& form, const PercorsoImportato& route) {
+    const SenzaRidisegno quiet(form.mfgTab);
+    if (route.formato != Pacchetto::Autoroute)
+        form.mfgTab.setRows(1);
+    for (const TappaImportata& leg : route.tappe)
+        SalvaRigaItinerarioImportato(form, leg);
+}
+
+std::vector<RigaPercorso> readLegs(const Grid& grid) {
+    std::vector<RigaPercorso> legs;
+    for (int r = 1; r < grid.rows(); ++r)
+        legs.push_back({grid.cell(r, 1), grid.cell(r, 2), chilometri(grid.cell(r, 3))});
+    return legs;
+}
+
+/// The table as the filter leaves it: the legs that stay, with their other cells, and the last row as it was.
+void writeFolded(Grid& grid, const std::vector<RigaRimasta>& left) {
+    std::vector<bool> marked;
+    for (const RigaRimasta& leg : left)
+        marked.push_back(grid.marked(leg.riga, colonnaSosta));
+    Grid::Rows rows = grid.takeContents();
+    Grid::Rows folded;
+    for (const RigaRimasta& leg : left) {
+        auto& cells = folded.emplace_back(std::move(rows[static_cast<std::size_t>(leg.riga - 1)]));
+        cells.resize(Maggiore(static_cast<int>(cells.size()), 4));
+        cells[1] = leg.cella.luogo;
+        cells[2] = leg.cella.strade;
+        cells[3] = QString::number(leg.cella.km);
+    }
+    folded.push_back(std::move(rows.back()));
+    grid.setContents(std::move(folded));
+    for (std::size_t i = 0; i < marked.size(); ++i)
+        grid.setMarked(static_cast<int>(i) + 1, colonnaSosta, marked[i]);
+}
+
+void renumber(Grid& grid) {
+    for (int r = 1; r < grid.rows(); ++r) {
+        if (!grid.cell(r, 0).isEmpty() || !grid.cell(r, 1).isEmpty())
+            grid.setCell(r, 0, QString::number(r));
+    }
+}
+
+/// Most characters of a stored place.
+int placeSize(Form& form) {
+    const auto table = form.archivio.Db(0)->tabella(store::TabelleNomi(store::Itinerari));
+    return table->campi[static_cast<std::size_t>(table->campo(u"Localita"))].size;
+}
+
+/// Reads the route list at NomeFileScambio into the table. A file of no known shape changes nothing.
+void CaricaDaPacchetto(Form& form) {
+    form.frmframe(14).setEnabled(true);
+    StatoViaggio& s = form.stato;
+    s.RigaCorrente = 1;
+    const auto contents = leggeFileScambio(form);
+    if (!contents)
+        return;
+    const PercorsoImportato route = leggePacchetto(*contents);
+    if (route.formato == Pacchetto::Sconosciuto) {
+        form.messaggio(QStringLiteral("Attenzione!\n\nFile non riconosciuto!\n\n"
+                                      "Attualmente sono riconosciuti:\n. MapPoint\n. Autoroute 66\n"
+                                      ". Route 2000-2001\n\nContatta l'autore per l'eventuale abilitazione."));
+        return;
+    }
+    writeLegs(form, route);
+    CalcolaKmTempiItinerario(form);
+    AggiornaNumeroRiga(form);
+    s.PulsantiItinerario = QStringLiteral("all");
+    AbilitaPulsantiMeta(form, QStringLiteral("ZZ"));
+}
+
+/// Folds the legs down to the stops of the file at NomeFileScambio; totals are left to the next calculation.
+void SelezionaMeteValide(Form& form) {
+    form.lstMete.clear();
+    const bool unnumbered = form.domanda(QStringLiteral("Vuoi eliminare la numerazione finale delle tappe?"),
+                                         QStringLiteral("Numerazione tappe"), Pulsanti::SiNo) == rispostaSi;
+    const auto contents = leggeFileScambio(form);
+    if (!contents)
+        return;
+    const QStringList stops = leggeMete(*contents);
+    form.lstMete.setEntries(stops);
+    Grid& grid = form.mfgTab;
+    const SenzaRidisegno quiet(grid);
+    std::vector<RigaPercorso> legs = readLegs(grid);
+    segnaMete(legs, stops);
+    const QString lastPlace = legs.back().luogo;
+    legs.pop_back();
+    writeFolded(grid, piegaTappe(legs, placeSize(form)));
+    grid.setCell(grid.rows() - 1, 1, lastPlace);
+    if (unnumbered) {
+        for (int r = 1; r < grid.rows(); ++r)
+            grid.setCell(r, 1, senzaNumerazione(grid.cell(r, 1)));
+    }
+    renumber(grid);
+}
+
+} // namespace
+
+void cmdMapPoint_Click(Form& form) {
+    if (!emptyItinerary(form)) {
+        form.messaggio(QStringLiteral("Impossibile: sono presenti delle tappe!\n\n"
+                                      "E' ammesso solo con itinerario vuoto.\n\n"
+                                      "Se vuoi procedere con l'import da MapPoint,\n"
+                                      "è necessario cancellare l'itinerario."));
+        return;
+    }
+    if (!askForFile(form, QStringLiteral("File Excel salvato in modalità testo (*.TXT)|*.txt")))
+        return;
+    form.frmframe(14).setEnabled(false);
+    CaricaDaPacchetto(form);
+}
+
+void cmdSelezionaMete_Click(Form& form) {
+    if (emptyItinerary(form)) {
+        form.messaggio(QStringLiteral("Impossibile: non sono presenti delle tappe!"),
+                       QStringLiteral("Revisione tappe"));
+        return;
+    }
+    if (!askForFile(form, QStringLiteral("File export ITN in modalità testo (*.cvs)|*.csv")))
+        return;
+    form.frmframe(14).setEnabled(false);
+    SelezionaMeteValide(form);
+    form.frmframe(14).setEnabled(true);
+}
+
+} // namespace vanzer

@@ -1,0 +1,215 @@
+#include "itinerary/copy_screen.h"
+
+#include "core/text.h"
+#include "itinerary/copy.h"
+#include "itinerary/leg_editor_screen.h"
+#include "schedule/totals_screen.h"
+#include "store/schema.h"
+#include "window/confirmation.h"
+#include "window/grid_layouts.h"
+#include "window/modes.h"
+
+namespace vanzer {
+
+namespace {
+
+constexpr int scegliMeta = 3;
+constexpr int scegliTappa = 4;
+constexpr int largoAccantoAllaCopia = 7950;
+constexpr int ultimaColonna = 6;
+constexpr int colonnaCodice = 3;
+
+store::Recordset records(Form& form, int table, std::vector<store::Condition> where, const char16_t* order) {
+    return {*form.archivio.Db(0), {store::TabelleNomi(table), std::move(where), {{QString::fromUtf16(order)}}}};
+}
+
+store::Recordset legsOf(Form& form, const QString& code) {
+    return records(form, store::Itinerari, {{QStringLiteral("CodiceMeta"), store::Condition::Test::Equal, code}},
+                   u"Sequenza");
+}
+
+/// Of neighbours of one name the first is looked at; those without legs are left out.
+void listDestinations(Form& form, store::Recordset& destinations) {
+    Grid& list = form.mfgCopia;
+    const SenzaRidisegno quiet(list);
+    int row = 0;
+    QString previous;
+    for (; !destinations.EOF_(); destinations.MoveNext()) {
+        const QString name = Trim(destinations.testo(u"Localita"));
+        const QString code = destinations.testo(u"CodiceMeta");
+        if (uguale(name, std::exchange(previous, name)) || legsOf(form, code).EOF_())
+            continue;
+        if (++row >= list.rows() - 2)
+            list.setRows(list.rows() + 4);
+        list.setCell(row, 0, QString::number(row));
+        list.setCell(row, 1, name);
+        list.setCell(row, 2, Trim(destinations.testo(u"Nazione")));
+        list.setCell(row, colonnaCodice, code);
+    }
+    list.setRows(row + 1);
+}
+
+/// cmdInsEsegui(0) needs both ends.
+void enableInsertion(Form& form) {
+    form.cmdInsEsegui(0).setEnabled(!form.txtInsNum(0).text().isEmpty() && !form.txtInsNum(1).text().isEmpty());
+}
+
+void listLegs(Form& form, const QString& code) {
+    static constexpr std::array<const char16_t*, 6> fields{u"Sequenza",   u"Localita",   u"NomeStrada",
+                                                           u"Chilometri", u"TipoStrada", u"TempoSosta"};
+    Grid::Rows rows;
+    for (store::Recordset legs = legsOf(form, code); !legs.EOF_(); legs.MoveNext()) {
+        auto& cells = rows.emplace_back();
+        for (const char16_t* const field : fields)
+            cells.push_back(Trim(legs.testo(QString::fromUtf16(field))));
+        cells[3] = migliaia(Val(cells[3]));
+    }
+    form.mfgCopia.setContents(std::move(rows));
+}
+
+/// The destination in the row at hand becomes the source.
+void RicercaDiUnaSingolaTappa(Form& form) {
+    const Grid& list = form.mfgCopia;
+    const int row = form.stato.RigaCopia;
+    const QString code = list.cell(row, colonnaCodice);
+    form.frmframe(19).setVisible(true);
+    form.txtInsTappa(0).setText(list.cell(row, 1));
+    form.txtInsTappa(1).setText(form.txtTappa.text());
+    for (const auto* const fields : {&form.txtInsNum, &form.txtInsLoc, &form.txtInsNS, &form.txtInsKm}) {
+        for (TextBox* const field : *fields)
+            field->setText({});
+    }
+    enableInsertion(form);
+    form.stato.PulsantiMeta = QStringLiteral("zz");
+    listLegs(form, code);
+    form.stato.RigaCopia = 1;
+}
+
+/// Shows the stretch as it is chosen so far.
+void SelezioneTappeDuplica(Form& form) {
+    const auto number = [&form](int i) { return arrotonda(Val(form.txtInsNum(i).text())); };
+    const Blocco chosen = bloccoScelto(number(0), number(1), form.stato.RigaCopia);
+    form.mfgCopia.select(chosen.prima, 0, chosen.ultima, ultimaColonna);
+    enableInsertion(form);
+}
+
+std::vector<RigaSorgente> readSource(const Grid& list) {
+    std::vector<RigaSorgente> legs;
+    for (int r = 1; r < list.rows(); ++r)
+        legs.push_back({list.cell(r, 1), list.cell(r, 2), list.cell(r, 3), list.cell(r, 4), list.cell(r, 5)});
+    return legs;
+}
+
+void insertStretch(Form& form) {
+    form.mfgCopia.setRows(form.mfgCopia.rows() + 1);
+    Grid& grid = form.mfgTab;
+    int& row = form.stato.RigaCorrente;
+    const std::vector<RigaSorgente> legs =
+        copiaTratto(readSource(form.mfgCopia), arrotonda(Val(form.txtInsNum(0).text())),
+                    arrotonda(Val(form.txtInsNum(1).text())), form.chkInsSoste.value());
+    const SenzaRidisegno quiet(grid);
+    if (!grid.cell(row, 1).isEmpty())
+        ++row;
+    InserisciRigheItinerario(form, static_cast<int>(legs.size()));
+    --row;
+    for (const RigaSorgente& leg : legs) {
+        ++row;
+        if (row + 2 > grid.rows())
+            grid.setRows(row + 4);
+        grid.setCell(row, 0, QString::number(row));
+        grid.setCell(row, 1, leg.luogo);
+        grid.setCell(row, 2, leg.strada);
+        grid.setCell(row, 3, leg.km);
+        grid.setCell(row, 4, leg.tipoStrada);
+        grid.setCell(row, 7, leg.sosta);
+    }
+}
+
+void showSource(Form& form, bool on) {
+    form.mfgCopia.setVisible(on);
+    form.frmframe(17).setVisible(on);
+}
+
+void RinunciaDuplicaItinerario(Form& form) {
+    PulisciFinestre(form);
+    form.mfgTab.setWidth(largoAccantoAllaCopia);
+    form.frmframe(12).setVisible(true);
+    form.stato.PulsantiItinerario = QStringLiteral("all");
+    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+}
+
+} // namespace
+
+void cmdDuplica_Click(Form& form) {
+    StatoViaggio& s = form.stato;
+    s.ModoRicerca = scegliMeta;
+    while (s.RigaCorrente > 0 && form.mfgTab.cell(s.RigaCorrente, 1).isEmpty())
+        --s.RigaCorrente;
+    s.RigaCorrente = Maggiore(1, s.RigaCorrente);
+    SelezionaRiga(form, s.RigaCorrente);
+    AggiornaNumeroRiga(form);
+    s.PulsantiItinerario = QStringLiteral("Fi");
+    AbilitaPulsantiMeta(form, QStringLiteral("zz"));
+    form.cmdMapPoint.setEnabled(false);
+    form.mfgCopia.clearCells();
+    form.mfgCopia.setRows(s.RigheMinime);
+    ImpostaGriglia(form, Disposizione::Mete);
+    store::Recordset destinations = records(form, store::MeteVanzer, {}, u"Localita");
+    if (destinations.EOF_()) {
+        form.messaggio(QStringLiteral("Non trovate mète memorizzate"));
+        return;
+    }
+    listDestinations(form, destinations);
+    showSource(form, true);
+    form.setFocus(form.mfgCopia);
+}
+
+void mfgCopia_Click(Form& form) {
+    StatoViaggio& s = form.stato;
+    const int row = form.mfgCopia.row();
+    if (row < 1 || form.mfgCopia.cell(row, 1).isEmpty())
+        return;
+    s.RigaCopia = row;
+    if (s.ModoRicerca == scegliMeta) {
+        form.frmframe(12).setEnabled(false);
+        ImpostaGriglia(form, Disposizione::TappeDaCopiare);
+        RicercaDiUnaSingolaTappa(form);
+        s.ModoRicerca = scegliTappa;
+    } else if (s.ModoRicerca == scegliTappa) {
+        SelezioneTappeDuplica(form);
+    }
+}
+
+void cmdAssegna_Click(Form& form, int i) {
+    const Grid& list = form.mfgCopia;
+    const int row = form.stato.RigaCopia;
+    form.txtInsLoc(i).setText(list.cell(row, 1));
+    form.txtInsNS(i).setText(list.cell(row, 2));
+    form.txtInsKm(i).setText(list.cell(row, 3));
+    form.txtInsNum(i).setText(list.cell(row, 0));
+    SelezioneTappeDuplica(form);
+}
+
+void cmdInsEsegui_Click(Form& form, int i) {
+    if (i != 0) {
+        RinunciaDuplicaItinerario(form);
+        form.frmframe(12).setEnabled(true);
+        return;
+    }
+    BoxConferma(form, QStringLiteral("IP"));
+    if (form.stato.Risposta == rispostaSi) {
+        showSource(form, false);
+        insertStretch(form);
+        form.frmframe(12).setEnabled(true);
+        form.frmframe(19).setVisible(false);
+    } else {
+        showSource(form, true);
+    }
+    form.stato.PulsantiItinerario = QStringLiteral("all");
+    AbilitaPulsantiComando(form);
+    CalcolaKmTempiItinerario(form);
+    AggiornaNumeroRiga(form);
+    form.yield();
+}
+
+} // namespace vanzer

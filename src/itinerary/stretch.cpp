@@ -1,0 +1,46 @@
+#include "itinerary/stretch.h"
+
+#include "core/text.h"
+
+namespace vanzer {
+
+namespace {
+
+int rowOf(const QString& end) {
+    return arrotonda(Val(end.section(u' ', 0, 0)));
+}
+
+} // namespace
+
+QString testoEstremo(int riga, const QString& numero, const QString& tipoStrada, const QString& luogo) {
+    constexpr int digits = 4;
+    const QString number = numero.isEmpty() ? QString::number(riga) : numero;
+    return number.rightJustified(digits, u'0') + u' ' + tipoStrada + u' ' + luogo;
+}
+
+void Tratto::sceglie(bool comePrima, const QString& estremo) {
+    QString& chosen = comePrima ? prima : ultima;
+    QString& other = comePrima ? ultima : prima;
+    chosen = estremo;
+    if (other.isEmpty() || daRiga() > aRiga())
+        other = estremo;
+}
+
+int Tratto::daRiga() const {
+    return rowOf(prima);
+}
+
+int Tratto::aRiga() const {
+    return rowOf(ultima);
+}
+
+int Tratto::tappe() const {
+    return scelto() ? Maggiore(aRiga() - daRiga() + 1, 0) : 0;
+}
+
+QString conModifiche(QString mappa, int da, int a) {
+    mappa = mappa.leftJustified(a, u'0');
+    return mappa.replace(da - 1, a - da + 1, QString(a - da + 1, u'1'));
+}
+
+} // namespace vanzer

@@ -1,0 +1,138 @@
+#include "itinerary/stretch_screen.h"
+
+#include "core/text.h"
+#include "itinerary/leg_editor_screen.h"
+#include "itinerary/leg_table_screen.h"
+#include "itinerary/stretch.h"
+#include "window/destination_screen.h"
+#include "window/grid_layouts.h"
+#include "window/modes.h"
+
+namespace vanzer {
+
+namespace {
+
+constexpr int largoIntero = 14280;
+constexpr int largoAccantoAlTratto = 11500;
+constexpr int righeSopra = 12;
+
+Tratto shownStretch(const Form& form) {
+    return {form.txttappasel(0).text(), form.txttappasel(1).text()};
+}
+
+void showEnds(Form& form, const Tratto& stretch) {
+    form.txttappasel(0).setText(stretch.prima);
+    form.txttappasel(1).setText(stretch.ultima);
+}
+
+QString endAtRow(const Form& form, int row) {
+    const Grid& grid = form.mfgTab;
+    return testoEstremo(row, grid.cell(row, 0), grid.cell(row, 4), grid.cell(row, 1));
+}
+
+void choose(Form& form, bool asFirst) {
+    Tratto stretch = shownStretch(form);
+    stretch.sceglie(asFirst, endAtRow(form, form.mfgTab.row()));
+    showEnds(form, stretch);
+}
+
+void assign(Form& form) {
+    Grid& grid = form.mfgTab;
+    const Tratto stretch = shownStretch(form);
+    const int last = stretch.aRiga();
+    if (stretch.tappe() > 0) {
+        const SenzaRidisegno quiet(grid);
+        for (int r = stretch.daRiga(); r <= last; ++r)
+            grid.setCell(r, 4, strTipoStrada(form.optTStrada));
+        form.stato.MappaModifiche = conModifiche(form.stato.MappaModifiche, stretch.daRiga(), last);
+    }
+    SelezionaRiga(form, last + 1);
+    if (last > grid.topRow() - righeSopra)
+        grid.setTopRow(Maggiore(last - righeSopra, 1));
+    const QString next = endAtRow(form, grid.row());
+    showEnds(form, {next, next});
+}
+
+void close(Form& form) {
+    form.chkTappaSingola.setValue(false);
+    form.stato.MappaModifiche.clear();
+    form.frmframe(1).setVisible(false);
+    form.mfgTab.setWidth(largoIntero);
+}
+
+void leave(Form& form) {
+    if (form.stato.MappaModifiche.contains(u'1') &&
+        form.domanda(QStringLiteral("Vuoi salvare le modifiche apportate?"), QStringLiteral("Salvataggio dati"),
+                     Pulsanti::SiNo) == rispostaSi &&
+        !MemorizzaTappeItinerario(form))
+        return;
+    close(form);
+    CaricaDatiAnagraficiMeta(form);
+    CaricaTappeItinerario(form);
+}
+
+void save(Form& form) {
+    if (MemorizzaTappeItinerario(form))
+        form.stato.MappaModifiche.replace(u'1', u'0');
+}
+
+void showStretch(Form& form) {
+    const Tratto stretch = shownStretch(form);
+    form.cmdTappaSEl(2).setEnabled(stretch.scelto());
+    form.txttappasel(2).setText(QString::number(stretch.tappe()));
+    if (stretch.daRiga() < stretch.aRiga())
+        SelezioneGriglia(form, stretch.daRiga(), stretch.aRiga(), 0, 99);
+}
+
+/// A schedule that stands in the table makes room for the legs again; true when the table holds them.
+bool legsInTable(Form& form) {
+    if (form.stato.ModoGuida)
+        return false;
+    if (form.tappeConservate) {
+        AttivitaInserimentoItinerario(form);
+        AbilitaPulsantiMeta(form, QStringLiteral("all"));
+        AttivaFormMeta(form, true);
+    }
+    return true;
+}
+
+} // namespace
+
+void cmdModStrada_Click(Form& form) {
+    form.frmframe(1).setVisible(true);
+    form.mfgTab.setWidth(largoAccantoAlTratto);
+    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    form.cmdTappaSEl(2).setEnabled(false);
+}
+
+void cmdTappaSEl_Click(Form& form, int i) {
+    if (!legsInTable(form)) {
+        if (i == 3)
+            close(form);
+        else
+            form.messaggio(QStringLiteral("Impossibile: nella tabella c'è la guida.\n\nChiudere prima la guida."),
+                           QStringLiteral("Modifica tratto"));
+        return;
+    }
+    if (form.stato.MappaModifiche.isEmpty())
+        form.stato.MappaModifiche.fill(u'0', form.mfgTab.rows());
+    switch (i) {
+    case 0:
+    case 1: choose(form, i == 0); break;
+    case 2: assign(form); break;
+    case 3: leave(form); break;
+    case 4: save(form); break;
+    default: break;
+    }
+    showStretch(form);
+}
+
+void scegliSingolaTappa(Form& form, int riga) {
+    if (!form.chkTappaSingola.value() || form.stato.ModoGuida || form.tappeConservate)
+        return;
+    cmdTappaSEl_Click(form, 0);
+    cmdTappaSEl_Click(form, 1);
+    SelezionaRiga(form, riga);
+}
+
+} // namespace vanzer

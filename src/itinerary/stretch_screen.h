@@ -1,0 +1,15 @@
+// Road types for a run of legs, in the window: the frame beside the table, and its five buttons.
+#pragma once
+
+#include "window/form.h"
+
+namespace vanzer {
+
+/// Enters the mode.
+void cmdModStrada_Click(Form& form);
+/// Current row as first leg (0) or as last one (1), assign (2), leave (3), save (4).
+void cmdTappaSEl_Click(Form& form, int i);
+/// A click on a row of the table while every leg is worked by itself: the row is the stretch.
+void scegliSingolaTappa(Form& form, int riga);
+
+} // namespace vanzer

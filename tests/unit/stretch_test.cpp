@@ -1,0 +1,95 @@
+// Road types for a stretch, and stretches copied from another destination.
+#include <gtest/gtest.h>
+
+#include "itinerary/copy.h"
+#include "itinerary/stretch.h"
+
+namespace vanzer {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST(Stretch, AnEndShowsNumberTypeAndPlace) {
+    EXPECT_EQ(testoEstremo(7, u"7"_s, u"A"_s, u"ASTI"_s), u"0007 A ASTI");
+    EXPECT_EQ(testoEstremo(8, {}, {}, {}), u"0008  ");
+    EXPECT_EQ(testoEstremo(12345, u"12345"_s, u"P"_s, u"ASTI"_s), u"12345 P ASTI");
+    const Tratto far{u"9999 A X"_s, u"12345 P Y"_s};
+    EXPECT_EQ(far.daRiga(), 9999);
+    EXPECT_EQ(far.aRiga(), 12345);
+}
+
+TEST(Stretch, ItsEndsNeverStandTheWrongWayRound) {
+    const struct {
+        const char* what;
+        QString first, last; ///< before
+        bool asFirst;
+        QString chosen;
+        QString firstAfter, lastAfter;
+        int legs;
+    } cases[] = {
+        {"the first press fills both", {}, {}, true, u"0007"_s, u"0007"_s, u"0007"_s, 1},
+        {"of the last leg too", {}, {}, false, u"0007"_s, u"0007"_s, u"0007"_s, 1},
+        {"a later last leg", u"0003"_s, u"0003"_s, false, u"0007"_s, u"0003"_s, u"0007"_s, 5},
+        {"a first leg behind the last", u"0001"_s, u"0005"_s, true, u"0009"_s, u"0009"_s, u"0009"_s, 1},
+        {"a last leg before the first", u"0008"_s, u"0009"_s, false, u"0003"_s, u"0003"_s, u"0003"_s, 1},
+        {"an earlier first leg", u"0008"_s, u"0009"_s, true, u"0003"_s, u"0003"_s, u"0009"_s, 7},
+    };
+    for (const auto& c : cases) {
+        Tratto stretch{c.first, c.last};
+        stretch.sceglie(c.asFirst, c.chosen);
+        EXPECT_EQ(stretch.prima, c.firstAfter) << c.what;
+        EXPECT_EQ(stretch.ultima, c.lastAfter) << c.what;
+        EXPECT_EQ(stretch.tappe(), c.legs) << c.what;
+    }
+    EXPECT_EQ(Tratto().tappe(), 0);
+    EXPECT_FALSE(Tratto().scelto());
+}
+
+TEST(Stretch, ChangesAreKeptRowByRow) {
+    EXPECT_EQ(conModifiche(u"00000"_s, 2, 3), u"01100");
+    EXPECT_EQ(conModifiche(u"01100"_s, 5, 5), u"01101");
+    EXPECT_EQ(conModifiche(u"0"_s, 3, 4), u"0011");
+}
+
+const std::vector<RigaSorgente> source{{u"A"_s, {}, {}, {}, {}},
+                                       {u"B"_s, u"A1"_s, u"10"_s, u"A"_s, u"00:02:00"_s},
+                                       {u"C"_s, u"SS2"_s, u"20"_s, u"S"_s, u"*01:00:00"_s},
+                                       {u"D"_s, u"SP3"_s, u"30"_s, u"L"_s, {}}};
+
+TEST(Copy, GoesInBothDirections) {
+    using Legs = std::vector<RigaSorgente>;
+    const struct {
+        const char* what;
+        int from, to;
+        bool stops;
+        Legs legs;
+    } cases[] = {
+        {"forward", 2, 3, false, {{u"B"_s, u"A1"_s, u"10"_s, u"A"_s, {}}, {u"C"_s, u"SS2"_s, u"20"_s, u"S"_s, {}}}},
+        {"backward, by the road behind",
+         3,
+         2,
+         true,
+         {{u"C"_s, u"SP3"_s, u"30"_s, u"L"_s, u"01:00:00"_s}, {u"B"_s, u"SS2"_s, u"20"_s, u"S"_s, u"00:02:00"_s}}},
+        {"one leg is forward", 2, 2, true, {{u"B"_s, u"A1"_s, u"10"_s, u"A"_s, u"00:02:00"_s}}},
+        {"backward from the end", 4, 3, false, {{u"D"_s, {}, {}, {}, {}}, {u"C"_s, u"SP3"_s, u"30"_s, u"L"_s, {}}}},
+        {"rows that aren't there", 4, 6, false, {{u"D"_s, u"SP3"_s, u"30"_s, u"L"_s, {}}, {}, {}}},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(copiaTratto(source, c.from, c.to, c.stops), c.legs) << c.what;
+}
+
+TEST(Copy, WhatIsChosenShowsWithTheRowAtHand) {
+    const struct {
+        int first, last, row, from, to;
+    } cases[] = {{0, 0, 4, 4, 4}, {2, 0, 4, 2, 4}, {0, 2, 4, 2, 4}, {6, 3, 4, 3, 6}, {3, 6, 1, 1, 6}, {3, 6, 9, 3, 9}};
+    for (const auto& c : cases) {
+        const Blocco chosen = bloccoScelto(c.first, c.last, c.row);
+        EXPECT_EQ(chosen.prima, c.from) << c.first << ' ' << c.last << ' ' << c.row;
+        EXPECT_EQ(chosen.ultima, c.to) << c.first << ' ' << c.last << ' ' << c.row;
+    }
+}
+
+} // namespace
+
+} // namespace vanzer
