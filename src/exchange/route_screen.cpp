@@ -60,6 +60,11 @@ void writeFolded(Grid& grid, const std::vector<RigaRimasta>& left) {
     std::vector<bool> marked;
     for (const RigaRimasta& leg : left)
         marked.push_back(grid.marked(leg.riga, colonnaSosta));
+    const int row = grid.row();
+    const int column = grid.col();
+    const int rowSel = grid.rowSel();
+    const int columnSel = grid.colSel();
+    const int top = grid.topRow();
     Grid::Rows rows = grid.takeContents();
     Grid::Rows folded;
     for (const RigaRimasta& leg : left) {
@@ -71,6 +76,8 @@ void writeFolded(Grid& grid, const std::vector<RigaRimasta>& left) {
     }
     folded.push_back(std::move(rows.back()));
     grid.setContents(std::move(folded));
+    grid.select(row, column, rowSel, columnSel);
+    grid.setTopRow(top);
     for (std::size_t i = 0; i < marked.size(); ++i)
         grid.setMarked(static_cast<int>(i) + 1, colonnaSosta, marked[i]);
 }
