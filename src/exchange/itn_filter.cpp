@@ -200,11 +200,14 @@ QStringList leggeMete(const QByteArray& contents) {
 void segnaMete(std::vector<RigaPercorso>& legs, const QStringList& stops) {
     QStringList places;
     std::vector<bool> marked;
+    places.reserve(static_cast<qsizetype>(legs.size()));
+    marked.reserve(legs.size());
     for (const RigaPercorso& leg : legs) {
         places << senzaMaiuscole(leg.luogo);
         marked.push_back(leg.luogo.contains(segno));
     }
     QStringList names;
+    names.reserve(stops.size());
     for (const QString& stop : stops)
         names << senzaMaiuscole(stop);
     RighePerInizio byStart(places, names);

@@ -50,6 +50,7 @@ void writeLegs(Form& form, const PercorsoImportato& route) {
 
 std::vector<RigaPercorso> readLegs(const Grid& grid) {
     std::vector<RigaPercorso> legs;
+    legs.reserve(static_cast<std::size_t>(grid.rows()));
     for (int r = 1; r < grid.rows(); ++r)
         legs.push_back({grid.cell(r, 1), grid.cell(r, 2), chilometri(grid.cell(r, 3))});
     return legs;
@@ -58,6 +59,7 @@ std::vector<RigaPercorso> readLegs(const Grid& grid) {
 /// The table as the filter leaves it: the legs that stay, with their other cells, and the last row as it was.
 void writeFolded(Grid& grid, const std::vector<RigaRimasta>& left) {
     std::vector<bool> marked;
+    marked.reserve(left.size());
     for (const RigaRimasta& leg : left)
         marked.push_back(grid.marked(leg.riga, colonnaSosta));
     const int row = grid.row();

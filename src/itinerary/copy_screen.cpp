@@ -95,6 +95,7 @@ void SelezioneTappeDuplica(Form& form) {
 
 std::vector<RigaSorgente> readSource(const Grid& list) {
     std::vector<RigaSorgente> legs;
+    legs.reserve(static_cast<std::size_t>(list.rows()));
     for (int r = 1; r < list.rows(); ++r)
         legs.push_back({list.cell(r, 1), list.cell(r, 2), list.cell(r, 3), list.cell(r, 4), list.cell(r, 5)});
     return legs;

@@ -18,7 +18,7 @@ QString testoEstremo(int riga, const QString& numero, const QString& tipoStrada,
     return number.rightJustified(digits, u'0') + u' ' + tipoStrada + u' ' + luogo;
 }
 
-void Tratto::sceglie(bool comePrima, const QString& estremo) {
+void TrattoScelto::sceglie(bool comePrima, const QString& estremo) {
     QString& chosen = comePrima ? prima : ultima;
     QString& other = comePrima ? ultima : prima;
     chosen = estremo;
@@ -26,15 +26,15 @@ void Tratto::sceglie(bool comePrima, const QString& estremo) {
         other = estremo;
 }
 
-int Tratto::daRiga() const {
+int TrattoScelto::daRiga() const {
     return rowOf(prima);
 }
 
-int Tratto::aRiga() const {
+int TrattoScelto::aRiga() const {
     return rowOf(ultima);
 }
 
-int Tratto::tappe() const {
+int TrattoScelto::tappe() const {
     return scelto() ? Maggiore(aRiga() - daRiga() + 1, 0) : 0;
 }
 

@@ -9,7 +9,7 @@ namespace vanzer {
 /// no number yet is named by where it stands.
 [[nodiscard]] QString testoEstremo(int riga, const QString& numero, const QString& tipoStrada, const QString& luogo);
 
-struct Tratto {
+struct TrattoScelto {
     QString prima;
     QString ultima;
 

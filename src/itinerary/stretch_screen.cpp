@@ -12,15 +12,15 @@ namespace vanzer {
 
 namespace {
 
-constexpr int largoIntero = 14280;
+constexpr int largoSenzaTratto = 14280;
 constexpr int largoAccantoAlTratto = 11500;
-constexpr int righeSopra = 12;
+constexpr int righeSopraIlTratto = 12;
 
-Tratto shownStretch(const Form& form) {
+TrattoScelto shownStretch(const Form& form) {
     return {form.txttappasel(0).text(), form.txttappasel(1).text()};
 }
 
-void showEnds(Form& form, const Tratto& stretch) {
+void showEnds(Form& form, const TrattoScelto& stretch) {
     form.txttappasel(0).setText(stretch.prima);
     form.txttappasel(1).setText(stretch.ultima);
 }
@@ -31,14 +31,14 @@ QString endAtRow(const Form& form, int row) {
 }
 
 void choose(Form& form, bool asFirst) {
-    Tratto stretch = shownStretch(form);
+    TrattoScelto stretch = shownStretch(form);
     stretch.sceglie(asFirst, endAtRow(form, form.mfgTab.row()));
     showEnds(form, stretch);
 }
 
 void assign(Form& form) {
     Grid& grid = form.mfgTab;
-    const Tratto stretch = shownStretch(form);
+    const TrattoScelto stretch = shownStretch(form);
     const int last = stretch.aRiga();
     if (stretch.tappe() > 0) {
         const SenzaRidisegno quiet(grid);
@@ -47,8 +47,8 @@ void assign(Form& form) {
         form.stato.MappaModifiche = conModifiche(form.stato.MappaModifiche, stretch.daRiga(), last);
     }
     SelezionaRiga(form, last + 1);
-    if (last > grid.topRow() - righeSopra)
-        grid.setTopRow(Maggiore(last - righeSopra, 1));
+    if (last > grid.topRow() - righeSopraIlTratto)
+        grid.setTopRow(Maggiore(last - righeSopraIlTratto, 1));
     const QString next = endAtRow(form, grid.row());
     showEnds(form, {next, next});
 }
@@ -57,7 +57,7 @@ void close(Form& form) {
     form.chkTappaSingola.setValue(false);
     form.stato.MappaModifiche.clear();
     form.frmframe(1).setVisible(false);
-    form.mfgTab.setWidth(largoIntero);
+    form.mfgTab.setWidth(largoSenzaTratto);
 }
 
 void leave(Form& form) {
@@ -77,7 +77,7 @@ void save(Form& form) {
 }
 
 void showStretch(Form& form) {
-    const Tratto stretch = shownStretch(form);
+    const TrattoScelto stretch = shownStretch(form);
     form.cmdTappaSEl(2).setEnabled(stretch.scelto());
     form.txttappasel(2).setText(QString::number(stretch.tappe()));
     if (stretch.daRiga() < stretch.aRiga())

@@ -14,7 +14,7 @@ TEST(Stretch, AnEndShowsNumberTypeAndPlace) {
     EXPECT_EQ(testoEstremo(7, u"7"_s, u"A"_s, u"ASTI"_s), u"0007 A ASTI");
     EXPECT_EQ(testoEstremo(8, {}, {}, {}), u"0008  ");
     EXPECT_EQ(testoEstremo(12345, u"12345"_s, u"P"_s, u"ASTI"_s), u"12345 P ASTI");
-    const Tratto far{u"9999 A X"_s, u"12345 P Y"_s};
+    const TrattoScelto far{u"9999 A X"_s, u"12345 P Y"_s};
     EXPECT_EQ(far.daRiga(), 9999);
     EXPECT_EQ(far.aRiga(), 12345);
 }
@@ -36,14 +36,14 @@ TEST(Stretch, ItsEndsNeverStandTheWrongWayRound) {
         {"an earlier first leg", u"0008"_s, u"0009"_s, true, u"0003"_s, u"0003"_s, u"0009"_s, 7},
     };
     for (const auto& c : cases) {
-        Tratto stretch{c.first, c.last};
+        TrattoScelto stretch{c.first, c.last};
         stretch.sceglie(c.asFirst, c.chosen);
         EXPECT_EQ(stretch.prima, c.firstAfter) << c.what;
         EXPECT_EQ(stretch.ultima, c.lastAfter) << c.what;
         EXPECT_EQ(stretch.tappe(), c.legs) << c.what;
     }
-    EXPECT_EQ(Tratto().tappe(), 0);
-    EXPECT_FALSE(Tratto().scelto());
+    EXPECT_EQ(TrattoScelto().tappe(), 0);
+    EXPECT_FALSE(TrattoScelto().scelto());
 }
 
 TEST(Stretch, ChangesAreKeptRowByRow) {
