@@ -106,12 +106,6 @@ QStringList storedCodes(Form& form) {
     return codes;
 }
 
-/// The most characters of a code.
-int codeLength(Form& form) {
-    const auto table = form.archivio.Db(0)->tabella(store::TabelleNomi(store::MeteVanzer));
-    return table->campi[static_cast<std::size_t>(table->campo(u"CodiceMeta"))].size;
-}
-
 QString cantAssign(const CodiciMete& codes, CodiciMete::Esito result) {
     const QString code = codes.colpevole().left(longestShown);
     if (result == CodiciMete::Esito::CodiciEsauriti)
@@ -182,7 +176,8 @@ EsitoImport leggeFileImport(Form& form) {
     try {
         CodiciMete codes;
         const CodiciMete::Esito assigned =
-            codes.assegna(storedCodes(form), codiciDellaLista(form.mfgImExp(0)), codeLength(form));
+            codes.assegna(storedCodes(form), codiciDellaLista(form.mfgImExp(0)),
+                          form.archivio.dimensioneCampo(store::MeteVanzer, u"CodiceMeta"));
         if (assigned != CodiciMete::Esito::Assegnati)
             return {false, cantAssign(codes, assigned)};
         Lettura reading(form, std::move(codes));

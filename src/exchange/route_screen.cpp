@@ -91,12 +91,6 @@ void renumber(Grid& grid) {
     }
 }
 
-/// Most characters of a stored place.
-int placeSize(Form& form) {
-    const auto table = form.archivio.Db(0)->tabella(store::TabelleNomi(store::Itinerari));
-    return table->campi[static_cast<std::size_t>(table->campo(u"Localita"))].size;
-}
-
 /// Reads the route list at NomeFileScambio into the table. A file of no known shape changes nothing.
 void CaricaDaPacchetto(Form& form) {
     form.frmframe(14).setEnabled(true);
@@ -135,7 +129,7 @@ void SelezionaMeteValide(Form& form) {
     segnaMete(legs, stops);
     const QString lastPlace = legs.back().luogo;
     legs.pop_back();
-    writeFolded(grid, piegaTappe(legs, placeSize(form)));
+    writeFolded(grid, piegaTappe(legs, form.archivio.dimensioneCampo(store::Itinerari, u"Localita")));
     grid.setCell(grid.rows() - 1, 1, lastPlace);
     if (unnumbered) {
         for (int r = 1; r < grid.rows(); ++r)

@@ -16,7 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int largoIntero = 14280;
 constexpr int largoAccanto = 10560;
 constexpr int righeInVista = 14;
 
@@ -179,6 +178,12 @@ void AttivitaInserimentoItinerario(Form& form) {
     form.colonne(0).clear();
 }
 
+void sbloccaTappe(Form& form) {
+    AttivitaInserimentoItinerario(form);
+    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    AttivaFormMeta(form, true);
+}
+
 void RimetteTappe(Form& form) {
     if (!form.tappeConservate)
         return;
@@ -324,7 +329,7 @@ void cmdFine_Click(Form& form) {
     const bool refused = answer == rispostaSi && !MemorizzaTappeItinerario(form);
     if (answer != rispostaAnnulla && !refused) {
         form.frmframe(12).setVisible(false);
-        form.mfgTab.setWidth(largoIntero);
+        form.mfgTab.setWidth(larghezzaTabella);
         reloadDestination(form);
         AggiornaNumeroRiga(form);
         form.stato.PulsantiMeta = QStringLiteral("all");

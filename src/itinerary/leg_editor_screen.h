@@ -13,6 +13,8 @@ void cmdItinerario_Click(Form& form);
 /// Brings the fields up to date and sets the buttons; opens the frame if that was asked for. Legs that a schedule had
 /// replaced come back first.
 void AttivitaInserimentoItinerario(Form& form);
+/// The schedule makes room for the legs again: the destination can be changed, all commands are on.
+void sbloccaTappe(Form& form);
 /// The legs that a schedule has replaced come back into the table, saved or not, with their totals.
 void RimetteTappe(Form& form);
 

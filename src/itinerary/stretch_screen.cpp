@@ -12,7 +12,6 @@ namespace vanzer {
 
 namespace {
 
-constexpr int largoSenzaTratto = 14280;
 constexpr int largoAccantoAlTratto = 11500;
 constexpr int righeSopraIlTratto = 12;
 
@@ -57,7 +56,7 @@ void close(Form& form) {
     form.chkTappaSingola.setValue(false);
     form.stato.MappaModifiche.clear();
     form.frmframe(1).setVisible(false);
-    form.mfgTab.setWidth(largoSenzaTratto);
+    form.mfgTab.setWidth(larghezzaTabella);
 }
 
 void leave(Form& form) {
@@ -88,11 +87,8 @@ void showStretch(Form& form) {
 bool legsInTable(Form& form) {
     if (form.stato.ModoGuida)
         return false;
-    if (form.tappeConservate) {
-        AttivitaInserimentoItinerario(form);
-        AbilitaPulsantiMeta(form, QStringLiteral("all"));
-        AttivaFormMeta(form, true);
-    }
+    if (form.tappeConservate)
+        sbloccaTappe(form);
     return true;
 }
 

@@ -11,6 +11,7 @@
 #include "schedule/simulation.h"
 #include "schedule/totals_screen.h"
 #include "window/destination_screen.h"
+#include "window/grid_layouts.h"
 #include "window/modes.h"
 #include "window/parameters.h"
 
@@ -288,9 +289,7 @@ void cmdCalcola_Click(Form& form) {
     AbilitaPulsantiMeta(form, QStringLiteral("zz"));
     if (!uguale(form.cmdCalcola.caption(), u"&Calcola")) {
         RinunciaStampa(form);
-        AttivitaInserimentoItinerario(form);
-        AbilitaPulsantiMeta(form, QStringLiteral("all"));
-        AttivaFormMeta(form, true);
+        sbloccaTappe(form);
     } else {
         form.cmbRicerca.setVisible(false);
         CalcolaViandoria(form);
@@ -299,7 +298,7 @@ void cmdCalcola_Click(Form& form) {
 }
 
 void cmdRicalcola_Click(Form& form) {
-    form.mfgTab.setWidth(14280);
+    form.mfgTab.setWidth(larghezzaTabella);
     form.frmframe(12).setVisible(false);
     form.colonne(0) = QStringLiteral("Ricalcola");
     CalcolaViandoria(form);

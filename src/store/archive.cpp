@@ -230,6 +230,11 @@ void Archive::undoSoFar() noexcept {
         file->undoSoFar();
 }
 
+int Archive::dimensioneCampo(int table, QStringView field) const {
+    const auto stored = storedTable(0, table);
+    return stored->campi[static_cast<std::size_t>(stored->campo(field))].size;
+}
+
 TabellaLetta Archive::tabella(const QString& name) {
     Recordset records(archive(), {name, {}, {}});
     TabellaLetta table;

@@ -98,6 +98,8 @@ class Archive {
     void undoSoFar() noexcept;
 
     [[nodiscard]] TabellaLetta tabella(const QString& name);
+    /// The most characters that a text field of the table holds.
+    [[nodiscard]] int dimensioneCampo(int table, QStringView field) const;
     [[nodiscard]] QStringList indici(const QString& table) { return archive().indici(table); }
 
   private:

@@ -278,7 +278,7 @@ void cmdSalva_Click(Form& form) {
 void cmdCancMeta_Click(Form& form) {
     AttivaFormMeta(form, true);
     form.frmframe(12).setVisible(false);
-    form.mfgTab.setWidth(14280);
+    form.mfgTab.setWidth(larghezzaTabella);
     CancellaMatrice(form);
     Aggiorna(form, false);
     reload(form);

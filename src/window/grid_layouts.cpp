@@ -80,7 +80,7 @@ void placeCopyList(Form& form, int gridHeight, const QString& instruction) {
 void ImpostaGriglia(Form& form, int n) {
     switch (n) {
     case 1:
-        form.mfgTab.setWidth(14280);
+        form.mfgTab.setWidth(larghezzaTabella);
         layOut(form.mfgTab, legs);
         break;
     case 2: layOut(form.mfgTab, guide); break;

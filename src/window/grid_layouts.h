@@ -5,6 +5,9 @@
 
 namespace vanzer {
 
+/// The table's width with nothing beside it, in twips.
+inline constexpr int larghezzaTabella = 14280;
+
 enum class Disposizione { Tappe = 1, Guida = 2, TappeDaCopiare = 3, Mete = 4, RigheDiLavoro = 5 };
 
 /// Lays out the grid that the layout belongs to; a number outside 1 to 5 does nothing. Heads that the layout doesn't

@@ -1,6 +1,7 @@
 #include "window/modes.h"
 
 #include "core/text.h"
+#include "window/grid_layouts.h"
 
 namespace vanzer {
 
@@ -51,7 +52,7 @@ void enableItinerary(Form& form) {
 
 void leaveProgram(Form& form) {
     AttivaFormMeta(form, true);
-    form.mfgTab.setWidth(14280);
+    form.mfgTab.setWidth(larghezzaTabella);
     form.frmframe(12).setVisible(false);
     form.archivio.chiudi();
     form.chiusa = true;
@@ -92,7 +93,7 @@ void AttivaFormMeta(Form& form, bool changing) {
 }
 
 void PulisciFinestre(Form& form) {
-    form.mfgTab.setWidth(14280);
+    form.mfgTab.setWidth(larghezzaTabella);
     form.cmbRicercaTappa.setVisible(false);
     form.frmframe(19).setVisible(false);
     form.mfgCopia.setVisible(false);

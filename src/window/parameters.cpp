@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 #include "core/time_values.h"
+#include "window/grid_layouts.h"
 #include "window/modes.h"
 
 namespace vanzer {
@@ -344,7 +345,7 @@ void Aggiorna(Form& form, bool tieniSchermo) {
     if (tieniSchermo)
         return;
     form.cmbRicercaTappa.setVisible(false);
-    form.mfgTab.setWidth(14280);
+    form.mfgTab.setWidth(larghezzaTabella);
     form.frmframe(12).setVisible(false);
     form.yield();
 }

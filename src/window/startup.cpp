@@ -202,7 +202,7 @@ void layOutWindow(Form& form) {
     form.cmbRicerca.setVisible(false);
     form.stato.RigheMinime = 20;
     form.mfgTab.setVisible(true);
-    form.mfgTab.setWidth(14280);
+    form.mfgTab.setWidth(larghezzaTabella);
     form.mfgTab.setHeight(4095);
     CancellaMatrice(form);
 }
