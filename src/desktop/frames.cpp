@@ -8,9 +8,12 @@
 #include <QStylePainter>
 
 #include "desktop/tints.h"
+#include "ui_frame_1.h"
 #include "ui_frame_12.h"
 #include "ui_frame_16.h"
+#include "ui_frame_17.h"
 #include "ui_frame_18.h"
+#include "ui_frame_19.h"
 #include "ui_frame_22.h"
 #include "ui_frame_23.h"
 #include "ui_frame_24.h"
@@ -52,8 +55,9 @@ template<typename Design> QWidget* made(QWidget& window) {
 }
 
 /// Of two that lie over each other the later one is on top: the choice of the printer, then the waiting note.
-constexpr std::array designs{made<Ui::Frame12>, made<Ui::Frame24>, made<Ui::Frame22>, made<Ui::Frame18>,
-                             made<Ui::Frame25>, made<Ui::Frame23>, made<Ui::Frame16>};
+constexpr std::array designs{made<Ui::Frame12>, made<Ui::Frame1>,  made<Ui::Frame24>, made<Ui::Frame17>,
+                             made<Ui::Frame19>, made<Ui::Frame22>, made<Ui::Frame18>, made<Ui::Frame25>,
+                             made<Ui::Frame23>, made<Ui::Frame16>};
 
 constexpr std::array<std::pair<const char*, Posto>, 6> places{{{"fianco", Posto::Fianco},
                                                                {"sotto", Posto::Sotto},
@@ -89,12 +93,12 @@ int frameHeight(const QWidget& frame, int width) {
     return frame.hasHeightForWidth() ? frame.heightForWidth(width) : frame.sizeHint().height();
 }
 
-QRect frameRect(const QWidget& frame, const QRect& table, const QRect& whole, int sideTop) {
+QRect frameRect(const QWidget& frame, const QRect& table, const QRect& whole, const QRect& side) {
     const QSize wish = frame.sizeHint();
     const QRect inner = table.adjusted(inset, inset, -inset, -inset);
     QRect rect(QPoint(), wish.boundedTo(whole.size()));
     switch (posto(frame)) {
-    case Posto::Fianco: return {whole.right() + 1 - wish.width(), sideTop, wish.width(), table.bottom() + 1 - sideTop};
+    case Posto::Fianco: return side;
     case Posto::Sotto: return {whole.left(), table.bottom() + 1, whole.width(), frameHeight(frame, whole.width())};
     case Posto::Sinistra: return {inner.left() + numbers, inner.top() + head, rect.width(), inner.height() - head};
     case Posto::Destra: rect.moveTopRight(inner.topRight()); break;

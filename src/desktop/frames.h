@@ -20,8 +20,8 @@ enum class Posto { Fianco, Sotto, Sinistra, Centro, Destra, Piede };
 /// The height that a frame needs when it is `width` wide.
 [[nodiscard]] int frameHeight(const QWidget& frame, int width);
 
-/// Where a frame lies. `table` is the table as it is, `whole` the window without its margins, `sideTop` the height from
-/// which a frame beside the table begins.
-[[nodiscard]] QRect frameRect(const QWidget& frame, const QRect& table, const QRect& whole, int sideTop);
+/// Where a frame lies. `table` is the table as it is, `whole` the window without its margins, `side` the room beside
+/// the table, which frames there share: the later one covers the earlier.
+[[nodiscard]] QRect frameRect(const QWidget& frame, const QRect& table, const QRect& whole, const QRect& side);
 
 } // namespace vanzer::desktop

@@ -86,16 +86,17 @@ void MainWindow::layOutFrames() {
         if (frame->isHidden())
             continue;
         if (posto(*frame) == Posto::Fianco)
-            side = std::max(side, frame->sizeHint().width() + ui_->areaTabella->spacing());
+            side = std::max(side, frame->sizeHint().width());
         if (posto(*frame) == Posto::Sotto)
             below = std::max(below, frameHeight(*frame, whole.width()) + ui_->areaTabella->spacing());
     }
-    ui_->areaTabella->setContentsMargins(0, 0, side, below);
+    ui_->areaTabella->setContentsMargins(0, 0, side > 0 ? side + ui_->areaTabella->spacing() : 0, below);
     layout()->activate();
     const int sideTop = ui_->parametri->mapTo(this, QPoint()).y();
     const QRect table(ui_->mfgTab->mapTo(this, QPoint()), ui_->mfgTab->size());
+    const QRect room(whole.right() + 1 - side, sideTop, side, table.bottom() + 1 - sideTop);
     for (QWidget* const frame : frames_) {
-        frame->setGeometry(frameRect(*frame, table, whole, sideTop));
+        frame->setGeometry(frameRect(*frame, table, whole, room));
         frame->raise();
     }
 }
@@ -139,8 +140,9 @@ void MainWindow::giveFocusBack(QWidget& frame) {
 }
 
 /// A letter takes the focus to its button and presses it at once, so that what is typed next goes where it should. Of
-/// several that share it the one in the frame that has the focus is meant, else the one that isn't a second choice. One
-/// that shares it there with a field's label gets the focus alone, in turn with the field.
+/// several that share it the one in the frame that has the focus is meant, else the one that isn't a second choice,
+/// there and then in all the window. One that shares it there with a field's label gets the focus alone, in turn with
+/// the field.
 bool MainWindow::pressMnemonic(QWidget& widget, bool ambiguous) {
     QAbstractButton* const meant = ambiguous ? meantBy(widget) : qobject_cast<QAbstractButton*>(&widget);
     if (meant == nullptr)
@@ -168,7 +170,10 @@ QAbstractButton* MainWindow::meantBy(const QWidget& widget) const {
         return std::ranges::any_of(labels, near) ? nullptr : only(near);
     if (QAbstractButton* const nearest = only(near))
         return nearest;
-    return only([](const QWidget* one) { return !one->property("secondaScelta").toBool(); });
+    const auto first = [](const QWidget* one) { return !one->property("secondaScelta").toBool(); };
+    if (QAbstractButton* const nearest = only([&](const QWidget* one) { return near(one) && first(one); }))
+        return nearest;
+    return only(first);
 }
 
 /// Presses the button that has the focus, else the default one.

@@ -34,7 +34,7 @@ class Controls : public DesktopTest {
 
     /// Frames that have no form yet, and what is never seen: pictures for paper, the stops of a route file.
     [[nodiscard]] static bool notInTheWindow(const Control& control) {
-        static const std::set<int> noForm{1, 2, 13, 17, 19, 20, 21};
+        static const std::set<int> noForm{13, 20, 21};
         const Frame* const frame = outermost(control);
         const auto* const self = dynamic_cast<const Frame*>(&control);
         return (frame != nullptr && noForm.contains(frame->index())) ||

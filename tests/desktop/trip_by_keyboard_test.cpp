@@ -248,5 +248,83 @@ TEST_F(TripByKeyboard, TheCloseButtonAsksAndLeaves) {
     EXPECT_EQ(window().size(), QSize(1400, 900)) << "the window remembers its size";
 }
 
+TEST_F(TripByKeyboard, AStretchGetsItsRoadTypeAndIsSavedOrGivenUp) {
+    storeTrip(8);
+    open();
+    const auto roads = [this] {
+        QString types;
+        for (int r = 1; r <= 8; ++r)
+            types += form().mfgTab.cell(r, 4);
+        return types.toStdString();
+    };
+    const std::string before = roads();
+    letter('t');
+    EXPECT_EQ(focusName(), QStringLiteral("cmdTappaSEl_0"));
+    EXPECT_FALSE(find("cmdTappaSEl_2")->isEnabled());
+    const auto* const table = find<TableView>("mfgTab");
+    EXPECT_FALSE(find("frmframe_1")->geometry().intersects({table->mapTo(&window(), QPoint()), table->size()}));
+    const auto chooseRow = [this](int row, const char* end) {
+        tabTo("mfgTab");
+        while (form().mfgTab.row() != row)
+            key(form().mfgTab.row() < row ? Qt::Key_Down : Qt::Key_Up);
+        tabTo(end);
+        key(Qt::Key_Space);
+    };
+    chooseRow(3, "cmdTappaSEl_0");
+    chooseRow(5, "cmdTappaSEl_1");
+    EXPECT_EQ(textOf("txttappasel_0").toStdString(), "0003 " + before.substr(2, 1) + " LUOGO 3");
+    EXPECT_EQ(textOf("txttappasel_2").toStdString(), "3");
+    letter('l');
+    letter('a');
+    EXPECT_EQ(roads(), before.substr(0, 2) + "LLL" + before.substr(5));
+    EXPECT_EQ(textOf("txttappasel_1").toStdString(), "0006 " + before.substr(5, 1) + " LUOGO 6");
+    letter('s');
+    letter('p');
+    letter('a');
+    boxes.expect(Qt::Key_Escape);
+    letter('f');
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_EQ(boxes.shown()[0].text, QStringLiteral("Vuoi salvare le modifiche apportate?"));
+    EXPECT_FALSE(find("frmframe_1")->isVisible());
+    EXPECT_EQ(roads(), before.substr(0, 2) + "LLL" + before.substr(5));
+}
+
+TEST_F(TripByKeyboard, AStretchIsCopiedBackwardsBehindTheCurrentLeg) {
+    storeTrip(8);
+    open();
+    letter('i');
+    tabTo("cmdDuplica");
+    key(Qt::Key_Space);
+    ASSERT_EQ(focusName(), QStringLiteral("mfgCopia"));
+    EXPECT_FALSE(find("frmframe_19")->isVisible());
+    key(Qt::Key_Return);
+    ASSERT_TRUE(find("frmframe_19")->isVisible());
+    EXPECT_FALSE(find("frmframe_12")->isEnabled());
+    EXPECT_TRUE(find("frmframe_19")->geometry().contains(find("frmframe_12")->geometry()));
+    EXPECT_FALSE(find("frmframe_19")->geometry().intersects(find("frmframe_17")->geometry()));
+    const auto chooseRow = [this](int row, const char* assign) {
+        tabTo("mfgCopia");
+        while (form().mfgCopia.row() != row)
+            key(form().mfgCopia.row() < row ? Qt::Key_Down : Qt::Key_Up);
+        key(Qt::Key_Return);
+        for (int i = 0; i < 3 && focusName() != QLatin1StringView(assign); ++i)
+            letter('g');
+        key(Qt::Key_Space);
+    };
+    chooseRow(4, "cmdAssegna_0");
+    chooseRow(2, "cmdAssegna_1");
+    EXPECT_EQ(textOf("txtInsLoc_0"), QStringLiteral("LUOGO 4"));
+    EXPECT_EQ(textOf("txtInsLoc_1"), QStringLiteral("LUOGO 2"));
+    boxes.expect(Qt::Key_Return);
+    letter('p');
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_FALSE(find("frmframe_17")->isVisible());
+    EXPECT_TRUE(find("frmframe_12")->isEnabled());
+    QString places;
+    for (int r = 1; form().mfgTab.rows() > r && !form().mfgTab.cell(r, 1).isEmpty(); ++r)
+        places += form().mfgTab.cell(r, 1).last(1);
+    EXPECT_EQ(places.toStdString(), "14322345678");
+}
+
 } // namespace
 } // namespace vanzer::desktop

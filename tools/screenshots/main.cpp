@@ -90,6 +90,10 @@ class Scene {
     void moveDestination(int row) {
         program_.window().binder().input([this, row] { program_.form().mfgImExp(0).clickRow(row); });
     }
+    /// In the list from which a stretch is copied: a destination, then one of its legs.
+    void clickSource(int row) {
+        program_.window().binder().input([this, row] { program_.form().mfgCopia.clickRow(row); });
+    }
     void scrollTo(int row) {
         program_.window().binder().input([this, row] { program_.form().mfgTab.setTopRow(row); });
     }
@@ -125,6 +129,25 @@ const std::array shots{
          [](Scene& scene) {
              scene.press("cmdItinerario");
              scene.click(14);
+         }},
+    Shot{"tratto", usual, false, false,
+         [](Scene& scene) {
+             scene.press("cmdModStrada");
+             scene.click(15);
+             scene.press("cmdTappaSEl_0");
+             scene.click(24);
+             scene.press("cmdTappaSEl_1");
+         }},
+    Shot{"copia", usual, false, false,
+         [](Scene& scene) {
+             scene.press("cmdItinerario");
+             scene.click(9);
+             scene.press("cmdDuplica");
+             scene.clickSource(1);
+             for (const auto& [row, button] : {std::pair{27, "cmdAssegna_0"}, std::pair{21, "cmdAssegna_1"}}) {
+                 scene.clickSource(row);
+                 scene.press(button);
+             }
          }},
     Shot{"viandoria", smallest, false, false, calculate},
     Shot{"totali", usual, false, false,
