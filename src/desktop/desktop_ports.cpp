@@ -50,9 +50,18 @@ QMessageBox::Icon sign(Icona icon, Pulsanti buttons) {
     }
 }
 
-/// Lines set out with blanks or tabs keep their columns in a font of one width.
+/// Whether lines are set out with blanks or tabs.
 bool setOut(const QString& text) {
     return text.contains(u'\t') || text.contains(QStringLiteral("\n   "));
+}
+
+/// Tabs line up in a font of one width. Blanks at the begin of a line are counted for one with narrow blanks, in which
+/// "RITORNO A START:  " is as wide as 37 of them.
+QFont fontInWhichItLinesUp(const QString& text, QFont own) {
+    if (text.contains(u'\t'))
+        return QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    own.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arimo"), QStringLiteral("Arial")});
+    return own;
 }
 
 /// Tabs as blanks, and blanks at which no line is broken.
@@ -95,7 +104,7 @@ int DialogBoxes::show(const QString& text, const QString& title, Pulsanti button
     const QString plain = QString(text).remove(u'\r');
     box.setText(setOut(plain) ? inColumns(plain) : plain);
     if (setOut(plain))
-        box.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+        box.setFont(fontInWhichItLinesUp(plain, box.font()));
     for (const Choice& choice : choices(buttons))
         box.addButton(choice.button)->setText(QString::fromUtf16(choice.text));
     box.setDefaultButton(choices(buttons).front().button);

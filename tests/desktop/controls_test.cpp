@@ -109,6 +109,25 @@ TEST_F(Controls, FieldsTellByTheirGroundWhatCanBeFilledInAlsoInTheDark) {
     QApplication::setPalette(light);
 }
 
+TEST_F(Controls, BlanksInTheHelpKeepLinesUnderEachOther) {
+    typeDestination("roma", "italia");
+    letter('i');
+    boxes.forget();
+    find<QAbstractButton>("cmdHelpItin_0")->click();
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    const QFontMetricsF metrics(boxes.shown()[0].font);
+    int lines = 0;
+    for (const QString& line : boxes.shown()[0].text.split(u'\n')) {
+        const QString blanks(37, QChar::Nbsp);
+        if (!line.startsWith(blanks))
+            continue;
+        ++lines;
+        EXPECT_NEAR(metrics.horizontalAdvance(blanks), metrics.horizontalAdvance(QStringLiteral("RITORNO A START:  ")),
+                    metrics.height());
+    }
+    EXPECT_EQ(lines, 2);
+}
+
 TEST_F(Controls, TabGoesInTheOrderOfTheEye) {
     typeDestination("roma", "italia");
     letter('i');

@@ -26,7 +26,7 @@ bool BoxKeys::eventFilter(QObject* watched, QEvent* event) {
     QStringList buttons;
     for (const QAbstractButton* button : box->buttons())
         buttons << button->text().remove(u'&');
-    shown_.push_back({box->text(), box->windowTitle(), buttons});
+    shown_.push_back({box->text(), box->windowTitle(), buttons, box->font()});
     const Qt::Key key = keys_.empty() ? Qt::Key_Escape : keys_.front();
     if (!keys_.empty())
         keys_.pop_front();

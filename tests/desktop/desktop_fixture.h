@@ -24,6 +24,7 @@ struct ShownBox {
     QString text;
     QString title;
     QStringList buttons;
+    QFont font;
 };
 
 /// Presses keys in each message box that shows up, in the order told; Esc when none is told.
