@@ -66,6 +66,8 @@ struct StatoViaggio {
     QString NomeFileScambio;     ///< the file that destinations go out to or come in from
     bool ScambioInCorso = false; ///< such a file is being read or written
 
+    bool VecchiFile = false; ///< files of an earlier generation wait to be converted
+
     int RigaCopia = 0;      ///< the row at hand of the list of a copy's source
     QString MappaModifiche; ///< "1" for each row that the stretch mode has changed and not saved; empty: not begun
 

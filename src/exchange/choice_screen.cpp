@@ -258,12 +258,14 @@ QStringList codiciDellaLista(const Grid& list) {
 ScambioInCorso::ScambioInCorso(Form& form) : form_(form) {
     form_.stato.ScambioInCorso = true;
     form_.stato.InterrompiCalcolo = false;
-    form_.frmframe(22).setEnabled(false);
+    for (const int open : {1, 22})
+        form_.frmframe(open).setEnabled(false);
 }
 
 ScambioInCorso::~ScambioInCorso() {
     form_.stato.ScambioInCorso = false;
-    form_.frmframe(22).setEnabled(true);
+    for (const int open : {1, 22})
+        form_.frmframe(open).setEnabled(true);
 }
 
 bool ScambioInCorso::avanza(double done) {

@@ -29,7 +29,7 @@ void AggiornaPulsantiImportExport(Form& form);
 /// The codes of a list's rows that have one.
 [[nodiscard]] QStringList codiciDellaLista(const Grid& list);
 
-/// An import or export that is running: the frame is off, and the user can give it up.
+/// An import, export or conversion that is running: the frames that may be open are off, and the user can give it up.
 class ScambioInCorso {
   public:
     explicit ScambioInCorso(Form& form);

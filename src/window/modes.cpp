@@ -76,8 +76,8 @@ void AbilitaPulsantiComando(Form& form) {
         s.PulsantiMeta = QStringLiteral("F");
     enableMenu(form);
     enableItinerary(form);
-    form.cmdConverte.setEnabled(false);
-    form.cmdConverte.setVisible(false);
+    form.cmdConverte.setEnabled(s.VecchiFile && form.cmdNuovo.enabled());
+    form.cmdConverte.setVisible(s.VecchiFile);
     form.cmdEsce.setTooltip(QStringLiteral("Esce dal form"));
     form.yield();
 }

@@ -4,8 +4,10 @@
 
 #include "core/place_name.h"
 #include "core/text.h"
+#include "exchange/conversion_screen.h"
 #include "exchange/exchange_screen.h"
 #include "exchange/route_screen.h"
+#include "guide/categories.h"
 #include "guide/guide_screen.h"
 #include "help/help_screen.h"
 #include "itinerary/copy_screen.h"
@@ -128,6 +130,7 @@ void wireExchange(Form& form) {
     }
     form.cmdMapPoint.onClick = wired(form, cmdMapPoint_Click);
     form.cmdSelezionaMete.onClick = wired(form, cmdSelezionaMete_Click);
+    form.cmdConverte.onClick = wired(form, cmdConverte_Click);
 }
 
 void wireHelp(Form& form) {
@@ -212,10 +215,6 @@ void openArchive(Form& form) {
     form.lblPath.setCaption(form.archivio.PercorsoDatabase);
 }
 
-constexpr std::array<const char16_t*, 10> firstCategories{
-    u"Ottimo",  u"Da vedere", u"Interessante", u"Vedibile", u"Punto Sosta",
-    u"PS e CS", u"Campeggio", u"Ristorante",   u"Gpl",      u"Diari di bordo"};
-
 store::Recordset& openCategories(Form& form) {
     form.archivio.StringaSQL = QStringLiteral("SELECT * FROM TipoGuida ORDER BY CodiceGuida");
     form.archivio.RecordSetImposta(0, store::TipoGuida);
@@ -234,8 +233,8 @@ void addCategory(store::Recordset& table, int code, const QString& name, bool ti
 void loadCategories(Form& form) {
     store::Recordset& empty = openCategories(form);
     if (empty.EOF_()) {
-        for (int i = 1; i <= 10; ++i)
-            addCategory(empty, i, QString::fromUtf16(firstCategories[static_cast<std::size_t>(i - 1)]), i < 5);
+        for (std::size_t i = 0; i < primeCategorie.size(); ++i)
+            addCategory(empty, static_cast<int>(i) + 1, QString::fromUtf16(primeCategorie[i]), i < categorieDaVisitare);
     }
     QString wanted = QStringLiteral("Ottimo^Da vedere^Interessante^Vedibile^Punto Sosta^PS e CS^Campeggio^Ristorante^"
                                     "Gpl^Diari bordo^Carte/Guide^Altro^");
@@ -298,6 +297,7 @@ void Form_Load(Form& form) {
         form.txtGDescr.setMaxLength(form.archivio.Rs(store::GuidaCitta).size(3));
         form.mfgCopia.setVisible(false);
         form.yield();
+        cercaVecchiFile(form);
         AbilitaPulsantiMeta(form, s.CodiceMeta.isEmpty() ? QStringLiteral("NuImEs") : QStringLiteral("All"));
         ImpostaGiorniMeseInizio(form);
         tidyGuidePlaces(form);

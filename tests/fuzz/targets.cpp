@@ -3,13 +3,14 @@
 
 #include "fuzz_target.h"
 #include "iei_target.h"
+#include "old_files_target.h"
 #include "route_target.h"
 
 namespace vanzer::fuzz {
 
 std::span<const Target> targets() {
     static constexpr Target all[] = {
-        {"iei", readExchangeFile}, {"pacchetto", readRoutePackage}, {"mete", readStopFile}};
+        {"iei", readExchangeFile}, {"pacchetto", readRoutePackage}, {"mete", readStopFile}, {"vecchi", readOldFile}};
     return all;
 }
 

@@ -1,0 +1,100 @@
+#include "exchange/conversion.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "core/text.h"
+#include "itinerary/leg_table.h"
+
+namespace vanzer {
+
+namespace {
+
+const QString& text(const store::RecordVecchio& record, const store::FormatoVecchio& format, QStringView field) {
+    return record[format.campo(field)];
+}
+
+/// ggHHmm as gg:HH:mm; a blank for no stop.
+QString sosta(const QString& digits) {
+    if (Val(digits) == 0)
+        return QStringLiteral(" ");
+    return Left(digits, 2) + u':' + Mid(digits, 3, 2) + u':' + Mid(digits, 5, 2);
+}
+
+QString padded(const QString& value, int width) {
+    return Right(QString(width, u'0') + value, width);
+}
+
+constexpr std::array<std::pair<QStringView, QStringView>, 8> defaults{{{u"OraColazione", u"0900"},
+                                                                       {u"OraPranzo", u"1230"},
+                                                                       {u"DurataPranzo", u"0230"},
+                                                                       {u"OraCena", u"2000"},
+                                                                       {u"DurataCena", u"0130"},
+                                                                       {u"OraNotte", u"2230"},
+                                                                       {u"InizioVisita", u"0000"},
+                                                                       {u"FineVisita", u"2400"}}};
+
+} // namespace
+
+bool metaDaConvertire(const store::RecordVecchio& record) {
+    const QString& place = text(record, store::vecchieMete(), u"Locali");
+    return Val(text(record, store::vecchieMete(), u"Codice")) > 0 && !place.startsWith(u"..") && !Trim(place).isEmpty();
+}
+
+QString codiceConvertito(const store::RecordVecchio& record) {
+    return Zero(Val(text(record, store::vecchieMete(), u"Codice")), 6);
+}
+
+std::optional<TappaConvertita> tappaConvertita(const store::RecordVecchio& record) {
+    const store::FormatoVecchio& format = store::vecchieTappe();
+    constexpr qsizetype longestRoad = 64;
+    const QString& whole = text(record, format, u"Locali");
+    const qsizetype star = whole.indexOf(u'*');
+    const QString place = star < 0 ? whole : whole.left(star);
+    // In the order of the alphabet every letter, one with an accent too, lies between A and Z.
+    if (place.isEmpty() || !place.front().isLetter())
+        return std::nullopt;
+    const QString road = star < 0 ? QString() : Trim(whole.sliced(star + 1));
+    return TappaConvertita{Trim(place),
+                           text(record, format, u"Chilom"),
+                           Left(road + u' ', longestRoad),
+                           text(record, format, u"TipoSt"),
+                           sosta(text(record, format, u"TempoS")),
+                           text(record, format, u"FlagED")};
+}
+
+VoceConvertita voceConvertita(const store::RecordVecchio& record) {
+    const store::FormatoVecchio& format = store::vecchiaGuida();
+    const QString time = padded(Trim(text(record, format, u"TempoS")), 4);
+    return {text(record, format, u"Locali"), text(record, format, u"Descri"),
+            padded(Trim(text(record, format, u"TipoDa")), 2), Left(time, 2) + u':' + Right(time, 2),
+            text(record, format, u"FlagVi")};
+}
+
+TappeVecchie tappeDaLeggere(const store::FileVecchio& file) {
+    const int present = file.numero() - 1;
+    if (present < 0)
+        return {};
+    const auto head = file.record(1);
+    double told = 0;
+    bool readable = head.has_value();
+    if (head) {
+        told = Int(Val(text(*head, store::vecchieTappe(), u"Locali")));
+        readable = told >= 0 && told == Int(Val(text(*head, store::vecchieTappe(), u"Chilom")));
+    }
+    const double most = Minore(present, massimoTratti);
+    const int legs = readable ? static_cast<int>(Minore(told, most)) : 0;
+    return {legs, present - legs + (readable && told <= most ? 0 : 1)};
+}
+
+QString valoreAdeguato(QStringView field, int size, const QString& value) {
+    if ((size != 2 && size != 4) || Val(value) != 0)
+        return value;
+    if (size == 2)
+        return QStringLiteral("00");
+    const auto* const found = std::ranges::find_if(defaults, [field](const auto& d) { return uguale(d.first, field); });
+    return found == defaults.end() ? value : found->second.toString();
+}
+
+} // namespace vanzer

@@ -1,0 +1,349 @@
+#include "exchange/conversion_screen.h"
+
+#include <algorithm>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include "core/place_name.h"
+#include "core/text.h"
+#include "core/text_file.h"
+#include "exchange/choice_screen.h"
+#include "exchange/conversion.h"
+#include "guide/categories.h"
+#include "itinerary/leg_table_screen.h"
+#include "window/destination.h"
+#include "window/destination_screen.h"
+#include "window/modes.h"
+
+namespace vanzer {
+
+namespace {
+
+const QString titolo = QStringLiteral("Conversione file");
+
+struct MetaInArchivio {
+    QString codice;
+    QString nome;
+};
+
+std::vector<MetaInArchivio> storedDestinations(Form& form) {
+    std::vector<MetaInArchivio> destinations;
+    store::Recordset records(*form.archivio.Db(0),
+                             {store::TabelleNomi(store::MeteVanzer), {}, {{QStringLiteral("CodiceMeta")}}});
+    for (; !records.EOF_(); records.MoveNext())
+        destinations.push_back({records.testo(u"CodiceMeta"), records.testo(u"Localita")});
+    return destinations;
+}
+
+/// Two entries are one if their descriptions are the same and their places the same before a "(", capitals ignored.
+bool sameEntry(const QString& place, const QString& description, const VoceConvertita& entry) {
+    return uguale(Trim(description), Trim(entry.Descrizione)) && stessaMeta(place, entry.Localita);
+}
+
+/// Why the work ends before its time.
+struct Interruzione {
+    QString motivo;
+};
+
+class Conversione {
+  public:
+    explicit Conversione(Form& form) : form_(form), running_(form) { AbilitaPulsantiMeta(form, QStringLiteral("Es")); }
+
+    void mete() {
+        const OldFile file = openFile(store::vecchieMete(), store::fileVecchieMete.toString());
+        finish(file, readRecords(QStringLiteral("Conversione file mète"), file.records, [this](const auto& record) {
+                   if (metaDaConvertire(record))
+                       writeDestination(record);
+                   return true;
+               }));
+    }
+
+    void itinerari() {
+        const std::vector<MetaInArchivio> destinations = storedDestinations(form_);
+        begin(QStringLiteral("Conversione file itinerari"), static_cast<double>(destinations.size()));
+        double done = 0;
+        for (const MetaInArchivio& destination : destinations) {
+            form_.txtNazione.setText(destination.nome);
+            advance(++done);
+            itinerario(destination.codice);
+        }
+    }
+
+    /// The guide's file goes last: with it the categories and the adjustment are stored.
+    void guidaEAdeguamento() {
+        const OldFile file = openFile(store::vecchiaGuida(), store::fileVecchiaGuida.toString());
+        const int left = readRecords(QStringLiteral("Conversione file guida città"), file.records,
+                                     [this](const auto& record) { return writeEntry(voceConvertita(record)); });
+        rifaCategorie();
+        adegua();
+        finish(file, left);
+    }
+
+    [[nodiscard]] QString resoconto() const {
+        const auto listed = [](const QStringList& names) {
+            constexpr qsizetype most = 10;
+            const QString rest =
+                names.size() > most ? QStringLiteral("\ne altri %1").arg(names.size() - most) : QString();
+            return QStringList(names.first(std::min(names.size(), most))).join(u'\n') + rest;
+        };
+        QString text = QStringLiteral("Conversione eseguita...");
+        if (left_ > 0)
+            text += QStringLiteral("\n\nRecord danneggiati e non convertiti: %1.\nI file che li contengono non sono "
+                                   "stati cancellati:\n%2")
+                        .arg(migliaiaZero(left_), listed(kept_));
+        if (!stuck_.isEmpty())
+            text += QStringLiteral("\n\nFile convertiti, ma che non è stato possibile togliere:\n") + listed(stuck_);
+        return text;
+    }
+    [[nodiscard]] bool tuttoConvertito() const { return left_ == 0 && stuck_.isEmpty(); }
+
+  private:
+    struct OldFile {
+        QString path; ///< empty: there is none
+        store::FileVecchio records;
+    };
+
+    OldFile openFile(const store::FormatoVecchio& format, const QString& name) {
+        const QString path = store::trovaVecchioFile(form_.archivio.PercorsoProgramma, name);
+        if (path.isEmpty())
+            return {{}, {format, {}}};
+        FileLetto file = leggeFile(path);
+        if (!file.errore.isEmpty())
+            throw Interruzione{QStringLiteral("Il file %1 non può essere letto:\n%2").arg(shown(path), file.errore)};
+        return {path, {format, std::move(file.contenuto)}};
+    }
+
+    static QString shown(const QString& path) { return QFileInfo(path).fileName(); }
+
+    void begin(const QString& what, double total) {
+        form_.stato.PercentualeTotale = total;
+        form_.lblElaborazione.setCaption(what);
+    }
+
+    /// Hands record after record on; those that are damaged, or that `take` refuses, are counted.
+    template<typename Take> int readRecords(const QString& what, const store::FileVecchio& records, Take take) {
+        begin(what, records.numero());
+        int left = 0;
+        for (int n = 1; n <= records.numero(); ++n) {
+            advance(n);
+            const auto record = records.record(n);
+            if (!record || !take(*record))
+                ++left;
+        }
+        return left;
+    }
+
+    void advance(double done) {
+        if (!running_.avanza(done))
+            throw Interruzione{QStringLiteral("Conversione interrotta!")};
+    }
+
+    /// The records are safe before their file goes.
+    void finish(const OldFile& file, int left) {
+        form_.archivio.storeSoFar();
+        if (file.path.isEmpty())
+            return;
+        left_ += left;
+        if (left == 0) {
+            if (!QFile::remove(file.path))
+                stuck_ << shown(file.path);
+            return;
+        }
+        const QString kept = freeName(file.path);
+        if (QFile::rename(file.path, kept))
+            kept_ << shown(kept);
+        else
+            stuck_ << shown(file.path);
+    }
+
+    /// An older file kept under that name stays.
+    static QString freeName(const QString& path) {
+        QString name = path + QStringLiteral(".vecchio");
+        for (int n = 2; QFile::exists(name); ++n)
+            name = path + QStringLiteral(".%1.vecchio").arg(n);
+        return name;
+    }
+
+    /// The record that the query finds first, to be changed, or a new one.
+    store::Recordset& found(int table, std::vector<store::Condition> where) {
+        form_.archivio.RecordSetImposta(0, table, {store::TabelleNomi(table), std::move(where), {}});
+        store::Recordset& records = form_.archivio.Rs(table);
+        records.EOF_() ? records.AddNew() : records.Edit();
+        return records;
+    }
+
+    void writeDestination(const store::RecordVecchio& record) {
+        const QString code = codiceConvertito(record);
+        store::Recordset& meta =
+            found(store::MeteVanzer, {{QStringLiteral("CodiceMeta"), store::Condition::Test::Equal, code}});
+        meta.scrive(0, code);
+        for (int field = 1; field < static_cast<int>(record.size()); ++field)
+            meta.scrive(field,
+                        valoreAdeguato(meta.name(field), meta.size(field), record[static_cast<std::size_t>(field)]));
+        form_.txtLocalita.setText(meta.testo(u"Localita"));
+        meta.Update();
+    }
+
+    void itinerario(const QString& code) {
+        const OldFile file = openFile(store::vecchieTappe(), store::fileVecchieTappe(code));
+        TappeVecchie legs = tappeDaLeggere(file.records);
+        for (int i = 2; i <= legs.tappe + 1; ++i) {
+            const auto record = file.records.record(i);
+            if (!record)
+                ++legs.tralasciati;
+            else if (const auto leg = tappaConvertita(*record))
+                writeLeg(code, Zero(i - 1, 4), *leg);
+        }
+        finish(file, legs.tralasciati);
+    }
+
+    void writeLeg(const QString& code, const QString& sequence, const TappaConvertita& leg) {
+        form_.txtLocalita.setText(leg.Localita);
+        form_.yield();
+        store::Recordset& records =
+            found(store::Itinerari, {{QStringLiteral("CodiceMeta"), store::Condition::Test::Equal, code},
+                                     {QStringLiteral("Sequenza"), store::Condition::Test::Equal, sequence}});
+        records.scrive(u"CodiceMeta", code);
+        records.scrive(u"Sequenza", sequence);
+        records.scrive(u"Localita", leg.Localita);
+        records.scrive(u"Chilometri", leg.Chilometri);
+        records.scrive(u"NomeStrada", leg.NomeStrada);
+        records.scrive(u"TipoStrada", leg.TipoStrada);
+        records.scrive(u"TempoSosta", leg.TempoSosta);
+        records.scrive(u"FineGiorno", leg.FineGiorno);
+        records.Update();
+    }
+
+    /// A start of the program takes a part in brackets off the guide's places: the name is found with it and without.
+    static QString namePattern(const QString& place) {
+        return place.contains(u'(') ? Trim(taglia(place, u'(')) + u'(' : place;
+    }
+
+    /// False for an entry without a place or a description, unless it holds nothing at all.
+    bool writeEntry(const VoceConvertita& entry) {
+        if (Trim(entry.Localita).isEmpty() || Trim(entry.Descrizione).isEmpty())
+            return Trim(entry.Localita).isEmpty() && Trim(entry.Descrizione).isEmpty();
+        using enum store::Condition::Test;
+        const QString place = QStringLiteral("Localita");
+        const QString description = QStringLiteral("Descrizione");
+        form_.archivio.RecordSetImposta(
+            0, store::GuidaCitta,
+            {store::TabelleNomi(store::GuidaCitta),
+             {{place, Like, LikeTesto(namePattern(entry.Localita))}, {description, Like, LikeTesto(entry.Descrizione)}},
+             {}});
+        store::Recordset& guide = form_.archivio.Rs(store::GuidaCitta);
+        while (!guide.EOF_() && !sameEntry(guide.testo(place), guide.testo(description), entry))
+            guide.MoveNext();
+        guide.EOF_() ? guide.AddNew() : guide.Edit();
+        form_.txtLocalita.setText(entry.Localita);
+        guide.scrive(place, entry.Localita);
+        guide.scrive(description, entry.Descrizione);
+        guide.scrive(u"CodiceGuida", entry.CodiceGuida);
+        guide.scrive(u"TempoSosta", entry.TempoSosta);
+        guide.scrive(u"FlagVisto", entry.FlagVisto);
+        guide.Update();
+        return true;
+    }
+
+    void rifaCategorie() {
+        constexpr std::size_t known = 9; // to the old generation
+        CancellaTabella(form_, store::TipoGuida, {}, {});
+        form_.archivio.RecordSetImposta(0, store::TipoGuida, {store::TabelleNomi(store::TipoGuida), {}, {}});
+        store::Recordset& categories = form_.archivio.Rs(store::TipoGuida);
+        for (std::size_t i = 0; i < known; ++i) {
+            categories.AddNew();
+            categories.scrive(0, Zero(static_cast<double>(i + 1), 2));
+            categories.scrive(1, QString::fromUtf16(primeCategorie[i]));
+            categories.Update();
+        }
+    }
+
+    void adegua() {
+        form_.archivio.RecordSetImposta(0, store::MeteVanzer,
+                                        {store::TabelleNomi(store::MeteVanzer), {}, {{QStringLiteral("Localita")}}});
+        begin(QStringLiteral("Adeguamento archivio mète"), form_.archivio.NumeroRecord());
+        store::Recordset& meta = form_.archivio.Rs(store::MeteVanzer);
+        for (double done = 1; !meta.EOF_(); meta.MoveNext(), ++done) {
+            advance(done);
+            meta.Edit();
+            for (int field = 0; field < meta.count(); ++field) {
+                const QString value = meta.testo(field);
+                if (const QString adjusted = valoreAdeguato(meta.name(field), meta.size(field), value);
+                    adjusted != value)
+                    meta.scrive(field, adjusted);
+            }
+            meta.Update();
+        }
+    }
+
+    Form& form_;
+    ScambioInCorso running_;
+    double left_ = 0;
+    QStringList kept_;
+    QStringList stuck_;
+};
+
+/// What the user reads when it has ended before its time.
+void tellBrokenOff(Form& form, const QString& reason) {
+    form.archivio.undoSoFar();
+    if (form.chiusa)
+        return;
+    AzzeraPercentuale(form);
+    form.messaggio(reason + QStringLiteral("\n\nQuanto è già stato convertito è in archivio, il resto è ancora nei "
+                                           "vecchi file: la conversione si può riprendere."),
+                   titolo, Icona::Avviso);
+}
+
+void converte(Form& form) {
+    try {
+        Conversione work(form);
+        work.mete();
+        work.itinerari();
+        work.guidaEAdeguamento();
+        AzzeraPercentuale(form);
+        if (work.tuttoConvertito())
+            form.messaggio(work.resoconto());
+        else
+            form.messaggio(work.resoconto(), titolo, Icona::Avviso);
+    } catch (const Interruzione& end) {
+        tellBrokenOff(form, end.motivo);
+    } catch (const store::StoreError& error) {
+        tellBrokenOff(form, error.testo());
+    }
+}
+
+} // namespace
+
+void cercaVecchiFile(Form& form) {
+    QStringList codes;
+    for (const MetaInArchivio& destination : storedDestinations(form))
+        codes << destination.codice;
+    form.stato.VecchiFile = store::vecchiFileInAttesa(form.archivio.PercorsoProgramma, codes);
+    if (!form.stato.VecchiFile)
+        return;
+    form.cmdConverte.setCaption(QStringLiteral("C&onverte vecchi file"));
+    form.cmdConverte.setTooltip(QStringLiteral("Porta in archivio le mète, gli itinerari e la guida dei vecchi file"));
+}
+
+void cmdConverte_Click(Form& form) {
+    form.stato.Risposta =
+        form.domanda(QStringLiteral("Vuoi convertire i vecchi file nel corrente database?\n\nI dati già presenti nel "
+                                    "database saranno integrati e non cancellati.\n\nProcedo?"),
+                     titolo, Pulsanti::SiNo);
+    if (form.stato.Risposta == rispostaSi) {
+        AttivaFormMeta(form, true);
+        form.txtNazione.setText({});
+        converte(form);
+        if (form.chiusa)
+            return;
+        cercaVecchiFile(form);
+    }
+    RicercaMetaCorrente(form);
+    CaricaDatiAnagraficiMeta(form);
+    CaricaTappeItinerario(form);
+    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+}
+
+} // namespace vanzer

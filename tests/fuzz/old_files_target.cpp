@@ -1,0 +1,63 @@
+#include "old_files_target.h"
+
+#include <algorithm>
+
+#include "core/code_page.h"
+#include "exchange/conversion.h"
+#include "fuzz_target.h"
+
+namespace vanzer::fuzz {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// What a record says is what stands in its bytes, and nothing of it is a control.
+void checkRecord(const store::FormatoVecchio& format, const QByteArray& bytes, const store::RecordVecchio& record) {
+    qsizetype at = 0;
+    for (std::size_t i = 0; i < format.campi.size(); ++i) {
+        const int width = format.campi[i].larghezza;
+        const QString there = fromCodePage(QByteArrayView(bytes).sliced(at, width));
+        promise(record[i].leftJustified(width, u' ') == there || (format.campi[i].siNo && there == u" "),
+                u"a text is its bytes without the padding"_s);
+        promise(std::ranges::none_of(record[i], [](QChar c) { return c < u' '; }), u"a text holds no control"_s);
+        at += width;
+    }
+}
+
+void checkLegs(const store::FileVecchio& file) {
+    const TappeVecchie legs = tappeDaLeggere(file);
+    promise(legs.tappe >= 0 && legs.tappe <= std::max(0, file.numero() - 1), u"no more legs than there are"_s);
+    promise(legs.tappe + legs.tralasciati >= file.numero() - 1, u"every record is read or counted"_s);
+}
+
+void checkConverted(const store::FormatoVecchio& format, const store::RecordVecchio& record) {
+    if (&format == &store::vecchieMete() && metaDaConvertire(record))
+        promise(codiceConvertito(record).size() == 6, u"codes have six digits"_s);
+    if (&format == &store::vecchieTappe()) {
+        const auto leg = tappaConvertita(record);
+        promise(!leg || (!leg->Localita.isEmpty() && !leg->NomeStrada.isEmpty() && !leg->TempoSosta.isEmpty()),
+                u"texts that are stored aren't empty"_s);
+    }
+    if (&format == &store::vecchiaGuida()) {
+        const VoceConvertita entry = voceConvertita(record);
+        promise(entry.CodiceGuida.size() == 2 && entry.TempoSosta.size() == 5, u"codes and times fit"_s);
+    }
+}
+
+} // namespace
+
+void readOldFile(const QByteArray& input) {
+    for (const auto* const format : {&store::vecchieMete(), &store::vecchieTappe(), &store::vecchiaGuida()}) {
+        const store::FileVecchio file(*format, input);
+        for (int n = 1; n <= file.numero(); ++n) {
+            if (const auto record = file.record(n)) {
+                checkRecord(*format, input.sliced(static_cast<qsizetype>(n - 1) * format->lunghezza), *record);
+                checkConverted(*format, *record);
+            }
+        }
+        checkLegs(file);
+    }
+}
+
+} // namespace vanzer::fuzz
