@@ -5,7 +5,7 @@
 
 namespace vanzer {
 
-/// Looks for old files; while there are any their button is in view, on with the menu.
+/// Looks for old files; while there are any their button is in view, on where an import is.
 void cercaVecchiFile(Form& form);
 
 /// Destinations, itineraries and guide come into the archive beside what it holds; of equal keys the old file's records

@@ -30,6 +30,9 @@ void enableMenu(Form& form) {
     form.cmdCancItin.setEnabled(on(u"Ci"));
     form.cmdEsce.setEnabled(on(u"Es"));
     form.cmdExport.setEnabled(on(u"Ex"));
+    // What is being typed or searched isn't swept away by a conversion: it is on where an import is.
+    form.cmdConverte.setVisible(form.stato.VecchiFile);
+    form.cmdConverte.setEnabled(form.stato.VecchiFile && on(u"Im"));
     form.cmdEsce.setCaption(uguale(codes, u"Es") ? QStringLiteral("&Stop") : QStringLiteral("&Esce"));
 }
 
@@ -76,8 +79,6 @@ void AbilitaPulsantiComando(Form& form) {
         s.PulsantiMeta = QStringLiteral("F");
     enableMenu(form);
     enableItinerary(form);
-    form.cmdConverte.setEnabled(s.VecchiFile && form.cmdNuovo.enabled());
-    form.cmdConverte.setVisible(s.VecchiFile);
     form.cmdEsce.setTooltip(QStringLiteral("Esce dal form"));
     form.yield();
 }

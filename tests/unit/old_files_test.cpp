@@ -195,6 +195,10 @@ TEST_F(Conversion, ComesInWholeAndTheFilesGo) {
     oldArchive();
     start();
     EXPECT_TRUE(waiting());
+    form().cmdNuovo.click();
+    EXPECT_FALSE(form().cmdConverte.enabled()) << "while a destination is being typed";
+    EXPECT_TRUE(form().cmdConverte.visible());
+    start();
     EXPECT_EQ(convert(rispostaNo).size(), 1);
     EXPECT_TRUE(waiting()) << "still there after a no";
     EXPECT_EQ(convert().last(), u"Conversione eseguita..."_s);
