@@ -102,8 +102,9 @@ int DialogBoxes::show(const QString& text, const QString& title, Pulsanti button
     box.setIcon(sign(icon, buttons));
     box.setTextFormat(Qt::PlainText);
     const QString plain = QString(text).remove(u'\r');
-    box.setText(setOut(plain) ? inColumns(plain) : plain);
-    if (setOut(plain))
+    const bool columns = setOut(plain);
+    box.setText(columns ? inColumns(plain) : plain);
+    if (columns)
         box.setFont(fontInWhichItLinesUp(plain, box.font()));
     for (const Choice& choice : choices(buttons))
         box.addButton(choice.button)->setText(QString::fromUtf16(choice.text));

@@ -246,6 +246,16 @@ QStringList campiDellaTabella(Form& form, int table) {
     return names;
 }
 
+QStringList codiciMemorizzati(Form& form) {
+    form.archivio.RecordSetImposta(0, store::Archive::slotAppoggio,
+                                   {store::TabelleNomi(store::MeteVanzer), {}, {{codiceCampo}}});
+    store::Recordset& records = form.archivio.Rs(store::Archive::slotAppoggio);
+    QStringList codes;
+    for (; !records.EOF_(); records.MoveNext())
+        codes << records.testo(codiceCampo);
+    return codes;
+}
+
 QStringList codiciDellaLista(const Grid& list) {
     QStringList codes;
     for (int r = 1; r < list.rows(); ++r) {

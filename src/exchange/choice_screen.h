@@ -26,6 +26,8 @@ void AggiornaPulsantiImportExport(Form& form);
 /// The names of a table's fields, as the archive has them.
 [[nodiscard]] QStringList campiDellaTabella(Form& form, int table);
 
+/// The codes of the stored destinations, in their order.
+[[nodiscard]] QStringList codiciMemorizzati(Form& form);
 /// The codes of a list's rows that have one.
 [[nodiscard]] QStringList codiciDellaLista(const Grid& list);
 

@@ -22,10 +22,6 @@ QString sosta(const QString& digits) {
     return Left(digits, 2) + u':' + Mid(digits, 3, 2) + u':' + Mid(digits, 5, 2);
 }
 
-QString padded(const QString& value, int width) {
-    return Right(QString(width, u'0') + value, width);
-}
-
 constexpr std::array<std::pair<QStringView, QStringView>, 8> defaults{{{u"OraColazione", u"0900"},
                                                                        {u"OraPranzo", u"1230"},
                                                                        {u"DurataPranzo", u"0230"},
@@ -66,10 +62,10 @@ std::optional<TappaConvertita> tappaConvertita(const store::RecordVecchio& recor
 
 VoceConvertita voceConvertita(const store::RecordVecchio& record) {
     const store::FormatoVecchio& format = store::vecchiaGuida();
-    const QString time = padded(Trim(text(record, format, u"TempoS")), 4);
+    const QString time = AntStr(Trim(text(record, format, u"TempoS")), 4, QStringLiteral("0"));
     return {text(record, format, u"Locali"), text(record, format, u"Descri"),
-            padded(Trim(text(record, format, u"TipoDa")), 2), Left(time, 2) + u':' + Right(time, 2),
-            text(record, format, u"FlagVi")};
+            AntStr(Trim(text(record, format, u"TipoDa")), 2, QStringLiteral("0")),
+            Left(time, 2) + u':' + Right(time, 2), text(record, format, u"FlagVi")};
 }
 
 TappeVecchie tappeDaLeggere(const store::FileVecchio& file) {

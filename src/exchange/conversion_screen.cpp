@@ -23,20 +23,6 @@ namespace {
 
 const QString titolo = QStringLiteral("Conversione file");
 
-struct MetaInArchivio {
-    QString codice;
-    QString nome;
-};
-
-std::vector<MetaInArchivio> storedDestinations(Form& form) {
-    std::vector<MetaInArchivio> destinations;
-    store::Recordset records(*form.archivio.Db(0),
-                             {store::TabelleNomi(store::MeteVanzer), {}, {{QStringLiteral("CodiceMeta")}}});
-    for (; !records.EOF_(); records.MoveNext())
-        destinations.push_back({records.testo(u"CodiceMeta"), records.testo(u"Localita")});
-    return destinations;
-}
-
 /// Two entries are one if their descriptions are the same and their places the same before a "(", capitals ignored.
 bool sameEntry(const QString& place, const QString& description, const VoceConvertita& entry) {
     return uguale(Trim(description), Trim(entry.Descrizione)) && stessaMeta(place, entry.Localita);
@@ -61,13 +47,14 @@ class Conversione {
     }
 
     void itinerari() {
-        const std::vector<MetaInArchivio> destinations = storedDestinations(form_);
-        begin(QStringLiteral("Conversione file itinerari"), static_cast<double>(destinations.size()));
+        const QStringList codes = codiciMemorizzati(form_);
+        begin(QStringLiteral("Conversione file itinerari"), static_cast<double>(codes.size()));
         double done = 0;
-        for (const MetaInArchivio& destination : destinations) {
-            form_.txtNazione.setText(destination.nome);
+        for (const QString& code : codes) {
+            const store::Recordset& meta = open(store::MeteVanzer, {withCode(code)});
+            form_.txtNazione.setText(meta.EOF_() ? code : meta.testo(u"Localita"));
             advance(++done);
-            itinerario(destination.codice);
+            itinerario(code);
         }
     }
 
@@ -166,18 +153,26 @@ class Conversione {
         return name;
     }
 
+    static store::Condition withCode(const QString& code) {
+        return {QStringLiteral("CodiceMeta"), store::Condition::Test::Equal, code};
+    }
+
+    store::Recordset& open(int table, std::vector<store::Condition> where) {
+        form_.archivio.RecordSetImposta(0, table, {store::TabelleNomi(table), std::move(where), {}});
+        return form_.archivio.Rs(table);
+    }
+
     /// The record that the query finds first, to be changed, or a new one.
     store::Recordset& found(int table, std::vector<store::Condition> where) {
-        form_.archivio.RecordSetImposta(0, table, {store::TabelleNomi(table), std::move(where), {}});
-        store::Recordset& records = form_.archivio.Rs(table);
+        store::Recordset& records = open(table, std::move(where));
         records.EOF_() ? records.AddNew() : records.Edit();
         return records;
     }
 
+    /// Adjusted at once: a conversion that is broken off leaves no destination without its times.
     void writeDestination(const store::RecordVecchio& record) {
         const QString code = codiceConvertito(record);
-        store::Recordset& meta =
-            found(store::MeteVanzer, {{QStringLiteral("CodiceMeta"), store::Condition::Test::Equal, code}});
+        store::Recordset& meta = found(store::MeteVanzer, {withCode(code)});
         meta.scrive(0, code);
         for (int field = 1; field < static_cast<int>(record.size()); ++field)
             meta.scrive(field,
@@ -202,9 +197,8 @@ class Conversione {
     void writeLeg(const QString& code, const QString& sequence, const TappaConvertita& leg) {
         form_.txtLocalita.setText(leg.Localita);
         form_.yield();
-        store::Recordset& records =
-            found(store::Itinerari, {{QStringLiteral("CodiceMeta"), store::Condition::Test::Equal, code},
-                                     {QStringLiteral("Sequenza"), store::Condition::Test::Equal, sequence}});
+        store::Recordset& records = found(
+            store::Itinerari, {withCode(code), {QStringLiteral("Sequenza"), store::Condition::Test::Equal, sequence}});
         records.scrive(u"CodiceMeta", code);
         records.scrive(u"Sequenza", sequence);
         records.scrive(u"Localita", leg.Localita);
@@ -228,12 +222,8 @@ class Conversione {
         using enum store::Condition::Test;
         const QString place = QStringLiteral("Localita");
         const QString description = QStringLiteral("Descrizione");
-        form_.archivio.RecordSetImposta(
-            0, store::GuidaCitta,
-            {store::TabelleNomi(store::GuidaCitta),
-             {{place, Like, LikeTesto(namePattern(entry.Localita))}, {description, Like, LikeTesto(entry.Descrizione)}},
-             {}});
-        store::Recordset& guide = form_.archivio.Rs(store::GuidaCitta);
+        store::Recordset& guide = open(store::GuidaCitta, {{place, Like, LikeTesto(namePattern(entry.Localita))},
+                                                           {description, Like, LikeTesto(entry.Descrizione)}});
         while (!guide.EOF_() && !sameEntry(guide.testo(place), guide.testo(description), entry))
             guide.MoveNext();
         guide.EOF_() ? guide.AddNew() : guide.Edit();
@@ -250,8 +240,7 @@ class Conversione {
     void rifaCategorie() {
         constexpr std::size_t known = 9; // to the old generation
         CancellaTabella(form_, store::TipoGuida, {}, {});
-        form_.archivio.RecordSetImposta(0, store::TipoGuida, {store::TabelleNomi(store::TipoGuida), {}, {}});
-        store::Recordset& categories = form_.archivio.Rs(store::TipoGuida);
+        store::Recordset& categories = open(store::TipoGuida, {});
         for (std::size_t i = 0; i < known; ++i) {
             categories.AddNew();
             categories.scrive(0, Zero(static_cast<double>(i + 1), 2));
@@ -317,10 +306,7 @@ void converte(Form& form) {
 } // namespace
 
 void cercaVecchiFile(Form& form) {
-    QStringList codes;
-    for (const MetaInArchivio& destination : storedDestinations(form))
-        codes << destination.codice;
-    form.stato.VecchiFile = store::vecchiFileInAttesa(form.archivio.PercorsoProgramma, codes);
+    form.stato.VecchiFile = store::vecchiFileInAttesa(form.archivio.PercorsoProgramma, codiciMemorizzati(form));
     if (!form.stato.VecchiFile)
         return;
     form.cmdConverte.setCaption(QStringLiteral("C&onverte vecchi file"));
@@ -341,8 +327,7 @@ void cmdConverte_Click(Form& form) {
         cercaVecchiFile(form);
     }
     RicercaMetaCorrente(form);
-    CaricaDatiAnagraficiMeta(form);
-    CaricaTappeItinerario(form);
+    RicaricaItinerario(form);
     AbilitaPulsantiMeta(form, QStringLiteral("all"));
 }
 

@@ -7,7 +7,6 @@
 #include "exchange/choice_screen.h"
 #include "exchange/export_screen.h"
 #include "exchange/import_screen.h"
-#include "itinerary/leg_table_screen.h"
 #include "window/confirmation.h"
 #include "window/destination_screen.h"
 #include "window/modes.h"
@@ -52,8 +51,7 @@ void EsciExportImport(Form& form) {
 /// What the work may have changed is shown anew.
 void reloadMainScreen(Form& form) {
     form.stato.CodiceMeta.clear();
-    CaricaDatiAnagraficiMeta(form);
-    CaricaTappeItinerario(form);
+    RicaricaItinerario(form);
     AbilitaPulsantiMeta(form, QStringLiteral("all"));
 }
 

@@ -95,17 +95,6 @@ class ArchivioAperto final : public ArchivioImport {
     std::array<store::Recordset, ultimaSezione + 1> tables_;
 };
 
-QStringList storedCodes(Form& form) {
-    const QString code = QStringLiteral("CodiceMeta");
-    form.archivio.RecordSetImposta(0, store::Archive::slotAppoggio,
-                                   {store::TabelleNomi(store::MeteVanzer), {}, {{code}}});
-    store::Recordset& records = form.archivio.Rs(store::Archive::slotAppoggio);
-    QStringList codes;
-    for (; !records.EOF_(); records.MoveNext())
-        codes << records.testo(code);
-    return codes;
-}
-
 QString cantAssign(const CodiciMete& codes, CodiciMete::Esito result) {
     const QString code = codes.colpevole().left(longestShown);
     if (result == CodiciMete::Esito::CodiciEsauriti)
@@ -176,7 +165,7 @@ EsitoImport leggeFileImport(Form& form) {
     try {
         CodiciMete codes;
         const CodiciMete::Esito assigned =
-            codes.assegna(storedCodes(form), codiciDellaLista(form.mfgImExp(0)),
+            codes.assegna(codiciMemorizzati(form), codiciDellaLista(form.mfgImExp(0)),
                           form.archivio.dimensioneCampo(store::MeteVanzer, u"CodiceMeta"));
         if (assigned != CodiciMete::Esito::Assegnati)
             return {false, cantAssign(codes, assigned)};

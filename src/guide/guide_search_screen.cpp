@@ -1,7 +1,6 @@
 #include "core/text.h"
 #include "guide/entries.h"
 #include "guide/guide_screen.h"
-#include "itinerary/leg_table_screen.h"
 #include "window/destination_screen.h"
 #include "window/modes.h"
 
@@ -101,8 +100,7 @@ void RinunciaRicercaGuida(Form& form) {
 void cmdFineInserimento_Click(Form& form) {
     for (int r = 1; r < form.mfgTab.rows(); ++r)
         sortGroup(form, r);
-    CaricaDatiAnagraficiMeta(form);
-    CaricaTappeItinerario(form);
+    RicaricaItinerario(form);
     form.mfgTab.setHeight(altezzaGrigliaTappe);
     form.frmframe(24).setVisible(false);
     AbilitaPulsantiMeta(form, QStringLiteral("all"));

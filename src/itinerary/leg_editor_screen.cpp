@@ -132,8 +132,7 @@ void showProgressiveBox(Form& form) {
 }
 
 void reloadDestination(Form& form) {
-    CaricaDatiAnagraficiMeta(form);
-    CaricaTappeItinerario(form);
+    RicaricaItinerario(form);
     form.stato.RigaCorrente = 1;
 }
 

@@ -66,8 +66,7 @@ void leave(Form& form) {
         !MemorizzaTappeItinerario(form))
         return;
     close(form);
-    CaricaDatiAnagraficiMeta(form);
-    CaricaTappeItinerario(form);
+    RicaricaItinerario(form);
 }
 
 void save(Form& form) {

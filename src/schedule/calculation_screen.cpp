@@ -3,7 +3,6 @@
 #include "core/text.h"
 #include "core/time_values.h"
 #include "itinerary/leg_editor_screen.h"
-#include "itinerary/leg_table_screen.h"
 #include "schedule/fitting.h"
 #include "schedule/growing_rows_screen.h"
 #include "schedule/preparation_screen.h"
@@ -126,8 +125,7 @@ void abandon(Form& form) {
         AttivaFormMeta(form, true);
         form.stato.ModoRicerca = 1;
         form.cmbRicerca.setText(form.txtLocalita.text());
-        CaricaDatiAnagraficiMeta(form);
-        CaricaTappeItinerario(form);
+        RicaricaItinerario(form);
         form.cmbRicerca.setVisible(false);
     }
     AbilitaPulsantiMeta(form, QStringLiteral("all"));

@@ -168,15 +168,13 @@ void saveRecord(Form& form, bool insertion) {
     writeRecord(form, record);
     record.Update();
     SalvaIlCodiceMetaCorrente(form);
-    CaricaDatiAnagraficiMeta(form);
-    CaricaTappeItinerario(form);
+    RicaricaItinerario(form);
     AbilitaPulsantiMeta(form, QStringLiteral("all"));
 }
 
 void reload(Form& form) {
     RicercaMetaCorrente(form);
-    CaricaDatiAnagraficiMeta(form);
-    CaricaTappeItinerario(form);
+    RicaricaItinerario(form);
 }
 
 } // namespace
@@ -345,8 +343,7 @@ void RichiamaMeta(Form& form, const QString& localita) {
         form.txtCodice.setText(found.testo(QStringLiteral("CodiceMeta")));
         SalvaIlCodiceMetaCorrente(form);
     }
-    CaricaDatiAnagraficiMeta(form);
-    CaricaTappeItinerario(form);
+    RicaricaItinerario(form);
     form.cmbRicerca.setVisible(false);
 }
 

@@ -104,7 +104,6 @@ TEST(OldFiles, LegsPartPlaceAndRoad) {
         const char16_t* road;
         const char16_t* stop;
     };
-    const QString long64(64, u'X');
     const std::vector<Row> rows{{u"MODENA*A1"_s, u"000000"_s, u"MODENA", u"A1 ", u" "},
                                 {u"MODENA * A1 *A22 "_s, u"010230"_s, u"MODENA", u"A1 *A22 ", u"01:02:30"},
                                 {u"MODENA"_s, {}, u"MODENA", u" ", u" "},
@@ -257,8 +256,6 @@ TEST_F(Conversion, DamagedRecordsAreCountedAndTheirFilesKept) {
 TEST_F(Conversion, StoppedAnywhereItLosesNothingAndGoesOn) {
     int stops = 0;
     for (int yield = 1;; ++yield) {
-        for (const QString& name : files().split(u'|', Qt::SkipEmptyParts) + QStringList{u"Vanzer.mdb"_s})
-            QFile::remove(directory.filePath(name));
         session.close();
         QFile::remove(directory.filePath(u"Vanzer.mdb"_s));
         oldArchive();
