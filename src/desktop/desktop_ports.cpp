@@ -9,6 +9,8 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QFontMetrics>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -50,9 +52,9 @@ QMessageBox::Icon sign(Icona icon, Pulsanti buttons) {
     }
 }
 
-/// Whether lines are set out with blanks or tabs.
+/// Whether a text is set out line by line, as the help is, or with tabs.
 bool setOut(const QString& text) {
-    return text.contains(u'\t') || text.contains(QStringLiteral("\n   "));
+    return text.contains(u'\r') || text.contains(u'\t');
 }
 
 /// Tabs line up in a font of one width. Blanks at the begin of a line are counted for one with narrow blanks, in which
@@ -75,6 +77,17 @@ QString inColumns(const QString& text) {
         column = c == u'\n' ? 0 : column + std::max<qsizetype>(blanks, 1);
     }
     return result;
+}
+
+/// Lines that are set out stay lines: the box is as wide as the longest.
+void setInLines(QMessageBox& box, const QString& text) {
+    box.setText(inColumns(text));
+    box.setFont(fontInWhichItLinesUp(text, box.font()));
+    const int width = QFontMetrics(box.font()).size(0, box.text()).width();
+    for (QLabel* const label : box.findChildren<QLabel*>()) {
+        if (label->text() == box.text())
+            label->setMinimumWidth(width);
+    }
 }
 
 /// The platform's file dialogs write filters "Name (*.ext)".
@@ -102,10 +115,10 @@ int DialogBoxes::show(const QString& text, const QString& title, Pulsanti button
     box.setIcon(sign(icon, buttons));
     box.setTextFormat(Qt::PlainText);
     const QString plain = QString(text).remove(u'\r');
-    const bool columns = setOut(plain);
-    box.setText(columns ? inColumns(plain) : plain);
-    if (columns)
-        box.setFont(fontInWhichItLinesUp(plain, box.font()));
+    if (setOut(text))
+        setInLines(box, plain);
+    else
+        box.setText(plain);
     for (const Choice& choice : choices(buttons))
         box.addButton(choice.button)->setText(QString::fromUtf16(choice.text));
     box.setDefaultButton(choices(buttons).front().button);

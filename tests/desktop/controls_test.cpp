@@ -128,6 +128,19 @@ TEST_F(Controls, BlanksInTheHelpKeepLinesUnderEachOther) {
     EXPECT_EQ(lines, 2);
 }
 
+TEST_F(Controls, NoLineOfTheHelpIsBroken) {
+    typeDestination("roma", "italia");
+    boxes.forget();
+    for (const char* button : {"cmdHelpGenerico", "cmdHelpTotale1", "cmdHelpTotale2", "cmdHelpTt"})
+        find<QAbstractButton>(button)->click();
+    letter('i');
+    for (const char* button : {"cmdHelpKm", "cmdHelpItin_0", "cmdHelpItin_1", "cmdHelpItin_2", "cmdHelpItin_3"})
+        find<QAbstractButton>(button)->click();
+    EXPECT_EQ(boxes.shown().size(), 9U);
+    for (const ShownBox& box : boxes.shown())
+        EXPECT_EQ(box.lines, box.text.count(u'\n') + 1) << box.text.toStdString();
+}
+
 TEST_F(Controls, TabGoesInTheOrderOfTheEye) {
     typeDestination("roma", "italia");
     letter('i');

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSettings>
@@ -26,13 +27,20 @@ bool BoxKeys::eventFilter(QObject* watched, QEvent* event) {
     QStringList buttons;
     for (const QAbstractButton* button : box->buttons())
         buttons << button->text().remove(u'&');
-    shown_.push_back({box->text(), box->windowTitle(), buttons, box->font()});
+    shown_.push_back({box->text(), box->windowTitle(), buttons, box->font(), 0});
     const Qt::Key key = keys_.empty() ? Qt::Key_Escape : keys_.front();
     if (!keys_.empty())
         keys_.pop_front();
     // Enter is meant for the default button, which has the focus once the box is open.
     QMetaObject::invokeMethod(
-        box, [box, key] { QTest::keyClick(key == Qt::Key_Return ? box->focusWidget() : box, key); },
+        box,
+        [this, box, key, number = shown_.size() - 1] {
+            for (const QLabel* const label : box->findChildren<QLabel*>()) {
+                if (label->text() == box->text() && number < shown_.size())
+                    shown_[number].lines = label->heightForWidth(label->width()) / label->fontMetrics().height();
+            }
+            QTest::keyClick(key == Qt::Key_Return ? box->focusWidget() : box, key);
+        },
         Qt::QueuedConnection);
     return false;
 }

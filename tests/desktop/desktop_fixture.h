@@ -25,6 +25,7 @@ struct ShownBox {
     QString title;
     QStringList buttons;
     QFont font;
+    int lines = 0; ///< that its text takes in the window
 };
 
 /// Presses keys in each message box that shows up, in the order told; Esc when none is told.
