@@ -3,9 +3,9 @@
 #include <array>
 
 #include <QBuffer>
-#include <QSaveFile>
 
 #include "core/code_page.h"
+#include "core/text_file.h"
 #include "toolkit/pdf_structure.h"
 
 namespace vanzer::batch {
@@ -96,8 +96,7 @@ QByteArray pdfOf(const std::vector<Pagina>& pages) {
 }
 
 bool writePdf(const QString& path, const std::vector<Pagina>& pages) {
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(pdfOf(pages)) >= 0 && file.flush() && file.commit();
+    return scriveFile(path, pdfOf(pages)).isEmpty();
 }
 
 } // namespace vanzer::batch

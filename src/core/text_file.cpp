@@ -33,9 +33,9 @@ QString scriveFile(const QString& path, const QByteArray& contents) {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return motivoNonScritto(path);
-    file.write(contents);
-    // Without the flush a disk that is full at the last part would go unseen.
-    return file.flush() && file.commit() ? QString() : motivoNonScritto(path);
+    // Of a large file that fills the disk up a part is written, which is no error; of a small one the flush tells.
+    const bool whole = file.write(contents) == contents.size() && file.flush() && file.commit();
+    return whole ? QString() : motivoNonScritto(path);
 }
 
 QString scriveFileTesto(const QString& path, const QStringList& lines) {

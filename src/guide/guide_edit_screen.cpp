@@ -159,6 +159,7 @@ void SalvaLaRigaGuidaCitta(Form& form, bool avvisa) {
         return;
     }
     storeEntry(form, entry);
+    form.archivio.storeSoFar();
     rebuildList(form);
     if (Trim(cellOfRow(form, guidaGruppo)).isEmpty())
         form.txtGDescr.setText({});
@@ -170,6 +171,7 @@ void cmdCancellaRiga_Click(Form& form) {
         InserisciGuida(form);
     if (!form.txtGDescr.text().isEmpty())
         askAndDelete(form, openEntries(form, LikeTesto(form.txtGCitta.text()) + u'*', form.txtGDescr.text()));
+    form.archivio.storeSoFar();
     rebuildList(form);
     if (Trim(cellOfRow(form, guidaDescrizione)).isEmpty()) {
         form.txtGDescr.setText({});

@@ -100,6 +100,7 @@ void RinunciaRicercaGuida(Form& form) {
 void cmdFineInserimento_Click(Form& form) {
     for (int r = 1; r < form.mfgTab.rows(); ++r)
         sortGroup(form, r);
+    form.archivio.storeSoFar();
     RicaricaItinerario(form);
     form.mfgTab.setHeight(altezzaGrigliaTappe);
     form.frmframe(24).setVisible(false);

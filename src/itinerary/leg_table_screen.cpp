@@ -123,11 +123,10 @@ class ScrittoreTappe {
     std::array<int, 9> fields_{};
 };
 
-void storeRows(Form& form, store::Recordset& records) {
+void storeRows(Form& form, store::Recordset& records, SegniGuida& guide) {
     StatoViaggio& s = form.stato;
     const Grid& grid = form.mfgTab;
     const int placeSize = records.size(records.campo(QStringLiteral("Localita")));
-    SegniGuida guide(form.archivio);
     ScrittoreTappe writer(form, records);
     for (int r = 1; r < grid.rows(); ++r) {
         s.PercentualeCorrente = r;
@@ -140,6 +139,22 @@ void storeRows(Form& form, store::Recordset& records) {
         for (const RecordTappa& leg : recordDellaRiga(row, stops, placeSize))
             writer.scrive(leg);
     }
+}
+
+/// All rows in place of what is stored; the marks of the guide come behind.
+void storeTable(Form& form) {
+    StatoViaggio& s = form.stato;
+    CancellaTabella(form, store::Itinerari, QStringLiteral("CodiceMeta"), s.CodiceMeta);
+    SettaAZeroFlaGVisto(form);
+    s.NumeroTappe = 0;
+    s.PercentualeTotale = form.mfgTab.rows() - 1;
+    form.lblElaborazione.setCaption(QStringLiteral("Memorizza tappe itinerario"));
+    form.archivio.StringaSQL = QStringLiteral("SELECT * FROM Itinerari WHERE CodiceMeta = '") +
+                               store::quotato(s.CodiceMeta) + QStringLiteral("'");
+    form.archivio.RecordSetImposta(0, store::Itinerari);
+    SegniGuida guide(form.archivio);
+    storeRows(form, form.archivio.Rs(store::Itinerari), guide);
+    form.archivio.storeSoFar();
     guide.scrive();
 }
 
@@ -188,16 +203,13 @@ bool MemorizzaTappeItinerario(Form& form) {
         form.messaggio(QStringLiteral("Impossibile: l'itinerario supera 9.999 tratti!"));
         return false;
     }
-    StatoViaggio& s = form.stato;
-    CancellaTabella(form, store::Itinerari, QStringLiteral("CodiceMeta"), s.CodiceMeta);
-    SettaAZeroFlaGVisto(form);
-    s.NumeroTappe = 0;
-    s.PercentualeTotale = form.mfgTab.rows() - 1;
-    form.lblElaborazione.setCaption(QStringLiteral("Memorizza tappe itinerario"));
-    form.archivio.StringaSQL = QStringLiteral("SELECT * FROM Itinerari WHERE CodiceMeta = '") +
-                               store::quotato(s.CodiceMeta) + QStringLiteral("'");
-    form.archivio.RecordSetImposta(0, store::Itinerari);
-    storeRows(form, form.archivio.Rs(store::Itinerari));
+    const int stored = form.stato.NumeroTappe;
+    try {
+        storeTable(form);
+    } catch (const store::StoreError&) {
+        form.stato.NumeroTappe = stored;
+        throw;
+    }
     AzzeraPercentuale(form);
     return true;
 }

@@ -164,6 +164,7 @@ class Calcolo {
     void chiude() {
         if (s_.Coefficiente != 1)
             storeCoefficient(form_);
+        form_.archivio.storeSoFar();
         showPanel(form_, last_.pannello);
         form_.txtFine(6).setText(QString::number(s_.GiorniCalcolati));
         showSchedule(form_, prepared_, last_);

@@ -96,6 +96,7 @@ void Archive::DatabaseTabellaCrea(int db, int table) {
 }
 
 void Archive::DataBaseTabelleAggiorna(int db) {
+    Transaction indexes(database(db));
     for (int table = primaTabella; table <= ultimaTabella; ++table) {
         Rettifica = true;
         const auto stored = storedTable(db, table);
@@ -107,6 +108,7 @@ void Archive::DataBaseTabelleAggiorna(int db) {
         Rettifica = false;
         DataBaseVerificaIndici(db, table);
     }
+    indexes.commit();
 }
 
 void Archive::DataBaseVerificaIndici(int db, int table) {
@@ -204,7 +206,6 @@ void Archive::rimetteVisti(const std::unordered_set<qint64>& used) {
             toSet.erase(rowid);
     }
     marked->reset();
-    Transaction all(archive());
     const auto write = [&](const QByteArray& value, const auto& rowids) {
         if (rowids.empty())
             return;
@@ -215,9 +216,12 @@ void Archive::rimetteVisti(const std::unordered_set<qint64>& used) {
             archive().scrive(*guide, *change);
         }
     };
-    write("0", toClear);
-    write("1", toSet);
-    all.commit();
+    scriveRicavati([&] {
+        Transaction all(archive());
+        write("0", toClear);
+        write("1", toSet);
+        all.commit();
+    });
 }
 
 void Archive::rollbackCommand() noexcept {

@@ -31,6 +31,7 @@ struct TabellaLetta {
 class Archive {
   public:
     using Progress = std::function<void(qint64 done, qint64 total)>;
+    using PrimaDellUso = std::function<void(Database& archive)>;
 
     static constexpr int numeroDatabase = 3;
     static constexpr int numeroSlot = 11;
@@ -54,8 +55,8 @@ class Archive {
 
     /// Makes "Vanzer.mdb" if there is none, else opens it and rebuilds it where its tables aren't the declared ones,
     /// then opens slots 1 to 6. A rebuild works in "DBTemp.mdb"; the old file stays until the new one is whole and safe
-    /// on the disk.
-    void apriArchivio();
+    /// on the disk. `before` gets a file that was there already, locked, before anything in it is changed.
+    void apriArchivio(const PrimaDellUso& before = {});
     void chiudi();
 
     void DatabaseCrea(int db, bool& created);
@@ -87,7 +88,7 @@ class Archive {
     void CancellaTabella(int table, const QString& field, const QString& value, const Progress& progress = {});
 
     /// Exactly these entries of the guide carry the mark of use from here on. Costs what is marked before and after,
-    /// not the size of the guide, and writes only what changes.
+    /// not the size of the guide, and writes only what changes. They can be made anew: see scriveRicavati.
     void rimetteVisti(const std::unordered_set<qint64>& used);
 
     /// Commands on the archive in use, see Database.
@@ -96,6 +97,7 @@ class Archive {
     void rollbackCommand() noexcept;
     void storeSoFar() { archive().storeSoFar(); }
     void undoSoFar() noexcept;
+    void scriveRicavati(const std::function<void()>& write) { archive().scriveRicavati(write); }
 
     [[nodiscard]] TabellaLetta tabella(const QString& name);
     /// The most characters that a text field of the table holds.

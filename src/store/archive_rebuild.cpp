@@ -1,24 +1,16 @@
 // Opening the archive, and the rebuild of a file whose tables aren't the declared ones any more.
 //
-// The new file is filled beside the old one, which stays open, and so locked, until the new one is whole, closed and
-// safe on the disk; then the new one takes its name in one step. A crash at any point leaves the old file or the new
-// one.
+// The new file is filled beside the old one, which stays open, and so locked, from its check to the end, when the new
+// one is whole, closed and safe on the disk; then the new one takes its name in one step. A crash at any point leaves
+// the old file or the new one.
 #include "store/archive.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
-
-#include <QFile>
-#include <QFileInfo>
-
-#ifdef Q_OS_UNIX
-#include <fcntl.h>
-#include <unistd.h>
-#endif
+#include <utility>
 
 #include "store/field_values.h"
 #include "store/query_sql.h"
+#include "store/safe_files.h"
 
 namespace vanzer::store {
 
@@ -29,33 +21,6 @@ constexpr QLatin1String rebuildName("DBTemp.mdb");
 
 /// A first round may make a rebuild necessary, the second passes. More means that the file can't be mended.
 constexpr int mostRounds = 3;
-
-void removeWithJournal(const QString& path) {
-    QFile::remove(path + QStringLiteral("-journal"));
-    if (QFileInfo::exists(path) && !QFile::remove(path))
-        throw StoreError(StoreError::Kind::ReadOnly, path);
-}
-
-/// A new name is safe once its directory is.
-void syncDirectory(const QString& directory) {
-#ifdef Q_OS_UNIX
-    const int handle = ::open(QFile::encodeName(directory).constData(), O_RDONLY | O_CLOEXEC);
-    if (handle >= 0) {
-        ::fsync(handle);
-        ::close(handle);
-    }
-#else
-    (void)directory;
-#endif
-}
-
-void replaceFile(const QString& from, const QString& to) {
-    std::error_code error;
-    std::filesystem::rename(QFileInfo(from).filesystemFilePath(), QFileInfo(to).filesystemFilePath(), error);
-    if (error)
-        throw StoreError(StoreError::Kind::Io, to, QString::fromStdString(error.message()));
-    syncDirectory(QFileInfo(to).path());
-}
 
 /// True for a value that the new field takes as it stands.
 bool fits(const Statement& old, int column, FieldKind from, const FieldDef& to) {
@@ -89,7 +54,7 @@ void copyTable(Database& from, const TableInfo& old, Database& to, const TableIn
 
 } // namespace
 
-void Archive::apriArchivio() {
+void Archive::apriArchivio(const PrimaDellUso& before) {
     chiudi();
     for (int round = 1;; ++round) {
         PercorsoDatabase = PercorsoProgramma + archiveName;
@@ -98,6 +63,8 @@ void Archive::apriArchivio() {
         DatabaseApre(0);
         if (created)
             DatabaseTabelleCreazione(0);
+        else if (round == 1 && before)
+            before(*Db(0));
         DataBaseTabelleAggiorna(0);
         if (!Rettifica)
             break;
@@ -110,29 +77,31 @@ void Archive::apriArchivio() {
 
 void Archive::ricostruisce() {
     closeSlots();
-    databases_[0].reset();
+    databases_[1] = std::move(databases_[0]);
     const QString temporary = PercorsoProgramma + rebuildName;
     const QString archivePath = PercorsoProgramma + archiveName;
     PercorsoDatabase = temporary;
-    removeWithJournal(temporary);
     try {
+        toglieFile(temporary);
         bool created = false;
         DatabaseCrea(0, created);
+        if (!created) // what takes its place can't be taken away
+            throw StoreError(StoreError::Kind::ReadOnly, temporary);
         DatabaseApre(0);
         DatabaseTabelleCreazione(0);
         PercorsoDatabase = archivePath;
-        DatabaseApre(1);
         copiaTabelle();
         databases_[0].reset();
+        toglieResti(temporary);
 #ifdef Q_OS_WIN
         databases_[1].reset(); // there an open file can't be replaced
 #endif
-        replaceFile(temporary, archivePath);
+        metteAlPosto(temporary, archivePath);
         databases_[1].reset();
     } catch (const StoreError&) {
         chiudi();
         PercorsoDatabase = archivePath;
-        QFile::remove(temporary);
+        toglieFile(temporary);
         throw;
     }
 }

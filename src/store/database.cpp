@@ -1,6 +1,7 @@
 #include "store/database.h"
 
 #include <algorithm>
+#include <limits>
 #include <string_view>
 #include <utility>
 
@@ -85,6 +86,7 @@ Database::Database(const QString& path, int flags) : path_(path) {
     run("SELECT count(*) FROM sqlite_schema");
     run("COMMIT");
     run("PRAGMA journal_mode=DELETE");
+    version_ = storedVersion();
 }
 
 Database::~Database() {
@@ -170,21 +172,28 @@ StatementLease Database::prepara(const QByteArray& sql) {
 }
 
 void Database::beforeWrite(const TableInfo& table) {
-    if (depth_ > 0 && spoiled_)
+    if (spoiled_)
         throw StoreError(*spoiled_);
     for (LiveSet* const set : sets_)
         set->primaDiScrivere(table);
-    if (depth_ > 0 && !inTransaction())
+    if (!inTransaction())
         run("BEGIN");
 }
 
 qint64 Database::scrive(const TableInfo& table, Statement& statement) {
+    if (depth_ == 0) {
+        Transaction alone(*this);
+        const qint64 changed = scrive(table, statement);
+        alone.commit();
+        return changed;
+    }
+    waiting_ = true;
     try {
         beforeWrite(table);
         statement.step();
         statement.reset();
     } catch (const StoreError& error) {
-        if (depth_ > 0 && !spoiled_)
+        if (!spoiled_)
             spoiled_ = error;
         throw;
     }
@@ -203,34 +212,80 @@ void Database::commitCommand() {
     storeSoFar();
 }
 
-void Database::storeSoFar() {
-    std::optional<StoreError> failure = std::exchange(spoiled_, std::nullopt);
-    if (!failure && inTransaction()) {
-        const int result = sqlite3_exec(connection_.get(), "COMMIT", nullptr, nullptr, nullptr);
-        if (result != SQLITE_OK)
-            failure = lastError(result);
-    }
-    if (failure) {
+int Database::storedVersion() {
+    const StatementLease version = prepara("PRAGMA user_version");
+    version->step();
+    return static_cast<int>(version->integer(0));
+}
+
+// The system lets a program write on to a file that was taken away or put elsewhere; nobody would find it again.
+void Database::requireInPlace() {
+    int moved = 0;
+    sqlite3_file_control(connection_.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    if (moved != 0)
+        throw StoreError(StoreError::Kind::NotFound, path_);
+}
+
+// A disk that fails at the very last step of a commit, when all is stored already, makes the engine call it failed. The
+// version that is stored tells what is true.
+void Database::commitTransaction() {
+    const int next = version_ == std::numeric_limits<int>::max() ? 1 : version_ + 1;
+    std::optional<StoreError> failure;
+    try {
+        run(("PRAGMA user_version=" + QByteArray::number(next)).constData());
+        requireInPlace();
+        run("COMMIT");
+    } catch (const StoreError& error) {
+        failure = error;
         rollbackNow();
-        throw StoreError(*failure);
     }
+    if (failure && storedVersion() != next)
+        throw StoreError(*failure);
+    version_ = next;
+}
+
+void Database::storeSoFar() {
+    const bool needed = std::exchange(waiting_, false) || spoiled_;
+    try {
+        if (const std::optional<StoreError> failure = std::exchange(spoiled_, std::nullopt))
+            throw StoreError(*failure);
+        if (inTransaction())
+            commitTransaction();
+    } catch (const StoreError&) {
+        rollbackNow();
+        if (needed)
+            throw;
+    }
+}
+
+void Database::scriveRicavati(const std::function<void()>& write) {
+    const bool waiting = std::exchange(waiting_, false);
+    try {
+        write();
+    } catch (const StoreError&) {
+        if (waiting)
+            throw;
+        undoSoFar();
+    }
+    waiting_ = waiting;
 }
 
 void Database::rollbackCommand() noexcept {
     if (depth_ == 0)
         return;
     rollbackNow();
-    if (--depth_ == 0)
+    if (--depth_ == 0) {
         spoiled_.reset();
-    else if (!spoiled_)
+        waiting_ = false;
+    } else if (!spoiled_)
         spoiled_.emplace(StoreError::Kind::Other, path_, QStringLiteral("comando annullato"));
 }
 
 void Database::rollbackNow() noexcept {
-    if (inTransaction())
-        sqlite3_exec(connection_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
     for (LiveSet* const set : sets_)
         set->annullato();
+    if (inTransaction())
+        sqlite3_exec(connection_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
     tables_.clear();
     translations_.clear();
 }
@@ -238,6 +293,7 @@ void Database::rollbackNow() noexcept {
 void Database::undoSoFar() noexcept {
     rollbackNow();
     spoiled_.reset();
+    waiting_ = false;
 }
 
 bool Database::inTransaction() const {
@@ -250,6 +306,35 @@ void Database::aggiunge(LiveSet& set) {
 
 void Database::toglie(LiveSet& set) noexcept {
     sets_.erase(std::remove(sets_.begin(), sets_.end(), &set), sets_.end());
+}
+
+bool Database::copiaIn(Database& other, const CopyProgress& progress) {
+    constexpr int step = 512; // pages
+    struct Finisher {
+        void operator()(sqlite3_backup* backup) const { sqlite3_backup_finish(backup); }
+    };
+    std::unique_ptr<sqlite3_backup, Finisher> backup(
+        sqlite3_backup_init(other.connection_.get(), "main", connection_.get(), "main"));
+    if (backup == nullptr)
+        throw other.lastError(sqlite3_extended_errcode(other.connection_.get()));
+    for (;;) {
+        const int result = sqlite3_backup_step(backup.get(), step);
+        if (result == SQLITE_DONE)
+            break;
+        if (result != SQLITE_OK)
+            throw StoreError(kindOfResult(result), other.path_, QString::fromUtf8(sqlite3_errstr(result)));
+        const qint64 total = sqlite3_backup_pagecount(backup.get());
+        if (progress && !progress(total - sqlite3_backup_remaining(backup.get()), total))
+            return false;
+    }
+    if (const int result = sqlite3_backup_finish(backup.release()); result != SQLITE_OK)
+        throw other.lastError(result);
+    return true;
+}
+
+bool Database::intatto() {
+    const StatementLease check = prepara("PRAGMA quick_check(1)");
+    return check->step() && check->text(0) == u"ok";
 }
 
 QStringList Database::piano(const QByteArray& sql) {

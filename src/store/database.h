@@ -30,7 +30,7 @@ class LiveSet {
 
     /// Reads what it still needs of its table.
     virtual void primaDiScrivere(const TableInfo& table) = 0;
-    /// What was written last was rolled back.
+    /// What was written last is rolled back: nothing that this has open may stay so.
     virtual void annullato() noexcept = 0;
     /// The connection goes; nothing of it may be used any more.
     virtual void abbandona() noexcept = 0;
@@ -75,6 +75,9 @@ class Database {
     void rollbackCommand() noexcept;
     /// Stores what the running command has written so far; it goes on. Throws as commitCommand.
     void storeSoFar();
+    /// Runs what writes nothing but what can be made anew from the rest. If that fails, now or when it is stored, and
+    /// nothing else waits to be stored with it, it is undone and no failure.
+    void scriveRicavati(const std::function<void()>& write);
     /// Undoes what the running command has written since then; it goes on with a clean sheet.
     void undoSoFar() noexcept;
     [[nodiscard]] bool inTransaction() const;
@@ -84,6 +87,14 @@ class Database {
 
     /// Translated queries by their shape.
     [[nodiscard]] QHash<QString, std::shared_ptr<const Translation>>& traduzioni() { return translations_; }
+
+    /// How far a copy has come, in pages; false leaves it.
+    using CopyProgress = std::function<bool(qint64 done, qint64 total)>;
+    /// Copies the whole file into another, page by page; `progress` is asked each 2 MB but not at the end. False if it
+    /// was left: the other file is then as it was.
+    [[nodiscard]] bool copiaIn(Database& other, const CopyProgress& progress);
+    /// False if the file is damaged inside.
+    [[nodiscard]] bool intatto();
 
     /// The plan that the engine has for a statement, a line for each step.
     [[nodiscard]] QStringList piano(const QByteArray& sql);
@@ -98,6 +109,9 @@ class Database {
     Database(const QString& path, int flags);
 
     void run(const char* sql);
+    [[nodiscard]] int storedVersion();
+    void requireInPlace();
+    void commitTransaction();
     void beforeWrite(const TableInfo& table);
     void rollbackNow() noexcept;
     [[nodiscard]] StoreError lastError(int resultCode) const;
@@ -109,6 +123,8 @@ class Database {
     QHash<QString, std::shared_ptr<const Translation>> translations_;
     std::vector<LiveSet*> sets_;
     int depth_ = 0;
+    bool waiting_ = false; ///< something that can't be made anew waits to be stored
+    int version_ = 0;      ///< of what is stored: each transaction has its own
     std::optional<StoreError> spoiled_;
 };
 

@@ -203,7 +203,21 @@ void Walk::deleted() {
     --current_.rowid; // the place is free: a record added next may take it, and lies ahead then
 }
 
+// A statement that is still stepping would keep a file that has failed from being read again. Where the table is walked
+// as a whole, the walk may go on; the records of another query may be others now.
 void Walk::annullato() noexcept {
+    try {
+        if (onCursor_)
+            current_ = rowOf(*cursor_);
+    } catch (...) {
+        place_ = Place::End;
+    }
+    if (cursor_)
+        interrupted_ = form().wholeTable;
+    cursor_.giveBack();
+    onCursor_ = false;
+    rest_.clear();
+    restAt_ = 0;
     added_.clear();
     addedAt_ = 0;
     count_.reset();

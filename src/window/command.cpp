@@ -6,19 +6,6 @@ namespace vanzer {
 
 namespace {
 
-void runInTransaction(Form& form, const std::function<void()>& handler) {
-    form.archivio.beginCommand();
-    try {
-        handler();
-        if (form.archivio.Db(0) != nullptr)
-            form.archivio.commitCommand();
-    } catch (...) {
-        if (form.archivio.Db(0) != nullptr)
-            form.archivio.rollbackCommand();
-        throw;
-    }
-}
-
 void giveButtonsBack(Form& form, const QString& meta, const QString& itinerario) {
     form.stato.PulsantiMeta = meta;
     form.stato.PulsantiItinerario = itinerario;
@@ -29,6 +16,22 @@ void giveButtonsBack(Form& form, const QString& meta, const QString& itinerario)
 
 } // namespace
 
+void memorizzaInsieme(Form& form, const std::function<void()>& handler) {
+    form.comandoInCorso = true;
+    form.archivio.beginCommand();
+    try {
+        handler();
+        if (form.archivio.Db(0) != nullptr)
+            form.archivio.commitCommand();
+        form.comandoInCorso = false;
+    } catch (...) {
+        form.comandoInCorso = false;
+        if (form.archivio.Db(0) != nullptr)
+            form.archivio.rollbackCommand();
+        throw;
+    }
+}
+
 void comando(Form& form, const std::function<void()>& handler) {
     if (form.chiusa)
         return;
@@ -38,12 +41,9 @@ void comando(Form& form, const std::function<void()>& handler) {
     }
     const QString meta = form.stato.PulsantiMeta;
     const QString itinerario = form.stato.PulsantiItinerario;
-    form.comandoInCorso = true;
     try {
-        runInTransaction(form, handler);
-        form.comandoInCorso = false;
+        memorizzaInsieme(form, handler);
     } catch (const store::StoreError& error) {
-        form.comandoInCorso = false;
         form.messaggio(error.testo(), QStringLiteral("Archivio"), Icona::Avviso);
         giveButtonsBack(form, meta, itinerario);
     }

@@ -11,4 +11,8 @@ namespace vanzer {
 /// again as they were before it. A command that runs inside another one's event yield belongs to that one.
 void comando(Form& form, const std::function<void()>& handler);
 
+/// The same without a word to the user: throws what the archive throws. `handler` has run to its end if the failure
+/// came with the storing.
+void memorizzaInsieme(Form& form, const std::function<void()>& handler);
+
 } // namespace vanzer

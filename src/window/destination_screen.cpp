@@ -168,6 +168,7 @@ void saveRecord(Form& form, bool insertion) {
     writeRecord(form, record);
     record.Update();
     SalvaIlCodiceMetaCorrente(form);
+    form.archivio.storeSoFar();
     RicaricaItinerario(form);
     AbilitaPulsantiMeta(form, QStringLiteral("all"));
 }
@@ -215,6 +216,7 @@ void RicaricaItinerario(Form& form) {
 }
 
 void SalvaIlCodiceMetaCorrente(Form& form) {
+    form.stato.CodiceMeta = form.txtCodice.text();
     store::Recordset& current = open(form, store::MetaCorrente, QStringLiteral("SELECT * FROM MetaCorrente"));
     if (current.EOF_())
         current.AddNew();
@@ -222,7 +224,6 @@ void SalvaIlCodiceMetaCorrente(Form& form) {
         current.Edit();
     current.scrive(0, form.txtCodice.text());
     current.Update();
-    form.stato.CodiceMeta = form.txtCodice.text();
 }
 
 void AzzeraSchermo(Form& form) {
@@ -264,11 +265,19 @@ void cmdSalva_Click(Form& form) {
         insertion ? newCode(form) : form.archivio.Rs(store::MeteVanzer).testo(QStringLiteral("CodiceMeta"));
     form.txtCodice.setText(form.stato.CodiceMeta);
     BoxConferma(form, insertion ? QStringLiteral("I") : QStringLiteral("M"));
-    if (form.stato.Risposta == rispostaSi) {
-        saveRecord(form, insertion);
-    } else {
+    const auto takeCodeBack = [&] {
         form.stato.CodiceMeta = codeBefore;
         form.txtCodice.setText(shownBefore);
+    };
+    if (form.stato.Risposta != rispostaSi) {
+        takeCodeBack();
+    } else {
+        try {
+            saveRecord(form, insertion);
+        } catch (const store::StoreError&) {
+            takeCodeBack();
+            throw;
+        }
     }
     Aggiorna(form, true);
 }
@@ -285,6 +294,7 @@ void cmdCancMeta_Click(Form& form) {
         AbilitaPulsantiMeta(form, QStringLiteral("zz"));
         CancellaTabella(form, store::Itinerari, QStringLiteral("CodiceMeta"), form.txtCodice.text());
         CancellaTabella(form, store::MeteVanzer, QStringLiteral("CodiceMeta"), form.txtCodice.text());
+        form.archivio.storeSoFar();
         reload(form);
     }
     AbilitaPulsantiComando(form);
@@ -301,6 +311,7 @@ void cmdCancItin_Click(Form& form) {
         return;
     AbilitaPulsantiMeta(form, QStringLiteral("zz"));
     CancellaTabella(form, store::Itinerari, QStringLiteral("CodiceMeta"), form.txtCodice.text());
+    form.archivio.storeSoFar();
     reload(form);
 }
 
@@ -341,7 +352,7 @@ void RichiamaMeta(Form& form, const QString& localita) {
              QStringLiteral("SELECT * FROM MeteVanzer WHERE Localita = '") + store::quotato(localita) + u'\'');
     if (!found.EOF_()) {
         form.txtCodice.setText(found.testo(QStringLiteral("CodiceMeta")));
-        SalvaIlCodiceMetaCorrente(form);
+        form.archivio.scriveRicavati([&form] { SalvaIlCodiceMetaCorrente(form); });
     }
     RicaricaItinerario(form);
     form.cmbRicerca.setVisible(false);

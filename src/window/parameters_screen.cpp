@@ -12,10 +12,12 @@ void cmdDefault_Click(Form& form, int i) {
         QStringLiteral("Vuoi %1 i dati di default?").arg(QString::fromUtf16(verbs[static_cast<std::size_t>(i)]));
     if (form.domanda(question, title, Pulsanti::SiNo) != rispostaSi)
         return;
-    if (i == 0)
+    if (i == 0) {
         MemorizzaVariabiliMeta(form);
-    else
+        form.archivio.storeSoFar();
+    } else {
         CaricaDefaultMeta(form, i == 1 ? 0 : 2);
+    }
     if (i == 1)
         CalcolaKmTempiItinerario(form);
     form.messaggio(QStringLiteral("Operazione eseguita!"), title, Icona::Informazione);

@@ -1,9 +1,13 @@
 #include "window/startup.h"
 
+#include <optional>
+
+#include <QDir>
 #include <QFileInfo>
 
 #include "core/place_name.h"
 #include "core/text.h"
+#include "exchange/choice_screen.h"
 #include "exchange/conversion_screen.h"
 #include "exchange/exchange_screen.h"
 #include "exchange/route_screen.h"
@@ -19,6 +23,7 @@
 #include "reports/print_screen.h"
 #include "schedule/calculation_screen.h"
 #include "schedule/stops_screen.h"
+#include "store/daily_copy.h"
 #include "window/command.h"
 #include "window/destination_screen.h"
 #include "window/grid_layouts.h"
@@ -210,9 +215,60 @@ void layOutWindow(Form& form) {
     CancellaMatrice(form);
 }
 
-void openArchive(Form& form) {
-    form.archivio.apriArchivio();
+/// Where the copies of the days before are; empty if there are none.
+QString copiesAre(const Form& form) {
+    const QFileInfo newest(store::ultimaCopia(form.archivio.PercorsoDatabase));
+    if (newest.fileName().isEmpty())
+        return {};
+    return QStringLiteral("Le copie dei giorni scorsi sono in %1, la più recente è \"%2\".")
+        .arg(QDir::toNativeSeparators(newest.path()), newest.fileName());
+}
+
+QString copyFailed(const Form& form, const store::StoreError& error) {
+    QString text = QStringLiteral("La copia di oggi dell'archivio non è stata fatta.\n\n") + error.testo();
+    if (error.kind() == store::StoreError::Kind::Corrupt)
+        text = QStringLiteral("L'archivio %1 si apre, ma al suo interno è danneggiato. La copia di oggi non è stata "
+                              "fatta e nessuna delle altre è stata tolta.")
+                   .arg(QDir::toNativeSeparators(error.path()));
+    const QString where = copiesAre(form);
+    return where.isEmpty() ? text : text + QStringLiteral("\n\n") + where;
+}
+
+/// The day's copy of the archive as the day before left it. One that lasts shows its progress and can be stopped. The
+/// result is what the user must be told, nothing when all went well.
+QStringList copyOfTheDay(Form& form, store::Database& archive) {
+    std::optional<ScambioInCorso> shown;
+    const auto progress = [&form, &shown](qint64 done, qint64 total) {
+        if (!shown) {
+            shown.emplace(form);
+            form.lblElaborazione.setCaption(QStringLiteral("Copia dell'archivio"));
+            form.stato.PercentualeTotale = static_cast<double>(total);
+            AbilitaPulsantiMeta(form, QStringLiteral("Es"));
+        }
+        return shown->avanza(static_cast<double>(done));
+    };
+    QStringList failure;
+    form.comandoInCorso = true;
+    try {
+        store::copiaDelGiorno(archive, form.ports.clock.now().date(), progress);
+    } catch (const store::StoreError& error) {
+        failure += copyFailed(form, error);
+    }
+    form.comandoInCorso = false;
+    if (shown) {
+        AzzeraPercentuale(form);
+        AbilitaPulsantiMeta(form, QStringLiteral("ZZ"));
+    }
+    return failure;
+}
+
+/// The result is what the user must be told once the window stands.
+QStringList openArchive(Form& form) {
+    QStringList warnings;
+    form.archivio.apriArchivio(
+        [&form, &warnings](store::Database& archive) { warnings = copyOfTheDay(form, archive); });
     form.lblPath.setCaption(form.archivio.PercorsoDatabase);
+    return warnings;
 }
 
 store::Recordset& openCategories(Form& form) {
@@ -283,8 +339,9 @@ void Form_Load(Form& form) {
     AbilitaPulsantiMeta(form, QStringLiteral("ZZ"));
     PulisciFinestre(form);
     CaricaRange(form);
-    openArchive(form);
-    comando(form, [&form, &s] {
+    QStringList warnings = openArchive(form);
+    bool loaded = false;
+    const auto load = [&form, &s, &loaded] {
         CaricaComboBox(form);
         form.mfgTab.setCurrent(1, 1);
         ImpostaGriglia(form, Disposizione::Tappe);
@@ -301,13 +358,28 @@ void Form_Load(Form& form) {
         AbilitaPulsantiMeta(form, s.CodiceMeta.isEmpty() ? QStringLiteral("NuImEs") : QStringLiteral("All"));
         ImpostaGiorniMeseInizio(form);
         tidyGuidePlaces(form);
-    });
+        loaded = true;
+    };
+    try {
+        memorizzaInsieme(form, load);
+    } catch (const store::StoreError& error) {
+        if (!loaded)
+            throw;
+        warnings += error.testo();
+    }
+    for (const QString& warning : warnings)
+        form.messaggio(warning, QStringLiteral("Archivio"), Icona::Avviso);
 }
 
-/// A damaged file needs no more words; every other reason is one that the user can do something about.
+/// A damaged file needs no more words; every other reason is one that the user can do something about. The copies help
+/// where the archive isn't just in use.
 QString openingFailed(const Form& form, const store::StoreError& error) {
-    const QString text = QStringLiteral("Errore apertura database ") + form.archivio.PercorsoDatabase;
-    return error.kind() == store::StoreError::Kind::Corrupt ? text : text + QStringLiteral("\n\n") + error.testo();
+    QStringList text{QStringLiteral("Errore apertura database ") + form.archivio.PercorsoDatabase};
+    if (error.kind() != store::StoreError::Kind::Corrupt)
+        text += error.testo();
+    if (const QString copies = copiesAre(form); error.kind() != store::StoreError::Kind::Busy && !copies.isEmpty())
+        text += copies + QStringLiteral(" Per ripartire da una copia la si mette al posto dell'archivio.");
+    return text.join(QStringLiteral("\n\n"));
 }
 
 } // namespace

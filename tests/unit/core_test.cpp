@@ -248,8 +248,10 @@ TEST(TextFile, IsWrittenWholeOrNotAtAll) {
                  {u"cartella"_s, u"non è permesso"_s},
                  {u"lista.txt"_s, u"disco è pieno"_s}};
     for (const auto& c : cases) {
-        const QString reason = scriveFileTesto(directory.filePath(c.name), {QString(5000, u'x')});
-        EXPECT_TRUE(reason.contains(c.reason)) << c.name.toStdString() << ": " << reason.toStdString();
+        for (const qsizetype size : {5'000, 500'000}) {
+            const QString reason = scriveFileTesto(directory.filePath(c.name), {QString(size, u'x')});
+            EXPECT_TRUE(reason.contains(c.reason)) << c.name.toStdString() << ": " << reason.toStdString();
+        }
     }
     EXPECT_EQ(content(), "di prima\r\n");
     EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files), QStringList(u"lista.txt"_s)) << "nothing is left aside";
