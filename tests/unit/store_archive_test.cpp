@@ -197,6 +197,16 @@ TEST_F(StoreArchive, AKilledCommandLeavesNoTrace) {
     EXPECT_EQ(open("SELECT * FROM Itinerari WHERE CodiceMeta = '000001'").RecordCount(), 2'000);
 }
 
+// The system would let the program write on to a file that nobody finds again.
+TEST_F(StoreArchive, AFileThatIsNotInItsPlaceAnyMoreIsTold) {
+    addLegs(2);
+    ASSERT_TRUE(QFile::rename(file(), path(directory, "altrove.mdb")));
+    EXPECT_EQ(failureOf([&] { addLegs(1); }), StoreError::Kind::NotFound);
+    ASSERT_TRUE(QFile::rename(path(directory, "altrove.mdb"), file()));
+    addLegs(1);
+    EXPECT_EQ(open("SELECT * FROM Itinerari").RecordCount(), 3);
+}
+
 // A rebuild that can't be finished: the new file's place is taken by a directory.
 TEST_F(StoreArchive, AFailedRebuildKeepsTheOldFile) {
     addLegs(50);
