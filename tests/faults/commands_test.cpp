@@ -6,7 +6,7 @@
 
 #include <QTemporaryDir>
 
-#include "faults/desk.h"
+#include "support/desk.h"
 #include "faults/faulty_disk.h"
 #include "store/archive.h"
 

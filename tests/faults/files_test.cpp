@@ -10,7 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "faults/desk.h"
+#include "support/desk.h"
 #include "support/full_disk.h"
 
 namespace vanzer::faults {

@@ -1,4 +1,4 @@
-// What the tests of failing disks share: a program at work in a folder, and what is stored there.
+// A program at work in a folder, for tests that look at what is stored there.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@
 #include "batch/interpreter.h"
 #include "store/schema.h"
 
-namespace vanzer::faults {
+namespace vanzer {
 
 using namespace Qt::StringLiterals;
 
@@ -89,4 +89,4 @@ inline QStringList storedTrip(const QString& name, int legs) {
     return newTrip(name, legs) + QStringList{u"answer 6"_s, u"click cmdFine"_s};
 }
 
-} // namespace vanzer::faults
+} // namespace vanzer
