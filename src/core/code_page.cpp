@@ -47,14 +47,19 @@ constexpr std::array<std::pair<char32_t, char>, 10> strokes{{{U'Ł', 'L'},
                                                              {U'ı', 'i'},
                                                              {U'ƶ', 'z'}}};
 
+/// Any character as a text, the mark of an order of bytes too, which a conversion of texts would pass over.
+QString letter(char32_t c) {
+    return QStringView(QChar::fromUcs4(c)).toString();
+}
+
 char encoded(char32_t c) {
     if (const auto place = placeOf(c))
         return *place;
-    for (const auto& [letter, base] : strokes) {
-        if (letter == c)
+    for (const auto& [struck, base] : strokes) {
+        if (struck == c)
             return base;
     }
-    const QString parts = QString::fromUcs4(&c, 1).normalized(QString::NormalizationForm_D);
+    const QString parts = letter(c).normalized(QString::NormalizationForm_D);
     return placeOf(parts.toUcs4().front()).value_or('?');
 }
 
@@ -87,9 +92,9 @@ std::vector<LetteraSostituita> lettereSostituite(const QString& text) {
     for (const char32_t c : text.normalized(QString::NormalizationForm_C).toUcs4()) {
         if (placeOf(c))
             continue;
-        const LetteraSostituita letter{QString::fromUcs4(&c, 1), decoded(encoded(c))};
-        if (std::find(letters.begin(), letters.end(), letter) == letters.end())
-            letters.push_back(letter);
+        const LetteraSostituita replaced{letter(c), decoded(encoded(c))};
+        if (std::find(letters.begin(), letters.end(), replaced) == letters.end())
+            letters.push_back(replaced);
     }
     return letters;
 }

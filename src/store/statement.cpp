@@ -13,6 +13,13 @@ namespace {
 template<class... Cases> struct Match : Cases... { using Cases::operator()...; };
 template<class... Cases> Match(Cases...) -> Match<Cases...>;
 
+/// A text may begin with the mark that stands for the order of bytes elsewhere: here it is a letter like others.
+QString decoded(QByteArrayView utf8) {
+    constexpr QByteArrayView mark("\xEF\xBB\xBF");
+    return utf8.startsWith(mark) ? QChar(QChar::ByteOrderMark) + decoded(utf8.sliced(mark.size()))
+                                 : QString::fromUtf8(utf8);
+}
+
 } // namespace
 
 void Statement::Finalizer::operator()(sqlite3_stmt* statement) const {
@@ -115,7 +122,7 @@ qint64 Statement::integer(int column) const {
 
 QString Statement::text(int column) const {
     const auto* const utf8 = reinterpret_cast<const char*>(sqlite3_column_text(statement_.get(), column));
-    return utf8 == nullptr ? QString() : QString::fromUtf8(utf8, sqlite3_column_bytes(statement_.get(), column));
+    return utf8 == nullptr ? QString() : decoded({utf8, sqlite3_column_bytes(statement_.get(), column)});
 }
 
 int Statement::bytes(int column) const {

@@ -221,7 +221,8 @@ TEST(CodePage, WhatHasNoPlaceIsWrittenAsItsBaseLetter) {
                                      "esme, Cacak"},
                  {u"cafe\u0301"_s, "caf\xE9"},
                  {u"Αθήνα 😀"_s, "????? ?"},
-                 {u"\u1EC7"_s, "e"}};
+                 {u"\u1EC7"_s, "e"},
+                 {u"\uFEFFa\uFEFF"_s, "?a?"}};
     for (const auto& c : cases)
         EXPECT_EQ(toCodePage(c.text).toStdString(), c.bytes) << c.text.toStdString();
 }
