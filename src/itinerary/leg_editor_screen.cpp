@@ -278,8 +278,11 @@ void cmdCancella_Click(Form& form) {
     Grid& grid = form.mfgTab;
     {
         const SenzaRidisegno quiet(grid);
-        for (int r = form.stato.RigaCorrente; r <= grid.rows() - 2; ++r)
+        for (int r = form.stato.RigaCorrente; r <= grid.rows() - 2; ++r) {
             grid.copyRow(r + 1, r, 1);
+            if (!grid.cell(r, 1).isEmpty()) // an empty row above may have none
+                grid.setCell(r, 0, QString::number(r));
+        }
         grid.clearRow(grid.rows() - 1, 1);
     }
     focusPlace(form);
