@@ -9,6 +9,9 @@
 
 namespace vanzer {
 
+/// Whether NomeFileScambio is the archive that is open.
+[[nodiscard]] bool sceltoLArchivio(const Form& form);
+
 /// The file at NomeFileScambio as it is on the disk; one that isn't there is empty. One that can't be read has been
 /// told to the user and gives nothing.
 [[nodiscard]] std::optional<QByteArray> leggeFileScambio(Form& form);

@@ -5,6 +5,7 @@
 
 #include "core/text.h"
 #include "exchange/choice_screen.h"
+#include "exchange/chosen_file_screen.h"
 #include "exchange/export_screen.h"
 #include "exchange/import_screen.h"
 #include "window/confirmation.h"
@@ -86,7 +87,7 @@ bool askForFile(Form& form) {
     const QString shown = QDir::toNativeSeparators(name);
     if (!file.exists())
         return true;
-    if (file.canonicalFilePath() == QFileInfo(form.archivio.PercorsoDatabase).canonicalFilePath()) {
+    if (sceltoLArchivio(form)) {
         form.messaggio(QStringLiteral("Il file %1 è l'archivio: scegliere un altro nome.").arg(shown),
                        QStringLiteral("Export"), Icona::Avviso);
         return false;

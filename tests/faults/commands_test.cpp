@@ -6,9 +6,9 @@
 
 #include <QTemporaryDir>
 
-#include "support/desk.h"
 #include "faults/faulty_disk.h"
 #include "store/archive.h"
+#include "support/desk.h"
 
 namespace vanzer::faults {
 namespace {
@@ -150,6 +150,31 @@ TEST_P(UnderFaults, WhatWasStoredStaysAndTheUserIsTold) {
 INSTANTIATE_TEST_SUITE_P(Commands, UnderFaults, testing::ValuesIn(commands()), [](const auto& instance) {
     return QString::fromLatin1(instance.param.name).replace(u' ', u'_').toStdString();
 });
+
+TEST(Refused, AnItineraryOfTooManyRecords) {
+    QTemporaryDir home;
+    batch::Session session({.directory = home.path(), .decimalMark = u'.', .versione = {}});
+    session.start();
+    Form& form = *session.window();
+    form.cmdNuovo.click();
+    form.txtLocalita.type(u"GARDA"_s);
+    form.txtNazione.type(u"ITALIA"_s);
+    session.boxes.enqueue(rispostaSi);
+    form.cmdSalva.click();
+    form.cmdItinerario.click();
+    const auto leave = [&form, &session](std::size_t legs) {
+        form.mfgTab.setContents(Grid::Rows(legs, {u"1"_s, u"RIVA"_s, u""_s, u"7"_s, u"A"_s}));
+        session.boxes.enqueue(rispostaSi);
+        form.cmdFine.click();
+        return session.boxes.exchange({}).last()[u"text"_s].toString();
+    };
+    EXPECT_EQ(leave(10'000).toStdString(), "Impossibile: l'itinerario supera 9.999 tratti!");
+    EXPECT_EQ(form.archivio.tabella(u"Itinerari"_s).record.size(), 0U);
+    EXPECT_TRUE(form.cmdFine.reachable());
+    EXPECT_EQ(form.mfgTab.rows(), 10'001);
+    static_cast<void>(leave(9'999));
+    EXPECT_EQ(form.archivio.tabella(u"Itinerari"_s).record.size(), 9'999U);
+}
 
 // The copy of the day is made or the user is told; the archive and the copies of other days stay as they are.
 TEST(CopyUnderFaults, IsWholeOrTold) {

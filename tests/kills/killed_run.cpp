@@ -1,5 +1,6 @@
 #include "kills/killed_run.h"
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <string>
@@ -54,6 +55,7 @@ KilledRun runAndKill(const QString& folder, const QStringList& lines, const Mome
         for (ssize_t count = 1; open && count > 0;) {
             count = read(ends[0], bytes, sizeof(bytes));
             open = count != 0;
+            run.output.append(bytes, std::max<ssize_t>(count, 0));
             for (ssize_t i = 0; i < count; ++i) {
                 if (bytes[i] == '\n')
                     run.answerAt.push_back(secondsSince(start));

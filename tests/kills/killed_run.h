@@ -4,6 +4,7 @@
 #include <functional>
 #include <vector>
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -16,6 +17,7 @@ struct KilledRun {
     int answers = 0;              ///< whole ones that it had given
     bool killed = false;          ///< false if it came to its end before
     std::vector<double> answerAt; ///< s since the start, for each answer
+    QByteArray output;
 };
 
 /// Gives the program all lines at once and kills it (SIGKILL) when `moment` says so.

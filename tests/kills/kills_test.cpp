@@ -1,15 +1,14 @@
 // The program is killed at a moment drawn by chance while it works on an archive; then the archive must be as it was
 // before the command at hand or as it is after it: vanzer_kills [--kills=N] [--seed=N].
-#include <array>
+#include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <map>
 #include <random>
-#include <string_view>
 
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include "kills/killed_run.h"
@@ -25,6 +24,10 @@ int kills = 20;              // NOLINT(cppcoreguidelines-avoid-non-const-global-
 unsigned long long seed = 1; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
 const QDate today(2026, 5, 20);
+
+bool contains(const std::string& text, const char* part) {
+    return text.find(part) != std::string::npos;
+}
 
 /// The records without the guide's marks of use, which are made anew at each load.
 QStringList recordsIn(Desk& desk) {
@@ -191,8 +194,6 @@ class Kills : public testing::Test {
             EXPECT_TRUE(store::Database::apre(folder + u"/Copie/"_s + copy)->intatto());
     }
 
-    static bool contains(const std::string& text, const char* part) { return text.find(part) != std::string::npos; }
-
     /// What was left in the old files comes in.
     static void resume(const Known& known, Desk& desk) {
         desk.run(known.work->lines.mid(known.work->lines.size() - 2));
@@ -237,6 +238,30 @@ TEST_F(Kills, LeaveTheArchiveAsBeforeOrAsAfter) {
             "%d\n",
             name, c.kills, c.afterEnd, c.atStart, c.inWriting, c.hot, c.rebuilding, c.copying, c.before, c.after,
             c.between);
+}
+
+TEST(TwoPrograms, TheSecondIsToldByNameAndChangesNothing) {
+    const QTemporaryDir home;
+    const QString folder = home.filePath(u"viaggi"_s);
+    QDir().mkpath(folder);
+    Desk first(folder, today);
+    first.run(QStringList{u"start"_s} + storedTrip(u"GARDA"_s, 5));
+    // Not even the archive itself, chosen as a file to import, opens the door.
+    const QStringList told = first.run({u"click cmdExport"_s, u"file Vanzer.mdb"_s, u"click cmdImportExport(1)"_s,
+                                        u"click cmdImExp(1)"_s});
+    EXPECT_TRUE(told.join(u' ').contains(u"è l'archivio stesso")) << told.join(u' ').toStdString();
+    // By another program: whoever opens and closes the archive's file here lets go of its lock.
+    const QString before = home.filePath(u"prima"_s);
+    ASSERT_EQ(QProcess::execute(u"cp"_s, {u"-r"_s, folder, before}), 0);
+    const KilledRun second = runAndKill(folder, {u"start"_s, u"click cmdNuovo"_s, u"table MeteVanzer"_s},
+                                        [](int, double, double) { return false; });
+    EXPECT_EQ(second.answers, 3);
+    EXPECT_TRUE(second.output.contains((folder + u"/Vanzer.mdb è già aperto da un altro Vanzer"_s).toUtf8()))
+        << second.output.toStdString();
+    EXPECT_EQ(second.output.count("\"error\""), 2);
+    EXPECT_EQ(QProcess::execute(u"diff"_s, {u"-r"_s, folder, before}), 0);
+    EXPECT_TRUE(first.run(storedTrip(u"COMO"_s, 5)).join(u' ').contains(u"Confermi inserimento meta?"));
+    EXPECT_TRUE(contains(first.records(), "COMO 4"));
 }
 
 } // namespace
