@@ -9,6 +9,10 @@ std::vector<RigaSorgente> copiaTratto(const std::vector<RigaSorgente>& source, i
         return r >= 1 && r <= static_cast<int>(source.size()) ? source[static_cast<std::size_t>(r - 1)]
                                                               : RigaSorgente();
     };
+    // A number that somebody typed may be any; no itinerary has as many rows.
+    constexpr int most = 10'000;
+    from = std::clamp(from, -most, most);
+    to = std::clamp(to, -most, most);
     const bool forward = from <= to;
     const int step = forward ? 1 : -1;
     std::vector<RigaSorgente> legs;

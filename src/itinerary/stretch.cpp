@@ -1,13 +1,18 @@
 #include "itinerary/stretch.h"
 
+#include <algorithm>
+
 #include "core/text.h"
 
 namespace vanzer {
 
 namespace {
 
+/// Behind the last row of any itinerary: a number that somebody typed may be any.
+constexpr int oltreOgniRiga = 100'000;
+
 int rowOf(const QString& end) {
-    return arrotonda(Val(end.section(u' ', 0, 0)));
+    return std::clamp(arrotonda(Val(end.section(u' ', 0, 0))), -oltreOgniRiga, oltreOgniRiga);
 }
 
 } // namespace

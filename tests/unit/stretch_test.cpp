@@ -1,4 +1,6 @@
 // Road types for a stretch, and stretches copied from another destination.
+#include <limits>
+
 #include <gtest/gtest.h>
 
 #include "itinerary/copy.h"
@@ -42,6 +44,9 @@ TEST(Stretch, ItsEndsNeverStandTheWrongWayRound) {
         EXPECT_EQ(stretch.ultima, c.lastAfter) << c.what;
         EXPECT_EQ(stretch.tappe(), c.legs) << c.what;
     }
+    // Whatever was typed into the fields: no row lies that far out.
+    EXPECT_EQ(TrattoScelto({u"-99999999999"_s, u"99999999999"_s}).tappe(), 200'001);
+    EXPECT_EQ(copiaTratto({}, 1, std::numeric_limits<int>::max(), false).size(), 10'000U);
     EXPECT_EQ(TrattoScelto().tappe(), 0);
     EXPECT_FALSE(TrattoScelto().scelto());
 }
