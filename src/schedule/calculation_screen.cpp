@@ -163,8 +163,7 @@ class Calcolo {
 
     void chiude() {
         if (s_.Coefficiente != 1)
-            storeCoefficient(form_);
-        form_.archivio.storeSoFar();
+            form_.archivio.scriveRicavati([this] { storeCoefficient(form_); });
         showPanel(form_, last_.pannello);
         form_.txtFine(6).setText(QString::number(s_.GiorniCalcolati));
         showSchedule(form_, prepared_, last_);

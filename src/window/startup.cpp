@@ -378,7 +378,8 @@ QString openingFailed(const Form& form, const store::StoreError& error) {
     if (error.kind() != store::StoreError::Kind::Corrupt)
         text += error.testo();
     if (const QString copies = copiesAre(form); error.kind() != store::StoreError::Kind::Busy && !copies.isEmpty())
-        text += copies + QStringLiteral(" Per ripartire da una copia la si mette al posto dell'archivio.");
+        text +=
+            copies + QStringLiteral(" Per ripartire da una copia la si mette al posto dell'archivio, con il suo nome.");
     return text.join(QStringLiteral("\n\n"));
 }
 

@@ -6,6 +6,8 @@
 
 #include <QTemporaryDir>
 
+#include <sqlite3.h>
+
 #include "faults/faulty_disk.h"
 #include "store/archive.h"
 #include "support/desk.h"
@@ -44,6 +46,8 @@ const QStringList choiceOfImport{u"click cmdExport"_s, u"file amici.iei"_s, u"cl
 const QStringList importIt{u"answer 6"_s, u"click cmdImExp(0)"_s};
 const QStringList convertIt{u"answer 6"_s, u"click cmdConverte"_s};
 const QStringList endEditing{u"answer 6"_s, u"click cmdFine"_s};
+const QStringList saveDefaults{u"answer 6"_s, u"click cmdDefault(0)"_s};
+const QStringList saveTrip{u"answer 6"_s, u"click cmdSalva"_s};
 const QStringList deleteTrip{u"answer 6"_s, u"click cmdCancMeta"_s};
 
 const std::vector<Command>& commands() {
@@ -58,6 +62,19 @@ const std::vector<Command>& commands() {
          QStringList{u"start"_s} + storedTrip(u"COMO"_s, 4) + storedTrip(u"GARDA"_s, 12), deleteTrip, deleteTrip},
         {"import", [](const QString& folder) { copyFolder(QStringLiteral(VANZER_EXCHANGE_FILES), folder); },
          QStringList{u"start"_s} + storedTrip(u"VERONA"_s, 4) + choiceOfImport, importIt, choiceOfImport + importIt},
+        {"guide entry",
+         emptyFolder,
+         QStringList{u"start"_s} + storedTrip(u"GARDA"_s, 12) +
+             QStringList{u"click cmdGuidaCitta"_s, u"row mfgTab 1"_s, u"set txtGDescr Rocca"_s, u"set cmbGH 01"_s,
+                         u"set cmbGM 30"_s},
+         {u"click cmdSalvaRiga"_s},
+         {u"click cmdSalvaRiga"_s}},
+        {"default values", emptyFolder, {u"start"_s, u"set cmbMediaKm(0) 80"_s}, saveDefaults, saveDefaults},
+        {"saved destination",
+         emptyFolder,
+         {u"start"_s, u"click cmdNuovo"_s, u"set txtLocalita COMO"_s, u"set txtNazione ITALIA"_s},
+         saveTrip,
+         saveTrip},
         {"rebuild", olderArchive, {}, {u"start"_s}, {u"start"_s}},
         {"conversion",
          [](const QString& folder) { copyFolder(QStringLiteral(VANZER_OLD_FILES), folder); },
@@ -150,6 +167,26 @@ TEST_P(UnderFaults, WhatWasStoredStaysAndTheUserIsTold) {
 INSTANTIATE_TEST_SUITE_P(Commands, UnderFaults, testing::ValuesIn(commands()), [](const auto& instance) {
     return QString::fromLatin1(instance.param.name).replace(u' ', u'_').toStdString();
 });
+
+// What is stored on the way, such as the trip that was looked at last, can be made anew.
+TEST(FullDisk, TripsAreLookedUpAndCalculatedAllTheSame) {
+    FaultyDisk disk;
+    QTemporaryDir home;
+    Desk desk(home.path());
+    desk.run(QStringList{u"start"_s} + storedTrip(u"COMO"_s, 3) + newTrip(u"GARDA"_s, 12) +
+             QStringList{u"row mfgTab 3"_s, u"set cmbSosta(0) 02"_s, u"click cmdInserisce"_s} + endEditing +
+             QStringList{u"set cmbGiorni 009"_s} + saveTrip);
+    disk.arm({Operation::Write, SQLITE_FULL, true}, 1);
+    const QStringList told = desk.run({u"click cmdCalcola"_s, u"click cmdCalcola"_s, u"click cmdRicerca"_s,
+                                       u"pick cmbRicerca COMO"_s, u"click cmdCalcola"_s, u"click cmdCalcola"_s});
+    disk.disarm();
+    EXPECT_TRUE(disk.hit());
+    ASSERT_EQ(told.size(), 1) << told.join(u'\n').toStdString();
+    EXPECT_TRUE(told.first().startsWith(u"Elaborazione")) << told.first().toStdString();
+    EXPECT_TRUE(contains(desk.records(), "MetaCorrente|000002"));
+    desk.run({u"click cmdRicerca"_s, u"pick cmbRicerca COMO"_s});
+    EXPECT_TRUE(contains(desk.records(), "MetaCorrente|000001"));
+}
 
 TEST(Refused, AnItineraryOfTooManyRecords) {
     QTemporaryDir home;

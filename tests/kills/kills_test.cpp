@@ -25,10 +25,6 @@ unsigned long long seed = 1; // NOLINT(cppcoreguidelines-avoid-non-const-global-
 
 const QDate today(2026, 5, 20);
 
-bool contains(const std::string& text, const char* part) {
-    return text.find(part) != std::string::npos;
-}
-
 /// The records without the guide's marks of use, which are made anew at each load.
 QStringList recordsIn(Desk& desk) {
     QStringList records = QString::fromStdString(desk.records()).split(u'\n', Qt::SkipEmptyParts);

@@ -70,6 +70,10 @@ class Desk {
     batch::Interpreter program_;
 };
 
+inline bool contains(const std::string& text, const char* part) {
+    return text.find(part) != std::string::npos;
+}
+
 inline std::string storedIn(const QString& folder) {
     return Desk(folder).records();
 }
