@@ -9,16 +9,14 @@ namespace vanzer {
 
 bool sceltoLArchivio(const Form& form) {
     const QFileInfo file(QDir(form.archivio.PercorsoProgramma).filePath(form.stato.NomeFileScambio));
-    return file.exists() &&
-           file.canonicalFilePath() == QFileInfo(form.archivio.PercorsoDatabase).canonicalFilePath();
+    return file.exists() && file.canonicalFilePath() == QFileInfo(form.archivio.PercorsoDatabase).canonicalFilePath();
 }
 
 std::optional<QByteArray> leggeFileScambio(Form& form) {
     const QString& name = form.stato.NomeFileScambio;
     // Whoever opens and closes the archive's file besides the archive lets go of its lock.
-    FileLetto file = sceltoLArchivio(form)
-                         ? FileLetto{{}, QStringLiteral("è l'archivio stesso.")}
-                         : leggeFile(QDir(form.archivio.PercorsoProgramma).filePath(name));
+    FileLetto file = sceltoLArchivio(form) ? FileLetto{{}, QStringLiteral("è l'archivio stesso.")}
+                                           : leggeFile(QDir(form.archivio.PercorsoProgramma).filePath(name));
     if (file.errore.isEmpty())
         return std::move(file.contenuto);
     form.messaggio(

@@ -94,7 +94,10 @@ Database::~Database() {
         set->abbandona();
     rollbackNow();
     statements_.clear();
-    // In exclusive mode an emptied journal stays beside the file; back in normal mode the engine takes it away.
+    // In exclusive mode an emptied journal stays beside the file; back in normal mode the engine takes it away. Beside
+    // another file that has taken the place of this one it may be another program's.
+    if (!inPlace())
+        return;
     sqlite3_exec(connection_.get(),
                  "PRAGMA locking_mode=NORMAL; SELECT count(*) FROM sqlite_schema; "
                  "PRAGMA journal_mode=DELETE",
@@ -219,11 +222,10 @@ int Database::storedVersion() {
 }
 
 // The system lets a program write on to a file that was taken away or put elsewhere; nobody would find it again.
-void Database::requireInPlace() {
+bool Database::inPlace() const {
     int moved = 0;
     sqlite3_file_control(connection_.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
-    if (moved != 0)
-        throw StoreError(StoreError::Kind::NotFound, path_);
+    return moved == 0;
 }
 
 // A disk that fails at the very last step of a commit, when all is stored already, makes the engine call it failed. The
@@ -233,7 +235,8 @@ void Database::commitTransaction() {
     std::optional<StoreError> failure;
     try {
         run(("PRAGMA user_version=" + QByteArray::number(next)).constData());
-        requireInPlace();
+        if (!inPlace())
+            throw StoreError(StoreError::Kind::NotFound, path_);
         run("COMMIT");
     } catch (const StoreError& error) {
         failure = error;

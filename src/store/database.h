@@ -110,7 +110,7 @@ class Database {
 
     void run(const char* sql);
     [[nodiscard]] int storedVersion();
-    void requireInPlace();
+    [[nodiscard]] bool inPlace() const;
     void commitTransaction();
     void beforeWrite(const TableInfo& table);
     void rollbackNow() noexcept;

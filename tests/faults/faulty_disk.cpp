@@ -25,74 +25,48 @@ sqlite3_file* real(sqlite3_file* file) {
     return reinterpret_cast<File*>(file)->real();
 }
 
-int closeFile(sqlite3_file* file) {
-    return real(file)->pMethods->xClose(real(file));
+/// What the real file does, unasked.
+template<auto Method, typename... Arguments> int really(sqlite3_file* file, Arguments... arguments) {
+    return (real(file)->pMethods->*Method)(real(file), arguments...);
 }
 
 int readFile(sqlite3_file* file, void* bytes, int count, sqlite3_int64 at) {
     const int result = theDisk->judge(Operation::Read);
-    return result != SQLITE_OK ? result : real(file)->pMethods->xRead(real(file), bytes, count, at);
+    return result != SQLITE_OK ? result : really<&sqlite3_io_methods::xRead>(file, bytes, count, at);
 }
 
 int writeFile(sqlite3_file* file, const void* bytes, int count, sqlite3_int64 at) {
     const int result = theDisk->judge(Operation::Write);
     const int written = result == SQLITE_OK ? count : count / 2 / sector * sector;
-    const int really = real(file)->pMethods->xWrite(real(file), bytes, written, at);
-    return result != SQLITE_OK ? result : really;
+    const int done = really<&sqlite3_io_methods::xWrite>(file, bytes, written, at);
+    return result != SQLITE_OK ? result : done;
 }
 
 int truncateFile(sqlite3_file* file, sqlite3_int64 size) {
     const int result = theDisk->judge(Operation::Truncate);
-    return result != SQLITE_OK ? result : real(file)->pMethods->xTruncate(real(file), size);
+    return result != SQLITE_OK ? result : really<&sqlite3_io_methods::xTruncate>(file, size);
 }
 
 int syncFile(sqlite3_file* /*file*/, int /*flags*/) {
     return theDisk->judge(Operation::Sync);
 }
 
-int sizeOfFile(sqlite3_file* file, sqlite3_int64* size) {
-    return real(file)->pMethods->xFileSize(real(file), size);
-}
-
-int lockFile(sqlite3_file* file, int level) {
-    return real(file)->pMethods->xLock(real(file), level);
-}
-
-int unlockFile(sqlite3_file* file, int level) {
-    return real(file)->pMethods->xUnlock(real(file), level);
-}
-
-int checkLock(sqlite3_file* file, int* locked) {
-    return real(file)->pMethods->xCheckReservedLock(real(file), locked);
-}
-
-int controlFile(sqlite3_file* file, int operation, void* argument) {
-    return real(file)->pMethods->xFileControl(real(file), operation, argument);
-}
-
-int sectorOf(sqlite3_file* file) {
-    return real(file)->pMethods->xSectorSize(real(file));
-}
-
-int traitsOf(sqlite3_file* file) {
-    return real(file)->pMethods->xDeviceCharacteristics(real(file));
-}
-
 constexpr sqlite3_io_methods methods = [] {
-    sqlite3_io_methods all{};
+    using Io = sqlite3_io_methods;
+    Io all{};
     all.iVersion = 1;
-    all.xClose = closeFile;
+    all.xClose = really<&Io::xClose>;
     all.xRead = readFile;
     all.xWrite = writeFile;
     all.xTruncate = truncateFile;
     all.xSync = syncFile;
-    all.xFileSize = sizeOfFile;
-    all.xLock = lockFile;
-    all.xUnlock = unlockFile;
-    all.xCheckReservedLock = checkLock;
-    all.xFileControl = controlFile;
-    all.xSectorSize = sectorOf;
-    all.xDeviceCharacteristics = traitsOf;
+    all.xFileSize = really<&Io::xFileSize, sqlite3_int64*>;
+    all.xLock = really<&Io::xLock, int>;
+    all.xUnlock = really<&Io::xUnlock, int>;
+    all.xCheckReservedLock = really<&Io::xCheckReservedLock, int*>;
+    all.xFileControl = really<&Io::xFileControl, int, void*>;
+    all.xSectorSize = really<&Io::xSectorSize>;
+    all.xDeviceCharacteristics = really<&Io::xDeviceCharacteristics>;
     return all;
 }();
 

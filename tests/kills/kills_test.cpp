@@ -243,8 +243,8 @@ TEST(TwoPrograms, TheSecondIsToldByNameAndChangesNothing) {
     Desk first(folder, today);
     first.run(QStringList{u"start"_s} + storedTrip(u"GARDA"_s, 5));
     // Not even the archive itself, chosen as a file to import, opens the door.
-    const QStringList told = first.run({u"click cmdExport"_s, u"file Vanzer.mdb"_s, u"click cmdImportExport(1)"_s,
-                                        u"click cmdImExp(1)"_s});
+    const QStringList told =
+        first.run({u"click cmdExport"_s, u"file Vanzer.mdb"_s, u"click cmdImportExport(1)"_s, u"click cmdImExp(1)"_s});
     EXPECT_TRUE(told.join(u' ').contains(u"è l'archivio stesso")) << told.join(u' ').toStdString();
     // By another program: whoever opens and closes the archive's file here lets go of its lock.
     const QString before = home.filePath(u"prima"_s);
