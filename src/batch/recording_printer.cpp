@@ -5,6 +5,7 @@
 #include <QJsonArray>
 
 #include "batch/pdf_file.h"
+#include "core/text_file.h"
 
 namespace vanzer::batch {
 
@@ -21,7 +22,7 @@ const QString pdfFilter = QStringLiteral("PDF (*.pdf)|*.pdf");
 
 } // namespace
 
-RecordingPrinter::RecordingPrinter(FileDialogs& files) : files_(files) {
+RecordingPrinter::RecordingPrinter(FileDialogs& files, QString archive) : files_(files), archive_(std::move(archive)) {
     font_.name = onlyFont;
 }
 
@@ -57,8 +58,11 @@ double RecordingPrinter::textHeight(const QString& /*text*/) const {
 }
 
 void RecordingPrinter::openPage() {
-    if (page_ == 0 && device_ == Device::Pdf)
+    if (page_ == 0 && device_ == Device::Pdf) {
         pdfPath_ = files_.save(pdfFilter, Ricopertura::ChiedeIlDialogo);
+        if (stessoFile(pdfPath_, archive_))
+            throw PrinterError{QStringLiteral("Il file %1 è l'archivio: scegliere un altro nome.").arg(pdfPath_)};
+    }
     ++page_;
     pages().emplace_back();
 }

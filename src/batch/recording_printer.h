@@ -14,8 +14,9 @@ namespace vanzer::batch {
 
 class RecordingPrinter : public Printer {
   public:
-    /// `files` is asked for the file of a PDF and must outlive the printer.
-    explicit RecordingPrinter(FileDialogs& files);
+    /// `files` is asked for the file of a PDF and must outlive the printer. `archive` is the file that no PDF takes the
+    /// place of.
+    explicit RecordingPrinter(FileDialogs& files, QString archive = {});
 
     [[nodiscard]] QStringList names() const override;
     [[nodiscard]] QString current() const override;
@@ -55,6 +56,7 @@ class RecordingPrinter : public Printer {
     [[nodiscard]] std::vector<Pagina>& pages() { return device_ == Device::Pdf ? pdf_ : recorded_; }
 
     FileDialogs& files_;
+    QString archive_;
     Device device_ = Device::Registro;
     Carattere font_;
     int page_ = 0;

@@ -48,6 +48,10 @@ QJsonArray linesOf(const QByteArray& bytes) {
 
 } // namespace
 
+Session::Session(Ambiente surroundings)
+    : printer(dialogs, QDir(surroundings.directory).filePath(store::nomeArchivio)),
+      surroundings_(std::move(surroundings)) {}
+
 void Session::start() {
     close();
     printer.reset();
@@ -58,7 +62,7 @@ QJsonObject Session::table(const QString& name) const {
     if (form_ && form_->archivio.Db(0) != nullptr)
         return recordsOf(form_->archivio, name);
     store::Archive file(surroundings_.directory);
-    file.PercorsoDatabase = file.PercorsoProgramma + QStringLiteral("Vanzer.mdb");
+    file.PercorsoDatabase = file.PercorsoProgramma + store::nomeArchivio;
     file.DatabaseApre(0);
     return recordsOf(file, name);
 }

@@ -15,7 +15,7 @@ namespace vanzer::batch {
 
 class Session {
   public:
-    explicit Session(Ambiente surroundings) : surroundings_(std::move(surroundings)) {}
+    explicit Session(Ambiente surroundings);
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
@@ -23,7 +23,7 @@ class Session {
     QueuedDialogs dialogs;
     SetClock clock;
     VisitedYield events;
-    RecordingPrinter printer{dialogs};
+    RecordingPrinter printer;
 
     /// Leaves the window if there is one, and starts. Must not be called while a handler of the window runs.
     void start();

@@ -1,15 +1,14 @@
 #include "exchange/chosen_file_screen.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 #include "core/text_file.h"
 
 namespace vanzer {
 
 bool sceltoLArchivio(const Form& form) {
-    const QFileInfo file(QDir(form.archivio.PercorsoProgramma).filePath(form.stato.NomeFileScambio));
-    return file.exists() && file.canonicalFilePath() == QFileInfo(form.archivio.PercorsoDatabase).canonicalFilePath();
+    return stessoFile(QDir(form.archivio.PercorsoProgramma).filePath(form.stato.NomeFileScambio),
+                      form.archivio.PercorsoDatabase);
 }
 
 std::optional<QByteArray> leggeFileScambio(Form& form) {

@@ -29,7 +29,7 @@ CodiciMete::Esito CodiciMete::assegna(const QStringList& stored, const QStringLi
         failed_ = code;
         if (code.size() > longest)
             return Esito::CodiceTroppoLungo;
-        inUse.push_back(all.contains(key(code)));
+        inUse.push_back(all.contains(key(code)) || taken.contains(key(code)));
         if (!inUse.back())
             taken.insert(key(code));
     }
@@ -48,19 +48,33 @@ CodiciMete::Esito CodiciMete::assegna(const QStringList& stored, const QStringLi
             } while (taken.contains(key(fresh)));
             taken.insert(key(fresh));
         }
-        codes_[key(code)].push_back(fresh);
+        codes_[key(code)].daDare.push_back(fresh);
     }
     return Esito::Assegnati;
 }
 
-const QString* CodiciMete::nuovo(QStringView old) const {
+const QString* CodiciMete::perMeta(QStringView old) const {
     const auto found = codes_.constFind(key(old));
-    return found == codes_.cend() || found->empty() ? nullptr : &found->front();
+    return found == codes_.cend() || found->daDare.empty() ? nullptr : &found->daDare.front();
+}
+
+void CodiciMete::accetta(QStringView old) {
+    const auto found = codes_.find(key(old));
+    if (found == codes_.end() || found->daDare.empty())
+        return;
+    if (found->dellaPrima.isEmpty())
+        found->dellaPrima = found->daDare.front();
+    found->daDare.pop_front();
 }
 
 void CodiciMete::rifiuta(QStringView old) {
-    if (const auto found = codes_.find(key(old)); found != codes_.end() && !found->empty())
-        found->pop_front();
+    if (const auto found = codes_.find(key(old)); found != codes_.end() && !found->daDare.empty())
+        found->daDare.pop_front();
+}
+
+const QString* CodiciMete::perTappe(QStringView old) const {
+    const auto found = codes_.constFind(key(old));
+    return found == codes_.cend() || found->dellaPrima.isEmpty() ? perMeta(old) : &found->dellaPrima;
 }
 
 } // namespace vanzer

@@ -57,7 +57,7 @@ bool Importazione::testa() {
 
 void Importazione::meta() {
     const QStringView old = reader_.colonna(code_);
-    const QString* const fresh = codes_.nuovo(old);
+    const QString* const fresh = codes_.perMeta(old);
     if (fresh == nullptr)
         return;
     if (archive_.haMeta(reader_.colonna(place_).toString())) {
@@ -66,11 +66,12 @@ void Importazione::meta() {
         return;
     }
     aggiunge(fresh);
+    codes_.accetta(old);
     ++counters_.meteInserite;
 }
 
 void Importazione::tappa() {
-    const QString* const fresh = codes_.nuovo(reader_.colonna(code_));
+    const QString* const fresh = codes_.perTappe(reader_.colonna(code_));
     if (fresh == nullptr)
         return;
     aggiunge(fresh);

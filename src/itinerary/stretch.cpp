@@ -8,11 +8,10 @@ namespace vanzer {
 
 namespace {
 
-/// Behind the last row of any itinerary: a number that somebody typed may be any.
-constexpr int oltreOgniRiga = 100'000;
-
+/// Whoever types an end may name any row: one behind all tables then.
 int rowOf(const QString& end) {
-    return std::clamp(arrotonda(Val(end.section(u' ', 0, 0))), -oltreOgniRiga, oltreOgniRiga);
+    constexpr double behindAll = 999'999;
+    return arrotonda(std::clamp(Val(end.section(u' ', 0, 0)), 0.0, behindAll));
 }
 
 } // namespace
@@ -44,6 +43,7 @@ int TrattoScelto::tappe() const {
 }
 
 QString conModifiche(QString mappa, int da, int a) {
+    da = std::max(da, 1);
     mappa = mappa.leftJustified(a, u'0');
     return mappa.replace(da - 1, a - da + 1, QString(a - da + 1, u'1'));
 }

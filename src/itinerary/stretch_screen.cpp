@@ -41,7 +41,7 @@ void assign(Form& form) {
     const int last = stretch.aRiga();
     if (stretch.tappe() > 0) {
         const SenzaRidisegno quiet(grid);
-        for (int r = stretch.daRiga(); r <= last; ++r)
+        for (int r = Maggiore(stretch.daRiga(), 1); r <= Minore(last, grid.rows() - 1); ++r)
             grid.setCell(r, 4, strTipoStrada(form.optTStrada));
         form.stato.MappaModifiche = conModifiche(form.stato.MappaModifiche, stretch.daRiga(), last);
     }

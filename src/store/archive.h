@@ -20,6 +20,9 @@
 
 namespace vanzer::store {
 
+/// The archive's file, beside the program.
+inline constexpr QLatin1String nomeArchivio("Vanzer.mdb");
+
 /// One table as a whole, records in the order in which they were added: text, yes/no, or no value.
 struct TabellaLetta {
     using Cella = std::variant<std::monostate, bool, QString>;

@@ -16,7 +16,6 @@ namespace vanzer::store {
 
 namespace {
 
-constexpr QLatin1String archiveName("Vanzer.mdb");
 constexpr QLatin1String rebuildName("DBTemp.mdb");
 
 /// A first round may make a rebuild necessary, the second passes. More means that the file can't be mended.
@@ -57,7 +56,7 @@ void copyTable(Database& from, const TableInfo& old, Database& to, const TableIn
 void Archive::apriArchivio(const PrimaDellUso& before) {
     chiudi();
     for (int round = 1;; ++round) {
-        PercorsoDatabase = PercorsoProgramma + archiveName;
+        PercorsoDatabase = PercorsoProgramma + nomeArchivio;
         bool created = false;
         DatabaseCrea(0, created);
         DatabaseApre(0);
@@ -79,7 +78,7 @@ void Archive::ricostruisce() {
     closeSlots();
     databases_[1] = std::move(databases_[0]);
     const QString temporary = PercorsoProgramma + rebuildName;
-    const QString archivePath = PercorsoProgramma + archiveName;
+    const QString archivePath = PercorsoProgramma + nomeArchivio;
     PercorsoDatabase = temporary;
     try {
         toglieFile(temporary);

@@ -108,7 +108,7 @@ void readExchangeFile(const QByteArray& input) {
         return;
     std::set<QString> given;
     for (CodiciMete left = codes; const QString& old : chosen) {
-        given.insert(*left.nuovo(old));
+        promise(given.insert(*left.perMeta(old)).second, QStringLiteral("each destination has a code of its own"));
         left.rifiuta(old); // the next of that code comes forward
     }
     Importazione import(MemoryArchive::names(), codes, archive);

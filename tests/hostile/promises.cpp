@@ -5,7 +5,7 @@
 #include <QDir>
 
 #include "core/text.h"
-#include "store/database.h"
+#include "store/archive.h"
 #include "store/schema.h"
 
 namespace vanzer::hostile {
@@ -14,32 +14,68 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The legs stand in the table, and nothing else.
-bool legsInTable(const Form& window) {
+const std::array<QString, 2> setMarks{u"[Start]"_s, u"[End]"_s};
+
+/// The legs stand in the table of the editor, and nothing else.
+bool legsInEditor(const Form& window) {
     return !window.stato.ModoGuida && !window.tappeConservate && window.frmframe(12).visible();
 }
 
+/// A row's number is its own, or none; a row with a place has it.
 QString numbersOf(const Grid& grid, Looks& looks) {
+    long& numbers = looks["numbers of rows"];
     for (int r = 1; r < grid.rows(); ++r) {
-        if (Trim(grid.cell(r, 1)).isEmpty())
+        const QString& number = grid.cell(r, 0);
+        if (number.isEmpty() && Trim(grid.cell(r, 1)).isEmpty())
             continue;
-        ++looks["numbers of rows"];
-        if (grid.cell(r, 0) != QString::number(r))
-            return u"row %1 (%2) has the number %3"_s.arg(QString::number(r), grid.cell(r, 1), grid.cell(r, 0));
+        ++numbers;
+        if (number != QString::number(r))
+            return u"row %1 (%2) has the number %3"_s.arg(QString::number(r), grid.cell(r, 1), number);
     }
     return {};
 }
 
+QStringList rowsWith(const QString& mark, const Grid& grid, Looks& looks) {
+    QStringList places;
+    for (int r = 1; r < grid.rows(); ++r) {
+        if (contiene(grid.cell(r, 1), mark))
+            places += grid.cell(r, 1);
+    }
+    looks[(u"rows with "_s + mark).toStdString()] += places.size();
+    return places;
+}
+
+/// No two places have the same mark. One place may stand in several rows with it, since a long leg is stored in pieces.
 QString marksOf(const Grid& grid, Looks& looks) {
-    for (const QString& mark : {u" [Start]"_s, u" [End]"_s}) {
-        int marked = 0;
-        for (int r = 1; r < grid.rows(); ++r)
-            marked += contiene(grid.cell(r, 1), mark) ? 1 : 0;
-        looks["marks"] += marked;
-        if (marked > 1)
-            return u"%1 rows with%2"_s.arg(QString::number(marked), mark);
+    for (const QString& mark : setMarks) {
+        const QStringList places = rowsWith(mark, grid, looks);
+        for (const QString& place : places) {
+            if (!uguale(place, places.first()))
+                return u"%1 stands at %2 and at %3"_s.arg(mark, places.first(), place);
+        }
     }
     return {};
+}
+
+/// Current row, end of the selection and top row are rows of the grid below its head, if it has any.
+QString placesIn(const Grid& grid, Looks& looks) {
+    ++looks["places in grids"];
+    const int first = grid.rows() > 1 ? 1 : 0;
+    for (const int place : {grid.row(), grid.rowSel(), grid.topRow()}) {
+        if (place < first || place >= grid.rows())
+            return u"%1 stands on row %2 of %3"_s.arg(grid.name(), QString::number(place),
+                                                      QString::number(grid.rows()));
+    }
+    return {};
+}
+
+/// Between two commands nothing waits to be stored.
+QString leftOpen(const Form& window, Looks& looks) {
+    ++looks["commands that ended"];
+    if (window.comandoInCorso)
+        return u"a command still runs"_s;
+    const store::Database* const archive = window.archivio.Db(0);
+    return archive != nullptr && archive->inTransaction() ? u"a transaction is left open"_s : QString();
 }
 
 QString brokenValue(const store::FieldDef& field, const store::TabellaLetta::Cella& cell) {
@@ -53,9 +89,10 @@ QString brokenValue(const store::FieldDef& field, const store::TabellaLetta::Cel
 
 QString brokenTable(const store::TabellaLetta& table, int number, Looks& looks) {
     const auto fields = store::campiDescritti(store::TabelleCampi(number));
+    long& values = looks["stored values"];
     for (const auto& record : table.record) {
+        values += static_cast<long>(fields.size());
         for (std::size_t i = 0; i < fields.size(); ++i) {
-            ++looks["stored values"];
             if (const QString broken = brokenValue(fields[i], record.at(i)); !broken.isEmpty())
                 return store::TabelleNomi(number) + u": "_s + broken;
         }
@@ -70,8 +107,23 @@ QString brokenCodes(const store::TabellaLetta& mete, Looks& looks) {
         const auto* const code = std::get_if<QString>(&record.front());
         if (code == nullptr || Trim(*code).isEmpty())
             return u"a destination without a code"_s;
-        if (!codes.insert(*code).second)
+        if (!codes.insert(code->toCaseFolded()).second)
             return u"the code %1 twice"_s.arg(*code);
+    }
+    return {};
+}
+
+/// At most one record, and each of its texts has a value.
+QString brokenSingle(const store::TabellaLetta& table, int number, Looks& looks) {
+    if (table.record.size() > 1)
+        return store::TabelleNomi(number) + u" has more than one record"_s;
+    for (const auto& record : table.record) {
+        ++looks["single records"];
+        for (std::size_t i = 0; i < record.size(); ++i) {
+            const QString& field = table.campi.at(static_cast<qsizetype>(i));
+            if (std::holds_alternative<std::monostate>(record[i]) && !field.startsWith(u"Flag"))
+                return u"%1: %2 has no value"_s.arg(store::TabelleNomi(number), field);
+        }
     }
     return {};
 }
@@ -79,40 +131,59 @@ QString brokenCodes(const store::TabellaLetta& mete, Looks& looks) {
 } // namespace
 
 QString brokenInWindow(const Form& window, bool marksRepeated, Looks& looks) {
-    if (!legsInTable(window))
+    QString broken = leftOpen(window, looks);
+    for (const Grid* const grid : {&window.mfgTab, &window.mfgCopia, &window.mfgImExp(0), &window.mfgImExp(1)}) {
+        if (broken.isEmpty())
+            broken = placesIn(*grid, looks);
+    }
+    if (!broken.isEmpty() || !legsInEditor(window))
+        return broken;
+    broken = numbersOf(window.mfgTab, looks);
+    return broken.isEmpty() && !marksRepeated ? marksOf(window.mfgTab, looks) : broken;
+}
+
+MarkTaken::MarkTaken(const Form& window) : wanted_{window.chkMeta(0).value(), window.chkMeta(1).value()} {}
+
+QString MarkTaken::broken(const Form& window, Looks& looks) const {
+    if (!legsInEditor(window))
         return {};
-    const QString numbers = numbersOf(window.mfgTab, looks);
-    return numbers.isEmpty() && !marksRepeated ? marksOf(window.mfgTab, looks) : numbers;
+    for (std::size_t i = 0; i < setMarks.size(); ++i) {
+        // The box goes off with the leg; it stays on where the leg was refused.
+        if (!wanted_[i] || window.chkMeta(static_cast<int>(i)).value())
+            continue;
+        ++looks["marks taken"];
+        if (const auto rows = rowsWith(setMarks[i], window.mfgTab, looks).size(); rows > 1)
+            return u"%1 rows with %2 that one has just taken"_s.arg(QString::number(rows), setMarks[i]);
+    }
+    return {};
 }
 
 QString brokenInArchive(store::Archive& archive, Looks& looks) {
     for (int table = store::primaTabella; table <= store::ultimaTabella; ++table) {
         const store::TabellaLetta read = archive.tabella(store::TabelleNomi(table));
-        if (const QString broken = brokenTable(read, table, looks); !broken.isEmpty())
+        QString broken = brokenTable(read, table, looks);
+        if (broken.isEmpty() && table == store::MeteVanzer)
+            broken = brokenCodes(read, looks);
+        if (broken.isEmpty() && (table == store::MetaCorrente || table == store::Parametri))
+            broken = brokenSingle(read, table, looks);
+        if (!broken.isEmpty())
             return broken;
-        if (table == store::MeteVanzer) {
-            if (const QString broken = brokenCodes(read, looks); !broken.isEmpty())
-                return broken;
-        }
-        ++looks["single records"];
-        if ((table == store::MetaCorrente || table == store::Parametri) && read.record.size() > 1)
-            return store::TabelleNomi(table) + u" has more than one record"_s;
     }
     return {};
 }
 
-QString brokenInFolder(const QString& folder, bool deep, Looks& looks) {
+QString strayFile(const QString& folder, Looks& looks) {
     ++looks["folders"];
-    for (const QString& name : QDir(folder).entryList(QDir::Files | QDir::Hidden)) {
-        if (name.endsWith(u"-journal") || name.startsWith(u"DBTemp") || name.endsWith(u".parte"))
-            return u"a stray file: "_s + name;
-    }
-    if (!deep)
-        return {};
-    ++looks["files checked"];
-    const auto file = store::Database::apre(folder + u"/Vanzer.mdb"_s);
-    const auto check = file->prepara("PRAGMA integrity_check");
-    return check->step() && check->text(0) == u"ok" ? QString() : u"the archive is damaged: "_s + check->text(0);
+    static const QStringList temporary{u"*-journal"_s, u"*-wal"_s, u"DBTemp*"_s, u"*.parte"_s};
+    return QDir(folder).entryList(temporary, QDir::Files | QDir::Hidden).value(0);
+}
+
+QString brokenInFile(const QString& path, Looks& looks) {
+    store::Archive archive(QFileInfo(path).path());
+    archive.PercorsoDatabase = path;
+    archive.DatabaseApre(0);
+    ++looks["files whole"];
+    return archive.Db(0)->intatto() ? brokenInArchive(archive, looks) : u"the archive is damaged"_s;
 }
 
 } // namespace vanzer::hostile

@@ -1,6 +1,7 @@
 // What holds whatever a user does.
 #pragma once
 
+#include <array>
 #include <map>
 #include <string>
 
@@ -17,10 +18,25 @@ using Looks = std::map<std::string, long>;
 /// may stand in more than one row.
 [[nodiscard]] QString brokenInWindow(const Form& window, bool marksRepeated, Looks& looks);
 
+/// A leg that is put in as the first or the last real destination takes the mark from all others, however many had it.
+class MarkTaken {
+  public:
+    /// Before a leg is put in.
+    explicit MarkTaken(const Form& window);
+    /// What is broken behind it.
+    [[nodiscard]] QString broken(const Form& window, Looks& looks) const;
+
+  private:
+    std::array<bool, 2> wanted_;
+};
+
 /// What is broken in the open archive.
 [[nodiscard]] QString brokenInArchive(store::Archive& archive, Looks& looks);
 
-/// What is broken in a folder whose program has ended; with `deep` the file itself is checked too.
-[[nodiscard]] QString brokenInFolder(const QString& folder, bool deep, Looks& looks);
+/// A file that the program should have taken away; null if there is none.
+[[nodiscard]] QString strayFile(const QString& folder, Looks& looks);
+
+/// What is broken in an archive that nobody has open. Throws StoreError if it can't be opened.
+[[nodiscard]] QString brokenInFile(const QString& path, Looks& looks);
 
 } // namespace vanzer::hostile

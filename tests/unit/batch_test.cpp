@@ -173,6 +173,24 @@ TEST_F(BatchPrinter, WritesPdfWhereTheUserSays) {
     EXPECT_EQ(compact(printer.take()), R"({"documents":0,"pages":[],"printer":"Registro"})");
 }
 
+TEST_F(BatchPrinter, DrawsNoPdfInPlaceOfTheArchive) {
+    const QTemporaryDir scratch;
+    const QString archive = scratch.filePath(QStringLiteral("Vanzer.mdb"));
+    QFile file(archive);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("legs") == 4);
+    file.close();
+    ASSERT_TRUE(QFile::link(archive, scratch.filePath(QStringLiteral("giro.pdf"))));
+    RecordingPrinter careful(dialogs, archive);
+    careful.choose(QStringLiteral("PDF"));
+    for (const char* name : {"Vanzer.mdb", "./Vanzer.mdb", "giro.pdf"}) {
+        dialogs.enqueue(scratch.filePath(QString::fromLatin1(name)));
+        EXPECT_THROW(careful.text({10, 10}, QStringLiteral("Roma")), PrinterError) << name;
+        EXPECT_TRUE(careful.endDoc());
+    }
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "legs");
+}
+
 TEST(BatchState, GivesSinglesInShortestForm) {
     StatoViaggio state;
     state.Coefficiente = 1.999997F;

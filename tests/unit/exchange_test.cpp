@@ -148,7 +148,9 @@ TEST(ExchangeCodes, AreKeptWhenFreeElseCountedOn) {
         {{u"000001"_s}, {u"000001"_s, u"000002"_s}, {u"000003"_s, u"000002"_s}}, // another one keeps 2
         {{u"000001"_s, u"999999"_s}, {u"000001"_s}, {u"000000"_s}},              // the digits begin anew
         {{u"000001"_s, u"AAAAAA"_s}, {u"aaaaaa"_s}, {u"000002"_s}},
-        {{u"000012"_s}, {u"1"_s}, {u"3"_s}}, // a part of a stored code is in use as well
+        {{u"000012"_s}, {u"1"_s}, {u"3"_s}},                          // a part of a stored code is in use as well
+        {{}, {u"000005"_s, u"000005"_s}, {u"000005"_s, u"000001"_s}}, // a damaged file: each has its own all the same
+        {{u"000005"_s}, {u"000005"_s, u"000005"_s}, {u"000006"_s, u"000007"_s}},
         {{}, {u"1234567"_s}, {}},
         {{u"0"_s, u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s, u"7"_s, u"8"_s, u"9"_s}, {u"3"_s}, {}},
     };
@@ -156,15 +158,18 @@ TEST(ExchangeCodes, AreKeptWhenFreeElseCountedOn) {
         CodiciMete codes;
         const bool assigned = codes.assegna(c.stored, c.chosen, 6) == CodiciMete::Esito::Assegnati;
         ASSERT_EQ(assigned, !c.fresh.isEmpty()) << plain(c.chosen.join(u' '));
-        for (qsizetype i = 0; i < c.fresh.size(); ++i)
-            EXPECT_EQ(*codes.nuovo(c.chosen[i]), c.fresh[i]) << plain(c.chosen.join(u' '));
+        for (qsizetype i = 0; i < c.fresh.size(); ++i) {
+            EXPECT_EQ(*codes.perMeta(c.chosen[i]), c.fresh[i]) << plain(c.chosen.join(u' '));
+            codes.accetta(c.chosen[i]);
+        }
     }
     CodiciMete codes;
     static_cast<void>(codes.assegna({}, {u"000001"_s}, 6));
-    EXPECT_EQ(codes.nuovo(u"000002"), nullptr);
-    EXPECT_EQ(codes.nuovo(u""), nullptr);
+    EXPECT_EQ(codes.perMeta(u"000002"), nullptr);
+    EXPECT_EQ(codes.perMeta(u""), nullptr);
     codes.rifiuta(u"000001");
-    EXPECT_EQ(codes.nuovo(u"000001"), nullptr);
+    EXPECT_EQ(codes.perMeta(u"000001"), nullptr);
+    EXPECT_EQ(codes.perTappe(u"000001"), nullptr);
 }
 
 /// Names over few letters, so that many of them meet; among them what only looks like a letter, and what folds to one.
@@ -260,6 +265,18 @@ TEST(ExchangeImport, LegsThatComeLateCountForTheGuideToo) {
     }
     EXPECT_EQ(import.contatori().tappeInserite, 1);
     EXPECT_EQ(import.contatori().vociScartate, 1);
+}
+
+TEST(ExchangeImport, OneCodeForTwoDestinationsIsOneCodeEach) {
+    MemoryArchive archive;
+    CodiciMete codes;
+    ASSERT_EQ(codes.assegna({}, {u"000071"_s, u"000071"_s}, 6), CodiciMete::Esito::Assegnati);
+    Importazione import(MemoryArchive::names(), codes, archive);
+    for (const char16_t* line : {u"CodiceMetaÿLocalitaÿ", u"000071ÿBARIÿ", u"000071ÿROMAÿ", u"000071ÿPARIGIÿ",
+                                 u"CodiceMetaþLocalitaþ", u"000071þLECCEþ"})
+        ASSERT_TRUE(import.riga(line));
+    EXPECT_EQ(archive.column(store::MeteVanzer, u"CodiceMeta"), (QStringList{u"000071"_s, u"000001"_s}));
+    EXPECT_EQ(archive.column(store::Itinerari, u"CodiceMeta"), QStringList{u"000071"_s});
 }
 
 TEST(ExchangeImport, AHeadWithoutItsKeyIsTold) {
