@@ -20,7 +20,7 @@ class Interpreter {
     /// The answer to a line; none for an empty line or a comment. Never throws for what a command does.
     [[nodiscard]] std::optional<QJsonObject> run(const QString& line);
     /// Null before the first start and after the window was left.
-    [[nodiscard]] const Form* window() const { return session_.window(); }
+    [[nodiscard]] Form* window() const { return session_.window(); }
     /// "stop" was read; window and archive are closed.
     [[nodiscard]] bool finished() const { return finished_; }
 

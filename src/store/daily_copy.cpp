@@ -10,10 +10,11 @@ namespace vanzer::store {
 
 namespace {
 
+constexpr QLatin1String folderName("Copie");
 constexpr QLatin1String unfinished(".parte");
 
 QDir folderOf(const QString& archivePath) {
-    return {QFileInfo(archivePath).absolutePath() + u'/' + cartellaCopie};
+    return {QFileInfo(archivePath).absolutePath() + u'/' + folderName};
 }
 
 const QString nameOfDay = QStringLiteral("'Vanzer 'yyyy-MM-dd'.mdb'");

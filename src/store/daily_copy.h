@@ -8,7 +8,6 @@
 
 namespace vanzer::store {
 
-inline constexpr QLatin1String cartellaCopie("Copie");
 inline constexpr int copieTenute = 10;
 
 /// Copies an open archive to "Copie/Vanzer 2026-11-23.mdb" beside it, unless it is there already, and takes away all

@@ -9,7 +9,6 @@
 #include <sqlite3.h>
 
 #include "faults/faulty_disk.h"
-#include "store/archive.h"
 #include "support/desk.h"
 
 namespace vanzer::faults {
@@ -35,10 +34,7 @@ void emptyFolder(const QString& /*folder*/) {}
 void olderArchive(const QString& folder) {
     Desk(folder).run(QStringList{u"start"_s} + storedTrip(u"GARDA"_s, 30) + storedTrip(u"COMO"_s, 5) +
                      QStringList{u"start"_s});
-    store::Archive archive(folder);
-    archive.PercorsoDatabase = archive.PercorsoProgramma + u"Vanzer.mdb"_s;
-    archive.DatabaseApre(0);
-    archive.Db(0)->cambiaSchema("ALTER TABLE TipoGuida DROP COLUMN TempoObbligatorio");
+    changeSchema(folder, "ALTER TABLE TipoGuida DROP COLUMN TempoObbligatorio");
 }
 
 const QStringList choiceOfImport{u"click cmdExport"_s, u"file amici.iei"_s, u"click cmdImportExport(1)"_s,

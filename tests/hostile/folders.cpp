@@ -2,9 +2,7 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
-#include "store/database.h"
 #include "support/desk.h"
 
 namespace vanzer::hostile {
@@ -17,12 +15,6 @@ const QString oldFolder = u"vecchio"_s;  ///< the files of the earlier generatio
 const QString otherFolder = u"altro"_s;  ///< an archive with other tables, which is rebuilt
 const QString brokenFolder = u"rotto"_s; ///< a file that is no archive
 const QString workFolder = u"lavoro"_s;
-
-/// Memory in place of a disk, where there is such a folder.
-QString base() {
-    const QString memory = u"/dev/shm"_s;
-    return QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
-}
 
 void put(const QString& path, const QByteArray& contents) {
     QFile file(path);
@@ -37,7 +29,7 @@ QByteArray contentsOf(const QString& path) {
 
 } // namespace
 
-Folders::Folders() : all_(base() + u"/vanzer_hostile_XXXXXX"_s) {
+Folders::Folders() {
     makeFull();
     makeOthers();
 }
@@ -79,9 +71,8 @@ void Folders::makeOthers() const {
     copyFolder(QStringLiteral(VANZER_SAMPLES "/vecchi"), path(oldFolder));
     put(path(brokenFolder) + u"/Vanzer.mdb"_s, damagedArchive());
     copyFolder(path(fullFolder), path(otherFolder));
-    const auto archive = store::Database::apre(path(otherFolder) + u"/Vanzer.mdb"_s);
-    archive->cambiaSchema("DROP TABLE Parametri");
-    archive->cambiaSchema("ALTER TABLE Itinerari DROP COLUMN SostaGuidaCitta");
+    changeSchema(path(otherFolder), "DROP TABLE Parametri");
+    changeSchema(path(otherFolder), "ALTER TABLE Itinerari DROP COLUMN SostaGuidaCitta");
 }
 
 void Folders::addFiles(const QString& folder) const {
@@ -89,9 +80,9 @@ void Folders::addFiles(const QString& folder) const {
     copyFolder(QStringLiteral(VANZER_SAMPLES "/percorsi"), folder);
     for (const QString& reader : {u"iei"_s, u"mete"_s, u"pacchetto"_s})
         copyFolder(QStringLiteral(VANZER_CORPUS "/") + reader, folder);
-    const QByteArray trips = contentsOf(folder + u"/giri.iei"_s);
-    put(folder + u"/tronco.iei"_s, trips.first(1500));
-    put(folder + u"/doppio.iei"_s, QByteArray(trips).replace("000002", "000071").replace("000003", "000071"));
+    put(folder + u"/tronco.iei"_s, contentsOf(folder + u"/giri.iei"_s).first(1500));
+    put(folder + u"/doppio.iei"_s,
+        contentsOf(folder + u"/whole.iei"_s).replace("000001", "000071").replace("000002", "000071"));
     put(folder + u"/vuoto.txt"_s, {});
     put(folder + u"/rotto.bin"_s, damagedArchive());
 }

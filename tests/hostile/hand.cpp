@@ -60,7 +60,9 @@ QString Hand::file() {
                                  u"cartella/nuovo.iei"_s,
                                  u"manca/x.iei"_s,
                                  u"-"_s,
-                                 u"Vanzer.mdb"_s};
+                                 u"Vanzer.mdb"_s,
+                                 u"./Vanzer.mdb"_s,
+                                 u"nuovo.pdf"_s};
     return line({u"file"_s, oneIn(20) ? oneOf(texts()) : oneOf(all)});
 }
 

@@ -2,9 +2,9 @@
 //                                                   vanzer_hostile --show NUMBER
 //                                                   vanzer_hostile --shrink NUMBER
 //
-// Scripts are numbered, the same number is the same user. The script at hand lies in a file: where the program breaks
-// it is left there. --show prints the lines of a script while it runs; --shrink runs it with ever fewer lines, each
-// time in a process of its own, and prints those without which the program doesn't break.
+// Scripts are numbered, the same number is the same user. The script at hand lies in a file, below its number:
+// where the program breaks it is left there. --show prints the lines of a script while it runs; --shrink runs it with
+// ever fewer lines, each time in a process of its own, and prints those without which the program doesn't break.
 
 #include <cstdio>
 #include <memory>
@@ -28,7 +28,7 @@ using namespace Qt::StringLiterals;
 Script numbered(std::uint64_t number, int lines) {
     const auto hand = std::make_shared<Hand>(number);
     const int folder = hand->below(Folders::choices);
-    return {folder, hand->typesMarks(),
+    return {number, folder, hand->typesMarks(),
             [hand, lines](const vanzer::Form* window) mutable { return lines-- > 0 ? hand->next(window) : QString(); }};
 }
 

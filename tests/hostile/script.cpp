@@ -84,7 +84,7 @@ class Run {
         alarm(0);
         ++totals_.lines;
         QString found = wrongAnswer(line, answer, totals_);
-        const Form* const window = program_.window();
+        Form* const window = program_.window();
         if (!found.isEmpty() || window == nullptr)
             return found;
         if (!answer.value_or(QJsonObject()).contains(u"refused"_s))
@@ -93,7 +93,7 @@ class Run {
         if (found.isEmpty() && taken && !answer->contains(u"during"_s))
             found = taken->broken(*window, totals_.looks);
         if (found.isEmpty() && number % archiveEach == archiveEach - 1 && window->archivio.Db(0) != nullptr)
-            found = brokenInArchive(const_cast<Form*>(window)->archivio, totals_.looks);
+            found = brokenInArchive(window->archivio, totals_.looks);
         return found;
     }
 
@@ -120,6 +120,7 @@ QString run(const Script& script, const Folders& folders, ScriptFile& file, Tota
     const QString folder = folders.lay(script.folder);
     QDir::setCurrent(folder);
     file.begin();
+    file.add(u"# %1"_s.arg(script.number));
     ++totals.scripts;
     const QString broken = Run(script, folder, file, totals).broken();
     if (!broken.isEmpty())

@@ -37,6 +37,7 @@ class ScriptFile {
 };
 
 struct Script {
+    quint64 number = 0;
     int folder = 0;          ///< the one that it begins with
     bool typesMarks = false; ///< marks of the first and last destination may come in as texts
     /// The next line for the window as it stands; null behind the last one.

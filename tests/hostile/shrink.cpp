@@ -23,7 +23,7 @@ bool breaks(const Script& script, const Folders& folders, ScriptFile& file) {
 }
 
 Script fixedScript(const Script& like, const QStringList& lines) {
-    return {like.folder, like.typesMarks, [lines, i = qsizetype(0)](const Form* /*window*/) mutable {
+    return {like.number, like.folder, like.typesMarks, [lines, i = qsizetype(0)](const Form* /*window*/) mutable {
                 return i < lines.size() ? lines[i++] : QString();
             }};
 }

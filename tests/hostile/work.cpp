@@ -129,8 +129,8 @@ void Hand::planEntry(const Form& /*window*/) {
 void Hand::planGuidePrint(const Form& /*window*/) {
     plan({u"click cmdStampaGuidaCitta"_s, u"option optGuidaListaStampa(%1)"_s.arg(below(2)),
           u"option optGuidaDettaglioStampa(%1)"_s.arg(below(2)), u"click cmdStampaGuida(0)"_s});
-    if (oneIn(3))
-        plan({u"pick lstStampanti PDF"_s, u"file nuovo.pdf"_s});
+    if (oneIn(2))
+        plan({u"pick lstStampanti PDF"_s, file()});
     planClick(u"cmdSelStampante(0)"_s);
 }
 
@@ -206,8 +206,8 @@ void Hand::planPrint(const Form& /*window*/) {
     plan({u"check chkTabella %1"_s.arg(below(2)), u"check chkModuli %1"_s.arg(oneIn(6) ? 1 : 0),
           u"check chkFrontespizio %1"_s.arg(below(2)),
           u"check chkVociFrontespizio(%1) %2"_s.arg(below(4)).arg(below(2)), u"click cmdEsegui(0)"_s});
-    if (oneIn(3))
-        plan({u"pick lstStampanti PDF"_s, u"file nuovo.pdf"_s});
+    if (oneIn(2))
+        plan({u"pick lstStampanti PDF"_s, file()});
     planAnswers();
     planClick(u"cmdSelStampante(0)"_s);
 }

@@ -55,11 +55,10 @@ struct Known {
     QString folder;
     std::vector<QStringList> states;
     std::vector<double> answerAt;
-    std::string filesAtEnd;
 };
 
 Known known(const Workload& work, const QString& folder) {
-    Known result{&work, folder, {}, {}, {}};
+    Known result{&work, folder, {}, {}};
     const QString sound = folder + u".sound"_s;
     QDir().mkpath(folder);
     work.prepare(folder);
@@ -75,7 +74,6 @@ Known known(const Workload& work, const QString& folder) {
             result.states.push_back(recordsIn(desk));
         }
     }
-    result.filesAtEnd = filesIn(sound);
     const QString timed = folder + u".timed"_s;
     copyFolder(folder, timed);
     result.answerAt = runAndKill(timed, work.lines, [](int, double, double) { return false; }).answerAt;

@@ -1,6 +1,5 @@
 #include "kills/workloads.h"
 
-#include "store/archive.h"
 #include "support/desk.h"
 #include "support/old_files_writer.h"
 
@@ -57,10 +56,7 @@ void fullArchive(const QString& folder) {
 /// The full archive, of a version whose categories lacked a field.
 void olderArchive(const QString& folder) {
     fullArchive(folder);
-    store::Archive archive(folder);
-    archive.PercorsoDatabase = archive.PercorsoProgramma + u"Vanzer.mdb"_s;
-    archive.DatabaseApre(0);
-    archive.Db(0)->cambiaSchema("ALTER TABLE TipoGuida DROP COLUMN TempoObbligatorio");
+    changeSchema(folder, "ALTER TABLE TipoGuida DROP COLUMN TempoObbligatorio");
 }
 
 /// Other travellers' file beside an archive of one's own.

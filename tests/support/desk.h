@@ -10,7 +10,7 @@
 #include <QJsonArray>
 
 #include "batch/interpreter.h"
-#include "store/schema.h"
+#include "store/archive.h"
 
 namespace vanzer {
 
@@ -76,6 +76,11 @@ inline bool contains(const std::string& text, const char* part) {
 
 inline std::string storedIn(const QString& folder) {
     return Desk(folder).records();
+}
+
+/// Makes an archive one of another version.
+inline void changeSchema(const QString& folder, const QByteArray& sql) {
+    store::Database::apre(folder + u'/' + store::nomeArchivio)->cambiaSchema(sql);
 }
 
 /// The editor stays open.
