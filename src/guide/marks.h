@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "store/archive.h"
-#include "store/guide_reader.h"
 
 namespace vanzer {
 
@@ -14,7 +13,7 @@ using store::VoceGuida;
 
 class SegniGuida {
   public:
-    explicit SegniGuida(store::Archive& archive) : archive_(archive), reader_(archive) {}
+    explicit SegniGuida(store::Archive& archive) : archive_(archive) {}
 
     /// The entries of exactly this place, case ignored, that weren't used yet: by category, the longest first, then by
     /// group. They count as used from here on.
@@ -25,10 +24,9 @@ class SegniGuida {
     void scrive() { archive_.rimetteVisti(used_); }
 
   private:
-    [[nodiscard]] std::vector<VoceGuida> unused(std::vector<VoceGuida> entries);
+    [[nodiscard]] std::vector<VoceGuida> unused(const std::vector<VoceGuida>& entries);
 
     store::Archive& archive_;
-    store::LettoreGuida reader_;
     std::unordered_set<qint64> used_;
 };
 

@@ -190,6 +190,12 @@ void Archive::CancellaTabella(int table, const QString& field, const QString& va
         progress(total, total);
 }
 
+LettoreGuida& Archive::guida() {
+    if (guida_ == nullptr || !guida_->aperto())
+        guida_ = std::make_unique<LettoreGuida>(archive());
+    return *guida_;
+}
+
 void Archive::rimetteVisti(const std::unordered_set<qint64>& used) {
     const auto guide = storedTable(0, GuidaCitta);
     const QByteArray table = quotedName(guide->nome);
@@ -218,8 +224,10 @@ void Archive::rimetteVisti(const std::unordered_set<qint64>& used) {
     };
     scriveRicavati([&] {
         Transaction all(archive());
-        write("0", toClear);
-        write("1", toSet);
+        guida().scriveSegni([&] {
+            write("0", toClear);
+            write("1", toSet);
+        });
         all.commit();
     });
 }

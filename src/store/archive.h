@@ -14,6 +14,7 @@
 #include <QStringList>
 
 #include "store/database.h"
+#include "store/guide_reader.h"
 #include "store/query.h"
 #include "store/recordset.h"
 #include "store/schema.h"
@@ -90,6 +91,9 @@ class Archive {
     /// hears the begin and the end if there is anything to delete.
     void CancellaTabella(int table, const QString& field, const QString& value, const Progress& progress = {});
 
+    /// What the guide of the archive in use knows of a place.
+    [[nodiscard]] LettoreGuida& guida();
+
     /// Exactly these entries of the guide carry the mark of use from here on. Costs what is marked before and after,
     /// not the size of the guide, and writes only what changes. They can be made anew: see scriveRicavati.
     void rimetteVisti(const std::unordered_set<qint64>& used);
@@ -119,6 +123,7 @@ class Archive {
 
     std::array<std::unique_ptr<Database>, numeroDatabase> databases_;
     std::array<Recordset, numeroSlot> slots_;
+    std::unique_ptr<LettoreGuida> guida_;
     std::optional<qint64> found_;
     int lastSlot_ = 0;
 };

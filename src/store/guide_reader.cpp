@@ -1,21 +1,87 @@
 #include "store/guide_reader.h"
 
+#include <utility>
+
 #include "core/text.h"
+#include "store/recordset.h"
+#include "store/schema.h"
 
 namespace vanzer::store {
 
-LettoreGuida::LettoreGuida(const Archive& archive)
-    : statement_(archive.Db(0)->prepara("SELECT rowid, CodiceGuida, Gruppo, Descrizione, TempoSosta FROM GuidaCitta "
-                                        "WHERE Localita = ?1 ORDER BY CodiceGuida, TempoSosta DESC, Gruppo, rowid")) {}
+namespace {
 
-std::vector<VoceGuida> LettoreGuida::leggeLuogo(const QString& place) {
-    std::vector<VoceGuida> entries;
-    statement_->reset();
-    statement_->bindText(1, QStringView(place));
-    while (statement_->step())
-        entries.push_back({statement_->integer(0), static_cast<int>(Val(statement_->text(1))), statement_->text(2),
-                           statement_->text(3), statement_->text(4)});
-    return entries;
+constexpr std::size_t mostKept = 50'000; ///< entries: some 15 MB, more than the longest trip has
+
+} // namespace
+
+LettoreGuida::LettoreGuida(Database& archive) : database_(&archive) {
+    archive.aggiunge(*this);
+}
+
+LettoreGuida::~LettoreGuida() {
+    if (database_ != nullptr)
+        database_->toglie(*this);
+}
+
+const LettoreGuida::Voci& LettoreGuida::leggeLuogo(const QString& place) {
+    if (const auto known = places_.find(place); known != places_.end())
+        return known->second;
+    const StatementLease found =
+        database_->prepara("SELECT rowid, CodiceGuida, Gruppo, Descrizione, TempoSosta FROM GuidaCitta "
+                           "WHERE Localita = ?1 ORDER BY CodiceGuida, TempoSosta DESC, Gruppo, rowid");
+    found->bindText(1, QStringView(place));
+    Voci entries;
+    while (found->step())
+        entries.push_back(
+            {found->integer(0), static_cast<int>(Val(found->text(1))), found->text(2), found->text(3), found->text(4)});
+    return keeps(places_, place, std::move(entries));
+}
+
+const LettoreGuida::Voci& LettoreGuida::leggeModello(const QString& pattern) {
+    if (const auto known = patterns_.find(pattern); known != patterns_.end())
+        return known->second;
+    using enum Condition::Test;
+    Recordset found(*database_, {TabelleNomi(GuidaCitta), {{QStringLiteral("Localita"), Like, pattern}}, {}});
+    Voci entries;
+    for (; !found.EOF_(); found.MoveNext())
+        entries.push_back(
+            {found.rowid(), arrotonda(Val(found.testo(1))), found.testo(2), found.testo(3), found.testo(4)});
+    return keeps(patterns_, pattern, std::move(entries));
+}
+
+const LettoreGuida::Voci& LettoreGuida::keeps(Lette& known, const QString& key, Voci entries) {
+    if (kept_ + entries.size() > mostKept)
+        forget();
+    kept_ += entries.size() + 1; // a place without any is kept too
+    return known.insert_or_assign(key, std::move(entries)).first->second;
+}
+
+void LettoreGuida::forget() noexcept {
+    places_.clear();
+    patterns_.clear();
+    kept_ = 0;
+}
+
+void LettoreGuida::scriveSegni(const std::function<void()>& write) {
+    onlyMarks_ = true;
+    try {
+        write();
+    } catch (...) {
+        onlyMarks_ = false;
+        throw;
+    }
+    onlyMarks_ = false;
+}
+
+void LettoreGuida::primaDiScrivere(const TableInfo& table) {
+    // A change of the schema names no table.
+    if (!onlyMarks_ && (table.nome.isEmpty() || uguale(table.nome, TabelleNomi(GuidaCitta))))
+        forget();
+}
+
+void LettoreGuida::abbandona() noexcept {
+    forget();
+    database_ = nullptr;
 }
 
 } // namespace vanzer::store

@@ -1,12 +1,14 @@
-// The guide's entries of one place after the other, through one kept statement: the calculation asks for thousands of
-// places in a row.
+// The guide's entries of a place. A trip asks for the same places again and again (to load it, to calculate it, to
+// store it), so what was read is kept until the guide is written.
 #pragma once
 
+#include <functional>
+#include <unordered_map>
 #include <vector>
 
 #include <QString>
 
-#include "store/archive.h"
+#include "store/database.h"
 
 namespace vanzer::store {
 
@@ -18,15 +20,40 @@ struct VoceGuida {
     QString tempoSosta;
 };
 
-class LettoreGuida {
+class LettoreGuida final : public LiveSet {
   public:
-    explicit LettoreGuida(const Archive& archive);
+    using Voci = std::vector<VoceGuida>;
 
-    /// The entries of exactly this place, case ignored: by category, the longest first, then by group.
-    [[nodiscard]] std::vector<VoceGuida> leggeLuogo(const QString& place);
+    explicit LettoreGuida(Database& archive);
+    ~LettoreGuida() override;
+
+    /// False once its archive was closed: nothing may be read any more.
+    [[nodiscard]] bool aperto() const { return database_ != nullptr; }
+
+    /// The entries of exactly this place, case ignored: by category, the longest first, then by group. What is returned
+    /// holds until the next reading or writing.
+    [[nodiscard]] const Voci& leggeLuogo(const QString& place);
+    /// The entries whose place matches the pattern, in the order in which they were added.
+    [[nodiscard]] const Voci& leggeModello(const QString& pattern);
+
+    /// Runs what writes nothing of the guide but marks of use, which no entry tells: what was read is kept.
+    void scriveSegni(const std::function<void()>& write);
+
+    void primaDiScrivere(const TableInfo& table) override;
+    void annullato() noexcept override { forget(); }
+    void abbandona() noexcept override;
 
   private:
-    StatementLease statement_;
+    using Lette = std::unordered_map<QString, Voci>;
+
+    const Voci& keeps(Lette& known, const QString& key, Voci entries);
+    void forget() noexcept;
+
+    Database* database_;
+    Lette places_;
+    Lette patterns_;
+    std::size_t kept_ = 0; ///< entries in all
+    bool onlyMarks_ = false;
 };
 
 } // namespace vanzer::store

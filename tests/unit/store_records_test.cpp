@@ -295,5 +295,44 @@ TEST_F(StoreRecords, MarksOfUseCostWhatIsMarked) {
     EXPECT_EQ(open(unmarked).RecordCount(), 20'000);
 }
 
+TEST_F(StoreRecords, WhatTheGuideKnowsIsReadOnceUntilItIsWritten) {
+    addGuide({{QStringLiteral("L'Aquila"), QStringLiteral("Duomo")}, {QStringLiteral("Arco"), QStringLiteral("Area")}});
+    const auto read = [this] {
+        QStringList found;
+        for (const char* place : {"Arco", "ARCO", "Bari"}) {
+            for (const VoceGuida& entry : archive.guida().leggeLuogo(QString::fromLatin1(place)))
+                found += entry.descrizione;
+        }
+        for (const VoceGuida& entry : archive.guida().leggeModello(QStringLiteral("L?Aquila")))
+            found += entry.descrizione;
+        return found.join(u',').toStdString();
+    };
+    const auto change = [this](const char* text) {
+        Recordset entry(*archive.Db(0), {TabelleNomi(GuidaCitta), {}, {}});
+        entry.MoveLast();
+        entry.Edit();
+        entry.scrive("Descrizione", QString::fromLatin1(text));
+        entry.Update();
+    };
+    EXPECT_EQ(read(), "Area,Area,Duomo");
+    archive.rimetteVisti({1, 2});
+    const qint64 before = archive.Db(0)->lavoro();
+    EXPECT_EQ(read(), "Area,Area,Duomo");
+    EXPECT_EQ(archive.Db(0)->lavoro(), before) << "marks of use are no reason to read again";
+    change("Lago");
+    EXPECT_EQ(read(), "Lago,Lago,Duomo");
+    {
+        Comando undone(archive);
+        change("Rocca");
+        EXPECT_EQ(read(), "Rocca,Rocca,Duomo");
+    }
+    EXPECT_EQ(read(), "Lago,Lago,Duomo");
+    archive.CancellaTabella(GuidaCitta, QStringLiteral("Localita"), QStringLiteral("Arco"));
+    EXPECT_EQ(read(), "Duomo");
+    archive.chiudi();
+    archive.apriArchivio();
+    EXPECT_EQ(read(), "Duomo");
+}
+
 } // namespace
 } // namespace vanzer::store
