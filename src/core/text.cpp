@@ -132,7 +132,13 @@ QString Zero(const QString& value, int width) {
 }
 
 QString Zero(double value, int width) {
-    return Zero(testoNumero(value), width);
+    if (!(value >= 0 && value <= 1e9) || value != std::floor(value))
+        return Zero(testoNumero(value), width);
+    QString digits(std::max(width, 0), Qt::Uninitialized);
+    auto rest = static_cast<unsigned>(value);
+    for (qsizetype at = digits.size(); at > 0; rest /= 10)
+        digits[--at] = QChar(static_cast<char16_t>(u'0' + rest % 10));
+    return digits;
 }
 
 QString AggStr(const QString& s, int width, const QString& fill) {
@@ -156,10 +162,13 @@ int Minore(int a, int b) {
     return a <= b ? a : b;
 }
 
+Intorno intorno(float b, int tolerance) {
+    const auto middle = static_cast<double>(b);
+    return {static_cast<float>(middle - tolerance / 3.0), static_cast<float>(middle + tolerance)};
+}
+
 bool QuasiUguale(float a, float b, int tolerance) {
-    const auto low = static_cast<float>(static_cast<double>(b) - tolerance / 3.0);
-    const auto high = static_cast<float>(static_cast<double>(b) + tolerance);
-    return low <= a && a <= high;
+    return intorno(b, tolerance).contiene(a);
 }
 
 QString LikeTesto(const QString& s) {

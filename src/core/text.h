@@ -60,7 +60,14 @@ namespace vanzer {
 [[nodiscard]] int Maggiore(int a, int b);
 [[nodiscard]] int Minore(int a, int b);
 
-/// True from a third of `tolerance` below b to all of it above b, both ends included; bounds in single precision.
+/// What counts as a value, both ends included.
+struct Intorno {
+    float da = 0;
+    float a = 0;
+    [[nodiscard]] bool contiene(float x) const { return da <= x && x <= a; }
+};
+/// From a third of `tolerance` below b to all of it above b; bounds in single precision.
+[[nodiscard]] Intorno intorno(float b, int tolerance);
 [[nodiscard]] bool QuasiUguale(float a, float b, int tolerance);
 
 /// A name as a LIKE pattern: cut at the first "(" with "*" behind, and "?" for every character that would break a

@@ -1,5 +1,7 @@
 #include "core/time_values.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "core/text.h"
@@ -7,10 +9,14 @@
 namespace vanzer {
 
 float ghmStringa2Centesimi(const QString& text, float dayUnit) {
-    const QString t = AntStr(text, 8, QStringLiteral("0"));
-    const double gg = Val(QStringView(t).left(2));
-    const double hh = Val(QStringView(t).mid(3, 2));
-    const double mm = Val(QStringView(t).right(2));
+    std::array<QChar, 8> padded;
+    padded.fill(u'0');
+    const QStringView end = QStringView(text).last(std::min<qsizetype>(text.size(), 8));
+    std::ranges::copy(end, padded.end() - end.size());
+    const QStringView t(padded);
+    const double gg = Val(t.left(2));
+    const double hh = Val(t.mid(3, 2));
+    const double mm = Val(t.right(2));
     return static_cast<float>(gg * static_cast<double>(dayUnit) + hh * 100 + Int(mm * 100 / 60 + 0.5));
 }
 
@@ -27,31 +33,37 @@ float ricompone(const Ghm& ghm, float dayUnit) {
     return static_cast<float>(gg * static_cast<double>(dayUnit) + ghm.hh * 100 + Int(ghm.mm * 100 / 60 + 0.5));
 }
 
-QString ghmCentesimi2Stringa(float centesimi, float dayUnit) {
+namespace {
+
+/// The text from its character `from` on, counted from 0.
+QString ghmDa(qsizetype from, float centesimi, float dayUnit) {
     const auto [gg, hh, mm] = scompone(centesimi, dayUnit);
-    if (gg >= 0 && gg < 100 && hh >= 0 && hh < 100 && mm >= 0 && mm < 100) {
-        if (gg == 0 && hh == 0 && mm == 0)
-            return {};
-        QString text(8, Qt::Uninitialized);
-        auto* out = text.data();
-        const auto two = [&out](double x) {
-            const int n = static_cast<int>(x);
-            *out++ = QChar(static_cast<char16_t>(u'0' + n / 10));
-            *out++ = QChar(static_cast<char16_t>(u'0' + n % 10));
-        };
-        two(gg);
-        *out++ = u':';
-        two(hh);
-        *out++ = u':';
-        two(mm);
-        return text;
+    if (!(gg >= 0 && gg < 100 && hh >= 0 && hh < 100 && mm >= 0 && mm < 100)) {
+        const QString text = Zero(gg, 2) + u':' + Zero(hh, 2) + u':' + Zero(mm, 2);
+        return text == u"00:00:00" ? QString() : text.mid(from);
     }
-    const QString text = Zero(gg, 2) + u':' + Zero(hh, 2) + u':' + Zero(mm, 2);
-    return text == u"00:00:00" ? QString() : text;
+    if (gg == 0 && hh == 0 && mm == 0)
+        return {};
+    std::array<QChar, 8> text;
+    auto out = text.begin();
+    for (const double part : {gg, hh, mm}) {
+        const int n = static_cast<int>(part);
+        *out++ = QChar(static_cast<char16_t>(u'0' + n / 10));
+        *out++ = QChar(static_cast<char16_t>(u'0' + n % 10));
+        if (out != text.end())
+            *out++ = u':';
+    }
+    return QStringView(text).mid(from).toString();
+}
+
+} // namespace
+
+QString ghmCentesimi2Stringa(float centesimi, float dayUnit) {
+    return ghmDa(0, centesimi, dayUnit);
 }
 
 QString ghmSenzaGiorni(float centesimi, float dayUnit) {
-    return Mid(ghmCentesimi2Stringa(centesimi, dayUnit), 4);
+    return ghmDa(3, centesimi, dayUnit);
 }
 
 Gma Data2Gma(const QString& data) {

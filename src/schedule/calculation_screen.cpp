@@ -203,15 +203,18 @@ class Calcolo {
         view.nuovaProva();
         showProgressText(form_);
         s_.PercentualeTotale = static_cast<double>(prepared_.righe.size());
-        last_ = simula(prepared_.righe, parametriSimulazione(form_), s_.Coefficiente,
-                       [this, &view](int row, const Viandoria& soFar) {
-                           if (s_.InterrompiCalcolo)
-                               return true;
-                           view.mostra(soFar);
-                           s_.PercentualeCorrente = row;
-                           AggiornaPercentuale(form_);
-                           return false;
-                       });
+        // Looks up from its work some two hundred times: often enough for the eye, and for "&Stop".
+        const int step = Maggiore(static_cast<int>(prepared_.righe.size()) / 200, 1);
+        const auto looksUp = [this, &view, step, next = 1](int row, const Viandoria& soFar) mutable {
+            if (s_.InterrompiCalcolo || row < next)
+                return s_.InterrompiCalcolo;
+            next = row + step;
+            view.mostra(soFar);
+            s_.PercentualeCorrente = row;
+            AggiornaPercentuale(form_);
+            return false;
+        };
+        last_ = simula(prepared_.righe, parametriSimulazione(form_), s_.Coefficiente, looksUp, std::move(last_));
         s_.GiulianoCorrente = last_.giuliano;
         s_.OraCorrente = last_.ora;
         s_.NumeroTraghetti = last_.traghetti;

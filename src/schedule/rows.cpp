@@ -29,6 +29,12 @@ struct TestiGiorno {
     }
 };
 
+/// A stop as its text tells it, hundredths.
+float minutiInteri(float stop, float visitingDay) {
+    const float unit = visitingDay > 0 ? visitingDay : giornoIntero;
+    return ricompone(scompone(stop, unit), unit);
+}
+
 /// A stop within a day shows hours and minutes alone.
 QString lunghezzaSosta(float length, float visitingDay) {
     const QString text = ghmCentesimi2Stringa(length, visitingDay > 0 ? visitingDay : giornoIntero);
@@ -69,7 +75,7 @@ void scriveSosta(CelleViandoria& cells, const RigaViandoria& row, const RigaDiLa
                  const TestiViandoria& texts) {
     cells[colTappa] = senzaMarche(RiPulisceNomeLocalita(work.nome));
     cells[colSostaGuida] = lunghezzaSosta(row.sostaGuida, texts.oreVisitaGiorno);
-    cells[colSosta] = lunghezzaSosta(row.sosta, texts.oreVisitaGiorno);
+    cells[colSosta] = lunghezzaSosta(minutiInteri(row.sosta, texts.oreVisitaGiorno), texts.oreVisitaGiorno);
     cells[colNote] = work.nota;
 }
 
@@ -177,8 +183,8 @@ class Chiusura {
         return ricompone(time, giornoIntero);
     }
     [[nodiscard]] float stopShown(const RigaViandoria& row) const {
-        return ricompone(scompone(row.sosta, texts_.oreVisitaGiorno > 0 ? texts_.oreVisitaGiorno : giornoIntero),
-                         giornoIntero);
+        const float visitingDay = texts_.oreVisitaGiorno > 0 ? texts_.oreVisitaGiorno : giornoIntero;
+        return ricompone(scompone(minutiInteri(row.sosta, visitingDay), visitingDay), giornoIntero);
     }
 
     [[nodiscard]] QString inBothDays(float time) const {

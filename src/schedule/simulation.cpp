@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "core/text.h"
-#include "core/time_values.h"
 
 namespace vanzer {
 
@@ -24,23 +23,38 @@ int lunghezza(double speed, double hundredths) {
     return arrotonda(std::min(Int(speed * hundredths / 100), longest));
 }
 
+/// A milestone of the day with what a walk asks of it at every row.
+struct Traguardo {
+    Traguardo(float clock, int range) : ora(clock), vicino(intorno(clock, range)), raggiunta(d(clock) + range) {}
+
+    float ora;
+    Intorno vicino;   ///< clocks that count as the milestone
+    double raggiunta; ///< an arrival from here on lies behind it
+};
+
 class Prova {
   public:
-    Prova(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& with, float coefficiente)
-        : rows_(rows), p_(with), coefficiente_(coefficiente) {
+    Prova(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& with, float coefficiente, Viandoria memory)
+        : rows_(rows), p_(with), coefficiente_(coefficiente), pranzo_(with.oraPranzo, with.range),
+          cena_(with.oraCena, with.range), notte_(with.oraNotte, with.range) {
+        result_.righe = std::move(memory.righe);
+        result_.righe.clear();
         result_.righe.reserve(rows.size() * 2);
         prepareStart();
     }
 
     Viandoria corre(const FermaRiga& stop) {
-        for (std::size_t i = 0; i < rows_.size(); ++i) {
-            if (stop && stop(static_cast<int>(i) + 1, result_)) {
+        float counted = giuliano_ - 1; // the day up to which the days were counted
+        for (int index = 0; const RigaDiLavoro& row : rows_) {
+            if (stop && stop(index + 1, result_)) {
                 result_.esito = Viandoria::Esito::Interrotta;
                 break;
             }
-            riga(static_cast<int>(i));
-            result_.giorni = daysSoFar();
-            if (p_.giorniDesiderati != 0 && result_.giorni > p_.giorniDesiderati) {
+            riga(index++, row);
+            if (giuliano_ == counted)
+                continue;
+            counted = giuliano_;
+            if (p_.giorniDesiderati != 0 && daysSoFar() > p_.giorniDesiderati) {
                 result_.esito = Viandoria::Esito::TroppiGiorni;
                 break;
             }
@@ -53,18 +67,15 @@ class Prova {
 
   private:
     [[nodiscard]] int daysSoFar() const { return arrotonda(d(giuliano_) - d(p_.giulianoInizio) + 1); }
-    [[nodiscard]] float fineDelPranzo() const { return f(d(p_.oraPranzo) + d(p_.durataPranzo)); }
-    [[nodiscard]] float fineDellaCena() const { return f(d(p_.oraCena) + d(p_.durataCena)); }
-    [[nodiscard]] bool conPause() const { return p_.riposoOre >= 1 && p_.riposoMinuti >= 1; }
-    [[nodiscard]] bool vicino(float milestone) const { return QuasiUguale(ora_, milestone, p_.range); }
+    [[nodiscard]] bool vicino(const Traguardo& milestone) const { return milestone.vicino.contiene(ora_); }
 
     /// A departure within a meal waits for its end, one behind the night is at the hour of activity of the same date.
     void prepareStart() {
         ora_ = p_.oraInizioViaggio;
-        if (ora_ >= p_.oraPranzo && ora_ <= fineDelPranzo())
-            ora_ = f(d(fineDelPranzo()) + 1);
-        if (ora_ >= p_.oraCena && ora_ <= fineDellaCena())
-            ora_ = f(d(fineDellaCena()) + 1);
+        if (ora_ >= p_.oraPranzo && ora_ <= fineDelPranzo_)
+            ora_ = f(d(fineDelPranzo_) + 1);
+        if (ora_ >= p_.oraCena && ora_ <= fineDellaCena_)
+            ora_ = f(d(fineDellaCena_) + 1);
         if (ora_ >= p_.oraNotte)
             ora_ = p_.oraColazione;
         mealsFromClock();
@@ -74,8 +85,8 @@ class Prova {
     }
 
     void mealsFromClock() {
-        pranzoFatto_ = fineDelPranzo() < ora_;
-        cenaFatta_ = fineDellaCena() < ora_;
+        pranzoFatto_ = fineDelPranzo_ < ora_;
+        cenaFatta_ = fineDellaCena_ < ora_;
     }
 
     void newMorning() {
@@ -94,24 +105,28 @@ class Prova {
         return row;
     }
 
-    void riga(int index) {
-        const RigaDiLavoro& row = rows_[static_cast<std::size_t>(index)];
-        if (row.traghetto)
-            ++result_.traghetti;
-        // The first row is the departure: it is driven once, with no kilometres too.
-        if (row.km >= 1 || result_.righe.empty()) {
-            guida(index, row);
-            if (ora_ > p_.oraNotte)
-                newMorning();
+    void riga(int index, const RigaDiLavoro& row) {
+        switch (row.tipo) {
+        case RigaDiLavoro::Tipo::Tappa: tappa(index, row); break;
+        case RigaDiLavoro::Tipo::Menzione: aggiunge(RigaViandoria::Tipo::Menzione, index); break;
+        default: sosta(index, row); break;
         }
-        sosta(index, row);
-        if (row.tipo == RigaDiLavoro::Tipo::Menzione)
-            aggiunge(RigaViandoria::Tipo::Menzione, index);
         if (row.fineGiorno && ora_ > p_.oraColazione) {
             ora_ = p_.oraColazione;
             giuliano_ += 1;
             aggiunge(RigaViandoria::Tipo::NuovoGiorno, index);
         }
+    }
+
+    /// The first row is the departure: it is driven once, with no kilometres too.
+    void tappa(int index, const RigaDiLavoro& row) {
+        if (row.traghetto)
+            ++result_.traghetti;
+        if (row.km < 1 && !result_.righe.empty())
+            return;
+        guida(index, row);
+        if (ora_ > p_.oraNotte)
+            newMorning();
     }
 
     void pieceTime(int km, double speed) {
@@ -120,62 +135,64 @@ class Prova {
     }
 
     void guida(int index, const RigaDiLavoro& leg) {
-        const double speed = p_.medie[static_cast<std::size_t>(leg.strada)];
+        const auto road = static_cast<std::size_t>(leg.strada);
+        PannelloViandoria& panel = result_.pannello;
         int left = leg.km;
         do {
             Fine why = Fine::Arrivo;
-            const int km = cutPiece(left, speed, why);
-            pieceTime(km, speed);
+            const int km = cutPiece(left, p_.medie[road], why);
             longRest();
             ora_ = f(d(ora_) + d(tempoTratta_));
-            kmTotali_ += km;
+            panel.kmTotali += km;
+            panel.km[road] += km;
             RigaViandoria& row = aggiunge(RigaViandoria::Tipo::Tratto, index);
             row.km = km;
-            row.kmTotali = kmTotali_;
+            row.kmTotali = panel.kmTotali;
             row.tempo = tempoTratta_;
             milestones(row);
             left -= km;
             row.verso = left != 0;
             row.fine = row.verso ? why : Fine::Arrivo;
-            kmPerStrada_[static_cast<std::size_t>(leg.strada)] += km;
-            result_.pannello = {row.ora, giuliano_, kmTotali_, result_.traghetti, kmPerStrada_};
+            panel.ora = row.ora;
+            panel.giuliano = giuliano_;
+            panel.traghetti = result_.traghetti;
         } while (left > 0);
     }
 
-    /// Kilometres of the next piece: what is left of the leg, unless a break or a milestone comes before its end.
+    /// Kilometres of the next piece, its time in `tempoTratta_`: what is left of the leg, unless a break or a milestone
+    /// comes before its end.
     int cutPiece(int left, double speed, Fine& why) {
         int km = left;
         pieceTime(km, speed);
         float arrival = f(d(ora_) + d(tempoTratta_));
-        const int interval = p_.riposoOre * 100;
-        if (conPause() && d(arrival) > d(ultimoBreak_) + interval) {
-            const int limit = std::max(1, lunghezza(speed, interval));
+        if (conPause_ && d(arrival) > d(ultimoBreak_) + intervallo_) {
+            const int limit = std::max(1, lunghezza(speed, intervallo_));
             if (limit < km) {
                 km = limit;
                 why = Fine::Pausa;
+                pieceTime(km, speed);
+                arrival = f(d(ora_) + d(tempoTratta_));
             }
-            pieceTime(km, speed);
-            arrival = f(d(ora_) + d(tempoTratta_));
         }
-        const auto reached = [this, arrival](float milestone) { return d(arrival) >= d(milestone) + p_.range; };
-        const auto cutAt = [this, speed, &km, &why](float milestone, Fine reason) {
-            km = std::max(1, lunghezza(speed, d(milestone) - d(ora_)));
+        const auto cutAt = [this, speed, &km, &why](const Traguardo& milestone, Fine reason) {
+            km = std::max(1, lunghezza(speed, d(milestone.ora) - d(ora_)));
+            pieceTime(km, speed);
             why = reason;
         };
-        if (!pranzoFatto_ && reached(p_.oraPranzo)) {
-            cutAt(p_.oraPranzo, Fine::Pranzo);
-        } else if (!cenaFatta_ && reached(p_.oraCena)) {
-            cutAt(p_.oraCena, Fine::Cena);
+        if (!pranzoFatto_ && d(arrival) >= pranzo_.raggiunta) {
+            cutAt(pranzo_, Fine::Pranzo);
+        } else if (!cenaFatta_ && d(arrival) >= cena_.raggiunta) {
+            cutAt(cena_, Fine::Cena);
             cenaFatta_ = true;
-        } else if (reached(p_.oraNotte)) {
-            cutAt(p_.oraNotte, Fine::Notte);
+        } else if (d(arrival) >= notte_.raggiunta) {
+            cutAt(notte_, Fine::Notte);
         }
         return km;
     }
 
     /// Rest days move the calendar alone; their one trace is on the row before the last one written.
     void longRest() {
-        if (p_.riposoGiorno < 1 || p_.riposoDopoGiorni < 1 || d(ultimoRiposo_) + p_.riposoDopoGiorni > d(giuliano_))
+        if (!conRiposi_ || d(ultimoRiposo_) + p_.riposoDopoGiorni > d(giuliano_))
             return;
         giuliano_ += static_cast<float>(p_.riposoGiorno);
         ultimoRiposo_ = giuliano_;
@@ -184,28 +201,27 @@ class Prova {
     }
 
     void milestones(RigaViandoria& row) {
-        if (vicino(p_.oraPranzo)) {
+        if (vicino(pranzo_)) {
             row.pranzo = true;
             pranzoFatto_ = true;
             ora_ = f(d(ora_) + d(p_.durataPranzo));
             ultimoBreak_ = ora_;
         }
-        if (vicino(p_.oraCena)) {
+        if (vicino(cena_)) {
             row.cena = true;
             cenaFatta_ = true;
             ora_ = f(d(ora_) + d(p_.durataCena));
             ultimoBreak_ = ora_;
         }
-        if (vicino(p_.oraNotte)) {
+        if (vicino(notte_)) {
             row.notte = true;
             newMorning();
             ultimoBreak_ = ora_;
         }
-        const int interval = p_.riposoOre * 100;
-        if (conPause() && d(ora_) >= d(ultimoBreak_) + interval) {
-            const double n = Int((d(ora_) - d(ultimoBreak_)) / interval);
+        if (conPause_ && d(ora_) >= d(ultimoBreak_) + intervallo_) {
+            const double n = Int((d(ora_) - d(ultimoBreak_)) / intervallo_);
             ora_ = f(d(ora_) + n * p_.riposoMinuti);
-            ultimoBreak_ = f(d(ultimoBreak_) + n * interval);
+            ultimoBreak_ = f(d(ultimoBreak_) + n * intervallo_);
             row.pausa = true;
         }
     }
@@ -223,8 +239,7 @@ class Prova {
         spend(total);
         mealsFromClock();
         RigaViandoria& written = aggiunge(RigaViandoria::Tipo::Sosta, index);
-        const float unit = p_.oreVisitaGiorno > 0 ? p_.oreVisitaGiorno : giornoIntero;
-        written.sosta = ricompone(scompone(total, unit), unit);
+        written.sosta = total;
         written.sostaGuida = row.sostaGuida;
         written.domani = tomorrow;
         written.spezzata = giuliano_ > dayBefore;
@@ -235,9 +250,8 @@ class Prova {
     /// Moves the clock through a stop, over as many visiting days as it takes.
     void spend(float length) {
         const float start = ora_;
-        const double limit = d(p_.fineVisita) + p_.range / 3.0;
         ora_ = f(d(start) + d(length));
-        if (d(ora_) < limit || !(p_.oreVisitaGiorno > 0))
+        if (d(ora_) < fineDelleVisite_ || !(p_.oreVisitaGiorno > 0))
             return;
         float left = length;
         ora_ = start;
@@ -248,7 +262,7 @@ class Prova {
                 continue;
             }
             ora_ = f(d(start) + d(left));
-            if (d(ora_) >= limit) {
+            if (d(ora_) >= fineDelleVisite_) {
                 left = f(d(left) - (d(p_.fineVisita) - d(start)));
                 ora_ = f(d(p_.inizioVisita) + d(left));
                 giuliano_ += 1;
@@ -259,7 +273,16 @@ class Prova {
 
     const std::vector<RigaDiLavoro>& rows_;
     const ParametriSimulazione& p_;
-    float coefficiente_;
+    const float coefficiente_;
+    const Traguardo pranzo_;
+    const Traguardo cena_;
+    const Traguardo notte_;
+    const float fineDelPranzo_ = f(d(p_.oraPranzo) + d(p_.durataPranzo));
+    const float fineDellaCena_ = f(d(p_.oraCena) + d(p_.durataCena));
+    const double fineDelleVisite_ = d(p_.fineVisita) + p_.range / 3.0;
+    const bool conPause_ = p_.riposoOre >= 1 && p_.riposoMinuti >= 1;
+    const bool conRiposi_ = p_.riposoGiorno >= 1 && p_.riposoDopoGiorni >= 1;
+    const double intervallo_ = p_.riposoOre * 100; ///< driving between two breaks
     Viandoria result_;
 
     float ora_ = 0;
@@ -269,15 +292,13 @@ class Prova {
     float tempoTratta_ = 0;
     bool pranzoFatto_ = false;
     bool cenaFatta_ = false;
-    int kmTotali_ = 0;
-    std::array<int, 4> kmPerStrada_{};
 };
 
 } // namespace
 
 Viandoria simula(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& with, float coefficiente,
-                 const FermaRiga& stop) {
-    return Prova(rows, with, coefficiente).corre(stop);
+                 const FermaRiga& stop, Viandoria memory) {
+    return Prova(rows, with, coefficiente, std::move(memory)).corre(stop);
 }
 
 } // namespace vanzer

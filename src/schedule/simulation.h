@@ -58,7 +58,7 @@ struct RigaViandoria {
     float tempo = 0;      ///< of the piece, hundredths
     float ora = 0;        ///< the clock at the arrival, behind the stop, at the new start
     float giuliano = 0;   ///< the day of that
-    float sosta = 0;      ///< length of the stop, rounded to whole minutes
+    float sosta = 0;      ///< length of the stop
     float sostaGuida = 0; ///< length that the guide asks for
 };
 
@@ -90,8 +90,9 @@ struct Viandoria {
 /// still fall behind the last two rows written; outcome, days and the end's clock are not told before the end.
 using FermaRiga = std::function<bool(int row, const Viandoria& soFar)>;
 
-/// `coefficiente` stretches the guide's stops and nothing else.
+/// `coefficiente` stretches the guide's stops and nothing else. `memory` is an earlier schedule that is done with: the
+/// new one is written into its memory.
 [[nodiscard]] Viandoria simula(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& with,
-                               float coefficiente, const FermaRiga& stop = {});
+                               float coefficiente, const FermaRiga& stop = {}, Viandoria memory = {});
 
 } // namespace vanzer
