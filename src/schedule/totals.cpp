@@ -1,5 +1,8 @@
 #include "schedule/totals.h"
 
+#include <algorithm>
+#include <utility>
+
 #include <QStringList>
 
 #include "core/text.h"
@@ -18,21 +21,78 @@ double tempoTratta(int km, double speed) {
     return speed > 0 ? Int(km / speed * 100 + 0.5) : 0;
 }
 
-TotaliItinerario calcolaTotali(const std::vector<Tratto>& legs, const Medie& speeds) {
-    TotaliItinerario totals;
-    totals.righe.reserve(legs.size());
-    for (const Tratto& leg : legs) {
-        if (leg.traghetto)
-            ++totals.traghetti;
-        const auto type = static_cast<std::size_t>(leg.strada);
-        const auto time = static_cast<float>(leg.km == 0 ? 0 : tempoTratta(leg.km, speeds[type]));
-        for (const std::size_t i : {type, std::size_t{4}}) {
-            totals.km[i] += static_cast<float>(leg.km);
-            totals.tempo[i] += time;
-        }
-        totals.righe.push_back({time, totals.km[4]});
+namespace {
+
+float tempoTratto(const Tratto& leg, const Medie& speeds) {
+    return static_cast<float>(leg.km == 0 ? 0 : tempoTratta(leg.km, speeds[static_cast<std::size_t>(leg.strada)]));
+}
+
+} // namespace
+
+void TotaliTabella::ricalcola(Righe rows, const Medie& speeds) {
+    rows_ = std::move(rows);
+    speeds_ = speeds;
+    totals_ = {};
+    running_.clear();
+    negative_ = false;
+    for (const std::optional<Tratto>& leg : rows_) {
+        if (!leg)
+            continue;
+        adds(totals_, *leg, 1);
+        negative_ = negative_ || leg->km < 0;
     }
-    return totals;
+}
+
+bool TotaliTabella::cambia(int row, const std::optional<Tratto>& leg) {
+    const auto at = static_cast<std::size_t>(row);
+    TotaliItinerario changed = totals_;
+    if (const std::optional<Tratto>& old = tratto(row))
+        adds(changed, *old, -1);
+    if (leg)
+        adds(changed, *leg, 1);
+    if (!exact(totals_) || !exact(changed) || (leg && leg->km < 0))
+        return false;
+    if (at >= rows_.size())
+        rows_.resize(at + 1);
+    rows_[at] = leg;
+    totals_ = changed;
+    running_.resize(std::min(running_.size(), at));
+    return true;
+}
+
+const std::optional<Tratto>& TotaliTabella::tratto(int row) const {
+    static const std::optional<Tratto> none;
+    const auto at = static_cast<std::size_t>(row);
+    return at < rows_.size() ? rows_[at] : none;
+}
+
+float TotaliTabella::tempo(int row) const {
+    const std::optional<Tratto>& leg = tratto(row);
+    return leg ? tempoTratto(*leg, speeds_) : 0;
+}
+
+float TotaliTabella::kmProgressivi(int row) {
+    const auto at = static_cast<std::size_t>(row);
+    while (running_.size() <= at) {
+        const std::optional<Tratto>& leg = tratto(static_cast<int>(running_.size()));
+        running_.push_back((running_.empty() ? 0 : running_.back()) + static_cast<float>(leg ? leg->km : 0));
+    }
+    return running_[at];
+}
+
+void TotaliTabella::adds(TotaliItinerario& totals, const Tratto& leg, float sign) const {
+    totals.traghetti += leg.traghetto ? static_cast<int>(sign) : 0;
+    const auto type = static_cast<std::size_t>(leg.strada);
+    for (const std::size_t i : {type, std::size_t{4}}) {
+        totals.km[i] += sign * static_cast<float>(leg.km);
+        totals.tempo[i] += sign * tempoTratto(leg, speeds_);
+    }
+}
+
+/// Single precision adds and takes away whole numbers without loss up to 2^24.
+bool TotaliTabella::exact(const TotaliItinerario& totals) const {
+    constexpr float largest = 16'777'216;
+    return !negative_ && totals.km[4] < largest && totals.tempo[4] < largest;
 }
 
 int giorniMinimi(const QString& drivingTime) {

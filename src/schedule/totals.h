@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <vector>
 
 #include <QStringList>
@@ -24,17 +25,41 @@ struct Tratto {
 };
 
 struct TotaliItinerario {
-    struct Riga {
-        float tempo = 0;         ///< hundredths
-        float kmProgressivi = 0; ///< up to and with this leg
-    };
-    std::vector<Riga> righe;      ///< one for each leg
     std::array<float, 5> km{};    ///< by road type, and in all
     std::array<float, 5> tempo{}; ///< hundredths
     int traghetti = 0;
 };
 
-[[nodiscard]] TotaliItinerario calcolaTotali(const std::vector<Tratto>& legs, const Medie& speeds);
+/// The totals of a table of legs. They are kept up to date by difference, so that a leg typed into a long trip costs no
+/// more than one in a short trip.
+class TotaliTabella {
+  public:
+    /// A leg for each row of the table, or none; rows count from 0.
+    using Righe = std::vector<std::optional<Tratto>>;
+
+    void ricalcola(Righe rows, const Medie& speeds);
+    /// A row's leg as it is now. False, and nothing changed, if the totals can't be had by difference.
+    [[nodiscard]] bool cambia(int row, const std::optional<Tratto>& leg);
+
+    [[nodiscard]] const TotaliItinerario& totali() const { return totals_; }
+    [[nodiscard]] const Medie& medie() const { return speeds_; }
+    /// Null where the row has none.
+    [[nodiscard]] const std::optional<Tratto>& tratto(int row) const;
+    /// Driving time of a row's leg, hundredths.
+    [[nodiscard]] float tempo(int row) const;
+    /// Kilometres up to and with a row. Costs the rows between it and the last change above it.
+    [[nodiscard]] float kmProgressivi(int row);
+
+  private:
+    void adds(TotaliItinerario& totals, const Tratto& leg, float sign) const;
+    [[nodiscard]] bool exact(const TotaliItinerario& totals) const;
+
+    Righe rows_;
+    Medie speeds_{};
+    TotaliItinerario totals_;
+    std::vector<float> running_; ///< kilometres up to and with a row, for the first rows
+    bool negative_ = false;      ///< some leg has negative kilometres
+};
 
 /// Least number of days, from the driving time as gg:hh:mm with a driving day as its gg.
 [[nodiscard]] int giorniMinimi(const QString& drivingTime);

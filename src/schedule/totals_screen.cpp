@@ -10,35 +10,59 @@ namespace {
 
 constexpr float unGiornoDi99Ore = 9900;
 
-struct Tratti {
-    std::vector<Tratto> legs;
-    std::vector<int> rows; ///< the row of each leg
-};
+constexpr int colKmProgressivi = 5;
+constexpr int colTempo = 6;
 
-/// Rows without a place are blanked on the way.
-Tratti readStretches(Form& form) {
-    Grid& grid = form.mfgTab;
-    Tratti read;
-    for (int r = 1; r < grid.rows(); ++r) {
-        if (grid.cell(r, 1).isEmpty()) {
-            grid.clearRow(r, 0);
-            continue;
-        }
-        read.legs.push_back(
-            {chilometri(grid.cell(r, 3)), indiceStrada(grid.cell(r, 4)), contiene(grid.cell(r, 2), u"TRAGH")});
-        read.rows.push_back(r);
-    }
-    return read;
+Tratto legOf(const Grid& grid, int row) {
+    return {chilometri(grid.cell(row, 3)), indiceStrada(grid.cell(row, 4)), contiene(grid.cell(row, 2), u"TRAGH")};
 }
 
-void showRunningColumns(Form& form, const Tratti& read, const TotaliItinerario& totals) {
-    for (std::size_t i = 0; i < read.rows.size(); ++i) {
-        if (read.legs[i].km == 0)
-            continue;
-        const auto& row = totals.righe[i];
-        form.mfgTab.setCell(read.rows[i], 6, ghmSenzaGiorni(row.tempo, unGiornoDi99Ore));
-        form.mfgTab.setCell(read.rows[i], 5, migliaiaZero(static_cast<double>(row.kmProgressivi)));
+/// The row's leg as the table has it now. A row without a place has none and is blanked. One without kilometres keeps
+/// its running texts: they are made before it counts as such.
+std::optional<Tratto> readLeg(Grid& grid, int row) {
+    if (grid.cell(row, 1).isEmpty()) {
+        grid.clearRow(row, 0);
+        return {};
     }
+    const Tratto leg = legOf(grid, row);
+    if (leg.km == 0)
+        (void)grid.cell(row, colKmProgressivi);
+    return leg;
+}
+
+void workOutAll(Form& form, const Medie& speeds) {
+    Grid& grid = form.mfgTab;
+    const SenzaRidisegno quiet(grid);
+    TotaliTabella::Righe legs(static_cast<std::size_t>(grid.rows()));
+    for (int r = 1; r < grid.rows(); ++r)
+        legs[static_cast<std::size_t>(r)] = readLeg(grid, r);
+    TotaliTabella& totals = form.totali;
+    totals.ricalcola(std::move(legs), speeds);
+    grid.setColumnsLater(1, {colKmProgressivi, colTempo}, [&totals](int row, std::vector<QString>& cells) {
+        const auto& leg = totals.tratto(row);
+        if (!leg || leg->km == 0)
+            return;
+        cells[colTempo] = ghmSenzaGiorni(totals.tempo(row), unGiornoDi99Ore);
+        cells[colKmProgressivi] = migliaiaZero(static_cast<double>(totals.kmProgressivi(row)));
+    });
+}
+
+/// The totals by what has changed since they were last worked out; false if that isn't known.
+bool workOutChanges(Form& form, const Medie& speeds) {
+    Grid& grid = form.mfgTab;
+    const std::optional<std::vector<int>> rows = grid.takeChangedRows();
+    if (!rows || form.totali.medie() != speeds)
+        return false;
+    if (rows->empty())
+        return true;
+    // What keeps its running texts keeps those of the legs as they were.
+    (void)grid.cell(Minore(rows->size() == 1 ? rows->front() : grid.rows(), grid.rows() - 1), colKmProgressivi);
+    for (const int row : *rows) {
+        if (!form.totali.cambia(row, readLeg(grid, row)))
+            return false;
+    }
+    grid.makeAgainFrom(rows->front());
+    return true;
 }
 
 void showPanel(Form& form, const TotaliItinerario& totals) {
@@ -78,11 +102,12 @@ Medie medieMostrate(const Form& form) {
 
 void CalcolaKmTempiItinerario(Form& form) {
     ControllaVariabiliConvertite(form);
-    const SenzaRidisegno quiet(form.mfgTab);
-    const Tratti read = readStretches(form);
-    const TotaliItinerario totals = calcolaTotali(read.legs, medieMostrate(form));
+    const Medie speeds = medieMostrate(form);
+    if (!workOutChanges(form, speeds))
+        workOutAll(form, speeds);
+    (void)form.mfgTab.takeChangedRows(); // what was blanked on the way
+    const TotaliItinerario& totals = form.totali.totali();
     form.stato.NumeroTraghetti = totals.traghetti;
-    showRunningColumns(form, read, totals);
     showPanel(form, totals);
     offerDays(form, totals.km[4] != 0);
 }

@@ -1,7 +1,9 @@
 #include "toolkit/grid.h"
 
 #include <algorithm>
+#include <bit>
 #include <iterator>
+#include <utility>
 
 #include "toolkit/grid_model.h"
 
@@ -58,7 +60,12 @@ void Grid::setRows(int rows) {
     }
     if (tell)
         model_->beginRemoveRows({}, rows - 1, old - 2);
+    for (int row = rows; row < old; ++row) {
+        if (!cells_[static_cast<std::size_t>(row)].empty())
+            noteChange(row);
+    }
     cells_.resize(static_cast<std::size_t>(rows));
+    laterEnd_ = std::min(laterEnd_, rows);
     std::erase_if(marked_, [rows](qint64 key) { return key / cellsPerRow >= rows; });
     keepInside();
     if (tell)
@@ -68,6 +75,9 @@ void Grid::setRows(int rows) {
 void Grid::setColumns(int columns) {
     if (columns == columns_)
         return;
+    makeUpTo(rows());
+    forgetLater();
+    noteAll();
     setRedraw(false);
     columns_ = columns;
     for (auto& r : cells_)
@@ -82,11 +92,13 @@ void Grid::setColumns(int columns) {
 const QString& Grid::cell(int row, int column) const {
     if (row < 0 || row >= rows() || column < 0)
         return emptyCell;
+    if (later(row, column))
+        makeUpTo(row);
     const auto& cells = cells_[static_cast<std::size_t>(row)];
     return static_cast<std::size_t>(column) < cells.size() ? cells[static_cast<std::size_t>(column)] : emptyCell;
 }
 
-std::vector<QString>& Grid::widened(int row) {
+std::vector<QString>& Grid::widened(int row) const {
     auto& cells = cells_[static_cast<std::size_t>(row)];
     if (cells.size() < static_cast<std::size_t>(columns_))
         cells.resize(static_cast<std::size_t>(columns_));
@@ -96,8 +108,9 @@ std::vector<QString>& Grid::widened(int row) {
 void Grid::setCell(int row, int column, const QString& text) {
     if (row < 0 || row >= rows() || column < 0 || column >= columns_)
         return;
-    if (text.isEmpty() && cell(row, column).isEmpty())
+    if (cell(row, column) == text)
         return;
+    noteChange(row);
     widened(row)[static_cast<std::size_t>(column)] = text;
     if (redrawOff_ != 0)
         return;
@@ -105,6 +118,61 @@ void Grid::setCell(int row, int column, const QString& text) {
         emit model_->headerDataChanged(Qt::Horizontal, column, column);
     else
         emit model_->dataChanged(model_->index(row - 1, column), model_->index(row - 1, column));
+}
+
+void Grid::setColumnsLater(int firstRow, const std::vector<int>& columns, FaRiga make) {
+    makeUpTo(firstRow - 1);
+    make_ = std::move(make);
+    later_ = firstRow;
+    laterEnd_ = rows();
+    laterColumns_ = 0;
+    for (const int column : columns)
+        laterColumns_ |= quint64{1} << column;
+    // What is read from a row stays where it is while the rest of the row is made.
+    for (int row = firstRow; row < rows(); ++row) {
+        if (!cells_[static_cast<std::size_t>(row)].empty())
+            widened(row);
+    }
+    tellLater();
+}
+
+void Grid::makeAgainFrom(int row) {
+    later_ = std::min(later_, row);
+    laterEnd_ = rows();
+    tellLater();
+}
+
+void Grid::tellLater() {
+    if (redrawOff_ != 0 || later_ >= laterEnd_)
+        return;
+    emit model_->dataChanged(model_->index(later_ - 1, std::countr_zero(laterColumns_)),
+                             model_->index(rows() - 2, static_cast<int>(std::bit_width(laterColumns_)) - 1));
+}
+
+void Grid::makeUpTo(int row) const {
+    for (const int end = std::min(row + 1, laterEnd_); later_ < end; ++later_) {
+        if (auto& cells = cells_[static_cast<std::size_t>(later_)]; !cells.empty())
+            make_(later_, cells);
+    }
+}
+
+void Grid::noteChange(int row) {
+    constexpr std::size_t few = 32;
+    if (!changed_ || row == 0 || (!changed_->empty() && changed_->back() == row))
+        return;
+    if (changed_->size() == few)
+        changed_.reset();
+    else
+        changed_->push_back(row);
+}
+
+std::optional<std::vector<int>> Grid::takeChangedRows() {
+    std::optional<std::vector<int>> changed = std::exchange(changed_, std::vector<int>());
+    if (changed) {
+        std::ranges::sort(*changed);
+        changed->erase(std::ranges::unique(*changed).begin(), changed->end());
+    }
+    return changed;
 }
 
 void Grid::copyRow(int from, int to, int firstColumn) {
@@ -120,6 +188,8 @@ void Grid::clearRow(int row, int firstColumn) {
 void Grid::removeRow(int row) {
     if (row < 1 || row >= rows())
         return;
+    makeUpTo(rows());
+    noteAll();
     setRedraw(false);
     cells_.erase(cells_.begin() + row);
     cells_.emplace_back();
@@ -133,6 +203,8 @@ void Grid::removeRow(int row) {
 }
 
 void Grid::clearCells() {
+    forgetLater();
+    noteAll();
     setRedraw(false);
     for (auto& r : cells_)
         r.clear();
@@ -141,6 +213,8 @@ void Grid::clearCells() {
 }
 
 Grid::Rows Grid::takeContents() {
+    makeUpTo(rows());
+    noteAll();
     setRedraw(false);
     Rows rows(std::make_move_iterator(cells_.begin() + 1), std::make_move_iterator(cells_.end()));
     cells_.resize(1);
@@ -151,6 +225,8 @@ Grid::Rows Grid::takeContents() {
 }
 
 void Grid::setContents(Rows&& rows) {
+    forgetLater();
+    noteAll();
     setRedraw(false);
     cells_.resize(1);
     cells_.insert(cells_.end(), std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end()));

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <unordered_set>
 #include <vector>
 
@@ -40,6 +41,17 @@ class Grid : public Control {
     void removeRow(int row);
     /// Empties all cells, the head row's too.
     void clearCells();
+
+    /// From `firstRow` on the texts of some columns are made when somebody looks at them: `make` writes them into the
+    /// cells of a row, for all rows up to the one looked at, in rising order and each once. It may not look at the
+    /// grid.
+    using FaRiga = std::function<void(int row, std::vector<QString>& cells)>;
+    void setColumnsLater(int firstRow, const std::vector<int>& columns, FaRiga make);
+    /// The same texts are out of date from a row on.
+    void makeAgainFrom(int row);
+    /// The rows whose texts have changed since this was last asked, from 1 on; nothing if they are many or the whole
+    /// table is another one.
+    [[nodiscard]] std::optional<std::vector<int>> takeChangedRows();
 
     /// All rows from 1 on: taken out, so that the head row is left, and put in.
     using Rows = std::vector<std::vector<QString>>;
@@ -86,9 +98,22 @@ class Grid : public Control {
   private:
     friend class GridModel;
     void keepInside();
-    [[nodiscard]] std::vector<QString>& widened(int row);
+    std::vector<QString>& widened(int row) const;
+    [[nodiscard]] bool later(int row, int column) const {
+        return row >= later_ && row < laterEnd_ && (laterColumns_ >> column & 1) != 0;
+    }
+    void makeUpTo(int row) const;
+    void tellLater();
+    void forgetLater() { laterEnd_ = 0; }
+    void noteChange(int row);
+    void noteAll() { changed_.reset(); }
 
-    Rows cells_;
+    mutable Rows cells_;       ///< mutable for what is made when somebody looks at it
+    mutable int later_ = 0;    ///< the rows from here on are still to be made
+    int laterEnd_ = 0;         ///< up to here
+    quint64 laterColumns_ = 0; ///< a bit for each
+    FaRiga make_;
+    std::optional<std::vector<int>> changed_; ///< nothing: all rows
     int columns_;
     int row_ = 0;
     int col_ = 1;

@@ -9,6 +9,7 @@
 
 #include "core/columns.h"
 #include "core/trip_state.h"
+#include "schedule/totals.h"
 #include "store/archive.h"
 #include "toolkit/control.h"
 #include "toolkit/grid.h"
@@ -76,6 +77,8 @@ class Form {
 
     /// The legs as they stood before a calculation touched them.
     std::optional<Grid::Rows> tappeConservate;
+    /// Of the legs in the table, as they were last worked out.
+    TotaliTabella totali;
 
     std::vector<Frame*> frames;
     [[nodiscard]] Frame& frmframe(int i) const { return *frames[static_cast<std::size_t>(i)]; }

@@ -49,13 +49,17 @@ using RowTexts = std::vector<std::string>;
 } // namespace
 
 TEST(Totali, ByRoadTypeAndRunning) {
-    const TotaliItinerario t =
-        calcolaTotali({{0, 3, false}, {100, 0, false}, {50, 3, true}, {0, 2, true}}, {80, 65, 50, 30});
+    TotaliTabella table;
+    table.ricalcola({{}, Tratto{0, 3, false}, Tratto{100, 0, false}, Tratto{50, 3, true}, Tratto{0, 2, true}},
+                    {80, 65, 50, 30});
+    const TotaliItinerario& t = table.totali();
     EXPECT_EQ(t.km, (std::array<float, 5>{100, 0, 0, 50, 150}));
     EXPECT_EQ(t.tempo, (std::array<float, 5>{125, 0, 0, 167, 292}));
     EXPECT_EQ(t.traghetti, 2);
-    EXPECT_EQ(t.righe[2].kmProgressivi, 150);
-    EXPECT_EQ(calcolaTotali({{100, 0, false}}, {0, 0, 0, 0}).tempo[4], 0) << "no speed, no time";
+    EXPECT_EQ(table.kmProgressivi(3), 150);
+    EXPECT_EQ(table.tempo(3), 167);
+    table.ricalcola({Tratto{100, 0, false}}, {0, 0, 0, 0});
+    EXPECT_EQ(t.tempo[4], 0) << "no speed, no time";
     const struct {
         const char16_t* letter;
         int index;

@@ -107,6 +107,67 @@ TEST(Griglia, RowsMoveWhole) {
     EXPECT_EQ(column(grid, 1), u"a|b|b|d|e");
 }
 
+TEST(Griglia, TextsMadeLaterAreMadeOnceForWhoeverLooks) {
+    Grid grid(QStringLiteral("mfgTab"), -1, nullptr, 6, 4);
+    for (int r = 1; r < 6; ++r)
+        grid.setCell(r, 1, QStringLiteral("x"));
+    std::vector<int> made;
+    const auto make = [&made](int row, std::vector<QString>& cells) {
+        made.push_back(row);
+        cells[3] = QString::number(row * 10);
+    };
+    using Rows = std::vector<int>;
+    grid.setColumnsLater(1, {3}, make);
+    (void)grid.cell(4, 1);
+    EXPECT_EQ(made, Rows()) << "another column";
+    const QString& kept = grid.cell(2, 1);
+    EXPECT_EQ(grid.cell(2, 3), u"20");
+    EXPECT_EQ(made, (Rows{1, 2}));
+    EXPECT_EQ(kept, u"x");
+    grid.setCell(4, 3, QStringLiteral("own"));
+    EXPECT_EQ(made, (Rows{1, 2, 3, 4}));
+    EXPECT_EQ(grid.cell(4, 3), u"own") << "what is written later stays";
+    grid.makeAgainFrom(4);
+    EXPECT_EQ(grid.cell(4, 3), u"40");
+    grid.removeRow(3);
+    EXPECT_EQ(grid.cell(4, 3), u"50") << "made before the rows move";
+    made.clear();
+    grid.makeAgainFrom(2);
+    const Grid::Rows rows = grid.takeContents();
+    EXPECT_EQ(rows[1][3], u"20") << "made before they are taken out";
+    grid.setContents(Grid::Rows(rows));
+    (void)grid.cell(4, 3);
+    EXPECT_EQ(made, (Rows{2, 3, 4})) << "another table is whole";
+    grid.makeAgainFrom(2);
+    grid.setRows(3);
+    grid.setRows(6);
+    EXPECT_EQ(grid.cell(4, 3), QString()) << "rows that went with the end are not made again";
+}
+
+TEST(Griglia, TellsTheRowsThatHaveChanged) {
+    Grid grid(QStringLiteral("mfgTab"), -1, nullptr, 50, 4);
+    (void)grid.takeChangedRows();
+    using Rows = std::vector<int>;
+    const auto changed = [&grid] { return grid.takeChangedRows().value_or(Rows{-1}); };
+    grid.setCell(7, 1, QStringLiteral("x"));
+    grid.setCell(2, 1, QStringLiteral("x"));
+    grid.setCell(7, 2, QStringLiteral("x"));
+    grid.setCell(0, 1, QStringLiteral("head"));
+    grid.setCell(9, 1, {});
+    EXPECT_EQ(changed(), (Rows{2, 7}));
+    grid.setCell(7, 2, QStringLiteral("x"));
+    EXPECT_EQ(changed(), Rows()) << "the same text";
+    grid.setRows(5);
+    EXPECT_EQ(changed(), Rows{7}) << "gone with the end";
+    grid.setRows(60);
+    EXPECT_EQ(changed(), Rows());
+    grid.removeRow(3);
+    EXPECT_EQ(changed(), Rows{-1});
+    for (int r = 1; r < 60; ++r)
+        grid.setCell(r, 3, QStringLiteral("y"));
+    EXPECT_EQ(changed(), Rows{-1}) << "too many to tell";
+}
+
 TEST(Griglia, ItsModelKeepsTheRulesOfAView) {
     Grid grid(u"mfgTab"_s, -1, nullptr, 30, 20);
     const QAbstractItemModelTester tester(&grid.model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
