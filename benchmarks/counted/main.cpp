@@ -1,0 +1,81 @@
+// vanzer_counted WORK: one of the key works on a fixed trip, for an instruction counter that looks at the work alone.
+// Prints how many rows it went through. benchmarks/count runs it.
+
+#include <cstdio>
+#include <functional>
+#include <map>
+
+#include <QCoreApplication>
+#include <valgrind/callgrind.h>
+
+#include "../big_trip.h"
+#include "schedule/calculation_screen.h"
+#include "schedule/preparation_screen.h"
+#include "window/command.h"
+
+namespace {
+
+using namespace vanzer;
+using bench::BigTrip;
+
+constexpr int legs = 1000;
+constexpr int typed = 100;
+
+void counted(const std::function<void()>& work) {
+    CALLGRIND_START_INSTRUMENTATION;
+    CALLGRIND_TOGGLE_COLLECT;
+    work();
+    CALLGRIND_TOGGLE_COLLECT;
+    CALLGRIND_STOP_INSTRUMENTATION;
+}
+
+/// One test, as in a search behind another one; the rows of its schedule.
+std::size_t simulation(BigTrip& trip) {
+    RigheDiLavoro rows;
+    comando(trip.form(), [&] { rows = PreparaTabellaPerCalcoloViandoria(trip.form()); });
+    const ParametriSimulazione with = parametriSimulazione(trip.form());
+    Viandoria schedule = simula(rows.righe, with, 1);
+    counted([&] { schedule = simula(rows.righe, with, 1, {}, std::move(schedule)); });
+    return schedule.righe.size();
+}
+
+/// "&Calcola" with all the tests that a search makes; the legs.
+std::size_t calculation(BigTrip& trip) {
+    trip.wantTheImpossible();
+    counted([&] { trip.form().cmdCalcola.click(); });
+    return legs;
+}
+
+/// Legs typed at the end, one by one.
+std::size_t typing(BigTrip& trip) {
+    Form& form = trip.form();
+    form.cmdItinerario.click();
+    form.stato.RigaCorrente = legs + 1;
+    counted([&form] {
+        for (int i = 0; i < typed; ++i) {
+            form.txtTappa.setText(QStringLiteral("ARRIVO"));
+            form.txtKm.setText(QStringLiteral("12"));
+            form.cmdInserisce.click();
+        }
+    });
+    return typed;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    const std::map<QString, std::size_t (*)(BigTrip&)> works{
+        {QStringLiteral("simulation"), simulation},
+        {QStringLiteral("calculation"), calculation},
+        {QStringLiteral("typing"), typing},
+    };
+    const auto work = works.find(application.arguments().value(1));
+    if (work == works.end()) {
+        std::fputs("usage: vanzer_counted simulation|calculation|typing\n", stderr);
+        return 2;
+    }
+    BigTrip trip(legs);
+    std::printf("%zu\n", work->second(trip));
+    return 0;
+}
