@@ -306,7 +306,7 @@ void converte(Form& form) {
 } // namespace
 
 void cercaVecchiFile(Form& form) {
-    form.stato.VecchiFile = store::vecchiFileInAttesa(form.archivio.PercorsoProgramma, codiciMemorizzati(form));
+    form.stato.VecchiFile = store::vecchiFileInAttesa(form.archivio.PercorsoProgramma, [&form] { return codiciMemorizzati(form); });
     if (!form.stato.VecchiFile)
         return;
     form.cmdConverte.setCaption(QStringLiteral("C&onverte vecchi file"));

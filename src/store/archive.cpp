@@ -19,6 +19,11 @@ const QString& markField() {
     return name;
 }
 
+const QString& placeField() {
+    static const QString name = QStringLiteral("Localita");
+    return name;
+}
+
 bool passes(const TableInfo& stored, const FieldDef& declared) {
     const int position = stored.campo(declared.name);
     if (position < 0)
@@ -123,8 +128,12 @@ void Archive::DataBaseVerificaIndici(int db, int table) {
         if (wanted.contains(field.name, Qt::CaseInsensitive))
             file.cambiaSchema(createIndexSql(stored->nome, field.name));
     }
-    if (table == GuidaCitta && stored->campo(markField()) >= 0)
+    if (table != GuidaCitta)
+        return;
+    if (stored->campo(markField()) >= 0 && !file.haIndice(markIndexName(stored->nome)))
         file.cambiaSchema(createMarkIndexSql(stored->nome, markField()));
+    if (stored->campo(placeField()) >= 0 && !file.haIndice(bracketIndexName(stored->nome)))
+        file.cambiaSchema(createBracketIndexSql(stored->nome, placeField()));
 }
 
 void Archive::RecordSetImposta(int db, int slot) {
@@ -188,6 +197,13 @@ void Archive::CancellaTabella(int table, const QString& field, const QString& va
     Rs(slotAppoggio) = Recordset(archive(), query);
     if (progress)
         progress(total, total);
+}
+
+bool Archive::guidaConParentesi() {
+    const auto guide = storedTable(0, GuidaCitta);
+    const StatementLease first = archive().prepara("SELECT 1 FROM " + quotedName(guide->nome) + " WHERE " +
+                                                   bracketSql(placeField()) + " LIMIT 1");
+    return first->step();
 }
 
 LettoreGuida& Archive::guida() {

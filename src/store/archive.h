@@ -91,6 +91,8 @@ class Archive {
     /// hears the begin and the end if there is anything to delete.
     void CancellaTabella(int table, const QString& field, const QString& value, const Progress& progress = {});
 
+    /// Whether a place of the guide has a part in brackets. Costs what has, not the size of the guide.
+    [[nodiscard]] bool guidaConParentesi();
     /// What the guide of the archive in use knows of a place.
     [[nodiscard]] LettoreGuida& guida();
 

@@ -154,6 +154,12 @@ QStringList Database::indici(const QString& table) {
     return names;
 }
 
+bool Database::haIndice(const QString& name) {
+    const StatementLease found = prepara("SELECT 1 FROM sqlite_schema WHERE type='index' AND name=? COLLATE NOCASE");
+    found->bindText(1, QStringView(name));
+    return found->step();
+}
+
 void Database::creaTabella(const QString& name, const std::vector<FieldDef>& fields) {
     cambiaSchema(createTableSql(name, fields));
 }

@@ -56,6 +56,8 @@ class Database {
     [[nodiscard]] std::shared_ptr<const TableInfo> tabella(const QString& name);
     /// Logical names of a table's indexes, in the order of their making; internal ones aren't told.
     [[nodiscard]] QStringList indici(const QString& table);
+    /// By its name in the file.
+    [[nodiscard]] bool haIndice(const QString& name);
     void creaTabella(const QString& name, const std::vector<FieldDef>& fields);
     /// Runs a statement that changes the schema.
     void cambiaSchema(const QByteArray& sql);

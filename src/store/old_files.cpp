@@ -79,14 +79,14 @@ QString trovaVecchioFile(const QString& directory, QStringView name) {
     return found.isEmpty() ? QString() : dir.filePath(found.front());
 }
 
-bool vecchiFileInAttesa(const QString& directory, const QStringList& codes) {
+bool vecchiFileInAttesa(const QString& directory, const std::function<QStringList()>& codes) {
     QStringList there = QDir(directory).entryList({QStringLiteral("vanz*.dat")}, QDir::Files | QDir::Hidden);
     for (QString& name : there)
         name = name.toLower();
     const auto waits = [&there](QStringView name) { return there.contains(name.toString().toLower()); };
     return !there.isEmpty() &&
            (waits(fileVecchieMete) || waits(fileVecchiaGuida) ||
-            std::ranges::any_of(codes, [&](const QString& c) { return waits(fileVecchieTappe(c)); }));
+            std::ranges::any_of(codes(), [&](const QString& c) { return waits(fileVecchieTappe(c)); }));
 }
 
 FileVecchio::FileVecchio(const FormatoVecchio& format, QByteArray contents)

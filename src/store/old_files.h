@@ -2,6 +2,7 @@
 // code page 1252, padded with blanks. Their layout stands in docs/old_files.md.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
@@ -47,8 +48,8 @@ inline constexpr QStringView fileVecchiaGuida = u"VanzGuid.dat";
 [[nodiscard]] QString trovaVecchioFile(const QString& directory, QStringView name);
 
 /// Whether old files lie in the directory: destinations, guide, or the itinerary of a destination with one of the
-/// codes.
-[[nodiscard]] bool vecchiFileInAttesa(const QString& directory, const QStringList& codes);
+/// codes, which are asked for only where that matters.
+[[nodiscard]] bool vecchiFileInAttesa(const QString& directory, const std::function<QStringList()>& codes);
 
 /// The texts of a record without the blanks at their ends, in the order of its fields; yes/no is "1" or "0".
 using RecordVecchio = std::vector<QString>;

@@ -41,6 +41,11 @@ struct TableInfo {
 [[nodiscard]] QString logicalIndexName(const QString& table, const QString& indexName);
 
 /// The index of the records whose mark isn't "0": clearing the marks costs what was marked, not the whole table.
+[[nodiscard]] QString markIndexName(const QString& table);
 [[nodiscard]] QByteArray createMarkIndexSql(const QString& table, const QString& field);
+/// The condition that a text has a part in brackets, and the index of the records for which it holds.
+[[nodiscard]] QByteArray bracketSql(const QString& field);
+[[nodiscard]] QString bracketIndexName(const QString& table);
+[[nodiscard]] QByteArray createBracketIndexSql(const QString& table, const QString& field);
 
 } // namespace vanzer::store

@@ -315,6 +315,8 @@ void loadCategories(Form& form) {
 
 /// A part in brackets behind a guide's place goes.
 void tidyGuidePlaces(Form& form) {
+    if (!form.archivio.guidaConParentesi())
+        return;
     form.archivio.StringaSQL = QStringLiteral("SELECT * FROM GuidaCitta WHERE Localita LIKE '*(*'");
     form.archivio.RecordSetImposta(0, store::GuidaCitta);
     for (store::Recordset& guide = form.archivio.Rs(store::GuidaCitta); !guide.EOF_(); guide.MoveNext()) {
