@@ -92,15 +92,20 @@ Letter makeLetter(char32_t c) {
 
 /// The alphabets up to here (all of Latin, Greek, Cyrillic) are looked up; the rest is worked out each time.
 constexpr char32_t tableEnd = 0x2000;
+constexpr char32_t pageSize = 0x100;
 
+/// A page is made when the first of its letters comes up: a start needs one or two.
 Letter letterOf(char32_t c) {
-    static const std::vector<Letter> table = [] {
-        std::vector<Letter> letters(tableEnd);
-        for (char32_t i = 0; i < tableEnd; ++i)
-            letters[i] = makeLetter(i);
-        return letters;
-    }();
-    return c < tableEnd ? table[c] : makeLetter(c);
+    static std::array<std::vector<Letter>, tableEnd / pageSize> pages;
+    if (c >= tableEnd)
+        return makeLetter(c);
+    std::vector<Letter>& page = pages[c / pageSize];
+    if (page.empty()) {
+        const char32_t first = c - c % pageSize;
+        for (char32_t i = first; i < first + pageSize; ++i)
+            page.push_back(makeLetter(i));
+    }
+    return page[c % pageSize];
 }
 
 /// Walks the base letters of a text.

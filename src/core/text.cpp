@@ -217,6 +217,12 @@ QString minuscolo(const QString& s) {
 }
 
 QString senzaMaiuscole(const QString& s) {
+    if (std::ranges::none_of(s, [](QChar c) { return c.isSurrogate(); })) {
+        QString folded = s;
+        for (QChar& c : folded)
+            c = c.toCaseFolded();
+        return folded;
+    }
     QList<uint> characters = s.toUcs4();
     for (uint& c : characters)
         c = QChar::toCaseFolded(c);

@@ -259,10 +259,9 @@ void InserisciRigheItinerario(Form& form, int n) {
     Grid& grid = form.mfgTab;
     const SenzaRidisegno quiet(grid);
     grid.setRows(grid.rows() + n);
-    for (int r = s.NumeroTappe; r >= s.RigaCorrente; --r) {
-        grid.copyRow(r, r + n, 1);
-        grid.setCell(r + n, 0, QString::number(r + n));
-    }
+    SpostaRighe(form, s.RigaCorrente, s.NumeroTappe, n);
+    for (int r = s.RigaCorrente + n; r <= s.NumeroTappe + n; ++r)
+        grid.setCell(r, 0, QString::number(r));
     for (int r = s.RigaCorrente; r < s.RigaCorrente + n; ++r)
         grid.clearRow(r, 1);
     s.NumeroTappe += n;
@@ -278,10 +277,10 @@ void cmdCancella_Click(Form& form) {
     Grid& grid = form.mfgTab;
     {
         const SenzaRidisegno quiet(grid);
+        SpostaRighe(form, form.stato.RigaCorrente + 1, grid.rows() - 1, -1);
         for (int r = form.stato.RigaCorrente; r <= grid.rows() - 2; ++r) {
-            grid.copyRow(r + 1, r, 1);
-            if (!grid.cell(r, 1).isEmpty()) // an empty row above may have none
-                grid.setCell(r, 0, QString::number(r));
+            // A row without a place has no number, one that has got a place has its own.
+            grid.setCell(r, 0, grid.cell(r, 1).isEmpty() ? QString() : QString::number(r));
         }
         grid.clearRow(grid.rows() - 1, 1);
     }

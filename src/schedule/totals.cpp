@@ -60,6 +60,16 @@ bool TotaliTabella::cambia(int row, const std::optional<Tratto>& leg) {
     return true;
 }
 
+void TotaliTabella::sposta(int first, int last, int by) {
+    rows_.resize(std::max(rows_.size(), static_cast<std::size_t>(std::max(last, last + by)) + 1));
+    const auto row = [this](int r) { return rows_.begin() + r; };
+    if (by > 0)
+        std::rotate(row(first), row(last + 1), row(last + 1 + by));
+    else
+        std::rotate(row(first + by), row(first), row(last + 1));
+    running_.resize(std::min(running_.size(), static_cast<std::size_t>(std::min(first, first + by))));
+}
+
 const std::optional<Tratto>& TotaliTabella::tratto(int row) const {
     static const std::optional<Tratto> none;
     const auto at = static_cast<std::size_t>(row);

@@ -1,5 +1,7 @@
 #include "schedule/totals_screen.h"
 
+#include <cstdlib>
+
 #include "core/text.h"
 #include "core/time_values.h"
 #include "window/parameters.h"
@@ -10,40 +12,45 @@ namespace {
 
 constexpr float unGiornoDi99Ore = 9900;
 
-constexpr int colKmProgressivi = 5;
-constexpr int colTempo = 6;
+constexpr int colonnaProgressivi = 5;
+constexpr int colonnaOre = 6;
 
 Tratto legOf(const Grid& grid, int row) {
     return {chilometri(grid.cell(row, 3)), indiceStrada(grid.cell(row, 4)), contiene(grid.cell(row, 2), u"TRAGH")};
 }
 
-/// The row's leg as the table has it now. A row without a place has none and is blanked. One without kilometres keeps
-/// its running texts: they are made before it counts as such.
+/// A leg without kilometres keeps the running texts that it had: they are made before it counts as such.
+void keepsTexts(const Grid& grid, int row) {
+    if (!grid.cell(row, 1).isEmpty() && chilometri(grid.cell(row, 3)) == 0)
+        (void)grid.cell(row, colonnaProgressivi);
+}
+
+/// The row's leg as the table has it now. A row without a place has none and is blanked.
 std::optional<Tratto> readLeg(Grid& grid, int row) {
-    if (grid.cell(row, 1).isEmpty()) {
-        grid.clearRow(row, 0);
-        return {};
-    }
-    const Tratto leg = legOf(grid, row);
-    if (leg.km == 0)
-        (void)grid.cell(row, colKmProgressivi);
-    return leg;
+    if (!grid.cell(row, 1).isEmpty())
+        return legOf(grid, row);
+    grid.clearRow(row, 0);
+    return {};
 }
 
 void workOutAll(Form& form, const Medie& speeds) {
     Grid& grid = form.mfgTab;
     const SenzaRidisegno quiet(grid);
     TotaliTabella::Righe legs(static_cast<std::size_t>(grid.rows()));
-    for (int r = 1; r < grid.rows(); ++r)
-        legs[static_cast<std::size_t>(r)] = readLeg(grid, r);
+    for (int r = 1; r < grid.rows(); ++r) {
+        auto& leg = legs[static_cast<std::size_t>(r)];
+        leg = readLeg(grid, r);
+        if (leg && leg->km == 0)
+            keepsTexts(grid, r);
+    }
     TotaliTabella& totals = form.totali;
     totals.ricalcola(std::move(legs), speeds);
-    grid.setColumnsLater(1, {colKmProgressivi, colTempo}, [&totals](int row, std::vector<QString>& cells) {
+    grid.setColumnsLater(1, {colonnaProgressivi, colonnaOre}, [&totals](int row, std::vector<QString>& cells) {
         const auto& leg = totals.tratto(row);
         if (!leg || leg->km == 0)
             return;
-        cells[colTempo] = ghmSenzaGiorni(totals.tempo(row), unGiornoDi99Ore);
-        cells[colKmProgressivi] = migliaiaZero(static_cast<double>(totals.kmProgressivi(row)));
+        cells[colonnaOre] = ghmSenzaGiorni(totals.tempo(row), unGiornoDi99Ore);
+        cells[colonnaProgressivi] = migliaiaZero(static_cast<double>(totals.kmProgressivi(row)));
     });
 }
 
@@ -55,8 +62,8 @@ bool workOutChanges(Form& form, const Medie& speeds) {
         return false;
     if (rows->empty())
         return true;
-    // What keeps its running texts keeps those of the legs as they were.
-    (void)grid.cell(Minore(rows->size() == 1 ? rows->front() : grid.rows(), grid.rows() - 1), colKmProgressivi);
+    for (const int row : *rows)
+        keepsTexts(grid, row);
     for (const int row : *rows) {
         if (!form.totali.cambia(row, readLeg(grid, row)))
             return false;
@@ -98,6 +105,24 @@ Medie medieMostrate(const Form& form) {
     for (int i = 0; i < 4; ++i)
         speeds[static_cast<std::size_t>(i)] = Val(form.cmbMediaKm(i).text());
     return speeds;
+}
+
+void SpostaRighe(Form& form, int first, int last, int by) {
+    if (by == 0 || first > last)
+        return;
+    Grid& grid = form.mfgTab;
+    TotaliTabella& totals = form.totali;
+    const int covered = by > 0 ? last + 1 : first + by;
+    bool follow = true;
+    for (int row = covered; row < covered + std::abs(by); ++row)
+        follow = follow && totals.cambia(row, {});
+    if (!follow) {
+        (void)grid.cell(grid.rows() - 1, colonnaProgressivi);
+        grid.forgetChangedRows();
+    }
+    grid.shiftRows(first, last, by);
+    if (follow)
+        totals.sposta(first, last, by);
 }
 
 void CalcolaKmTempiItinerario(Form& form) {

@@ -24,7 +24,8 @@ LettoreGuida::~LettoreGuida() {
 }
 
 const LettoreGuida::Voci& LettoreGuida::leggeLuogo(const QString& place) {
-    if (const auto known = places_.find(place); known != places_.end())
+    const QString key = senzaMaiuscole(place);
+    if (const auto known = places_.find(key); known != places_.end())
         return known->second;
     const StatementLease found =
         database_->prepara("SELECT rowid, CodiceGuida, Gruppo, Descrizione, TempoSosta FROM GuidaCitta "
@@ -34,7 +35,7 @@ const LettoreGuida::Voci& LettoreGuida::leggeLuogo(const QString& place) {
     while (found->step())
         entries.push_back(
             {found->integer(0), static_cast<int>(Val(found->text(1))), found->text(2), found->text(3), found->text(4)});
-    return keeps(places_, place, std::move(entries));
+    return keeps(places_, key, std::move(entries));
 }
 
 const LettoreGuida::Voci& LettoreGuida::leggeModello(const QString& pattern) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstdlib>
 #include <iterator>
 #include <utility>
 
@@ -77,7 +78,7 @@ void Grid::setColumns(int columns) {
         return;
     makeUpTo(rows());
     forgetLater();
-    noteAll();
+    forgetChangedRows();
     setRedraw(false);
     columns_ = columns;
     for (auto& r : cells_)
@@ -185,11 +186,55 @@ void Grid::clearRow(int row, int firstColumn) {
         setCell(row, c, {});
 }
 
+void Grid::shiftRows(int first, int last, int by) {
+    const int top = std::min(first, first + by);
+    const int bottom = std::max(last, last + by);
+    if (by == 0 || first > last || top < 1 || bottom >= rows())
+        return;
+    setRedraw(false);
+    std::vector<QString> numbers;
+    numbers.reserve(static_cast<std::size_t>(bottom - top + 1));
+    for (int row = top; row <= bottom; ++row)
+        numbers.push_back(std::exchange(widened(row).front(), QString()));
+    const auto at = [this](int row) { return cells_.begin() + row; };
+    std::rotate(at(top), at(by > 0 ? last + 1 : first), at(bottom + 1));
+    shiftNotes(first, last, by);
+    const auto number = [&numbers, top](int row) -> QString& { return numbers[static_cast<std::size_t>(row - top)]; };
+    for (int row = first + by; row <= last + by; ++row) {
+        if (number(row).isEmpty() != number(row - by).isEmpty())
+            noteChange(row); // beside another text in column 0 than before
+    }
+    for (int row = top; row <= bottom; ++row)
+        cells_[static_cast<std::size_t>(row)].front() = std::move(number(row));
+    const int blank = by > 0 ? top : last + 1 + by;
+    for (int row = blank; row < blank + std::abs(by); ++row) {
+        auto& cells = cells_[static_cast<std::size_t>(row)];
+        std::fill(cells.begin() + 1, cells.end(), QString());
+        noteChange(row);
+    }
+    noteChange(top);
+    setRedraw(true);
+}
+
+/// What is known of rows goes with them: which are to be made, which have changed.
+void Grid::shiftNotes(int first, int last, int by) {
+    const int top = std::min(first, first + by);
+    const int bottom = std::max(last, last + by);
+    if (later_ > top && later_ <= bottom)
+        later_ = std::max(top, later_ + by);
+    if (laterEnd_ > top && laterEnd_ <= bottom)
+        laterEnd_ = bottom + 1;
+    if (!changed_)
+        return;
+    for (int& row : *changed_)
+        row += row >= first && row <= last ? by : 0;
+}
+
 void Grid::removeRow(int row) {
     if (row < 1 || row >= rows())
         return;
     makeUpTo(rows());
-    noteAll();
+    forgetChangedRows();
     setRedraw(false);
     cells_.erase(cells_.begin() + row);
     cells_.emplace_back();
@@ -204,7 +249,7 @@ void Grid::removeRow(int row) {
 
 void Grid::clearCells() {
     forgetLater();
-    noteAll();
+    forgetChangedRows();
     setRedraw(false);
     for (auto& r : cells_)
         r.clear();
@@ -214,7 +259,7 @@ void Grid::clearCells() {
 
 Grid::Rows Grid::takeContents() {
     makeUpTo(rows());
-    noteAll();
+    forgetChangedRows();
     setRedraw(false);
     Rows rows(std::make_move_iterator(cells_.begin() + 1), std::make_move_iterator(cells_.end()));
     cells_.resize(1);
@@ -226,7 +271,7 @@ Grid::Rows Grid::takeContents() {
 
 void Grid::setContents(Rows&& rows) {
     forgetLater();
-    noteAll();
+    forgetChangedRows();
     setRedraw(false);
     cells_.resize(1);
     cells_.insert(cells_.end(), std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end()));

@@ -37,6 +37,9 @@ class Grid : public Control {
     /// Copies the cells from `firstColumn` on of one row over those of another.
     void copyRow(int from, int to, int firstColumn);
     void clearRow(int row, int firstColumn);
+    /// The rows `first` to `last` go `by` rows down, or up where it is negative, over what is there; the rows that they
+    /// leave are blank. Column 0 stays. What is still to be made moves with its rows.
+    void shiftRows(int first, int last, int by);
     /// Takes a row from 1 on out; those below it move up, and an empty one comes in at the end.
     void removeRow(int row);
     /// Empties all cells, the head row's too.
@@ -52,6 +55,8 @@ class Grid : public Control {
     /// The rows whose texts have changed since this was last asked, from 1 on; nothing if they are many or the whole
     /// table is another one.
     [[nodiscard]] std::optional<std::vector<int>> takeChangedRows();
+    /// From here on the whole table counts as another one.
+    void forgetChangedRows() { changed_.reset(); }
 
     /// All rows from 1 on: taken out, so that the head row is left, and put in.
     using Rows = std::vector<std::vector<QString>>;
@@ -106,7 +111,7 @@ class Grid : public Control {
     void tellLater();
     void forgetLater() { laterEnd_ = 0; }
     void noteChange(int row);
-    void noteAll() { changed_.reset(); }
+    void shiftNotes(int first, int last, int by);
 
     mutable Rows cells_;       ///< mutable for what is made when somebody looks at it
     mutable int later_ = 0;    ///< the rows from here on are still to be made

@@ -2,6 +2,7 @@
 // somebody looks, they are what they would be if all were worked out at once each time.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 #include <QTemporaryDir>
@@ -43,16 +44,18 @@ class Anyone {
         }
     }
 
-    [[nodiscard]] std::string table() {
-        QString all;
+    /// The table row by row, then the totals.
+    [[nodiscard]] QStringList table() {
+        QStringList all;
         for (int r = 1; r < form().mfgTab.rows(); ++r) {
+            QString row;
             for (int c = 0; c < form().mfgTab.columns(); ++c)
-                all += form().mfgTab.cell(r, c) + u'|';
-            all += u'\n';
+                row += form().mfgTab.cell(r, c) + u'|';
+            all += row;
         }
         for (int i = 0; i < 5; ++i)
-            all += form().txtKmTot(i).text() + u' ' + form().txtTempo(i).text() + u'\n';
-        return (all + form().txtTragh.text() + u' ' + form().cmbGiorni.text()).toStdString();
+            all += form().txtKmTot(i).text() + u' ' + form().txtTempo(i).text();
+        return all + QStringList{form().txtTragh.text(), form().cmbGiorni.text()};
     }
 
   private:
@@ -76,12 +79,20 @@ class Anyone {
     batch::Session program_{{.directory = folder_.path(), .decimalMark = u'.', .versione = {}}};
 };
 
+/// The first difference.
+std::string difference(const QStringList& a, const QStringList& b) {
+    if (a.size() != b.size())
+        return "other rows";
+    const auto [inA, inB] = std::ranges::mismatch(a, b);
+    return inA == a.end() ? std::string() : (*inA + u" instead of "_s + *inB).toStdString();
+}
+
 using Leg = std::optional<Tratto>;
 
 } // namespace
 
 TEST(RunningTotals, AreTheSameWhoeverLooksAndHoweverTheyCome) {
-    for (unsigned seed = 1; seed <= 12; ++seed) {
+    for (unsigned seed = 1; seed <= 20; ++seed) {
         Anyone unseen(seed);
         Anyone watched(seed);
         Anyone anew(seed);
@@ -93,9 +104,8 @@ TEST(RunningTotals, AreTheSameWhoeverLooksAndHoweverTheyCome) {
             anew.work();
         }
         ASSERT_GT(unseen.form().stato.NumeroTappe, 20);
-        const std::string table = unseen.table();
-        EXPECT_EQ(table, watched.table()) << "seed " << seed;
-        EXPECT_EQ(table, anew.table()) << "seed " << seed;
+        EXPECT_EQ(difference(unseen.table(), watched.table()), "") << "seed " << seed;
+        EXPECT_EQ(difference(watched.table(), anew.table()), "") << "seed " << seed;
     }
 }
 

@@ -144,6 +144,32 @@ TEST(Griglia, TextsMadeLaterAreMadeOnceForWhoeverLooks) {
     EXPECT_EQ(grid.cell(4, 3), QString()) << "rows that went with the end are not made again";
 }
 
+TEST(Griglia, RowsShiftBesideTheirNumbers) {
+    const struct {
+        const char* what;
+        int first, last, by;
+        const char* texts;
+    } cases[] = {{"down by one", 2, 3, 1, "1a 2- 3b 4c 5e"},    {"down by two", 1, 3, 2, "1- 2- 3a 4b 5c"},
+                 {"up over a row", 3, 5, -1, "1a 2c 3d 4e 5-"}, {"up over two", 4, 5, -2, "1a 2d 3e 4- 5-"},
+                 {"nowhere to go", 4, 5, 1, "1a 2b 3c 4d 5e"},  {"no rows", 4, 3, 1, "1a 2b 3c 4d 5e"}};
+    for (const auto& c : cases) {
+        Grid grid(QStringLiteral("mfgTab"), -1, nullptr, 6, 3);
+        for (int r = 1; r < 6; ++r) {
+            grid.setCell(r, 0, QString::number(r));
+            grid.setCell(r, 1, QString(QChar(static_cast<char16_t>(u'a' + r - 1))));
+        }
+        grid.setColumnsLater(1, {2}, [](int /*row*/, std::vector<QString>& cells) { cells[2] = cells[1]; });
+        (void)grid.cell(3, 2);
+        grid.shiftRows(c.first, c.last, c.by);
+        QStringList texts;
+        for (int r = 1; r < 6; ++r) {
+            texts += grid.cell(r, 0) + (grid.cell(r, 1).isEmpty() ? QStringLiteral("-") : grid.cell(r, 1));
+            EXPECT_EQ(grid.cell(r, 2), grid.cell(r, 1)) << c.what;
+        }
+        EXPECT_EQ(texts.join(u' ').toStdString(), c.texts) << c.what;
+    }
+}
+
 TEST(Griglia, TellsTheRowsThatHaveChanged) {
     Grid grid(QStringLiteral("mfgTab"), -1, nullptr, 50, 4);
     (void)grid.takeChangedRows();
