@@ -1,7 +1,5 @@
 #include "bare_archive.h"
 
-#include <array>
-#include <cstdio>
 #include <stdexcept>
 #include <string>
 
@@ -44,15 +42,24 @@ long walk(sqlite3_stmt* statement) {
     return bytes;
 }
 
+BareRows rowsOf(sqlite3_stmt* statement) {
+    BareRows rows;
+    const int columns = sqlite3_column_count(statement);
+    while (sqlite3_step(statement) == SQLITE_ROW) {
+        auto& row = rows.emplace_back();
+        for (int c = 0; c < columns; ++c) {
+            const auto* const text = reinterpret_cast<const char*>(sqlite3_column_text(statement, c));
+            row.push_back(text == nullptr ? std::nullopt : std::optional<std::string>(text));
+        }
+    }
+    return rows;
+}
+
 void bindText(sqlite3_stmt* statement, int parameter, const std::string& text) {
     sqlite3_bind_text(statement, parameter, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
 }
 
-std::string digits(const char* format, int n) {
-    std::array<char, 48> text{};
-    std::snprintf(text.data(), text.size(), format, n);
-    return text.data();
-}
+constexpr const char* legsOf = "SELECT * FROM Itinerari WHERE CodiceMeta = ? ORDER BY Sequenza";
 
 } // namespace
 
@@ -78,81 +85,77 @@ void BareArchive::run(const char* sql) {
         throw std::runtime_error(sqlite3_errmsg(connection_.get()));
 }
 
-long BareArchive::readLegs() {
-    return walk(
-        prepare(connection_.get(), "SELECT * FROM Itinerari WHERE CodiceMeta = '000001' ORDER BY Sequenza").get());
+std::string BareArchive::currentCode() {
+    return rowsOf(prepare(connection_.get(), "SELECT MetaCorrente FROM MetaCorrente").get()).at(0).at(0).value();
 }
 
-void BareArchive::rewriteLegs(int legs) {
+long BareArchive::readDestination(const std::string& code) {
+    const Statement record = prepare(connection_.get(), "SELECT * FROM MeteVanzer WHERE CodiceMeta = ?");
+    bindText(record.get(), 1, code);
+    return walk(record.get());
+}
+
+BareRows BareArchive::legs(const std::string& code) {
+    const Statement all = prepare(connection_.get(), legsOf);
+    bindText(all.get(), 1, code);
+    return rowsOf(all.get());
+}
+
+long BareArchive::readLegs(const std::string& code) {
+    const Statement all = prepare(connection_.get(), legsOf);
+    bindText(all.get(), 1, code);
+    return walk(all.get());
+}
+
+void BareArchive::rewriteLegs(const std::string& code, const BareRows& legs) {
     run("BEGIN");
-    run("DELETE FROM Itinerari WHERE CodiceMeta = '000001'");
-    const Statement insert =
-        prepare(connection_.get(), "INSERT INTO Itinerari (CodiceMeta, Sequenza, Localita, Chilometri, NomeStrada, "
-                                   "TipoStrada, TempoSosta, SostaGuidaCitta, FineGiorno, Start, Fine, Flag2) "
-                                   "VALUES ('000001', ?, ?, ?, ?, 'A', ' ', '00:00:15', '0', 0, 0, 0)");
-    for (int i = 1; i <= legs; ++i) {
-        bindText(insert.get(), 1, digits("%04d", i));
-        bindText(insert.get(), 2, digits("Luogo numero %05d", i));
-        bindText(insert.get(), 3, digits("%d", 5 + i % 16));
-        bindText(insert.get(), 4, digits("SS%d ", i % 300));
-        if (sqlite3_step(insert.get()) != SQLITE_DONE)
-            throw std::runtime_error(sqlite3_errmsg(connection_.get()));
-        sqlite3_reset(insert.get());
-    }
+    run(("DELETE FROM Itinerari WHERE CodiceMeta = '" + code + '\'').c_str());
+    insertInto("Itinerari", legs);
     run("COMMIT");
 }
 
-long BareArchive::readGuide(int places) {
+long BareArchive::readGuide(const std::vector<QString>& places) {
     const Statement query = prepare(connection_.get(), "SELECT * FROM GuidaCitta WHERE Localita = ? "
                                                        "ORDER BY CodiceGuida, TempoSosta DESC, Gruppo");
     long bytes = 0;
-    for (int i = 1; i <= places; ++i) {
-        bindText(query.get(), 1, digits("Luogo numero %05d", i));
-        const long found = walk(query.get());
-        if (found == 0)
-            throw std::runtime_error("a place without its entry");
-        bytes += found;
+    for (const QString& place : places) {
+        bindText(query.get(), 1, place.toStdString());
+        bytes += walk(query.get());
     }
     return bytes;
 }
 
-std::vector<TableRows> BareArchive::readTrips() {
-    std::vector<TableRows> tables;
-    for (const char* name : {"MeteVanzer", "Itinerari", "GuidaCitta"}) {
-        TableRows& table = tables.emplace_back(TableRows{name, {}});
-        const Statement all = prepare(connection_.get(), ("SELECT * FROM " + table.table).c_str());
-        const int columns = sqlite3_column_count(all.get());
-        while (sqlite3_step(all.get()) == SQLITE_ROW) {
-            auto& row = table.rows.emplace_back();
-            for (int c = 0; c < columns; ++c) {
-                const auto* const text = reinterpret_cast<const char*>(sqlite3_column_text(all.get(), c));
-                row.push_back(text == nullptr ? std::nullopt : std::optional<std::string>(text));
-            }
-        }
-    }
+std::vector<BareTable> BareArchive::readTrips() {
+    std::vector<BareTable> tables;
+    for (const char* name : {"MeteVanzer", "Itinerari", "GuidaCitta"})
+        tables.push_back(
+            {name, rowsOf(prepare(connection_.get(), ("SELECT * FROM " + std::string(name)).c_str()).get())});
     return tables;
 }
 
-void BareArchive::insert(const std::vector<TableRows>& tables) {
+void BareArchive::insert(const std::vector<BareTable>& tables) {
     run("BEGIN");
-    for (const TableRows& table : tables) {
-        std::string sql = "INSERT INTO " + table.table + " VALUES (?";
-        for (std::size_t c = 1; c < table.rows.front().size(); ++c)
-            sql += ",?";
-        const Statement statement = prepare(connection_.get(), (sql + ')').c_str());
-        for (const auto& row : table.rows) {
-            for (std::size_t c = 0; c < row.size(); ++c) {
-                if (row[c])
-                    bindText(statement.get(), static_cast<int>(c) + 1, *row[c]);
-                else
-                    sqlite3_bind_null(statement.get(), static_cast<int>(c) + 1);
-            }
-            if (sqlite3_step(statement.get()) != SQLITE_DONE)
-                throw std::runtime_error(sqlite3_errmsg(connection_.get()));
-            sqlite3_reset(statement.get());
-        }
-    }
+    for (const BareTable& table : tables)
+        insertInto(table.name, table.rows);
     run("COMMIT");
+}
+
+void BareArchive::insertInto(const std::string& table, const BareRows& rows) {
+    std::string sql = "INSERT INTO " + table + " VALUES (?";
+    for (std::size_t c = 1; c < rows.front().size(); ++c)
+        sql += ",?";
+    const Statement statement = prepare(connection_.get(), (sql + ')').c_str());
+    for (const auto& row : rows) {
+        for (std::size_t c = 0; c < row.size(); ++c) {
+            if (row[c])
+                bindText(statement.get(), static_cast<int>(c) + 1, *row[c]);
+            else
+                sqlite3_bind_null(statement.get(), static_cast<int>(c) + 1);
+        }
+        if (sqlite3_step(statement.get()) != SQLITE_DONE)
+            throw std::runtime_error(sqlite3_errmsg(connection_.get()));
+        sqlite3_reset(statement.get());
+    }
 }
 
 } // namespace vanzer::bench

@@ -12,10 +12,12 @@ struct sqlite3;
 
 namespace vanzer::bench {
 
-/// A table's records as texts.
-struct TableRows {
-    std::string table;
-    std::vector<std::vector<std::optional<std::string>>> rows;
+/// Records as texts.
+using BareRows = std::vector<std::vector<std::optional<std::string>>>;
+
+struct BareTable {
+    std::string name;
+    BareRows rows;
 };
 
 class BareArchive {
@@ -25,18 +27,23 @@ class BareArchive {
     BareArchive(const BareArchive&) = delete;
     BareArchive& operator=(const BareArchive&) = delete;
 
-    /// Reads all fields of the destination's legs in their order; the number of bytes seen.
-    long readLegs();
-    /// Deletes the legs and adds as many again, in one transaction that is safe on the disk.
-    void rewriteLegs(int legs);
-    /// One indexed query for each place of the trip.
-    long readGuide(int places);
-    /// The destinations, legs and guide, and the same put in, in one transaction that is safe on the disk.
-    [[nodiscard]] std::vector<TableRows> readTrips();
-    void insert(const std::vector<TableRows>& tables);
+    /// The code of the current destination, its record and its legs in their order.
+    [[nodiscard]] std::string currentCode();
+    long readDestination(const std::string& code);
+    [[nodiscard]] BareRows legs(const std::string& code);
+    /// Walks the legs and looks at every value; the number of bytes seen.
+    long readLegs(const std::string& code);
+    /// Deletes the legs and adds them again, in one transaction that is safe on the disk.
+    void rewriteLegs(const std::string& code, const BareRows& legs);
+    /// One indexed query for each place.
+    long readGuide(const std::vector<QString>& places);
+    /// Destinations, legs and guide; the same put in, in one transaction that is safe on the disk.
+    [[nodiscard]] std::vector<BareTable> readTrips();
+    void insert(const std::vector<BareTable>& tables);
 
   private:
     void run(const char* sql);
+    void insertInto(const std::string& table, const BareRows& rows);
 
     struct Closer {
         void operator()(sqlite3* connection) const;

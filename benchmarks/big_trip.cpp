@@ -2,38 +2,26 @@
 
 #include <stdexcept>
 
+#include <QFile>
+
+#include "core/place_name.h"
 #include "core/text.h"
 #include "itinerary/leg_table_screen.h"
+#include "places.h"
 #include "window/command.h"
 
 namespace vanzer::bench {
 
 namespace {
 
-std::vector<QString> numberedPlaces(int count) {
-    std::vector<QString> places;
-    for (int i = 1; i <= count; ++i)
-        places.push_back(QStringLiteral("Luogo numero ") + Zero(i, 5));
-    return places;
-}
-
-std::vector<GuideEntry> oneEntryEach(const std::vector<QString>& places) {
-    std::vector<GuideEntry> entries;
-    for (int i = 1; const QString& place : places) {
-        entries.push_back({place, Zero(i % 9 + 1, 2), QString(), QStringLiteral("Cosa da vedere %1").arg(i),
-                           i % 4 == 0 ? QStringLiteral("00:00") : QStringLiteral("00:15")});
-        ++i;
-    }
-    return entries;
-}
+constexpr std::size_t known = 50'000; ///< of the first places the guide of the big archive knows all
 
 } // namespace
 
-BigTrip::BigTrip(int legs) : BigTrip(numberedPlaces(legs), oneEntryEach(numberedPlaces(legs))) {}
-
-BigTrip::BigTrip(const std::vector<QString>& places, const std::vector<GuideEntry>& guide)
-    : legs_(static_cast<int>(places.size())),
+BigTrip::BigTrip(int legs, const QString& folder)
+    : legs_(legs),
       session_({.directory = directory_.path(), .decimalMark = u'.', .versione = QStringLiteral("bench")}) {
+    QFile::copy(folder + QStringLiteral("/Vanzer.mdb"), file("Vanzer.mdb"));
     session_.clock.set(QDateTime(QDate(2003, 6, 21), QTime(8, 30)));
     session_.start();
     form().cmdNuovo.click();
@@ -41,26 +29,26 @@ BigTrip::BigTrip(const std::vector<QString>& places, const std::vector<GuideEntr
     form().txtNazione.type(QStringLiteral("EUROPA"));
     answer(rispostaSi);
     form().cmdSalva.click();
-    storeGuide(guide);
-    storeLegs(places);
+    storeLegs();
     if (form().stato.NumeroTappe != legs_)
         throw std::runtime_error("the trip could not be stored");
 }
 
-void BigTrip::storeLegs(const std::vector<QString>& places) {
-    comando(form(), [this, &places] {
+void BigTrip::storeLegs() {
+    comando(form(), [this] {
         Grid& grid = form().mfgTab;
         {
             const SenzaRidisegno quiet(grid);
+            Chance chance(2);
             grid.setRows(legs_ + 2);
-            for (int i = 1; const QString& place : places) {
-                grid.setCell(i, 1, place + (i == 1 ? QStringLiteral(" [Start]") : QString()));
+            for (int i = 1; i <= legs_; ++i) {
+                const Place& place = allPlaces()[static_cast<std::size_t>(i) * 5 % known];
+                grid.setCell(i, 1, asWritten(place, chance) + (i == 1 ? QStringLiteral(" [Start]") : QString()));
                 grid.setCell(i, 2, QStringLiteral("SS%1").arg(i % 300));
                 grid.setCell(i, 3, QString::number(5 + i % 16));
                 grid.setCell(i, 4, QString(u"ASPL"[i % 4]));
                 if (i % 10 == 0)
                     grid.setCell(i, 7, QStringLiteral("00:00:30"));
-                ++i;
             }
         }
         MemorizzaTappeItinerario(form());
@@ -68,26 +56,25 @@ void BigTrip::storeLegs(const std::vector<QString>& places) {
     });
 }
 
-void BigTrip::storeGuide(const std::vector<GuideEntry>& guide) {
-    comando(form(), [this, &guide] {
-        form().archivio.StringaSQL = QStringLiteral("SELECT * FROM GuidaCitta");
-        form().archivio.RecordSetImposta(0, store::GuidaCitta);
-        store::Recordset& records = form().archivio.Rs(store::GuidaCitta);
-        for (const GuideEntry& entry : guide) {
-            records.AddNew();
-            records.scrive("Localita", entry.place);
-            records.scrive("CodiceGuida", entry.category);
-            records.scrive("Gruppo", entry.group);
-            records.scrive("Descrizione", entry.description);
-            records.scrive("TempoSosta", entry.time);
-            records.scrive("FlagVisto", QStringLiteral("0"));
-            records.Update();
-        }
-    });
+std::vector<QString> BigTrip::places() {
+    std::vector<QString> names;
+    for (int r = 1; r <= legs_; ++r)
+        names.push_back(PulisceNomeLocalita(form().mfgTab.cell(r, 1)));
+    return names;
 }
 
-void BigTrip::wantTheImpossible() {
-    form().cmbGiorni.setText(QStringLiteral("997"));
+void BigTrip::reload() {
+    comando(form(), [this] { CaricaTappeItinerario(form()); });
+}
+
+QByteArray routeList(int rows) {
+    QByteArray text = "Time\tkm\tInstruction\n0:00\t0\tDepart Torino\n";
+    for (int i = 1; i < rows; ++i) {
+        const Place& place = allPlaces()[static_cast<std::size_t>(i) * 5 % known];
+        text += "9:00\t" + QByteArray::number(i) + "\tat " + place.name.toUtf8() + ", turn RIGHT onto SS" +
+                QByteArray::number(i % 300) + '\n';
+    }
+    return text;
 }
 
 } // namespace vanzer::bench

@@ -75,7 +75,9 @@ int main(int argc, char** argv) {
         std::fputs("usage: vanzer_counted simulation|calculation|typing\n", stderr);
         return 2;
     }
-    BigTrip trip(legs);
+    const QTemporaryDir archive;
+    bench::makeArchive(archive.path(), {.destinations = 1, .legs = 10, .entries = 20'000});
+    BigTrip trip(legs, archive.path());
     std::printf("%zu\n", work->second(trip));
     return 0;
 }

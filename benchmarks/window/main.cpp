@@ -88,8 +88,8 @@ int main(int argc, char** argv) {
         trip.close();
 
         desktop::SystemClock clock;
-        desktop::Program program({.directory = QFileInfo(trip.archive()).path(), .decimalMark = u'.', .versione = {}},
-                                 clock);
+        desktop::Program program(
+            {.directory = QFileInfo(trip.file("Vanzer.mdb")).path(), .decimalMark = u'.', .versione = {}}, clock);
         if (!program.start())
             return 1;
         drawn(program.window());

@@ -306,7 +306,8 @@ void converte(Form& form) {
 } // namespace
 
 void cercaVecchiFile(Form& form) {
-    form.stato.VecchiFile = store::vecchiFileInAttesa(form.archivio.PercorsoProgramma, [&form] { return codiciMemorizzati(form); });
+    form.stato.VecchiFile =
+        store::vecchiFileInAttesa(form.archivio.PercorsoProgramma, [&form] { return codiciMemorizzati(form); });
     if (!form.stato.VecchiFile)
         return;
     form.cmdConverte.setCaption(QStringLiteral("C&onverte vecchi file"));

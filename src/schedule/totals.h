@@ -41,8 +41,8 @@ class TotaliTabella {
     /// A row's leg as it is now. False, and nothing changed, if the totals can't be had by difference.
     [[nodiscard]] bool cambia(int row, const std::optional<Tratto>& leg);
 
-    /// The legs of the rows `first` to `last` go `by` rows down, or up where it is negative. They leave none behind, and
-    /// have no others in their way but such as were taken away before.
+    /// The legs of the rows `first` to `last` go `by` rows down, or up where it is negative. They leave none behind,
+    /// and have no others in their way but such as were taken away before.
     void sposta(int first, int last, int by);
 
     [[nodiscard]] const TotaliItinerario& totali() const { return totals_; }

@@ -312,7 +312,9 @@ TEST(OldFilesWaiting, OnlyFilesThatCanBeConverted) {
           Row{u"VanzMete.txt", u"00Mete", false}, Row{u"vanz7.dat", u"7", true}, Row{u"vanz.dat", u"", false}}) {
         const QTemporaryDir directory;
         ASSERT_TRUE(writeOldFile(directory.filePath(QString::fromUtf16(row.file)), "x"));
-        EXPECT_EQ(store::vecchiFileInAttesa(directory.path(), [&row] { return QStringList{QString::fromUtf16(row.code)}; }), row.waits)
+        EXPECT_EQ(
+            store::vecchiFileInAttesa(directory.path(), [&row] { return QStringList{QString::fromUtf16(row.code)}; }),
+            row.waits)
             << QString::fromUtf16(row.file).toStdString();
     }
     for (const char16_t* code : {u"00/../", u"", u"  00Guid", u"00mete", u"00 1*"})
