@@ -1,0 +1,296 @@
+// Each command on a trip of 9,999 legs beside the same on one of 1,000: the time is to grow as the legs do.
+
+#include <array>
+
+#include <QFile>
+
+#include "big_trip.h"
+#include "itinerary/leg_table_screen.h"
+#include "measure.h"
+#include "places.h"
+#include "window/command.h"
+
+namespace vanzer::bench {
+
+namespace {
+
+constexpr int few = 1000;
+constexpr int many = 9999;
+
+struct Command {
+    const char* name;
+    void (*prepare)(BigTrip&);
+    double (*work)(BigTrip&); ///< seconds; leaves the trip as it was
+};
+
+void nothing(BigTrip& /*trip*/) {}
+
+void openEditor(BigTrip& trip) {
+    trip.form().cmdItinerario.click();
+}
+
+double clicked(Button& button) {
+    return seconds([&button] { button.click(); });
+}
+
+/// A click that changes the legs; they are as before again.
+double clickedAndUndone(BigTrip& trip, Button& button) {
+    const double taken = clicked(button);
+    trip.reload();
+    return taken;
+}
+
+double loadsLegs(BigTrip& trip) {
+    return seconds([&trip] { trip.reload(); });
+}
+
+double storesLegs(BigTrip& trip) {
+    trip.answer(rispostaSi);
+    return clicked(trip.form().cmdMemorizza);
+}
+
+double calculates(BigTrip& trip) {
+    const double taken = clicked(trip.form().cmdCalcola);
+    trip.form().cmdCalcola.click();
+    return taken;
+}
+
+double putsLegsBack(BigTrip& trip) {
+    trip.form().cmdCalcola.click();
+    return clicked(trip.form().cmdCalcola);
+}
+
+double searches(BigTrip& trip) {
+    trip.wantTheImpossible();
+    return calculates(trip);
+}
+
+double calculatesFromEditor(BigTrip& trip) {
+    trip.form().cmdItinerario.click();
+    const double taken = clicked(trip.form().cmdRicalcola);
+    trip.form().cmdCalcola.click();
+    trip.answer(rispostaNo);
+    trip.form().cmdFine.click();
+    return taken;
+}
+
+double opensEditor(BigTrip& trip) {
+    const double taken = clicked(trip.form().cmdItinerario);
+    trip.answer(rispostaNo);
+    trip.form().cmdFine.click();
+    return taken;
+}
+
+double closesEditor(BigTrip& trip) {
+    trip.form().cmdItinerario.click();
+    trip.answer(rispostaNo);
+    return clicked(trip.form().cmdFine);
+}
+
+double insertsRow(BigTrip& trip) {
+    trip.form().mfgTab.clickRow(5);
+    const double taken = clicked(trip.form().cmdAggiunge);
+    trip.form().cmdCancella.click();
+    return taken;
+}
+
+double deletesRow(BigTrip& trip) {
+    trip.form().mfgTab.clickRow(5);
+    trip.form().cmdAggiunge.click();
+    return clicked(trip.form().cmdCancella);
+}
+
+double listsLegs(BigTrip& trip) {
+    const double taken = clicked(trip.form().cmdCerca);
+    trip.form().cmdFine.click();
+    return taken;
+}
+
+double drivesBack(BigTrip& trip) {
+    Form& form = trip.form();
+    form.mfgTab.clickRow(trip.legs() + 1);
+    form.txtTappa.setText(form.mfgTab.cell(2, 1));
+    form.txtKm.setText(QStringLiteral("12"));
+    form.cmdInserisce.click();
+    return clickedAndUndone(trip, form.cmdRitorno);
+}
+
+double copiesStops(BigTrip& trip) {
+    trip.answer(rispostaSi);
+    return clickedAndUndone(trip, trip.form().cmdTrasferisce);
+}
+
+double clearsStops(BigTrip& trip) {
+    trip.answer(rispostaSi);
+    return clickedAndUndone(trip, trip.form().cmdAzzeraSoste);
+}
+
+/// All legs but the first and the last become motorway.
+double changesStretch(BigTrip& trip) {
+    Form& form = trip.form();
+    form.cmdModStrada.click();
+    const double taken = seconds([&] {
+        form.mfgTab.clickRow(2);
+        form.cmdTappaSEl(0).click();
+        form.mfgTab.clickRow(trip.legs() - 1);
+        form.cmdTappaSEl(1).click();
+        form.optTStrada(0).choose();
+        form.cmdTappaSEl(2).click();
+    });
+    trip.answer(rispostaNo);
+    form.cmdTappaSEl(3).click();
+    return taken;
+}
+
+double opensGuide(BigTrip& trip) {
+    const double taken = clicked(trip.form().cmdGuidaCitta);
+    trip.form().cmdFineInserimento.click();
+    return taken;
+}
+
+double closesGuide(BigTrip& trip) {
+    trip.form().cmdGuidaCitta.click();
+    return clicked(trip.form().cmdFineInserimento);
+}
+
+double savesDestination(BigTrip& trip) {
+    trip.answer(rispostaSi);
+    return clicked(trip.form().cmdSalva);
+}
+
+double prints(BigTrip& trip) {
+    Form& form = trip.form();
+    form.cmdStampa.click();
+    form.chkTabella.setValue(true);
+    form.cmdEsegui(0).click();
+    form.lstStampanti.setText(QStringLiteral("PDF"));
+    trip.choose(trip.file("viandoria.pdf"));
+    const double taken = clicked(form.cmdSelStampante(0));
+    static_cast<void>(form.cmdCalcola.caption() == u"&Calcola" || (form.cmdCalcola.click(), true));
+    return taken;
+}
+
+/// The trip alone goes into a file.
+double exports(BigTrip& trip) {
+    Form& form = trip.form();
+    form.cmdExport.click();
+    form.cmdImportExport(0).click();
+    const Grid& list = form.mfgImExp(0);
+    for (int r = 1; r < list.rows(); ++r) {
+        if (list.cell(r, 1).contains(u"VIAGGIO LUNGO") || list.cell(r, 0).contains(u"VIAGGIO LUNGO"))
+            form.mfgImExp(0).clickRow(r);
+    }
+    QFile::remove(trip.file("viaggio.iei"));
+    trip.choose(trip.file("viaggio.iei"));
+    trip.answer(rispostaSi);
+    const double taken = clicked(form.cmdImExp(0));
+    if (!QFile::exists(trip.file("viaggio.iei")))
+        throw std::runtime_error("nothing was exported");
+    form.cmdImExp(1).click();
+    return taken;
+}
+
+constexpr std::array commands{
+    Command{"loading the legs", nothing, loadsLegs},
+    Command{"`cmdCalcola`", nothing, calculates},
+    Command{"`cmdCalcola` with 21 tests", nothing, searches},
+    Command{"`cmdCalcola` (&Sblocca)", nothing, putsLegsBack},
+    Command{"`cmdRicalcola`", nothing, calculatesFromEditor},
+    Command{"`cmdItinerario`", nothing, opensEditor},
+    Command{"`cmdFine`", nothing, closesEditor},
+    Command{"`cmdMemorizza`", openEditor, storesLegs},
+    Command{"`cmdAggiunge`", openEditor, insertsRow},
+    Command{"`cmdCancella`", openEditor, deletesRow},
+    Command{"`cmdCerca`", openEditor, listsLegs},
+    Command{"`cmdRitorno`", openEditor, drivesBack},
+    Command{"`cmdTrasferisce`", openEditor, copiesStops},
+    Command{"`cmdAzzeraSoste`", openEditor, clearsStops},
+    Command{"a stretch chosen and changed", nothing, changesStretch},
+    Command{"`cmdGuidaCitta`", nothing, opensGuide},
+    Command{"`cmdFineInserimento`", nothing, closesGuide},
+    Command{"`cmdSalva`", nothing, savesDestination},
+    Command{"printing the schedule", nothing, prints},
+    Command{"exporting the trip", nothing, exports},
+};
+
+/// A planner's list of so many rows comes into an itinerary without legs, and its stops are picked out.
+class Planner {
+  public:
+    explicit Planner(int rows) : trip_(0), rows_(rows) {
+        put("lista.txt", routeList(rows));
+        put("soste.csv", stops(rows));
+        trip_.form().cmdItinerario.click();
+    }
+
+    double imports() {
+        trip_.reload();
+        trip_.choose(trip_.file("lista.txt"));
+        const double taken = clicked(trip_.form().cmdMapPoint);
+        if (trip_.form().stato.NumeroTappe < rows_ / 2)
+            throw std::runtime_error("the list did not come in");
+        return taken;
+    }
+
+    double filters() {
+        imports();
+        trip_.choose(trip_.file("soste.csv"));
+        return clicked(trip_.form().cmdSelezionaMete);
+    }
+
+  private:
+    static QByteArray stops(int rows) {
+        QByteArray text = "lon,lat,nome\n";
+        for (int i = 5; i < rows; i += 10)
+            text += "8.12345,45.12345,\"" + allPlaces()[static_cast<std::size_t>(i) * 5].name.toUtf8() + "\"\n";
+        return text;
+    }
+
+    void put(const char* name, const QByteArray& contents) {
+        QFile file(trip_.file(name));
+        if (file.open(QIODevice::WriteOnly))
+            file.write(contents);
+    }
+
+    BigTrip trip_;
+    int rows_;
+};
+
+Beside growth(const std::string& name) {
+    return {.work = name + ", 9,999 legs", .against = "1,000 legs", .atMost = 11};
+}
+
+void grows(benchmark::State& state, const Command& command) {
+    BigTrip small(few);
+    BigTrip large(many);
+    command.prepare(small);
+    command.prepare(large);
+    compare(
+        state, growth(command.name), [&] { return command.work(large); }, [&] { return command.work(small); });
+}
+
+void plannerGrows(benchmark::State& state, const char* name, double (Planner::*work)()) {
+    Planner small(few);
+    Planner large(many);
+    compare(
+        state, growth(name), [&] { return (large.*work)(); }, [&] { return (small.*work)(); });
+}
+
+[[maybe_unused]] const bool registered = [] {
+    for (std::size_t i = 0; i < commands.size(); ++i) {
+        const Command& command = commands[i];
+        benchmark::RegisterBenchmark(("growth" + std::to_string(i + 1)).c_str(), grows, command)
+            ->Iterations(1)
+            ->UseManualTime();
+    }
+    benchmark::RegisterBenchmark("growthOfImport", plannerGrows, "`cmdMapPoint`", &Planner::imports)
+        ->Iterations(1)
+        ->UseManualTime();
+    benchmark::RegisterBenchmark("growthOfFilter", plannerGrows, "`cmdSelezionaMete`", &Planner::filters)
+        ->Iterations(1)
+        ->UseManualTime();
+    return true;
+}();
+
+} // namespace
+
+} // namespace vanzer::bench

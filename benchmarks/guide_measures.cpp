@@ -1,0 +1,195 @@
+// What the guide's commands cost as the guide grows: the same trip, its places with the same entries, and around them
+// a hundred times as many entries of other places.
+
+#include <functional>
+
+#include <QTemporaryDir>
+
+#include "big_trip.h"
+#include "core/place_name.h"
+#include "guide/entries.h"
+#include "itinerary/leg_editor_screen.h"
+#include "itinerary/leg_table_screen.h"
+#include "measure.h"
+#include "schedule/preparation_screen.h"
+#include "window/command.h"
+
+namespace vanzer::bench {
+
+namespace {
+
+constexpr int legs = 100;
+
+using Step = std::function<void(BigTrip&)>;
+
+/// A trip through places of the first entries, in a guide of so many.
+class InGuide {
+  public:
+    explicit InGuide(int entries) {
+        makeArchive(archive_.path(), {.destinations = 1, .legs = 10, .entries = entries});
+        trip.emplace(legs, archive_.path());
+    }
+
+  private:
+    QTemporaryDir archive_;
+
+  public:
+    std::optional<BigTrip> trip;
+};
+
+/// Times `work`; `before` is done once, `after` puts back what it changed.
+void withGuide(benchmark::State& state, const char* name, const Step& before, const Step& work, const Step& after) {
+    InGuide small(2000);
+    InGuide large(200'000);
+    const auto side = [&](InGuide& guide) {
+        before(*guide.trip);
+        return [&] {
+            const double taken = seconds([&] { work(*guide.trip); });
+            after(*guide.trip);
+            return taken;
+        };
+    };
+    const Timed ours = side(large);
+    const Timed theirs = side(small);
+    compare(state, {.work = std::string(name) + ", guide of 200,000", .against = "guide of 2,000", .atMost = 1.3}, ours,
+            theirs);
+}
+
+const QString own = QStringLiteral("Nuova");
+
+void nothing(BigTrip& /*trip*/) {}
+
+void openEditor(BigTrip& trip) {
+    trip.form().cmdGuidaCitta.click();
+}
+
+void closeEditor(BigTrip& trip) {
+    trip.form().cmdFineInserimento.click();
+}
+
+/// The row of the last entry of that description, in the open editor.
+int rowOf(const Form& form, const QString& description) {
+    int row = form.mfgTab.rows() - 1;
+    while (row > 1 && form.mfgTab.cell(row, guidaDescrizione) != description)
+        --row;
+    return row;
+}
+
+void stores(BigTrip& trip, int row, const QString& description) {
+    Form& form = trip.form();
+    form.mfgTab.clickRow(row);
+    form.txtGGruppo.setText(QStringLiteral("Z"));
+    form.txtGDescr.setText(description);
+    form.cmbGH.setText(QStringLiteral("01"));
+    form.cmbGM.setText(QStringLiteral("00"));
+    form.cmdSalvaRiga.click();
+}
+
+/// Stores an entry of its own at the place at the end of the list.
+int storeOwnEntry(BigTrip& trip) {
+    Form& form = trip.form();
+    int row = rowOf(form, QStringLiteral("Duomo"));
+    while (form.mfgTab.cell(row, guidaSegno) == segnoVoce)
+        --row;
+    stores(trip, row, own);
+    return rowOf(form, own);
+}
+
+int openWithOwnEntry(BigTrip& trip) {
+    openEditor(trip);
+    return storeOwnEntry(trip);
+}
+
+void deleteRow(BigTrip& trip, int row) {
+    trip.form().mfgTab.clickRow(row);
+    trip.answer(rispostaSi);
+    trip.form().cmdCancellaRiga.click();
+}
+
+void prepares(BigTrip& trip) {
+    comando(trip.form(), [&trip] { benchmark::DoNotOptimize(PreparaTabellaPerCalcoloViandoria(trip.form())); });
+}
+
+void putsLegsBack(BigTrip& trip) {
+    comando(trip.form(), [&trip] { RimetteTappe(trip.form()); });
+}
+
+} // namespace
+
+void openGuide(benchmark::State& state) {
+    withGuide(state, "opening the guide", nothing, openEditor, closeEditor);
+}
+
+/// The first closing has put the groups in order; what it costs from then on.
+void closeGuide(benchmark::State& state) {
+    withGuide(state, "closing the guide", openEditor, closeEditor, openEditor);
+}
+
+/// All of the trip's groups put in order at the closing.
+void closeGuideAndSortGroups(benchmark::State& state) {
+    const auto unsort = [](BigTrip& trip) {
+        comando(trip.form(), [&trip] {
+            store::Database& archive = *trip.form().archivio.Db(0);
+            archive.prepara("UPDATE GuidaCitta SET Gruppo = 'B-A' WHERE Gruppo = 'A-B'")->step();
+        });
+        openEditor(trip);
+    };
+    withGuide(state, "closing the guide, groups put in order", openEditor, closeEditor, unsort);
+}
+
+void changeEntry(benchmark::State& state) {
+    withGuide(
+        state, "changing an entry", [](BigTrip& trip) { openWithOwnEntry(trip); },
+        [](BigTrip& trip) { stores(trip, rowOf(trip.form(), own), own); }, nothing);
+}
+
+void addEntry(benchmark::State& state) {
+    withGuide(
+        state, "adding an entry", openEditor, [](BigTrip& trip) { storeOwnEntry(trip); },
+        [](BigTrip& trip) { deleteRow(trip, rowOf(trip.form(), own)); });
+}
+
+void deleteEntry(benchmark::State& state) {
+    withGuide(
+        state, "deleting an entry", [](BigTrip& trip) { openWithOwnEntry(trip); },
+        [](BigTrip& trip) { deleteRow(trip, rowOf(trip.form(), own)); }, [](BigTrip& trip) { storeOwnEntry(trip); });
+}
+
+void prepareCalculation(benchmark::State& state) {
+    withGuide(state, "preparing a calculation", nothing, prepares, putsLegsBack);
+}
+
+void loadLegs(benchmark::State& state) {
+    withGuide(
+        state, "loading the legs", nothing, [](BigTrip& trip) { trip.reload(); }, nothing);
+}
+
+void storeLegs(benchmark::State& state) {
+    withGuide(
+        state, "storing the legs", nothing,
+        [](BigTrip& trip) { comando(trip.form(), [&trip] { MemorizzaTappeItinerario(trip.form()); }); }, nothing);
+}
+
+void copyStops(benchmark::State& state) {
+    withGuide(
+        state, "copying the guide's stops", [](BigTrip& trip) { trip.form().cmdItinerario.click(); },
+        [](BigTrip& trip) {
+            trip.answer(rispostaSi);
+            trip.form().cmdTrasferisce.click();
+        },
+        nothing);
+}
+
+#define GUIDE_MEASURE(name) BENCHMARK(name)->Iterations(1)->UseManualTime()
+GUIDE_MEASURE(openGuide);
+GUIDE_MEASURE(closeGuide);
+GUIDE_MEASURE(closeGuideAndSortGroups);
+GUIDE_MEASURE(addEntry);
+GUIDE_MEASURE(changeEntry);
+GUIDE_MEASURE(deleteEntry);
+GUIDE_MEASURE(prepareCalculation);
+GUIDE_MEASURE(loadLegs);
+GUIDE_MEASURE(storeLegs);
+GUIDE_MEASURE(copyStops);
+
+} // namespace vanzer::bench

@@ -1,0 +1,22 @@
+// vanzer_window FOLDER: the program on the archive of a folder. Ends when its window is there and nothing is left to
+// do.
+#include <QApplication>
+#include <QTimer>
+#include <QWindow>
+
+#include "desktop/program.h"
+
+int main(int argc, char** argv) {
+    using namespace vanzer;
+    const QApplication application(argc, argv);
+    desktop::SystemClock clock;
+    desktop::Program program(
+        {.directory = QApplication::arguments().value(1), .decimalMark = u'.', .versione = QStringLiteral("bench")},
+        clock);
+    if (!program.start())
+        return 1;
+    while (!program.window().windowHandle()->isExposed())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QTimer::singleShot(0, &application, [] { QCoreApplication::exit(); });
+    return QApplication::exec();
+}

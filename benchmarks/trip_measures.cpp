@@ -1,0 +1,107 @@
+// What a long trip costs beside the bare work that it can't do without.
+
+#include <QFile>
+
+#include "bare_archive.h"
+#include "big_trip.h"
+#include "itinerary/leg_table_screen.h"
+#include "measure.h"
+#include "schedule/calculation_screen.h"
+#include "schedule/preparation_screen.h"
+#include "window/command.h"
+
+namespace vanzer::bench {
+
+namespace {
+
+constexpr int legs = 9999; // the most that a trip has
+constexpr int tests = 21;  // of a search that finds no end
+
+/// A long trip, and a copy of its archive for bare calls.
+class Both {
+  public:
+    Both() : trip(legs) {
+        QFile::copy(trip.file("Vanzer.mdb"), trip.file("bare.mdb"));
+        places = trip.places();
+        code = trip.form().stato.CodiceMeta.toStdString();
+        bare.emplace(trip.file("bare.mdb"));
+        rows = bare->legs(code);
+    }
+
+    BigTrip trip;
+    std::vector<QString> places;
+    std::string code;
+    std::optional<BareArchive> bare;
+    BareRows rows;
+};
+
+Timed inCommand(Form& form, std::function<void(Form&)> work) {
+    return timed([&form, work = std::move(work)] { comando(form, [&] { work(form); }); });
+}
+
+} // namespace
+
+void load(benchmark::State& state) {
+    Both both;
+    compare(state,
+            {.work = "load 9,999 legs with what the guide knows of them",
+             .against = "the same by bare calls",
+             .atMost = 1.5},
+            inCommand(both.trip.form(), CaricaTappeItinerario), timed([&both] {
+                benchmark::DoNotOptimize(both.bare->readLegs(both.code));
+                benchmark::DoNotOptimize(both.bare->readGuide(both.places));
+            }));
+}
+BENCHMARK(load)->Iterations(1)->UseManualTime();
+
+void store(benchmark::State& state) {
+    Both both;
+    compare(state, {.work = "store 9,999 legs", .against = "the same by bare calls", .atMost = 1.5},
+            inCommand(both.trip.form(), [](Form& form) { MemorizzaTappeItinerario(form); }), timed([&both] {
+                benchmark::DoNotOptimize(both.bare->readGuide(both.places));
+                both.bare->rewriteLegs(both.code, both.rows);
+            }));
+}
+BENCHMARK(store)->Iterations(1)->UseManualTime();
+
+void calculation(benchmark::State& state) {
+    Both both;
+    Form& form = both.trip.form();
+    RigheDiLavoro rows;
+    comando(form, [&] { rows = PreparaTabellaPerCalcoloViandoria(form); });
+    ParametriSimulazione with = parametriSimulazione(form);
+    with.giorniDesiderati = 0;
+    both.trip.reload();
+    const auto ours = [&] {
+        both.trip.wantTheImpossible();
+        const double taken = seconds([&form] { form.cmdCalcola.click(); });
+        if (form.stato.NumeroTest != tests)
+            state.SkipWithError("the search found an end");
+        form.cmdCalcola.click(); // the legs again
+        return taken;
+    };
+    Viandoria schedule;
+    compare(state,
+            {.work = "`cmdCalcola`, 9,999 legs, 21 tests",
+             .against = "21 bare tests and the bare read of the guide",
+             .atMost = 1.5},
+            ours, timed([&] {
+                for (int i = 0; i < tests; ++i)
+                    schedule = simula(rows.righe, with, 1 + static_cast<float>(i) / tests, {}, std::move(schedule));
+                benchmark::DoNotOptimize(both.bare->readGuide(both.places));
+            }));
+}
+BENCHMARK(calculation)->Iterations(1)->UseManualTime();
+
+void oneTest(benchmark::State& state) {
+    BigTrip trip(legs);
+    RigheDiLavoro rows;
+    comando(trip.form(), [&] { rows = PreparaTabellaPerCalcoloViandoria(trip.form()); });
+    const ParametriSimulazione with = parametriSimulazione(trip.form());
+    Viandoria schedule;
+    report(state, "one bare test, 9,999 legs",
+           timed([&] { schedule = simula(rows.righe, with, 1, {}, std::move(schedule)); }));
+}
+BENCHMARK(oneTest)->Iterations(1)->UseManualTime();
+
+} // namespace vanzer::bench
