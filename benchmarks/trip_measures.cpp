@@ -68,7 +68,7 @@ void calculation(benchmark::State& state) {
     Both both;
     Form& form = both.trip.form();
     RigheDiLavoro rows;
-    comando(form, [&] { rows = PreparaTabellaPerCalcoloViandoria(form); });
+    comando(form, [&] { rows = *PreparaTabellaPerCalcoloViandoria(form); });
     ParametriSimulazione with = parametriSimulazione(form);
     with.giorniDesiderati = 0;
     both.trip.reload();
@@ -96,7 +96,7 @@ BENCHMARK(calculation)->Iterations(1)->UseManualTime();
 void oneTest(benchmark::State& state) {
     BigTrip trip(legs);
     RigheDiLavoro rows;
-    comando(trip.form(), [&] { rows = PreparaTabellaPerCalcoloViandoria(trip.form()); });
+    comando(trip.form(), [&] { rows = *PreparaTabellaPerCalcoloViandoria(trip.form()); });
     const ParametriSimulazione with = parametriSimulazione(trip.form());
     Viandoria schedule;
     report(state, "one bare test, 9,999 legs",

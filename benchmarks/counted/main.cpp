@@ -32,7 +32,7 @@ void counted(const std::function<void()>& work) {
 /// One test, as in a search behind another one; the rows of its schedule.
 std::size_t simulation(BigTrip& trip) {
     RigheDiLavoro rows;
-    comando(trip.form(), [&] { rows = PreparaTabellaPerCalcoloViandoria(trip.form()); });
+    comando(trip.form(), [&] { rows = *PreparaTabellaPerCalcoloViandoria(trip.form()); });
     const ParametriSimulazione with = parametriSimulazione(trip.form());
     Viandoria schedule = simula(rows.righe, with, 1);
     counted([&] { schedule = simula(rows.righe, with, 1, {}, std::move(schedule)); });

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <vector>
 
 #include <QList>
 
@@ -101,7 +102,13 @@ QString testoNumero(float x, QChar decimalMark) {
     return shortest(x, decimalMark);
 }
 QString testoNumero(int x) {
-    return QString::number(x);
+    static std::vector<QString> known(10'000);
+    if (x < 0 || x >= std::ssize(known))
+        return QString::number(x);
+    QString& text = known[static_cast<std::size_t>(x)];
+    if (text.isNull())
+        text = QString::number(x);
+    return text;
 }
 
 QString migliaia(double x) {
@@ -110,6 +117,8 @@ QString migliaia(double x) {
 }
 
 QString migliaiaZero(double x) {
+    if (x >= 0 && x < 999)
+        return testoNumero(static_cast<int>(x + 0.5));
     // Half away from zero, as number formats round.
     const auto whole = static_cast<qlonglong>(std::floor(std::fabs(x) + 0.5));
     std::array<char, 24> digits{};

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <initializer_list>
+#include <vector>
 
 #include "core/text.h"
 
@@ -35,35 +37,47 @@ float ricompone(const Ghm& ghm, float dayUnit) {
 
 namespace {
 
-/// The text from its character `from` on, counted from 0.
-QString ghmDa(qsizetype from, float centesimi, float dayUnit) {
-    const auto [gg, hh, mm] = scompone(centesimi, dayUnit);
-    if (!(gg >= 0 && gg < 100 && hh >= 0 && hh < 100 && mm >= 0 && mm < 100)) {
-        const QString text = Zero(gg, 2) + u':' + Zero(hh, 2) + u':' + Zero(mm, 2);
-        return text == u"00:00:00" ? QString() : text.mid(from);
-    }
-    if (gg == 0 && hh == 0 && mm == 0)
-        return {};
-    std::array<QChar, 8> text;
-    auto out = text.begin();
-    for (const double part : {gg, hh, mm}) {
+bool inTwoDigits(const Ghm& time) {
+    const auto fits = [](double part) { return part >= 0 && part < 100; };
+    return fits(time.gg) && fits(time.hh) && fits(time.mm);
+}
+
+QString inDigits(std::initializer_list<double> parts) {
+    QString text;
+    text.reserve(8);
+    for (const double part : parts) {
+        if (!text.isEmpty())
+            text += u':';
         const int n = static_cast<int>(part);
-        *out++ = QChar(static_cast<char16_t>(u'0' + n / 10));
-        *out++ = QChar(static_cast<char16_t>(u'0' + n % 10));
-        if (out != text.end())
-            *out++ = u':';
+        text += QChar(static_cast<char16_t>(u'0' + n / 10));
+        text += QChar(static_cast<char16_t>(u'0' + n % 10));
     }
-    return QStringView(text).mid(from).toString();
+    return text;
 }
 
 } // namespace
 
 QString ghmCentesimi2Stringa(float centesimi, float dayUnit) {
-    return ghmDa(0, centesimi, dayUnit);
+    const Ghm time = scompone(centesimi, dayUnit);
+    if (time.gg == 0 && time.hh == 0 && time.mm == 0)
+        return {};
+    if (inTwoDigits(time))
+        return inDigits({time.gg, time.hh, time.mm});
+    const QString text = Zero(time.gg, 2) + u':' + Zero(time.hh, 2) + u':' + Zero(time.mm, 2);
+    return text == u"00:00:00" ? QString() : text;
 }
 
 QString ghmSenzaGiorni(float centesimi, float dayUnit) {
-    return ghmDa(3, centesimi, dayUnit);
+    static std::vector<QString> known(100 * 100); // a table of 10,000 rows has some hundred different times
+    const Ghm time = scompone(centesimi, dayUnit);
+    if (!inTwoDigits(time))
+        return Mid(ghmCentesimi2Stringa(centesimi, dayUnit), 4);
+    if (time.gg == 0 && time.hh == 0 && time.mm == 0)
+        return {};
+    QString& text = known[static_cast<std::size_t>(time.hh * 100 + time.mm)];
+    if (text.isNull())
+        text = inDigits({time.hh, time.mm});
+    return text;
 }
 
 Gma Data2Gma(const QString& data) {

@@ -30,12 +30,12 @@ void SalvaRigaItinerarioImportato(Form& form, const TappaImportata& leg) {
     const int r = form.stato.RigaCorrente++;
     if (grid.rows() < r + 2)
         grid.setRows(r + 5);
-    grid.setCell(r, 0, QString::number(r));
+    grid.setCell(r, 0, testoNumero(r));
     grid.setCell(r, 1, leg.luogo);
     grid.setCell(r, 2, leg.strade);
-    grid.setCell(r, 3, QString::number(leg.km));
+    grid.setCell(r, 3, testoNumero(leg.km));
     grid.setCell(r, 4, leg.autostrada ? QStringLiteral("A") : QStringLiteral("P"));
-    grid.setCell(r, 5, QString::number(leg.kmProgressivo));
+    grid.setCell(r, 5, testoNumero(leg.kmProgressivo));
     if (leg.traghetto)
         grid.setCell(r, colonnaSosta, QStringLiteral("00:") + form.cmbOra(8).text() + u':' + form.cmbMin(8).text());
 }
@@ -74,7 +74,7 @@ void writeFolded(Grid& grid, const std::vector<RigaRimasta>& left) {
         cells.resize(Maggiore(static_cast<int>(cells.size()), 4));
         cells[1] = leg.cella.luogo;
         cells[2] = leg.cella.strade;
-        cells[3] = QString::number(leg.cella.km);
+        cells[3] = testoNumero(leg.cella.km);
     }
     folded.push_back(std::move(rows.back()));
     grid.setContents(std::move(folded));
@@ -87,7 +87,7 @@ void writeFolded(Grid& grid, const std::vector<RigaRimasta>& left) {
 void renumber(Grid& grid) {
     for (int r = 1; r < grid.rows(); ++r) {
         if (!grid.cell(r, 0).isEmpty() || !grid.cell(r, 1).isEmpty())
-            grid.setCell(r, 0, QString::number(r));
+            grid.setCell(r, 0, testoNumero(r));
     }
 }
 

@@ -1,5 +1,8 @@
 #include "itinerary/leg_editor_screen.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "core/place_name.h"
 #include "core/text.h"
 #include "itinerary/leg_editor.h"
@@ -110,7 +113,7 @@ void writeRow(Form& form, const TappaControllata& row) {
         CancellaFlagStartEnd(form, 1);
     form.chkMeta(0).setValue(false);
     form.chkMeta(1).setValue(false);
-    grid.setCell(r, 0, QString::number(r));
+    grid.setCell(r, 0, testoNumero(r));
     grid.setCell(r, 1, row.luogo);
     grid.setCell(r, 2, form.txtNumStrada.text());
     grid.setCell(r, 3, form.txtKm.text());
@@ -261,7 +264,7 @@ void InserisciRigheItinerario(Form& form, int n) {
     grid.setRows(grid.rows() + n);
     SpostaRighe(form, s.RigaCorrente, s.NumeroTappe, n);
     for (int r = s.RigaCorrente + n; r <= s.NumeroTappe + n; ++r)
-        grid.setCell(r, 0, QString::number(r));
+        grid.setCell(r, 0, testoNumero(r));
     for (int r = s.RigaCorrente; r < s.RigaCorrente + n; ++r)
         grid.clearRow(r, 1);
     s.NumeroTappe += n;
@@ -280,7 +283,7 @@ void cmdCancella_Click(Form& form) {
         SpostaRighe(form, form.stato.RigaCorrente + 1, grid.rows() - 1, -1);
         for (int r = form.stato.RigaCorrente; r <= grid.rows() - 2; ++r) {
             // A row without a place has no number, one that has got a place has its own.
-            grid.setCell(r, 0, grid.cell(r, 1).isEmpty() ? QString() : QString::number(r));
+            grid.setCell(r, 0, grid.cell(r, 1).isEmpty() ? QString() : testoNumero(r));
         }
         grid.clearRow(grid.rows() - 1, 1);
     }
@@ -296,10 +299,14 @@ void cmdCerca_Click(Form& form) {
     form.frmframe(28).setEnabled(false);
     form.cmbRicercaTappa.clear();
     QStringList places;
+    places.reserve(form.mfgTab.rows());
     for (int r = 1; r < form.mfgTab.rows(); ++r) {
         const QString& place = form.mfgTab.cell(r, 1);
-        if (!Trim(place).isEmpty())
-            places << AggStr(place, 31, QStringLiteral(" ")) + Zero(r, 4);
+        if (Trim(QStringView(place)).isEmpty())
+            continue;
+        QString entry(31, u' ');
+        std::ranges::copy(QStringView(place).left(31), entry.begin());
+        places << std::move(entry) + Zero(r, 4);
     }
     form.cmbRicercaTappa.setEntries(places);
     form.cmbRicercaTappa.setVisible(true);

@@ -30,7 +30,7 @@ Grid::Rows readLegs(Form& form) {
     Grid::Rows rows;
     for (int number = 1; !records.EOF_(); records.MoveNext(), ++number) {
         auto& cells = rows.emplace_back(static_cast<std::size_t>(colonnaFineGiorno + 1));
-        cells[0] = QString::number(number);
+        cells[0] = testoNumero(number);
         cells[1] = records.testo(place);
         cells[2] = Trim(records.testo(road));
         cells[3] = migliaia(Val(records.testo(km)));

@@ -19,7 +19,7 @@ void packTable(Form& form) {
             continue;
         if (++last == r)
             continue;
-        grid.setCell(last, 0, QString::number(last));
+        grid.setCell(last, 0, testoNumero(last));
         grid.copyRow(r, last, 1);
     }
     for (int r = last + 1; r < grid.rows(); ++r)
@@ -40,7 +40,7 @@ void appendLegs(Form& form, const Ritorno& home) {
     grid.setRows(Maggiore(s.RigheMinime, grid.rows() + home.riga + 2));
     for (const RigaRitorno& leg : home.righe) {
         const int r = ++s.NumeroTappe;
-        grid.setCell(r, 0, QString::number(r));
+        grid.setCell(r, 0, testoNumero(r));
         grid.setCell(r, 1, leg.luogo);
         grid.setCell(r, 2, leg.strada);
         grid.setCell(r, 3, leg.km);

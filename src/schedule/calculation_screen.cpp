@@ -141,7 +141,7 @@ class Calcolo {
     /// The tests, until one fits or they are used up; false if the user stopped them.
     bool prove() {
         Adeguamento search(fittingData());
-        VistaCrescente view(form_, prepared_.righe, rowTexts(form_));
+        VistaCrescente view(form_, prepared_->righe, rowTexts(form_));
         s_.GiorniCalcolati = 0;
         beginSeries(search);
         do {
@@ -166,7 +166,7 @@ class Calcolo {
             form_.archivio.scriveRicavati([this] { storeCoefficient(form_); });
         showPanel(form_, last_.pannello);
         form_.txtFine(6).setText(QString::number(s_.GiorniCalcolati));
-        showSchedule(form_, prepared_, last_);
+        showSchedule(form_, *prepared_, last_);
         form_.cmdCalcola.setCaption(QStringLiteral("&Sblocca"));
         s_.ViandoriaCalcolata = true;
         AzzeraPercentuale(form_);
@@ -176,7 +176,7 @@ class Calcolo {
 
   private:
     [[nodiscard]] bool conSoste() const {
-        return static_cast<double>(prepared_.sosteGuida) + static_cast<double>(prepared_.sosteItinerario) != 0;
+        return static_cast<double>(prepared_->sosteGuida) + static_cast<double>(prepared_->sosteItinerario) != 0;
     }
 
     DatiAdeguamento fittingData() {
@@ -187,7 +187,7 @@ class Calcolo {
         data.giorniGuida = giorniDiGuida(driving, s_.OreGuidaGiorno);
         data.oreGuidaGiorno = s_.OreGuidaGiorno;
         if (data.giorniGuida <= s_.GiorniDesiderati)
-            data.sosteTotali = prepared_.sosteGuida + prepared_.sosteItinerario;
+            data.sosteTotali = prepared_->sosteGuida + prepared_->sosteItinerario;
         return data;
     }
 
@@ -202,9 +202,9 @@ class Calcolo {
     bool prova(VistaCrescente& view) {
         view.nuovaProva();
         showProgressText(form_);
-        s_.PercentualeTotale = static_cast<double>(prepared_.righe.size());
+        s_.PercentualeTotale = static_cast<double>(prepared_->righe.size());
         // Looks up from its work some two hundred times: often enough for the eye, and for "&Stop".
-        const int step = Maggiore(static_cast<int>(prepared_.righe.size()) / 200, 1);
+        const int step = Maggiore(static_cast<int>(prepared_->righe.size()) / 200, 1);
         const auto looksUp = [this, &view, step, next = 1](int row, const Viandoria& soFar) mutable {
             if (s_.InterrompiCalcolo || row < next)
                 return s_.InterrompiCalcolo;
@@ -214,7 +214,7 @@ class Calcolo {
             AggiornaPercentuale(form_);
             return false;
         };
-        last_ = simula(prepared_.righe, parametriSimulazione(form_), s_.Coefficiente, looksUp, std::move(last_));
+        last_ = simula(prepared_->righe, parametriSimulazione(form_), s_.Coefficiente, looksUp, std::move(last_));
         s_.GiulianoCorrente = last_.giuliano;
         s_.OraCorrente = last_.ora;
         s_.NumeroTraghetti = last_.traghetti;
@@ -227,7 +227,7 @@ class Calcolo {
 
     Form& form_;
     StatoViaggio& s_;
-    RigheDiLavoro prepared_;
+    std::shared_ptr<const RigheDiLavoro> prepared_;
     Viandoria last_;
 };
 

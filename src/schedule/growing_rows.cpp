@@ -19,7 +19,7 @@ void cresce(std::vector<CelleViandoria>& rows, const Viandoria& soFar, const std
     added.righe.assign(first, first + static_cast<std::ptrdiff_t>(count));
     for (CelleViandoria& cells : celleViandoria(added, work, texts)) {
         if (!cells[colNumero].isEmpty())
-            cells[colNumero] = QString::number(rows.size() + 1);
+            cells[colNumero] = testoNumero(static_cast<int>(rows.size()) + 1);
         rows.push_back(std::move(cells));
     }
 }

@@ -1,6 +1,8 @@
 #include "schedule/preparation_screen.h"
 
 #include <algorithm>
+#include <array>
+#include <numeric>
 
 #include "core/text.h"
 #include "itinerary/leg_table_screen.h"
@@ -42,12 +44,22 @@ QString stopText(float stop, QChar decimalMark) {
     return stop == 1 ? QStringLiteral("01") : testoNumero(stop, decimalMark);
 }
 
-Celle workingRow(const RigaDiLavoro& work, const Grid::Rows& legs, QChar decimalMark) {
+/// What a working row shows of its leg.
+using CelleTappa = std::array<QString, 7>;
+
+std::vector<CelleTappa> shownOfLegs(const Grid::Rows& rows) {
+    std::vector<CelleTappa> legs(rows.size());
+    for (std::size_t r = 0; r < rows.size(); ++r)
+        std::ranges::copy_n(rows[r].begin(), std::min(std::ssize(legs[r]), std::ssize(rows[r])), legs[r].begin());
+    return legs;
+}
+
+Celle workingRow(const RigaDiLavoro& work, const std::vector<CelleTappa>& legs, QChar decimalMark) {
     using enum RigaDiLavoro::Tipo;
     Celle cells;
     if (work.tipo == Tappa) {
-        const Celle& leg = legs[static_cast<std::size_t>(work.tappa - 1)];
-        cells.assign(leg.begin(), leg.begin() + std::min<std::ptrdiff_t>(7, std::ssize(leg)));
+        const CelleTappa& leg = legs[static_cast<std::size_t>(work.tappa - 1)];
+        cells.assign(leg.begin(), leg.end());
     }
     const auto write = [&cells](std::size_t column, const QString& text) {
         if (cells.size() <= column)
@@ -68,24 +80,29 @@ Celle workingRow(const RigaDiLavoro& work, const Grid::Rows& legs, QChar decimal
     return cells;
 }
 
-void showWorkingRows(Form& form, const std::vector<RigaDiLavoro>& rows, const Grid::Rows& legs) {
+/// Nobody sees this table but who asks for it: its rows are made then.
+void showWorkingRows(Form& form, const std::shared_ptr<const RigheDiLavoro>& work, const Grid::Rows& legs) {
     Grid& grid = form.mfgCopia;
+    const std::vector<RigaDiLavoro>& rows = work->righe;
     const SenzaRidisegno quiet(grid);
     grid.setRows(1);
     grid.setColumns(form.mfgTab.columns());
     grid.clearCells();
     ImpostaGriglia(form, Disposizione::RigheDiLavoro);
-    Grid::Rows cells;
-    cells.reserve(rows.size());
-    for (const RigaDiLavoro& row : rows)
-        cells.push_back(workingRow(row, legs, form.ambiente.decimalMark));
-    grid.setContents(std::move(cells));
+    grid.setRows(static_cast<int>(rows.size()) + 1);
+    std::vector<int> columns(static_cast<std::size_t>(grid.columns()));
+    std::iota(columns.begin(), columns.end(), 0);
+    grid.setColumnsLater(1, columns,
+                         [work, shown = shownOfLegs(legs), mark = form.ambiente.decimalMark](int row, Celle& cells) {
+                             if (const auto at = static_cast<std::size_t>(row - 1); at < work->righe.size())
+                                 cells = workingRow(work->righe[at], shown, mark);
+                         });
     form.stato.RigaCaricata = static_cast<int>(rows.size());
 }
 
 } // namespace
 
-RigheDiLavoro PreparaTabellaPerCalcoloViandoria(Form& form) {
+std::shared_ptr<const RigheDiLavoro> PreparaTabellaPerCalcoloViandoria(Form& form) {
     StatoViaggio& s = form.stato;
     ControllaVariabiliConvertite(form);
     PulisciFinestre(form);
@@ -110,9 +127,9 @@ RigheDiLavoro PreparaTabellaPerCalcoloViandoria(Form& form) {
                 AggiornaPercentuale(form);
             },
     };
-    RigheDiLavoro prepared = preparaRighe(legsToPrepare(*form.tappeConservate), with);
+    auto prepared = std::make_shared<const RigheDiLavoro>(preparaRighe(legsToPrepare(*form.tappeConservate), with));
     guide.scrive();
-    showWorkingRows(form, prepared.righe, *form.tappeConservate);
+    showWorkingRows(form, prepared, *form.tappeConservate);
     return prepared;
 }
 

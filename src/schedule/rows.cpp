@@ -37,7 +37,10 @@ float minutiInteri(float stop, float visitingDay) {
 
 /// A stop within a day shows hours and minutes alone.
 QString lunghezzaSosta(float length, float visitingDay) {
-    const QString text = ghmCentesimi2Stringa(length, visitingDay > 0 ? visitingDay : giornoIntero);
+    const float unit = visitingDay > 0 ? visitingDay : giornoIntero;
+    if (scompone(length, unit).gg == 0)
+        return ghmSenzaGiorni(length, unit);
+    const QString text = ghmCentesimi2Stringa(length, unit);
     return text.size() >= 7 && text.startsWith(u"00") ? Mid(text, 4) : text;
 }
 
@@ -61,10 +64,10 @@ QString noteDelTratto(const RigaViandoria& row, const QString& breakMinutes) {
 
 void scriveTratto(CelleViandoria& cells, int number, const RigaViandoria& row, const RigaDiLavoro& work,
                   const TestiViandoria& texts) {
-    cells[colNumero] = QString::number(number);
+    cells[colNumero] = testoNumero(number);
     cells[colTappa] = row.verso ? u"verso: "_s + RiPulisceNomeLocalita(work.nome) : work.nome;
     cells[colStrada] = Trim(texts.tappa(work.tappa, colStrada));
-    cells[colKm] = row.km == 0 ? QString() : QString::number(row.km);
+    cells[colKm] = row.km == 0 ? QString() : testoNumero(row.km);
     cells[colTipo] = texts.tappa(work.tappa, colTipo);
     cells[colKmProgressivi] = migliaia(row.kmTotali);
     cells[colTempo] = ghmSenzaGiorni(row.tempo, texts.oreGuidaGiorno);

@@ -47,7 +47,7 @@ void workOutAll(Form& form, const Medie& speeds) {
     totals.ricalcola(std::move(legs), speeds);
     grid.setColumnsLater(1, {colonnaProgressivi, colonnaOre}, [&totals](int row, std::vector<QString>& cells) {
         const auto& leg = totals.tratto(row);
-        if (!leg || leg->km == 0)
+        if (!leg || leg->km == 0 || cells.empty())
             return;
         cells[colonnaOre] = ghmSenzaGiorni(totals.tempo(row), unGiornoDi99Ore);
         cells[colonnaProgressivi] = migliaiaZero(static_cast<double>(totals.kmProgressivi(row)));

@@ -1,6 +1,7 @@
 #include "store/statement.h"
 
 #include <array>
+#include <vector>
 
 #include <sqlite3.h>
 
@@ -18,6 +19,17 @@ QString decoded(QByteArrayView utf8) {
     constexpr QByteArrayView mark("\xEF\xBB\xBF");
     return utf8.startsWith(mark) ? QChar(QChar::ByteOrderMark) + decoded(utf8.sliced(mark.size()))
                                  : QString::fromUtf8(utf8);
+}
+
+/// Kinds of road, marks and blanks: the same text for each, which takes no memory of its own.
+const QString& oneLetter(char utf8) {
+    static const std::vector<QString> letters = [] {
+        std::vector<QString> texts;
+        for (int c = 0; c < 256; ++c)
+            texts.push_back(decoded(QByteArray(1, static_cast<char>(c))));
+        return texts;
+    }();
+    return letters[static_cast<unsigned char>(utf8)];
 }
 
 } // namespace
@@ -122,7 +134,10 @@ qint64 Statement::integer(int column) const {
 
 QString Statement::text(int column) const {
     const auto* const utf8 = reinterpret_cast<const char*>(sqlite3_column_text(statement_.get(), column));
-    return utf8 == nullptr ? QString() : decoded({utf8, sqlite3_column_bytes(statement_.get(), column)});
+    if (utf8 == nullptr)
+        return {};
+    const int bytes = sqlite3_column_bytes(statement_.get(), column);
+    return bytes == 1 ? oneLetter(*utf8) : decoded({utf8, bytes});
 }
 
 int Statement::bytes(int column) const {

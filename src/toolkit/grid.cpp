@@ -152,8 +152,7 @@ void Grid::tellLater() {
 
 void Grid::makeUpTo(int row) const {
     for (const int end = std::min(row + 1, laterEnd_); later_ < end; ++later_) {
-        if (auto& cells = cells_[static_cast<std::size_t>(later_)]; !cells.empty())
-            make_(later_, cells);
+        make_(later_, cells_[static_cast<std::size_t>(later_)]);
     }
 }
 

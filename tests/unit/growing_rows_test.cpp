@@ -168,7 +168,7 @@ TEST(RigheInCrescita, AreWhatTheWholeScheduleSays) {
     Trip trip;
     Form& form = trip.form();
     RigheDiLavoro work;
-    comando(form, [&] { work = PreparaTabellaPerCalcoloViandoria(form); });
+    comando(form, [&] { work = *PreparaTabellaPerCalcoloViandoria(form); });
     const TestiViandoria with = texts(form);
     const ParametriSimulazione p = parametriSimulazione(form);
     for (const int every : {1, 2, 7}) {
@@ -230,7 +230,7 @@ TEST(RigheInCrescita, StandInTheTableWhileTheirTestRuns) {
         ASSERT_FALSE(showings.empty());
         form.cmdCalcola.click();
         RigheDiLavoro work;
-        comando(form, [&] { work = PreparaTabellaPerCalcoloViandoria(form); });
+        comando(form, [&] { work = *PreparaTabellaPerCalcoloViandoria(form); });
         const TestiViandoria with = texts(form);
         for (const Showing& at : showings) {
             ASSERT_EQ(at.rows, firstRows(at, work.righe, with)) << at.walked;
