@@ -6,6 +6,7 @@
 #include <sqlite3.h>
 
 #include "core/collation.h"
+#include "core/place_name.h"
 
 namespace vanzer::bench {
 
@@ -156,6 +157,17 @@ void BareArchive::insertInto(const std::string& table, const BareRows& rows) {
             throw std::runtime_error(sqlite3_errmsg(connection_.get()));
         sqlite3_reset(statement.get());
     }
+}
+
+void readCurrentTrip(const QString& folder) {
+    constexpr std::size_t placeColumn = 2;
+    BareArchive archive(folder + QStringLiteral("/Vanzer.mdb"));
+    const std::string code = archive.currentCode();
+    archive.readDestination(code);
+    std::vector<QString> places;
+    for (const auto& leg : archive.legs(code))
+        places.push_back(PulisceNomeLocalita(QString::fromStdString(leg[placeColumn].value_or(std::string()))));
+    archive.readGuide(places);
 }
 
 } // namespace vanzer::bench

@@ -27,7 +27,7 @@ class BareArchive {
     BareArchive(const BareArchive&) = delete;
     BareArchive& operator=(const BareArchive&) = delete;
 
-    /// The code of the current destination, its record and its legs in their order.
+    /// The code of the current destination; the record of one, and its legs in their order.
     [[nodiscard]] std::string currentCode();
     long readDestination(const std::string& code);
     [[nodiscard]] BareRows legs(const std::string& code);
@@ -50,5 +50,8 @@ class BareArchive {
     };
     std::unique_ptr<sqlite3, Closer> connection_;
 };
+
+/// What the program reads of its current trip at a start: the destination, its legs, what the guide knows of them.
+void readCurrentTrip(const QString& folder);
 
 } // namespace vanzer::bench

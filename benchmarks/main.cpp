@@ -22,6 +22,12 @@ QString time(double seconds) {
     return QString::number(ms, 'f', ms < 0.1 ? 4 : ms < 10 ? 2 : ms < 100 ? 1 : 0) + QStringLiteral(" ms");
 }
 
+QString memory(double megabytes) {
+    constexpr double most = 150;
+    const QString text = QString::number(megabytes, 'f', 0) + QStringLiteral(" MB");
+    return megabytes == 0 ? QString() : megabytes <= most ? text : QStringLiteral("**") + text + QStringLiteral("**");
+}
+
 /// "at most 1.5", and whether it is.
 QString aim(const Run& run) {
     const double ratio = counter(run, "ratio");
@@ -50,10 +56,10 @@ class Table : public benchmark::BenchmarkReporter {
             const QStringList sides = QString::fromStdString(run.report_label).split(u'|');
             const double ratio = counter(run, "ratio");
             const QString row =
-                QStringLiteral("| %1 | %2 | %3 | %4 | %5 | %6 | %7 MB |")
+                QStringLiteral("| %1 | %2 | %3 | %4 | %5 | %6 | %7 |")
                     .arg(sides[0].trimmed(), time(counter(run, "ours")), sides[1].trimmed(),
                          time(counter(run, "theirs")), ratio == 0 ? QString() : QString::number(ratio, 'f', 2),
-                         aim(run), QString::number(counter(run, "peak"), 'f', 0));
+                         aim(run), memory(counter(run, "peak")));
             std::printf("%s\n", row.toUtf8().constData());
         }
         std::fflush(stdout);

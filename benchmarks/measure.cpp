@@ -6,8 +6,6 @@
 #include <utility>
 #include <vector>
 
-#include <sys/resource.h>
-
 #include <QFile>
 
 namespace vanzer::bench {
@@ -49,13 +47,8 @@ void resetPeak() {
         clear.write("5");
 }
 
-/// The most memory that the process has held since, or that a process has held that it waited for; MB.
-double peak(bool ofThisProcess) {
-    if (!ofThisProcess) {
-        rusage children{};
-        getrusage(RUSAGE_CHILDREN, &children);
-        return static_cast<double>(children.ru_maxrss) / 1024;
-    }
+/// The most memory that the process has held since, MB.
+double peak() {
     QFile status(QStringLiteral("/proc/self/status"));
     if (!status.open(QIODevice::ReadOnly))
         return 0;
@@ -88,7 +81,7 @@ void compare(benchmark::State& state, const Beside& sides, const Timed& ours, co
     for (auto _ : state) {
         resetPeak();
         mine.tryOut();
-        memory = peak(sides.inProcess);
+        memory = sides.inProcess ? peak() : 0;
         other.tryOut();
         for (std::size_t i = 0; i < turns; ++i) {
             our[i] = mine.sample();
@@ -114,7 +107,7 @@ void report(benchmark::State& state, const std::string& work, const Timed& ours)
     for (auto _ : state) {
         resetPeak();
         mine.tryOut();
-        memory = peak(true);
+        memory = peak();
         std::ranges::generate(our, [&mine] { return mine.sample(); });
         state.SetIterationTime(median(our));
     }

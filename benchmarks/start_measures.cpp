@@ -1,14 +1,15 @@
 // From the start of the program to its first idle moment, on a big archive whose copy of the day is made.
 
+#include <stdexcept>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "bare_archive.h"
-#include "big_trip.h"
-#include "core/place_name.h"
+#include "batch/session.h"
+#include "big_archive.h"
 #include "measure.h"
 #include "store/daily_copy.h"
 
@@ -16,96 +17,87 @@ namespace vanzer::bench {
 
 namespace {
 
-QString program(const char* name) {
-    return QCoreApplication::applicationDirPath() + u'/' + QLatin1StringView(name);
+Timed program(const char* name, const QStringList& arguments) {
+    const QString path = QCoreApplication::applicationDirPath() + u'/' + QLatin1StringView(name);
+    return timed([path, arguments] {
+        QProcess process;
+        process.setStandardOutputFile(QProcess::nullDevice());
+        process.setStandardErrorFile(QProcess::nullDevice());
+        process.start(path, arguments);
+        process.waitForFinished();
+        if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+            throw std::runtime_error("a program that was to be timed failed");
+    });
 }
 
-void run(const QString& path, const QStringList& arguments) {
-    QProcess process;
-    process.setStandardErrorFile(QProcess::nullDevice());
-    process.start(path, arguments);
-    process.waitForFinished();
-    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
-        throw std::runtime_error("a program that was to be timed failed");
-}
-
-/// The big archive in a folder of its own, with the places of its current trip.
+/// The big archive in a folder of its own.
 class Folder {
   public:
     Folder() {
-        QFile::copy(bigArchive() + QStringLiteral("/Vanzer.mdb"), archive());
-        QFile script(path("start.txt"));
+        QFile::copy(bigArchive() + QStringLiteral("/Vanzer.mdb"), file("Vanzer.mdb"));
+        QFile script(file("start.txt"));
         if (script.open(QIODevice::WriteOnly))
             script.write("start\nstop\n");
         script.close();
-        batch::Session session({.directory = directory_.path(), .decimalMark = u'.', .versione = {}});
-        session.start();
-        const Grid& table = session.window()->mfgTab;
-        for (int r = 1; r <= session.window()->stato.NumeroTappe; ++r)
-            places_.push_back(PulisceNomeLocalita(table.cell(r, 1)));
+        batch::Session({.directory = path(), .decimalMark = u'.', .versione = {}}).start();
     }
 
-    [[nodiscard]] QString folder() const { return directory_.path(); }
-    [[nodiscard]] QString path(const char* name) const { return directory_.filePath(QLatin1StringView(name)); }
-    [[nodiscard]] QString archive() const { return path("Vanzer.mdb"); }
-
-    /// What the program reads of its current trip.
-    void readBare() const {
-        BareArchive bare(archive());
-        const std::string code = bare.currentCode();
-        benchmark::DoNotOptimize(bare.readDestination(code));
-        benchmark::DoNotOptimize(bare.readLegs(code));
-        benchmark::DoNotOptimize(bare.readGuide(places_));
-    }
+    [[nodiscard]] QString path() const { return directory_.path(); }
+    [[nodiscard]] QString file(const char* name) const { return directory_.filePath(QLatin1StringView(name)); }
 
   private:
     QTemporaryDir directory_;
-    std::vector<QString> places_;
 };
-
-constexpr const char* against = "an empty Qt program, and the current trip read by bare calls";
 
 } // namespace
 
 void startOfBatch(benchmark::State& state) {
     const Folder folder;
-    const QStringList script{QStringLiteral("--dir"), folder.folder(), QStringLiteral("--script"),
-                             folder.path("start.txt")};
-    compare(
-        state,
-        {.work = "start of `vanzer-batch` to idle, big archive", .against = against, .atMost = 1.5, .inProcess = false},
-        timed([&] { run(program("vanzer-batch"), script); }), timed([&] {
-            run(program("empty_batch"), {});
-            folder.readBare();
-        }));
+    const QStringList script{QStringLiteral("--dir"), folder.path(), QStringLiteral("--script"),
+                             folder.file("start.txt")};
+    compare(state,
+            {.work = "start of `vanzer-batch` to idle, big archive",
+             .against = "a Qt program that reads the current trip by bare calls",
+             .atMost = 1.5,
+             .inProcess = false},
+            program("vanzer-batch", script), program("least_batch", {folder.path()}));
 }
 BENCHMARK(startOfBatch)->Iterations(1)->UseManualTime();
 
 void startOfWindow(benchmark::State& state) {
     const Folder folder;
     compare(state,
-            {.work = "start of the window to idle, big archive", .against = against, .atMost = 1.5, .inProcess = false},
-            timed([&] { run(program("vanzer_window"), {folder.folder()}); }), timed([&] {
-                run(program("empty_window"), {});
-                folder.readBare();
-            }));
+            {.work = "start of the window to idle, big archive",
+             .against = "the same and an empty window",
+             .atMost = 1.5,
+             .inProcess = false},
+            program("vanzer_window", {folder.path()}), program("least_window", {folder.path()}));
 }
 BENCHMARK(startOfWindow)->Iterations(1)->UseManualTime();
+
+/// What of that is the platform's way to its fonts.
+void startWithText(benchmark::State& state) {
+    const Folder folder;
+    compare(state, {.work = "a Qt window with one word", .against = "an empty one", .inProcess = false},
+            program("least_window", {folder.path(), QStringLiteral("Vanzer")}),
+            program("least_window", {folder.path()}));
+}
+BENCHMARK(startWithText)->Iterations(1)->UseManualTime();
 
 /// The first start of a day copies the archive.
 void copyOfTheDay(benchmark::State& state) {
     const Folder folder;
-    const auto archive = store::Database::apre(folder.archive());
-    const QString bareCopy = folder.path("bare.mdb");
-    const auto copies = [&folder] { QDir(folder.path("Copie")).removeRecursively(); };
+    const auto archive = store::Database::apre(folder.file("Vanzer.mdb"));
+    const QString plainCopy = folder.file("copia.mdb");
     const auto ours = [&] {
-        copies();
+        QDir(folder.file("Copie")).removeRecursively();
         return seconds([&] { static_cast<void>(store::copiaDelGiorno(*archive, QDate(2026, 5, 4), {})); });
     };
-    compare(state, {.work = "copy of the day, big archive", .against = "the file copied by the system"}, ours, [&] {
-        QFile::remove(bareCopy);
-        return seconds([&] { QFile::copy(folder.archive(), bareCopy); });
-    });
+    compare(state, {.work = "copy of the day, big archive, checked", .against = "the file copied by the system"}, ours,
+            [&] {
+                QFile::remove(plainCopy);
+                return seconds([&] { QFile::copy(folder.file("Vanzer.mdb"), plainCopy); });
+            });
 }
 BENCHMARK(copyOfTheDay)->Iterations(1)->UseManualTime();
 

@@ -1,5 +1,7 @@
 // vanzer_window FOLDER: the program on the archive of a folder. Ends when its window is there and nothing is left to
 // do.
+#include <cstdlib>
+
 #include <QApplication>
 #include <QTimer>
 #include <QWindow>
@@ -17,6 +19,6 @@ int main(int argc, char** argv) {
         return 1;
     while (!program.window().windowHandle()->isExposed())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    QTimer::singleShot(0, &application, [] { QCoreApplication::exit(); });
+    QTimer::singleShot(0, &application, [] { std::_Exit(0); });
     return QApplication::exec();
 }

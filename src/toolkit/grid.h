@@ -47,7 +47,7 @@ class Grid : public Control {
 
     /// From `firstRow` on the texts of some columns are made when somebody looks at them: `make` writes them into the
     /// cells of a row, for all rows up to the one looked at, in rising order and each once. It may not look at the
-    /// grid.
+    /// grid. A row that was blank so far has no cells at all.
     using FaRiga = std::function<void(int row, std::vector<QString>& cells)>;
     void setColumnsLater(int firstRow, const std::vector<int>& columns, FaRiga make);
     /// The same texts are out of date from a row on.
