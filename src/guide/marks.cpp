@@ -7,7 +7,7 @@ namespace vanzer {
 std::vector<VoceGuida> SegniGuida::unused(const std::vector<VoceGuida>& entries) {
     std::vector<VoceGuida> fresh;
     for (const VoceGuida& entry : entries) {
-        if (used_.insert(entry.rowid).second)
+        if (used_.insert(entry.rowid))
             fresh.push_back(entry);
     }
     return fresh;

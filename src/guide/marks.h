@@ -2,7 +2,6 @@
 // first passage through its place. A run begins with no mark set; the marks are kept in memory and written at its end.
 #pragma once
 
-#include <unordered_set>
 #include <vector>
 
 #include "store/archive.h"
@@ -27,7 +26,7 @@ class SegniGuida {
     [[nodiscard]] std::vector<VoceGuida> unused(const std::vector<VoceGuida>& entries);
 
     store::Archive& archive_;
-    std::unordered_set<qint64> used_;
+    store::InsiemeDiRighe used_;
 };
 
 /// Time of an entry in hundredths: hh:mm, or whole visiting days "G1" to "G8" of `visitingDay` hundredths each plus the

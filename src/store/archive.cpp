@@ -1,6 +1,7 @@
 #include "store/archive.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include <QDir>
@@ -212,12 +213,12 @@ LettoreGuida& Archive::guida() {
     return *guida_;
 }
 
-void Archive::rimetteVisti(const std::unordered_set<qint64>& used) {
+void Archive::rimetteVisti(const InsiemeDiRighe& used) {
     const auto guide = storedTable(0, GuidaCitta);
     const QByteArray table = quotedName(guide->nome);
     const QByteArray mark = quotedName(markField());
     std::vector<qint64> toClear;
-    std::unordered_set<qint64> toSet = used;
+    InsiemeDiRighe asWanted;
     const StatementLease marked =
         archive().prepara("SELECT rowid, " + mark + "='1' FROM " + table + " WHERE " + mark + " IS NOT '0'");
     while (marked->step()) {
@@ -225,10 +226,13 @@ void Archive::rimetteVisti(const std::unordered_set<qint64>& used) {
         if (!used.contains(rowid))
             toClear.push_back(rowid);
         else if (!marked->isNull(1) && marked->integer(1) == 1)
-            toSet.erase(rowid);
+            asWanted.insert(rowid);
     }
     marked->reset();
-    const auto write = [&](const QByteArray& value, const auto& rowids) {
+    std::vector<qint64> toSet;
+    std::ranges::remove_copy_if(used.righe(), std::back_inserter(toSet),
+                                [&asWanted](qint64 rowid) { return asWanted.contains(rowid); });
+    const auto write = [&](const QByteArray& value, const std::vector<qint64>& rowids) {
         if (rowids.empty())
             return;
         const StatementLease change =
@@ -238,6 +242,8 @@ void Archive::rimetteVisti(const std::unordered_set<qint64>& used) {
             archive().scrive(*guide, *change);
         }
     };
+    if (toClear.empty() && toSet.empty())
+        return;
     scriveRicavati([&] {
         Transaction all(archive());
         guida().scriveSegni([&] {

@@ -6,7 +6,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <unordered_set>
 #include <variant>
 #include <vector>
 
@@ -17,6 +16,7 @@
 #include "store/guide_reader.h"
 #include "store/query.h"
 #include "store/recordset.h"
+#include "store/row_set.h"
 #include "store/schema.h"
 
 namespace vanzer::store {
@@ -98,7 +98,7 @@ class Archive {
 
     /// Exactly these entries of the guide carry the mark of use from here on. Costs what is marked before and after,
     /// not the size of the guide, and writes only what changes. They can be made anew: see scriveRicavati.
-    void rimetteVisti(const std::unordered_set<qint64>& used);
+    void rimetteVisti(const InsiemeDiRighe& used);
 
     /// Commands on the archive in use, see Database.
     void beginCommand() { archive().beginCommand(); }
