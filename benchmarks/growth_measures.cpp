@@ -7,6 +7,7 @@
 #include "big_trip.h"
 #include "itinerary/leg_table_screen.h"
 #include "measure.h"
+#include "paper.h"
 #include "places.h"
 #include "window/command.h"
 
@@ -159,14 +160,10 @@ double savesDestination(BigTrip& trip) {
 }
 
 double prints(BigTrip& trip) {
-    Form& form = trip.form();
-    form.cmdStampa.click();
-    form.chkTabella.setValue(true);
-    form.cmdEsegui(0).click();
-    form.lstStampanti.setText(QStringLiteral("PDF"));
-    trip.choose(trip.file("viandoria.pdf"));
-    const double taken = clicked(form.cmdSelStampante(0));
-    static_cast<void>(form.cmdCalcola.caption() == u"&Calcola" || (form.cmdCalcola.click(), true));
+    const double taken = printsSchedule(trip);
+    trip.form().cmdEsegui(1).click();
+    if (trip.form().cmdCalcola.caption() != u"&Calcola")
+        trip.form().cmdCalcola.click();
     return taken;
 }
 

@@ -214,6 +214,8 @@ LettoreGuida& Archive::guida() {
 }
 
 void Archive::rimetteVisti(const InsiemeDiRighe& used) {
+    if (guida().segnate(used))
+        return;
     const auto guide = storedTable(0, GuidaCitta);
     const QByteArray table = quotedName(guide->nome);
     const QByteArray mark = quotedName(markField());
@@ -242,11 +244,9 @@ void Archive::rimetteVisti(const InsiemeDiRighe& used) {
             archive().scrive(*guide, *change);
         }
     };
-    if (toClear.empty() && toSet.empty())
-        return;
     scriveRicavati([&] {
         Transaction all(archive());
-        guida().scriveSegni([&] {
+        guida().scriveSegni(used, [&] {
             write("0", toClear);
             write("1", toSet);
         });

@@ -61,9 +61,10 @@ void LettoreGuida::forget() noexcept {
     places_.clear();
     patterns_.clear();
     kept_ = 0;
+    marked_.reset();
 }
 
-void LettoreGuida::scriveSegni(const std::function<void()>& write) {
+void LettoreGuida::scriveSegni(const InsiemeDiRighe& entries, const std::function<void()>& write) {
     onlyMarks_ = true;
     try {
         write();
@@ -72,6 +73,7 @@ void LettoreGuida::scriveSegni(const std::function<void()>& write) {
         throw;
     }
     onlyMarks_ = false;
+    marked_ = entries;
 }
 
 void LettoreGuida::primaDiScrivere(const TableInfo& table) {

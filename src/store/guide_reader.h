@@ -3,12 +3,14 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
 #include <QString>
 
 #include "store/database.h"
+#include "store/row_set.h"
 
 namespace vanzer::store {
 
@@ -36,8 +38,11 @@ class LettoreGuida final : public LiveSet {
     /// The entries whose place matches the pattern, in the order in which they were added.
     [[nodiscard]] const Voci& leggeModello(const QString& pattern);
 
-    /// Runs what writes nothing of the guide but marks of use, which no entry tells: what was read is kept.
-    void scriveSegni(const std::function<void()>& write);
+    /// Whether exactly these entries are known to carry the mark of use.
+    [[nodiscard]] bool segnate(const InsiemeDiRighe& entries) const { return marked_ == entries; }
+    /// Runs what writes nothing of the guide but the marks of use of these entries: no entry tells them, so what was
+    /// read is kept.
+    void scriveSegni(const InsiemeDiRighe& entries, const std::function<void()>& write);
 
     void primaDiScrivere(const TableInfo& table) override;
     void annullato() noexcept override { forget(); }
@@ -53,6 +58,7 @@ class LettoreGuida final : public LiveSet {
     Lette places_;
     Lette patterns_;
     std::size_t kept_ = 0; ///< entries in all
+    std::optional<InsiemeDiRighe> marked_;
     bool onlyMarks_ = false;
 };
 

@@ -1,6 +1,7 @@
 // Records of a table told by their numbers (rowid), which are small and close together: a bit for each.
 #pragma once
 
+#include <algorithm>
 #include <initializer_list>
 #include <unordered_set>
 #include <vector>
@@ -35,6 +36,10 @@ class InsiemeDiRighe {
             return others_.contains(rowid);
         const auto at = static_cast<std::size_t>(rowid);
         return at < bits_.size() && bits_[at];
+    }
+    [[nodiscard]] bool operator==(const InsiemeDiRighe& other) const {
+        return rows_.size() == other.rows_.size() &&
+               std::ranges::all_of(rows_, [&other](qint64 rowid) { return other.contains(rowid); });
     }
     /// In the order in which they came.
     [[nodiscard]] const std::vector<qint64>& righe() const { return rows_; }
