@@ -33,8 +33,8 @@ bool fits(const Statement& old, int column, FieldKind from, const FieldDef& to) 
 
 /// Field by field, by position: a descriptor only ever grows at its end.
 void copyTable(Database& from, const TableInfo& old, Database& to, const TableInfo& made) {
-    const StatementLease source = from.prepara(selectSql(old) + " ORDER BY rowid");
-    const StatementLease target = to.prepara(insertSql(made));
+    const StatementLease source = from.prepara(old.selezione + " ORDER BY rowid");
+    const StatementLease target = to.prepara(made.inserimento);
     const std::size_t common = std::min(old.campi.size(), made.campi.size());
     for (std::size_t field = common; field < made.campi.size(); ++field)
         target->bind(static_cast<int>(field) + 1, valoreIniziale(made.campi[field]));

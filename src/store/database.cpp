@@ -96,7 +96,7 @@ Database::~Database() {
     statements_.clear();
     // In exclusive mode an emptied journal stays beside the file; back in normal mode the engine takes it away. Beside
     // another file that has taken the place of this one it may be another program's.
-    if (!inPlace())
+    if (!inPlace() || !hasJournal())
         return;
     sqlite3_exec(connection_.get(),
                  "PRAGMA locking_mode=NORMAL; SELECT count(*) FROM sqlite_schema; "
@@ -137,6 +137,8 @@ std::shared_ptr<const TableInfo> Database::tabella(const QString& name) {
     fields->bindText(1, QStringView(*found));
     while (fields->step())
         table->campi.push_back(fieldOfType(fields->text(0), fields->text(1)));
+    table->selezione = selectSql(*table);
+    table->inserimento = insertSql(*table);
     tables_.insert(key, table);
     return table;
 }
@@ -232,6 +234,11 @@ bool Database::inPlace() const {
     int moved = 0;
     sqlite3_file_control(connection_.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
     return moved == 0;
+}
+
+bool Database::hasJournal() const {
+    return QFileInfo::exists(
+        QString::fromUtf8(sqlite3_filename_journal(sqlite3_db_filename(connection_.get(), "main"))));
 }
 
 // A disk that fails at the very last step of a commit, when all is stored already, makes the engine call it failed. The

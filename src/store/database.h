@@ -113,6 +113,7 @@ class Database {
     void run(const char* sql);
     [[nodiscard]] int storedVersion();
     [[nodiscard]] bool inPlace() const;
+    [[nodiscard]] bool hasJournal() const;
     void commitTransaction();
     void beforeWrite(const TableInfo& table);
     void rollbackNow() noexcept;

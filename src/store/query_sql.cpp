@@ -99,13 +99,12 @@ Translation makeTranslation(Database& database, const Query& query, const std::v
     form.wholeTable = conditions.empty() && query.orderBy.empty();
     const OrderSql order = orderSql(database, table, query, hasRange);
     const QByteArray count = "SELECT count(*) FROM " + quotedName(table.nome) + where;
-    const QByteArray select = selectSql(table);
-    form.select = select + (form.wholeTable ? " WHERE rowid > ?" : where) + order.forward;
-    form.last = select + where + order.backward;
+    form.select = table.selezione + (form.wholeTable ? " WHERE rowid > ?" : where) + order.forward;
+    form.last = table.selezione + where + order.backward;
     form.count = count;
     form.countBelow = count + (where.isEmpty() ? " WHERE" : " AND") + " rowid < ?";
-    form.byRowid = select + " WHERE rowid = ?";
-    form.insert = insertSql(table);
+    form.byRowid = table.selezione + " WHERE rowid = ?";
+    form.insert = table.inserimento;
     form.deleteAll = "DELETE FROM " + quotedName(table.nome) + where;
     return form;
 }

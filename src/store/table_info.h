@@ -16,6 +16,8 @@ namespace vanzer::store {
 struct TableInfo {
     QString nome;
     std::vector<FieldDef> campi;
+    QByteArray selezione; ///< selectSql and insertSql of it, made once
+    QByteArray inserimento;
 
     /// Position of the field of that name, case ignored; -1 if there is none.
     [[nodiscard]] int campo(QAnyStringView name) const;
