@@ -1,5 +1,5 @@
-// vanzer_counted WORK: one of the key works on a fixed trip, for an instruction counter that looks at the work alone.
-// Prints how many rows it went through. benchmarks/count runs it.
+// vanzer_counted WORK [LEGS]: one of the key works on a trip of so many legs, 1,000 without, for an instruction counter
+// that looks at the work alone. Prints how many rows it went through. benchmarks/count runs it.
 
 #include <cstdio>
 #include <functional>
@@ -18,7 +18,6 @@ namespace {
 using namespace vanzer;
 using bench::BigTrip;
 
-constexpr int legs = 1000;
 constexpr int typed = 100;
 
 void counted(const std::function<void()>& work) {
@@ -43,14 +42,33 @@ std::size_t simulation(BigTrip& trip) {
 std::size_t calculation(BigTrip& trip) {
     trip.wantTheImpossible();
     counted([&] { trip.form().cmdCalcola.click(); });
-    return legs;
+    return static_cast<std::size_t>(trip.legs());
+}
+
+/// "&Sblocca": the legs again.
+std::size_t unlocking(BigTrip& trip) {
+    trip.form().cmdCalcola.click();
+    counted([&] { trip.form().cmdCalcola.click(); });
+    return static_cast<std::size_t>(trip.legs());
+}
+
+std::size_t loading(BigTrip& trip) {
+    counted([&] { trip.reload(); });
+    return static_cast<std::size_t>(trip.legs());
+}
+
+/// "&Cerca": the list of all legs.
+std::size_t listing(BigTrip& trip) {
+    trip.form().cmdItinerario.click();
+    counted([&] { trip.form().cmdCerca.click(); });
+    return static_cast<std::size_t>(trip.legs());
 }
 
 /// Legs typed at the end, one by one.
 std::size_t typing(BigTrip& trip) {
     Form& form = trip.form();
     form.cmdItinerario.click();
-    form.stato.RigaCorrente = legs + 1;
+    form.stato.RigaCorrente = trip.legs() + 1;
     counted([&form] {
         for (int i = 0; i < typed; ++i) {
             form.txtTappa.setText(QStringLiteral("ARRIVO"));
@@ -66,17 +84,18 @@ std::size_t typing(BigTrip& trip) {
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const std::map<QString, std::size_t (*)(BigTrip&)> works{
-        {QStringLiteral("simulation"), simulation},
-        {QStringLiteral("calculation"), calculation},
-        {QStringLiteral("typing"), typing},
+        {QStringLiteral("simulation"), simulation}, {QStringLiteral("calculation"), calculation},
+        {QStringLiteral("typing"), typing},         {QStringLiteral("loading"), loading},
+        {QStringLiteral("unlocking"), unlocking},   {QStringLiteral("listing"), listing},
     };
     const auto work = works.find(application.arguments().value(1));
     if (work == works.end()) {
-        std::fputs("usage: vanzer_counted simulation|calculation|typing\n", stderr);
+        std::fputs("usage: vanzer_counted simulation|calculation|typing|loading|unlocking|listing [LEGS]\n", stderr);
         return 2;
     }
     const QTemporaryDir archive;
-    bench::makeArchive(archive.path(), {.destinations = 1, .legs = 10, .entries = 20'000});
+    const int legs = application.arguments().size() > 2 ? application.arguments().at(2).toInt() : 1000;
+    bench::makeArchive(archive.path(), {.destinations = 1, .legs = 10, .entries = 20 * legs});
     BigTrip trip(legs, archive.path());
     std::printf("%zu\n", work->second(trip));
     return 0;

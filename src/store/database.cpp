@@ -94,13 +94,14 @@ Database::~Database() {
         set->abbandona();
     rollbackNow();
     statements_.clear();
-    // In exclusive mode an emptied journal stays beside the file; back in normal mode the engine takes it away. Beside
-    // another file that has taken the place of this one it may be another program's.
+    // In exclusive mode an emptied journal stays beside the file; back in normal mode the engine takes it away when
+    // its mode changes, also one that a killed program left there. Beside another file that has taken the place of
+    // this one it may be another program's.
     if (!inPlace() || !hasJournal())
         return;
     sqlite3_exec(connection_.get(),
                  "PRAGMA locking_mode=NORMAL; SELECT count(*) FROM sqlite_schema; "
-                 "PRAGMA journal_mode=DELETE",
+                 "PRAGMA journal_mode=PERSIST; PRAGMA journal_mode=DELETE",
                  nullptr, nullptr, nullptr);
 }
 
