@@ -117,9 +117,9 @@ QString migliaia(double x) {
 }
 
 QString migliaiaZero(double x) {
-    if (x >= 0 && x < 999)
-        return testoNumero(static_cast<int>(x + 0.5));
     // Half away from zero, as number formats round.
+    if (x >= 0 && x < 999)
+        return testoNumero(static_cast<int>(Int(x + 0.5)));
     const auto whole = static_cast<qlonglong>(std::floor(std::fabs(x) + 0.5));
     std::array<char, 24> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), whole).ptr;

@@ -68,7 +68,7 @@ QString ghmCentesimi2Stringa(float centesimi, float dayUnit) {
 }
 
 QString ghmSenzaGiorni(float centesimi, float dayUnit) {
-    static std::vector<QString> known(100 * 100); // a table of 10,000 rows has some hundred different times
+    static std::vector<QString> known(10'000); // a table of 10,000 rows has some hundred different times
     const Ghm time = scompone(centesimi, dayUnit);
     if (!inTwoDigits(time))
         return Mid(ghmCentesimi2Stringa(centesimi, dayUnit), 4);

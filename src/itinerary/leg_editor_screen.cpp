@@ -306,7 +306,7 @@ void cmdCerca_Click(Form& form) {
             continue;
         QString entry(31, u' ');
         std::ranges::copy(QStringView(place).left(31), entry.begin());
-        places << std::move(entry) + Zero(r, 4);
+        places << entry + Zero(r, 4);
     }
     form.cmbRicercaTappa.setEntries(places);
     form.cmbRicercaTappa.setVisible(true);

@@ -25,6 +25,7 @@ QString decoded(QByteArrayView utf8) {
 const QString& oneLetter(char utf8) {
     static const std::vector<QString> letters = [] {
         std::vector<QString> texts;
+        texts.reserve(256);
         for (int c = 0; c < 256; ++c)
             texts.push_back(decoded(QByteArray(1, static_cast<char>(c))));
         return texts;

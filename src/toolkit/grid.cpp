@@ -169,8 +169,8 @@ void Grid::noteChange(int row) {
 std::optional<std::vector<int>> Grid::takeChangedRows() {
     std::optional<std::vector<int>> changed = std::exchange(changed_, std::vector<int>());
     if (changed) {
-        std::ranges::sort(*changed);
-        changed->erase(std::ranges::unique(*changed).begin(), changed->end());
+        std::sort(changed->begin(), changed->end());
+        changed->erase(std::unique(changed->begin(), changed->end()), changed->end());
     }
     return changed;
 }
@@ -192,7 +192,7 @@ void Grid::shiftRows(int first, int last, int by) {
         return;
     setRedraw(false);
     std::vector<QString> numbers;
-    numbers.reserve(static_cast<std::size_t>(bottom - top + 1));
+    numbers.reserve(static_cast<std::size_t>(bottom) - static_cast<std::size_t>(top) + 1);
     for (int row = top; row <= bottom; ++row)
         numbers.push_back(std::exchange(widened(row).front(), QString()));
     const auto at = [this](int row) { return cells_.begin() + row; };
