@@ -73,7 +73,7 @@ void importing(benchmark::State& state) {
         BareArchive bare(copy);
         return seconds([&] { bare.insert(records); });
     };
-    compare(state, {.work = "import of 100,000 legs", .against = "the same records put in by bare calls", .atMost = 2},
+    measure(state, {.work = "import of 100,000 legs", .against = "the same records put in by bare calls", .atMost = 2},
             ours, theirs);
 }
 BENCHMARK(importing)->Iterations(1)->UseManualTime();

@@ -261,14 +261,14 @@ void grows(benchmark::State& state, const Command& command) {
     BigTrip large(many);
     command.prepare(small);
     command.prepare(large);
-    compare(
+    measure(
         state, growth(command.name), [&] { return command.work(large); }, [&] { return command.work(small); });
 }
 
 void plannerGrows(benchmark::State& state, const char* name, double (Planner::*work)()) {
     Planner small(few);
     Planner large(many);
-    compare(
+    measure(
         state, growth(name), [&] { return (large.*work)(); }, [&] { return (small.*work)(); });
 }
 

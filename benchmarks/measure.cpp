@@ -17,7 +17,7 @@ constexpr double shortest = 0.02; ///< seconds of a sample
 constexpr double longest = 0.5;   ///< with what goes around the work
 
 struct Side {
-    const Timed& work;
+    Timed work;
     int times = 1; ///< in a sample
 
     double sample() const {
@@ -71,10 +71,10 @@ Timed timed(std::function<void()> work) {
     return [work = std::move(work)] { return seconds(work); };
 }
 
-void compare(benchmark::State& state, const Beside& sides, const Timed& ours, const Timed& theirs) {
+void measure(benchmark::State& state, const Beside& sides, const Timed& ours, const Timed& theirs) {
     state.SetLabel(sides.work + " | " + sides.against);
     Side mine{ours};
-    Side other{theirs};
+    Side other{theirs ? theirs : [] { return 0.0; }};
     double memory = 0;
     std::array<double, turns> our{};
     std::array<double, turns> their{};
@@ -90,29 +90,15 @@ void compare(benchmark::State& state, const Beside& sides, const Timed& ours, co
         state.SetIterationTime(median(our));
     }
     state.counters["ours"] = median(our);
-    state.counters["theirs"] = median(their);
     state.counters["peak"] = memory;
+    if (!theirs)
+        return;
+    state.counters["theirs"] = median(their);
     state.counters["ratio"] = sides.atLeast ? median(their) / median(our) : median(our) / median(their);
     if (sides.atMost)
         state.counters["atMost"] = *sides.atMost;
     if (sides.atLeast)
         state.counters["atLeast"] = *sides.atLeast;
-}
-
-void report(benchmark::State& state, const std::string& work, const Timed& ours) {
-    state.SetLabel(work + " |");
-    Side mine{ours};
-    double memory = 0;
-    std::array<double, turns> our{};
-    for (auto _ : state) {
-        resetPeak();
-        mine.tryOut();
-        memory = peak();
-        std::ranges::generate(our, [&mine] { return mine.sample(); });
-        state.SetIterationTime(median(our));
-    }
-    state.counters["ours"] = median(our);
-    state.counters["peak"] = memory;
 }
 
 } // namespace vanzer::bench

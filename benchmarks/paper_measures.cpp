@@ -55,7 +55,7 @@ void printing(benchmark::State& state) {
                             QStringLiteral("--outdir"),
                             trip.folder(),
                             csv};
-    compare(
+    measure(
         state,
         {.work = "PDF of a schedule of " + rows + " rows", .against = "LibreOffice, the same table", .atLeast = 10},
         [&trip] { return printsSchedule(trip); }, timed([&] { run(office, toPdf); }));

@@ -55,7 +55,7 @@ void startOfBatch(benchmark::State& state) {
     const Folder folder;
     const QStringList script{QStringLiteral("--dir"), folder.path(), QStringLiteral("--script"),
                              folder.file("start.txt")};
-    compare(state,
+    measure(state,
             {.work = "start of `vanzer-batch` to idle, big archive",
              .against = "a Qt program that reads the current trip by bare calls",
              .atMost = 1.5,
@@ -66,7 +66,7 @@ BENCHMARK(startOfBatch)->Iterations(1)->UseManualTime();
 
 void startOfWindow(benchmark::State& state) {
     const Folder folder;
-    compare(state,
+    measure(state,
             {.work = "start of the window to idle, big archive",
              .against = "the same and an empty window",
              .atMost = 1.5,
@@ -78,7 +78,7 @@ BENCHMARK(startOfWindow)->Iterations(1)->UseManualTime();
 /// What of that is the platform's way to its fonts.
 void startWithText(benchmark::State& state) {
     const Folder folder;
-    compare(state, {.work = "a Qt window with one word", .against = "an empty one", .inProcess = false},
+    measure(state, {.work = "a Qt window with one word", .against = "an empty one", .inProcess = false},
             program("least_window", {folder.path(), QStringLiteral("Vanzer")}),
             program("least_window", {folder.path()}));
 }
@@ -93,7 +93,7 @@ void copyOfTheDay(benchmark::State& state) {
         QDir(folder.file("Copie")).removeRecursively();
         return seconds([&] { static_cast<void>(store::copiaDelGiorno(*archive, QDate(2026, 5, 4), {})); });
     };
-    compare(state, {.work = "copy of the day, big archive, checked", .against = "the file copied by the system"}, ours,
+    measure(state, {.work = "copy of the day, big archive, checked", .against = "the file copied by the system"}, ours,
             [&] {
                 QFile::remove(plainCopy);
                 return seconds([&] { QFile::copy(folder.file("Vanzer.mdb"), plainCopy); });

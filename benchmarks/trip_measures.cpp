@@ -43,7 +43,7 @@ Timed inCommand(Form& form, std::function<void(Form&)> work) {
 
 void load(benchmark::State& state) {
     Both both;
-    compare(state,
+    measure(state,
             {.work = "load 9,999 legs with what the guide knows of them",
              .against = "the same by bare calls",
              .atMost = 1.5},
@@ -56,7 +56,7 @@ BENCHMARK(load)->Iterations(1)->UseManualTime();
 
 void store(benchmark::State& state) {
     Both both;
-    compare(state, {.work = "store 9,999 legs", .against = "the same by bare calls", .atMost = 1.5},
+    measure(state, {.work = "store 9,999 legs", .against = "the same by bare calls", .atMost = 1.5},
             inCommand(both.trip.form(), [](Form& form) { MemorizzaTappeItinerario(form); }), timed([&both] {
                 benchmark::DoNotOptimize(both.bare->readGuide(both.places));
                 both.bare->rewriteLegs(both.code, both.rows);
@@ -81,13 +81,14 @@ void calculation(benchmark::State& state) {
         return taken;
     };
     Viandoria schedule;
-    compare(state,
+    measure(state,
             {.work = "`cmdCalcola`, 9,999 legs, 21 tests",
              .against = "21 bare tests and the bare read of the guide",
              .atMost = 1.5},
             ours, timed([&] {
                 for (int i = 0; i < tests; ++i)
-                    schedule = simula(rows.righe, with, 1 + static_cast<float>(i) / tests, {}, std::move(schedule));
+                    schedule =
+                        simula(rows.righe, with, 1 + static_cast<float>(i) / tests, {}, std::move(schedule.righe));
                 benchmark::DoNotOptimize(both.bare->readGuide(both.places));
             }));
 }
@@ -99,8 +100,8 @@ void oneTest(benchmark::State& state) {
     comando(trip.form(), [&] { rows = *PreparaTabellaPerCalcoloViandoria(trip.form()); });
     const ParametriSimulazione with = parametriSimulazione(trip.form());
     Viandoria schedule;
-    report(state, "one bare test, 9,999 legs",
-           timed([&] { schedule = simula(rows.righe, with, 1, {}, std::move(schedule)); }));
+    measure(state, {.work = "one bare test, 9,999 legs"},
+            timed([&] { schedule = simula(rows.righe, with, 1, {}, std::move(schedule.righe)); }));
 }
 BENCHMARK(oneTest)->Iterations(1)->UseManualTime();
 

@@ -68,7 +68,7 @@ void typing(benchmark::State& state, const Where& where) {
     BigTrip large(many);
     for (BigTrip* const trip : {&small, &large})
         trip->form().cmdItinerario.click();
-    compare(state, beside(std::string("a leg typed ") + where.text),
+    measure(state, beside(std::string("a leg typed ") + where.text),
             timed([&] { types(large.form(), where.row(many)); }), timed([&] { types(small.form(), where.row(few)); }));
 }
 
@@ -78,7 +78,7 @@ void typingInWindow(benchmark::State& state, const Where& where) {
     const auto inside = [&where](Window& window, int legs) {
         return timed([&window, row = where.row(legs)] { window.input([&] { types(window.form(), row); }); });
     };
-    compare(state, beside(std::string("a leg typed ") + where.text + " and painted"), inside(large, many),
+    measure(state, beside(std::string("a leg typed ") + where.text + " and painted"), inside(large, many),
             inside(small, few));
 }
 

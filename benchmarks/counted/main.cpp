@@ -34,7 +34,7 @@ std::size_t simulation(BigTrip& trip) {
     comando(trip.form(), [&] { rows = *PreparaTabellaPerCalcoloViandoria(trip.form()); });
     const ParametriSimulazione with = parametriSimulazione(trip.form());
     Viandoria schedule = simula(rows.righe, with, 1);
-    counted([&] { schedule = simula(rows.righe, with, 1, {}, std::move(schedule)); });
+    counted([&] { schedule = simula(rows.righe, with, 1, {}, std::move(schedule.righe)); });
     return schedule.righe.size();
 }
 

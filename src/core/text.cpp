@@ -151,7 +151,8 @@ QString Zero(double value, int width) {
 }
 
 QString AggStr(const QString& s, int width, const QString& fill) {
-    return Left(s + fillCharacter(fill).repeated(width), width);
+    const QString with = fillCharacter(fill);
+    return with.isEmpty() ? Left(s, width) : s.leftJustified(std::max(width, 0), with.front(), true);
 }
 
 QString AntStr(const QString& s, int width, const QString& fill) {

@@ -1,6 +1,5 @@
 #include "itinerary/leg_editor_screen.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "core/place_name.h"
@@ -302,11 +301,8 @@ void cmdCerca_Click(Form& form) {
     places.reserve(form.mfgTab.rows());
     for (int r = 1; r < form.mfgTab.rows(); ++r) {
         const QString& place = form.mfgTab.cell(r, 1);
-        if (Trim(QStringView(place)).isEmpty())
-            continue;
-        QString entry(31, u' ');
-        std::ranges::copy(QStringView(place).left(31), entry.begin());
-        places << entry + Zero(r, 4);
+        if (!Trim(QStringView(place)).isEmpty())
+            places << AggStr(place, 31, QStringLiteral(" ")) + Zero(r, 4);
     }
     form.cmbRicercaTappa.setEntries(places);
     form.cmbRicercaTappa.setVisible(true);

@@ -214,7 +214,7 @@ class Calcolo {
             AggiornaPercentuale(form_);
             return false;
         };
-        last_ = simula(prepared_->righe, parametriSimulazione(form_), s_.Coefficiente, looksUp, std::move(last_));
+        last_ = simula(prepared_->righe, parametriSimulazione(form_), s_.Coefficiente, looksUp, std::move(last_.righe));
         s_.GiulianoCorrente = last_.giuliano;
         s_.OraCorrente = last_.ora;
         s_.NumeroTraghetti = last_.traghetti;

@@ -34,10 +34,11 @@ struct Traguardo {
 
 class Prova {
   public:
-    Prova(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& with, float coefficiente, Viandoria memory)
+    Prova(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& with, float coefficiente,
+          std::vector<RigaViandoria> memory)
         : rows_(rows), p_(with), coefficiente_(coefficiente), pranzo_(with.oraPranzo, with.range),
           cena_(with.oraCena, with.range), notte_(with.oraNotte, with.range) {
-        result_.righe = std::move(memory.righe);
+        result_.righe = std::move(memory);
         result_.righe.clear();
         result_.righe.reserve(rows.size() * 2);
         prepareStart();
@@ -297,7 +298,7 @@ class Prova {
 } // namespace
 
 Viandoria simula(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& with, float coefficiente,
-                 const FermaRiga& stop, Viandoria memory) {
+                 const FermaRiga& stop, std::vector<RigaViandoria> memory) {
     return Prova(rows, with, coefficiente, std::move(memory)).corre(stop);
 }
 

@@ -90,9 +90,9 @@ struct Viandoria {
 /// still fall behind the last two rows written; outcome, days and the end's clock are not told before the end.
 using FermaRiga = std::function<bool(int row, const Viandoria& soFar)>;
 
-/// `coefficiente` stretches the guide's stops and nothing else. `memory` is an earlier schedule that is done with: the
-/// new one is written into its memory.
+/// `coefficiente` stretches the guide's stops and nothing else. The new rows are written into the memory of earlier
+/// ones that are done with.
 [[nodiscard]] Viandoria simula(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& with,
-                               float coefficiente, const FermaRiga& stop = {}, Viandoria memory = {});
+                               float coefficiente, const FermaRiga& stop = {}, std::vector<RigaViandoria> memory = {});
 
 } // namespace vanzer

@@ -108,9 +108,9 @@ Medie medieMostrate(const Form& form) {
 }
 
 void SpostaRighe(Form& form, int first, int last, int by) {
-    if (by == 0 || first > last)
-        return;
     Grid& grid = form.mfgTab;
+    if (!grid.canShift(first, last, by))
+        return;
     TotaliTabella& totals = form.totali;
     const int covered = by > 0 ? last + 1 : first + by;
     bool follow = true;

@@ -131,9 +131,9 @@ void Archive::DataBaseVerificaIndici(int db, int table) {
     }
     if (table != GuidaCitta)
         return;
-    if (stored->campo(markField()) >= 0 && !file.haIndice(markIndexName(stored->nome)))
+    if (stored->campo(markField()) >= 0 && !file.haIndice(internalIndexName(stored->nome, markField())))
         file.cambiaSchema(createMarkIndexSql(stored->nome, markField()));
-    if (stored->campo(placeField()) >= 0 && !file.haIndice(bracketIndexName(stored->nome)))
+    if (stored->campo(placeField()) >= 0 && !file.haIndice(internalIndexName(stored->nome, indiceParentesi)))
         file.cambiaSchema(createBracketIndexSql(stored->nome, placeField()));
 }
 

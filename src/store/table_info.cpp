@@ -128,25 +128,21 @@ QString logicalIndexName(const QString& table, const QString& indexName) {
     return iniziaCon(indexName, QString(table + u'.')) ? indexName.mid(table.size() + 1) : indexName;
 }
 
-QString markIndexName(const QString& table) {
-    return table + internalMark + QStringLiteral("FlagVisto");
+QString internalIndexName(const QString& table, QStringView what) {
+    return table + internalMark + what.toString();
 }
 
 QByteArray createMarkIndexSql(const QString& table, const QString& field) {
-    return "CREATE INDEX " + quotedName(markIndexName(table)) + " ON " + quotedName(table) + '(' + quotedName(field) +
-           ") WHERE " + quotedName(field) + " IS NOT '0'";
+    return "CREATE INDEX " + quotedName(internalIndexName(table, field)) + " ON " + quotedName(table) + '(' +
+           quotedName(field) + ") WHERE " + quotedName(field) + " IS NOT '0'";
 }
 
 QByteArray bracketSql(const QString& field) {
     return "instr(" + quotedName(field) + ",'(') > 0";
 }
 
-QString bracketIndexName(const QString& table) {
-    return table + internalMark + u'(';
-}
-
 QByteArray createBracketIndexSql(const QString& table, const QString& field) {
-    return "CREATE INDEX " + quotedName(bracketIndexName(table)) + " ON " + quotedName(table) + '(' +
+    return "CREATE INDEX " + quotedName(internalIndexName(table, indiceParentesi)) + " ON " + quotedName(table) + '(' +
            quotedName(field) + ") WHERE " + bracketSql(field);
 }
 

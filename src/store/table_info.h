@@ -42,12 +42,13 @@ struct TableInfo {
 /// Empty for an index that the system doesn't know of.
 [[nodiscard]] QString logicalIndexName(const QString& table, const QString& indexName);
 
+/// Indexes that the system doesn't know of are named by what they serve: a field, or the brackets.
+inline constexpr QStringView indiceParentesi = u"(";
+[[nodiscard]] QString internalIndexName(const QString& table, QStringView what);
 /// The index of the records whose mark isn't "0": clearing the marks costs what was marked, not the whole table.
-[[nodiscard]] QString markIndexName(const QString& table);
 [[nodiscard]] QByteArray createMarkIndexSql(const QString& table, const QString& field);
 /// The condition that a text has a part in brackets, and the index of the records for which it holds.
 [[nodiscard]] QByteArray bracketSql(const QString& field);
-[[nodiscard]] QString bracketIndexName(const QString& table);
 [[nodiscard]] QByteArray createBracketIndexSql(const QString& table, const QString& field);
 
 } // namespace vanzer::store

@@ -185,11 +185,15 @@ void Grid::clearRow(int row, int firstColumn) {
         setCell(row, c, {});
 }
 
+bool Grid::canShift(int first, int last, int by) const {
+    return by != 0 && first <= last && std::min(first, first + by) >= 1 && std::max(last, last + by) < rows();
+}
+
 void Grid::shiftRows(int first, int last, int by) {
+    if (!canShift(first, last, by))
+        return;
     const int top = std::min(first, first + by);
     const int bottom = std::max(last, last + by);
-    if (by == 0 || first > last || top < 1 || bottom >= rows())
-        return;
     setRedraw(false);
     std::vector<QString> numbers;
     numbers.reserve(static_cast<std::size_t>(bottom) - static_cast<std::size_t>(top) + 1);

@@ -40,6 +40,8 @@ class Grid : public Control {
     /// The rows `first` to `last` go `by` rows down, or up where it is negative, over what is there; the rows that they
     /// leave are blank. Column 0 stays. What is still to be made moves with its rows.
     void shiftRows(int first, int last, int by);
+    /// Whether there are such rows, and room for them.
+    [[nodiscard]] bool canShift(int first, int last, int by) const;
     /// Takes a row from 1 on out; those below it move up, and an empty one comes in at the end.
     void removeRow(int row);
     /// Empties all cells, the head row's too.
