@@ -7,6 +7,7 @@
 #include "batch/answer.h"
 #include "batch/control_commands.h"
 #include "batch/state_view.h"
+#include "reports/schedule_files_screen.h"
 
 namespace vanzer::batch {
 
@@ -34,7 +35,7 @@ std::optional<QDateTime> clockTime(const QString& text) {
 }
 
 const Interpreter::WordCommand* Interpreter::wordCommand(QStringView word) {
-    static constexpr std::array<WordCommand, 10> commands{{{u"start", &Interpreter::start},
+    static constexpr std::array<WordCommand, 11> commands{{{u"start", &Interpreter::start},
                                                            {u"stop", &Interpreter::stop},
                                                            {u"answer", &Interpreter::answers},
                                                            {u"file", &Interpreter::file},
@@ -43,7 +44,8 @@ const Interpreter::WordCommand* Interpreter::wordCommand(QStringView word) {
                                                            {u"vars", &Interpreter::vars},
                                                            {u"table", &Interpreter::table},
                                                            {u"cat", &Interpreter::cat},
-                                                           {u"pages", &Interpreter::pages}}};
+                                                           {u"pages", &Interpreter::pages},
+                                                           {u"export", &Interpreter::exportSchedule}}};
     const auto* const found =
         std::find_if(commands.begin(), commands.end(), [word](const WordCommand& c) { return c.word == word; });
     return found == commands.end() ? nullptr : found;
@@ -183,6 +185,21 @@ QJsonObject Interpreter::table(const QString& rest) {
 
 QJsonObject Interpreter::cat(const QString& rest) {
     return session_.textFile(rest);
+}
+
+QJsonObject Interpreter::exportSchedule(const QString& rest) {
+    const Line format = split(rest);
+    const bool calendar = format.word == u"ics";
+    if ((!calendar && format.word != u"csv") || format.rest.isEmpty())
+        return badArguments();
+    const Form* const window = session_.window();
+    if (window == nullptr)
+        return noWindow();
+    if (window->viandoria == nullptr)
+        return failure(QStringLiteral("no schedule"));
+    const QString reason =
+        scriveViandoria(*window, calendar ? FormatoViandoria::Calendario : FormatoViandoria::Tabella, format.rest);
+    return reason.isEmpty() ? QJsonObject() : failure(reason);
 }
 
 QJsonObject Interpreter::pages(const QString& /*rest*/) {

@@ -47,6 +47,7 @@ class Interpreter {
     QJsonObject table(const QString& rest);
     QJsonObject cat(const QString& rest);
     QJsonObject pages(const QString& rest);
+    QJsonObject exportSchedule(const QString& rest);
 
     Session session_;
     std::optional<QString> forNext_; ///< waits for a yield of the next command

@@ -12,6 +12,8 @@
 #include <QLocale>
 
 #include "batch/interpreter.h"
+#include "batch/usage.h"
+#include "window/startup.h"
 
 namespace {
 
@@ -28,6 +30,7 @@ struct Request {
     QString directory; ///< absolute
     std::optional<QDateTime> now;
     QString script; ///< absolute; empty for standard input
+    QString told;   ///< what the program prints instead of working
 };
 
 std::optional<Request> requested(const QStringList& arguments) {
@@ -35,12 +38,23 @@ std::optional<Request> requested(const QStringList& arguments) {
     parser.addOptions(
         {{QStringLiteral("dir"), QStringLiteral("The program's directory."), QStringLiteral("DIR")},
          {QStringLiteral("now"), QStringLiteral("Fixes the clock."), QStringLiteral("YYYY-MM-DDTHH:MM")},
-         {QStringLiteral("script"), QStringLiteral("Reads the commands from a file."), QStringLiteral("FILE")}});
-    if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty()) {
-        say(parser.errorText() + parser.helpText().prepend(u'\n'));
+         {QStringLiteral("script"), QStringLiteral("Reads the commands from a file."), QStringLiteral("FILE")},
+         {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Prints the commands.")},
+         {{QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Prints the version.")}});
+    const bool understood = parser.parse(arguments);
+    Request request;
+    if (understood && parser.isSet(QStringLiteral("help"))) {
+        request.told = batch::helpText();
+        return request;
+    }
+    if (understood && parser.isSet(QStringLiteral("version"))) {
+        request.told = QStringLiteral("vanzer-batch ") + versioneProgramma();
+        return request;
+    }
+    if (!understood || !parser.positionalArguments().isEmpty()) {
+        say(parser.errorText() + u'\n' + batch::helpText());
         return std::nullopt;
     }
-    Request request;
     const QString directory =
         parser.isSet(QStringLiteral("dir")) ? parser.value(QStringLiteral("dir")) : QStringLiteral(".");
     request.directory = QDir::cleanPath(QDir(directory).absolutePath());
@@ -83,6 +97,10 @@ int main(int argc, char** argv) {
     const auto request = requested(QCoreApplication::arguments());
     if (!request)
         return badUsage;
+    if (!request->told.isEmpty()) {
+        std::puts(request->told.toLocal8Bit().constData());
+        return 0;
+    }
     std::ifstream script;
     if (!request->script.isEmpty()) {
         script.open(QFile::encodeName(request->script).toStdString());

@@ -18,6 +18,8 @@
 #include "ui_frame_23.h"
 #include "ui_frame_24.h"
 #include "ui_frame_25.h"
+#include "ui_frame_linea.h"
+#include "ui_frame_primi_passi.h"
 
 namespace vanzer::desktop {
 
@@ -55,16 +57,17 @@ template<typename Design> QWidget* made(QWidget& window) {
 }
 
 /// Of two that lie over each other the later one is on top: the choice of the printer, then the waiting note.
-constexpr std::array designs{made<Ui::Frame12>, made<Ui::Frame1>,  made<Ui::Frame24>, made<Ui::Frame17>,
-                             made<Ui::Frame19>, made<Ui::Frame22>, made<Ui::Frame18>, made<Ui::Frame25>,
-                             made<Ui::Frame23>, made<Ui::Frame16>};
+constexpr std::array designs{made<Ui::FramePrimiPassi>, made<Ui::FrameLinea>, made<Ui::Frame12>, made<Ui::Frame1>,
+                             made<Ui::Frame24>,         made<Ui::Frame17>,    made<Ui::Frame19>, made<Ui::Frame22>,
+                             made<Ui::Frame18>,         made<Ui::Frame25>,    made<Ui::Frame23>, made<Ui::Frame16>};
 
-constexpr std::array<std::pair<const char*, Posto>, 6> places{{{"fianco", Posto::Fianco},
+constexpr std::array<std::pair<const char*, Posto>, 7> places{{{"fianco", Posto::Fianco},
                                                                {"sotto", Posto::Sotto},
                                                                {"sinistra", Posto::Sinistra},
                                                                {"centro", Posto::Centro},
                                                                {"destra", Posto::Destra},
-                                                               {"piede", Posto::Piede}}};
+                                                               {"piede", Posto::Piede},
+                                                               {"tabella", Posto::Tabella}}};
 
 constexpr int inset = 12;   // px between the table's edge and what lies over it
 constexpr int numbers = 31; // px of the table's numbers that stay in view beside a list
@@ -99,6 +102,7 @@ QRect frameRect(const QWidget& frame, const QRect& table, const QRect& whole, co
     QRect rect(QPoint(), wish.boundedTo(whole.size()));
     switch (posto(frame)) {
     case Posto::Fianco: return side;
+    case Posto::Tabella: return table;
     case Posto::Sotto: return {whole.left(), table.bottom() + 1, whole.width(), frameHeight(frame, whole.width())};
     case Posto::Sinistra: return {inner.left() + numbers, inner.top() + head, rect.width(), inner.height() - head};
     case Posto::Destra: rect.moveTopRight(inner.topRight()); break;

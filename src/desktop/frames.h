@@ -9,7 +9,7 @@
 namespace vanzer::desktop {
 
 /// Where a frame comes up: beside the table on the right, below it, or over its left part, middle, right part or foot.
-enum class Posto { Fianco, Sotto, Sinistra, Centro, Destra, Piede };
+enum class Posto { Fianco, Sotto, Sinistra, Centro, Destra, Piede, Tabella };
 
 /// The frames, made as hidden children of the window.
 [[nodiscard]] std::vector<QWidget*> makeFrames(QWidget& window);

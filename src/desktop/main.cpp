@@ -16,14 +16,27 @@ namespace {
 
 using namespace vanzer;
 
-QString requestedDirectory(const QCoreApplication& application) {
+/// What the arguments ask for.
+struct Request {
+    QString directory; ///< of the archive
+    QString trips;     ///< a file to import from; empty for none
+};
+
+Request requested(const QCoreApplication& application) {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Viaggi in camper, giorno per giorno"));
     parser.addHelpOption();
     parser.addOption({QStringLiteral("dir"), QStringLiteral("La cartella dell'archivio."), QStringLiteral("CARTELLA")});
+    parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Un file .iei: ne offre i viaggi."),
+                                 QStringLiteral("[FILE]"));
     parser.process(application);
-    return parser.isSet(QStringLiteral("dir")) ? QDir(parser.value(QStringLiteral("dir"))).absolutePath()
-                                               : desktop::programDirectory();
+    Request request;
+    request.directory = parser.isSet(QStringLiteral("dir")) ? QDir(parser.value(QStringLiteral("dir"))).absolutePath()
+                                                            : desktop::programDirectory();
+    if (const QStringList files = parser.positionalArguments(); !files.isEmpty())
+        request.trips = QDir::current().absoluteFilePath(files.front());
+    return request;
 }
 
 void nameApplication() {
@@ -43,11 +56,15 @@ int main(int argc, char** argv) {
     if (italian.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&italian);
 
-    const QString directory = requestedDirectory(application);
+    const Request request = requested(application);
     // Relative paths are taken from the archive's directory. One that isn't there is told by the window.
-    static_cast<void>(QDir::setCurrent(directory));
+    static_cast<void>(QDir::setCurrent(request.directory));
     desktop::SystemClock clock;
     desktop::Program program(
-        {.directory = directory, .decimalMark = QLocale::system().decimalPoint().at(0), .versione = {}}, clock);
-    return program.start() ? QApplication::exec() : 1;
+        {.directory = request.directory, .decimalMark = QLocale::system().decimalPoint().at(0), .versione = {}}, clock);
+    if (!program.start())
+        return 1;
+    if (!request.trips.isEmpty())
+        program.openTrips(request.trips);
+    return QApplication::exec();
 }

@@ -11,6 +11,7 @@
 #include <QSettings>
 
 #include "desktop/frames.h"
+#include "desktop/time_line_view.h"
 #include "ui_main_window.h"
 #include "window/ways_out.h"
 
@@ -57,6 +58,9 @@ MainWindow::MainWindow(Form& form) : form_(form), ui_(std::make_unique<Ui::MainW
     addFrames();
     setWindowTitle(form.caption);
     binder_.bind(*this);
+    if (auto* const picture = findChild<TimeLineView*>())
+        connect(picture, &TimeLineView::dayTold, findChild<QLabel*>(QStringLiteral("giornoLinea")), &QLabel::setText);
+    form_.onManuale = [this] { showManual(); };
     for (QAbstractButton* const button : findChildren<QAbstractButton*>())
         button->installEventFilter(this);
     for (QLabel* const label : findChildren<QLabel*>())
@@ -65,7 +69,19 @@ MainWindow::MainWindow(Form& form) : form_(form), ui_(std::make_unique<Ui::MainW
     layOutFrames();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+    form_.onManuale = {};
+}
+
+void MainWindow::showManual() {
+    if (manual_ == nullptr) {
+        manual_ = new ManualWindow(this);
+        manual_->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    manual_->show();
+    manual_->raise();
+    manual_->activateWindow();
+}
 
 void MainWindow::addFrames() {
     frames_ = makeFrames(*this);
@@ -115,6 +131,8 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     const bool arranges = type == QEvent::ShowToParent || type == QEvent::HideToParent;
     if (const auto frame = std::ranges::find(frames_, watched); arranges && frame != frames_.end()) {
         layOutFrames();
+        if (auto* const picture = (*frame)->findChild<TimeLineView*>())
+            picture->setLine(type == QEvent::ShowToParent ? form_.linea : nullptr);
         type == QEvent::ShowToParent ? takeFocus(**frame) : giveFocusBack(**frame);
     }
     return QWidget::eventFilter(watched, event);

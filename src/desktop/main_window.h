@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include "desktop/binder.h"
+#include "desktop/manual_window.h"
 
 namespace Ui {
 class MainWindow;
@@ -44,11 +45,13 @@ class MainWindow : public QWidget {
     bool pressMnemonic(QWidget& widget, bool ambiguous);
     [[nodiscard]] QAbstractButton* meantBy(const QWidget& widget) const;
     void savePlace() const;
+    void showManual();
 
     Form& form_;
     std::unique_ptr<Ui::MainWindow> ui_;
     std::vector<QWidget*> frames_;                       ///< laid over and beside the table
     std::map<const QWidget*, QPointer<QWidget>> before_; ///< what had the focus before a frame took it
+    QPointer<ManualWindow> manual_;
     Binder binder_;
 };
 

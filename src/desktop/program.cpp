@@ -32,4 +32,8 @@ bool Program::start() {
     return !form_->chiusa;
 }
 
+void Program::openTrips(const QString& path) {
+    window_->binder().input([this, &path] { apreViaggi(*form_, path); });
+}
+
 } // namespace vanzer::desktop

@@ -18,6 +18,9 @@ class Program {
     /// Opens the archive and shows the window; false if the user has been told why that can't be.
     [[nodiscard]] bool start();
 
+    /// Offers the trips of a file for an import.
+    void openTrips(const QString& path);
+
     [[nodiscard]] Form& form() { return *form_; }
     [[nodiscard]] MainWindow& window() { return *window_; }
 

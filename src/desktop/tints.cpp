@@ -28,6 +28,12 @@ Tints::Tints(const QPalette& palette) {
     rule = mixed(base, text, 0.55F);
     faint = mixed(text, base, 0.35F);
     place = mixed(base, accent, dark ? 0.24F : 0.12F);
+    const float strength = dark ? 0.50F : 0.45F;
+    drive = mixed(base, QColor(0x2f, 0x86, 0xd6), strength);
+    stop = mixed(base, QColor(0x4f, 0xa8, 0x3a), strength);
+    meal = mixed(base, QColor(0xf0, 0x9a, 0x24), strength);
+    pause = mixed(base, QColor(0xa8, 0x5f, 0xd0), strength);
+    night = mixed(base, QColor(0x6a, 0x70, 0x92), strength);
 }
 
 QColor coloreCategoria(int category) {

@@ -17,6 +17,12 @@ struct Tints {
     QColor rule;     ///< the line below the end of a day
     QColor faint;    ///< texts that stand back
     QColor place;    ///< rows of the guide's places
+
+    QColor drive; ///< activities of the line of time
+    QColor stop;
+    QColor meal;
+    QColor pause;
+    QColor night;
 };
 
 /// The colour of a category of the guide, told by its number: warm for what is worth a visit, the warmer the more, cold

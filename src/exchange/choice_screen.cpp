@@ -154,14 +154,14 @@ class ElencoDelFile {
     int count_ = 0;
 };
 
-void chooseForImport(Form& form) {
+void captionsOfImport(Form& form) {
     form.lblExLista.setCaption(QStringLiteral("Lista delle mète selezionate per l'Import"));
     form.lblExSelez.setCaption(QStringLiteral("Lista delle mete nel file selezionato"));
     form.cmdImExp(0).setCaption(QStringLiteral("Importa"));
     AggiornaPulsantiImportExport(form);
-    const QString path = form.ports.files.open(filtroScambio.toString());
-    if (path.isEmpty())
-        return;
+}
+
+void listFile(Form& form, const QString& path) {
     form.stato.NomeFileScambio = path;
     const bool whole = ElencoDelFile(form).legge();
     if (form.chiusa)
@@ -173,6 +173,12 @@ void chooseForImport(Form& form) {
     AzzeraPercentuale(form);
     AggiornaPulsantiImportExport(form);
     form.setFocus(form.mfgImExp(1));
+}
+
+void chooseForImport(Form& form) {
+    captionsOfImport(form);
+    if (const QString path = form.ports.files.open(filtroScambio.toString()); !path.isEmpty())
+        listFile(form, path);
 }
 
 } // namespace
@@ -282,6 +288,12 @@ bool ScambioInCorso::avanza(double done) {
     form_.stato.PercentualeCorrente = done;
     AggiornaPercentuale(form_);
     return !form_.stato.InterrompiCalcolo && !form_.chiusa;
+}
+
+void ElencaFileScambio(Form& form, const QString& path) {
+    PreparaExportImport(form);
+    captionsOfImport(form);
+    listFile(form, path);
 }
 
 void cmdExport_Click(Form& form) {

@@ -16,6 +16,8 @@ enum ColonnaScambio { scambioNumero, scambioMeta, scambioNazione, scambioCodice 
 
 /// Clears the main screen and lays out the two lists.
 void PreparaExportImport(Form& form);
+/// Lays the lists out and offers the destinations of a file for an import.
+void ElencaFileScambio(Form& form, const QString& path);
 /// All destinations of the archive into the first list; false if there are none.
 [[nodiscard]] bool CaricaListaMete(Form& form);
 /// The current row of list n goes to the other one.

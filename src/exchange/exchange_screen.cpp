@@ -56,21 +56,29 @@ void reloadMainScreen(Form& form) {
     AbilitaPulsantiMeta(form, QStringLiteral("all"));
 }
 
+/// What was chosen comes in; nothing when the window was left meanwhile.
+std::optional<EsitoImport> importChosen(Form& form) {
+    AttivaFormMeta(form, true);
+    form.frmframe(22).setVisible(false);
+    const EsitoImport result = leggeFileImport(form);
+    if (form.chiusa)
+        return std::nullopt;
+    AzzeraPercentuale(form);
+    EsciExportImport(form);
+    return result;
+}
+
 void importDestinations(Form& form) {
     BoxConferma(form, QStringLiteral("IM"));
     if (form.stato.Risposta == rispostaSi) {
-        AttivaFormMeta(form, true);
-        form.frmframe(22).setVisible(false);
         const ElenchiSpenti off(form);
-        const EsitoImport result = leggeFileImport(form);
-        if (form.chiusa)
+        const auto result = importChosen(form);
+        if (!result)
             return;
-        AzzeraPercentuale(form);
-        EsciExportImport(form);
-        if (result.riuscito)
-            form.messaggio(result.testo);
+        if (result->riuscito)
+            form.messaggio(result->testo);
         else
-            form.messaggio(result.testo, QStringLiteral("Import"), Icona::Avviso);
+            form.messaggio(result->testo, QStringLiteral("Import"), Icona::Avviso);
     } else {
         giveListsBack(form);
     }
@@ -115,6 +123,22 @@ void exportDestinations(Form& form) {
 }
 
 } // namespace
+
+std::optional<EsitoImport> ImportaTutto(Form& form, const QString& path) {
+    form.frmframe(22).setVisible(true);
+    ElencaFileScambio(form, path);
+    if (form.chiusa)
+        return std::nullopt;
+    cmdTutto_Click(form, 1);
+    std::optional<EsitoImport> result;
+    {
+        const ElenchiSpenti off(form);
+        result = importChosen(form);
+    }
+    if (result)
+        reloadMainScreen(form);
+    return result;
+}
 
 void cmdImExp_Click(Form& form, int n) {
     if (n != 0) {

@@ -2,7 +2,7 @@
 // lists stand side by side, and a click moves a destination from one to the other.
 #pragma once
 
-#include "window/form.h"
+#include "exchange/import_screen.h"
 
 namespace vanzer {
 
@@ -15,5 +15,9 @@ void mfgImExp_Click(Form& form, int n);
 void cmdTutto_Click(Form& form, int n);
 /// 0 carries the export or import out, 1 leaves.
 void cmdImExp_Click(Form& form, int n);
+
+/// Brings in all destinations of a file with no question and no word; the main screen shows what is there then.
+/// Nothing when the window was left meanwhile.
+[[nodiscard]] std::optional<EsitoImport> ImportaTutto(Form& form, const QString& path);
 
 } // namespace vanzer

@@ -9,7 +9,9 @@
 #include "reports/print_run_screen.h"
 #include "reports/schedule_report.h"
 #include "reports/text_files.h"
+#include "reports/time_line_report.h"
 #include "schedule/rows.h"
+#include "schedule/time_line_screen.h"
 #include "window/modes.h"
 
 namespace vanzer {
@@ -71,7 +73,7 @@ class StampaItinerario {
     void stampa() {
         form_.frmframe(18).setVisible(false);
         table_ = intestazioneTabella(trip_.localita);
-        if (pages() || forms() || cover())
+        if (pages() || forms() || cover() || line())
             run_.passo([this] { run_.foglio().imposta(); });
         form_.lblElaborazione.setCaption(printing);
         form_.stato.PercentualeTotale = form_.mfgTab.rows() - 1;
@@ -82,7 +84,9 @@ class StampaItinerario {
         AzzeraPercentuale(form_);
         if (pages())
             run_.passo([this] { report_.finePagina(); });
-        else if (cover())
+        if (line() && !run_.finita())
+            run_.passo([this] { stampaLinea(run_.foglio(), trip_.localita, lineaMostrata(form_), run_.piede()); });
+        if (!pages() && cover())
             run_.fineDocumento();
         if (forms())
             logbook();
@@ -94,6 +98,7 @@ class StampaItinerario {
     [[nodiscard]] bool pages() const { return form_.chkTabella.value(); }
     [[nodiscard]] bool forms() const { return form_.chkModuli.value(); }
     [[nodiscard]] bool cover() const { return form_.chkFrontespizio.value(); }
+    [[nodiscard]] bool line() const { return form_.chkLinea.value(); }
 
     void covers() {
         VociFrontespizio titles{};
@@ -158,6 +163,8 @@ class StampaItinerario {
             done += QStringLiteral(" e \n");
         if (forms())
             done += QStringLiteral("Moduli per Diario di Bordo");
+        if (line())
+            done += (done.isEmpty() ? QString() : QStringLiteral(" e \n")) + QStringLiteral("Linea del tempo");
         if (!done.isEmpty())
             run_.fineDocumento();
         if (run_.rinunciata())

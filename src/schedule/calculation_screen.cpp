@@ -8,6 +8,7 @@
 #include "schedule/preparation_screen.h"
 #include "schedule/rows.h"
 #include "schedule/simulation.h"
+#include "schedule/time_line_screen.h"
 #include "schedule/totals_screen.h"
 #include "window/destination_screen.h"
 #include "window/grid_layouts.h"
@@ -167,6 +168,8 @@ class Calcolo {
         showPanel(form_, last_.pannello);
         form_.txtFine(6).setText(QString::number(s_.GiorniCalcolati));
         showSchedule(form_, *prepared_, last_);
+        form_.frmLinea.setVisible(false);
+        form_.viandoria = std::make_shared<const ViandoriaMostrata>(prepared_, std::move(last_), used_);
         form_.cmdCalcola.setCaption(QStringLiteral("&Sblocca"));
         s_.ViandoriaCalcolata = true;
         AzzeraPercentuale(form_);
@@ -214,7 +217,8 @@ class Calcolo {
             AggiornaPercentuale(form_);
             return false;
         };
-        last_ = simula(prepared_->righe, parametriSimulazione(form_), s_.Coefficiente, looksUp, std::move(last_.righe));
+        used_ = parametriSimulazione(form_);
+        last_ = simula(prepared_->righe, used_, s_.Coefficiente, looksUp, std::move(last_.righe));
         s_.GiulianoCorrente = last_.giuliano;
         s_.OraCorrente = last_.ora;
         s_.NumeroTraghetti = last_.traghetti;
@@ -228,6 +232,7 @@ class Calcolo {
     Form& form_;
     StatoViaggio& s_;
     std::shared_ptr<const RigheDiLavoro> prepared_;
+    ParametriSimulazione used_;
     Viandoria last_;
 };
 

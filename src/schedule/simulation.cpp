@@ -143,6 +143,7 @@ class Prova {
             Fine why = Fine::Arrivo;
             const int km = cutPiece(left, p_.medie[road], why);
             longRest();
+            const float departure = ora_;
             ora_ = f(d(ora_) + d(tempoTratta_));
             panel.kmTotali += km;
             panel.km[road] += km;
@@ -150,6 +151,8 @@ class Prova {
             row.km = km;
             row.kmTotali = panel.kmTotali;
             row.tempo = tempoTratta_;
+            row.inizio = departure;
+            row.giornoInizio = giuliano_;
             milestones(row);
             left -= km;
             row.verso = left != 0;
@@ -221,6 +224,7 @@ class Prova {
         }
         if (conPause_ && d(ora_) >= d(ultimoBreak_) + intervallo_) {
             const double n = Int((d(ora_) - d(ultimoBreak_)) / intervallo_);
+            row.riposo = f(n * p_.riposoMinuti);
             ora_ = f(d(ora_) + n * p_.riposoMinuti);
             ultimoBreak_ = f(d(ultimoBreak_) + n * intervallo_);
             row.pausa = true;
@@ -237,10 +241,13 @@ class Prova {
             giuliano_ += 1;
         }
         const float dayBefore = giuliano_;
+        const float begin = ora_;
         spend(total);
         mealsFromClock();
         RigaViandoria& written = aggiunge(RigaViandoria::Tipo::Sosta, index);
         written.sosta = total;
+        written.inizio = begin;
+        written.giornoInizio = dayBefore;
         written.sostaGuida = row.sostaGuida;
         written.domani = tomorrow;
         written.spezzata = giuliano_ > dayBefore;

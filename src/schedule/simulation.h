@@ -55,11 +55,14 @@ struct RigaViandoria {
     bool spezzata = false;   ///< the stop went on over more than one day
     int km = 0;
     int kmTotali = 0;
-    float tempo = 0;      ///< of the piece, hundredths
-    float ora = 0;        ///< the clock at the arrival, behind the stop, at the new start
-    float giuliano = 0;   ///< the day of that
-    float sosta = 0;      ///< length of the stop
-    float sostaGuida = 0; ///< length that the guide asks for
+    float tempo = 0;        ///< of the piece, hundredths
+    float inizio = 0;       ///< the clock at which the piece or the stop begins
+    float giornoInizio = 0; ///< the day of that
+    float riposo = 0;       ///< length of the breaks that follow, hundredths
+    float ora = 0;          ///< the clock at the arrival, behind the stop, at the new start
+    float giuliano = 0;     ///< the day of that
+    float sosta = 0;        ///< length of the stop
+    float sostaGuida = 0;   ///< length that the guide asks for
 };
 
 /// What the panel shows: refreshed behind each driven piece, so that later stops don't count.

@@ -195,7 +195,7 @@ void RicercaMetaCorrente(Form& form) {
         if (!last.EOF_())
             code = last.testo(0);
     }
-    AbilitaPulsantiMeta(form, code.isEmpty() ? QStringLiteral("NuImEs") : QStringLiteral("all"));
+    AbilitaPulsantiMeta(form, code.isEmpty() ? pulsantiArchivioVuoto.toString() : QStringLiteral("all"));
 }
 
 void CaricaDatiAnagraficiMeta(Form& form) {

@@ -32,8 +32,7 @@ QString key(const QString& name) {
 
 } // namespace
 
-template<typename T, typename... Args> T& Form::one(const char* name, int frame, Args... args) {
-    Frame* const parent = frame == finestra ? nullptr : frames[static_cast<std::size_t>(frame)];
+template<typename T, typename... Args> T& Form::one(const char* name, Frame* parent, Args... args) {
     auto control = std::make_unique<T>(QString::fromLatin1(name), -1, parent, args...);
     T& made = *control;
     byName_.emplace(key(made.name()), &made);

@@ -30,6 +30,9 @@ template<typename T> class Serie {
     std::vector<T*> controls_;
 };
 
+struct ViandoriaMostrata;
+struct LineaDelTempo;
+
 /// What the surroundings give the window once and for all.
 struct Ambiente {
     QString directory;        ///< the program's directory
@@ -66,6 +69,8 @@ class Form {
     void setFocus(Control& control);
     [[nodiscard]] Control* focus() const { return focus_; }
     std::function<void(Control&)> onFocus;
+    /// The user asks for the manual.
+    std::function<void()> onManuale;
 
     QString caption;
     bool chiusa = false;                 ///< the window has been left
@@ -79,6 +84,10 @@ class Form {
     std::optional<Grid::Rows> tappeConservate;
     /// Of the legs in the table, as they were last worked out.
     TotaliTabella totali;
+    /// The schedule in the table, as numbers; null while it shows legs.
+    std::shared_ptr<const ViandoriaMostrata> viandoria;
+    /// What the picture of the schedule shows; null before it was asked for.
+    std::shared_ptr<const LineaDelTempo> linea;
 
     std::vector<Frame*> frames;
     [[nodiscard]] Frame& frmframe(int i) const { return *frames[static_cast<std::size_t>(i)]; }
@@ -88,7 +97,10 @@ class Form {
     std::map<QString, Control*> byName_;
     Control* focus_ = nullptr;
 
-    template<typename T, typename... Args> T& one(const char* name, int frame, Args... args);
+    template<typename T, typename... Args> T& one(const char* name, Frame* parent, Args... args);
+    template<typename T, typename... Args> T& one(const char* name, int frame, Args... args) {
+        return one<T>(name, frame == finestra ? nullptr : frames[static_cast<std::size_t>(frame)], args...);
+    }
     template<typename T, typename... Args> Serie<T> many(const char* name, int frame, int count, Args... args);
     void buildFrames();
     bool framesBuilt_ = (buildFrames(), true);
@@ -251,6 +263,19 @@ class Form {
     ListControl& lstStampanti = box("lstStampanti", 23);
     Serie<Button> cmdSelStampante = buttons("cmdSelStampante", 23, 2);
     Serie<Label> lblStampaInCorso = many<Label>("lblStampaInCorso", 16, 2);
+    CheckBox& chkLinea = check("chkLinea", 18);
+    Button& cmdCalendario = button("cmdCalendario", 18);
+    Button& cmdFoglio = button("cmdFoglio", 18);
+
+    // Picture of the trip, manual, first steps
+    Button& cmdLinea = button("cmdLinea", 28);
+    Frame& frmLinea = one<Frame>("frmLinea", finestra);
+    Button& cmdManuale = button("cmdManuale", 28);
+    Frame& frmPrimiPassi = one<Frame>("frmPrimiPassi", finestra);
+    Label& lblPrimiPassi = one<Label>("lblPrimiPassi", &frmPrimiPassi);
+    Button& cmdPrimoViaggio = one<Button>("cmdPrimoViaggio", &frmPrimiPassi);
+    Button& cmdImportaViaggi = one<Button>("cmdImportaViaggi", &frmPrimiPassi);
+    Button& cmdViaggiEsempio = one<Button>("cmdViaggiEsempio", &frmPrimiPassi);
 
   private:
     Serie<ListControl> clockLists(const char* name);

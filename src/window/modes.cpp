@@ -61,6 +61,21 @@ void leaveProgram(Form& form) {
     form.chiusa = true;
 }
 
+/// What the window has beside the table: a picture of the schedule as long as the table shows it, the first steps while
+/// there is no trip and nothing else is going on.
+void showCompanions(Form& form) {
+    const StatoViaggio& s = form.stato;
+    const bool schedule = form.viandoria != nullptr && !uguale(form.cmdCalcola.caption(), u"&Calcola");
+    if (!schedule) {
+        form.viandoria.reset();
+        form.linea.reset();
+        form.frmLinea.setVisible(false);
+    }
+    form.cmdLinea.setEnabled(schedule && contiene(s.PulsantiMeta, u"Ca"));
+    const bool idle = uguale(s.PulsantiMeta, pulsantiArchivioVuoto) || s.PulsantiMeta == allMeta;
+    form.frmPrimiPassi.setVisible(idle && s.CodiceMeta.isEmpty() && !form.frmframe(22).visible());
+}
+
 } // namespace
 
 void AbilitaPulsantiComando(Form& form) {
@@ -79,6 +94,7 @@ void AbilitaPulsantiComando(Form& form) {
         s.PulsantiMeta = QStringLiteral("F");
     enableMenu(form);
     enableItinerary(form);
+    showCompanions(form);
     form.cmdEsce.setTooltip(QStringLiteral("Esce dal form"));
     form.yield();
 }

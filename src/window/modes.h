@@ -6,6 +6,9 @@
 
 namespace vanzer {
 
+/// The buttons of an archive without trips.
+inline constexpr QStringView pulsantiArchivioVuoto = u"NuImEs";
+
 /// Applies PulsantiMeta and PulsantiItinerario to the buttons, and yields.
 void AbilitaPulsantiComando(Form& form);
 

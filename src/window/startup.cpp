@@ -11,6 +11,7 @@
 #include "exchange/choice_screen.h"
 #include "exchange/conversion_screen.h"
 #include "exchange/exchange_screen.h"
+#include "exchange/first_steps_screen.h"
 #include "exchange/route_screen.h"
 #include "guide/categories.h"
 #include "guide/guide_screen.h"
@@ -22,8 +23,10 @@
 #include "itinerary/return_screen.h"
 #include "itinerary/stretch_screen.h"
 #include "reports/print_screen.h"
+#include "reports/schedule_files_screen.h"
 #include "schedule/calculation_screen.h"
 #include "schedule/stops_screen.h"
+#include "schedule/time_line_screen.h"
 #include "store/daily_copy.h"
 #include "window/command.h"
 #include "window/destination_screen.h"
@@ -139,6 +142,19 @@ void wireExchange(Form& form) {
     form.cmdConverte.onClick = wired(form, cmdConverte_Click);
 }
 
+void wireCompanions(Form& form) {
+    form.cmdPrimoViaggio.onClick = wired(form, cmdPrimoViaggio_Click);
+    form.cmdImportaViaggi.onClick = wired(form, cmdImportaViaggi_Click);
+    form.cmdViaggiEsempio.onClick = wired(form, cmdViaggiEsempio_Click);
+    form.cmdLinea.onClick = wired(form, cmdLinea_Click);
+    form.cmdCalendario.onClick = wired(form, cmdCalendario_Click);
+    form.cmdFoglio.onClick = wired(form, cmdFoglio_Click);
+    form.cmdManuale.onClick = [&form] {
+        if (form.onManuale)
+            form.onManuale();
+    };
+}
+
 void wireHelp(Form& form) {
     form.cmdHelpGenerico.onClick = wired(form, cmdHelpGenerico_Click);
     form.cmdHelpTotale1.onClick = wired(form, cmdHelpTotale1_Click);
@@ -192,6 +208,7 @@ void wire(Form& form) {
     wireGuide(form);
     wirePrinting(form);
     wireExchange(form);
+    wireCompanions(form);
     wireHelp(form);
     wireKeys(form);
 }
@@ -202,6 +219,9 @@ void layOutWindow(Form& form) {
     form.caption = product + u" (v. "_s + form.ambiente.versione + u", "_s + product + u") by "_s + product;
     for (const int hidden : {23, 18, 24, 25, 1, 22, 12, 17, 19, 16})
         form.frmframe(hidden).setVisible(false);
+    form.frmLinea.setVisible(false);
+    form.frmPrimiPassi.setVisible(false);
+    form.cmdLinea.setEnabled(false);
     form.cmdConverte.setVisible(false);
     for (Button* const button : {&form.cmdImExp(0), &form.cmdTutto(0), &form.cmdTutto(1), &form.cmdInsEsegui(0)})
         button->setEnabled(false);
@@ -358,7 +378,7 @@ void Form_Load(Form& form) {
         form.mfgCopia.setVisible(false);
         form.yield();
         cercaVecchiFile(form);
-        AbilitaPulsantiMeta(form, s.CodiceMeta.isEmpty() ? QStringLiteral("NuImEs") : QStringLiteral("All"));
+        AbilitaPulsantiMeta(form, s.CodiceMeta.isEmpty() ? pulsantiArchivioVuoto.toString() : QStringLiteral("All"));
         ImpostaGiorniMeseInizio(form);
         tidyGuidePlaces(form);
         loaded = true;
@@ -412,6 +432,10 @@ std::unique_ptr<Form> avvia(const Ambiente& surroundings, Ports& ports) {
     auto form = nuovaFinestra(surroundings, ports);
     caricaFinestra(*form);
     return form;
+}
+
+void apreViaggi(Form& form, const QString& path) {
+    comando(form, [&form, &path] { apreFileDiViaggi(form, path); });
 }
 
 QString versioneProgramma() {

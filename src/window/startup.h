@@ -17,6 +17,9 @@ void caricaFinestra(Form& form);
 /// Both of these.
 [[nodiscard]] std::unique_ptr<Form> avvia(const Ambiente& surroundings, Ports& ports);
 
+/// Offers the trips of a file that the program was opened with; a command of the user.
+void apreViaggi(Form& form, const QString& path);
+
 /// The version of this build, "1.0.0".
 [[nodiscard]] QString versioneProgramma();
 

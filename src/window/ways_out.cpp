@@ -40,6 +40,8 @@ void rinunciaAllaScelta(Form& form) {
         RinunciaRicerca(form);
     else if (form.cmdImExp(1).reachable())
         form.cmdImExp(1).click();
+    else if (form.frmLinea.visible() && form.cmdLinea.reachable())
+        form.cmdLinea.click();
     else if (form.cmdTappaSEl(3).reachable())
         form.cmdTappaSEl(3).click();
 }

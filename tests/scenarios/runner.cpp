@@ -48,12 +48,30 @@ QByteArray withoutCommand(const QByteArray& answer) {
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
+// What is wrong with the answer to a command of an example.
+QString complaintOfExample(const Step& step, const QByteArray& answer, const QJsonObject& got) {
+    const QByteArray piece = "~ ";
+    if (step.expected.startsWith(piece))
+        return answer.contains(step.expected.mid(piece.size())) ? QString() : QString::fromUtf8(answer);
+    const QJsonObject expected = QJsonDocument::fromJson(step.expected).object();
+    if (expected.isEmpty() != step.expected.isEmpty())
+        return QStringLiteral("the expected answer is not a JSON object");
+    QJsonObject told;
+    for (const QString& key : expected.keys() + QStringList{QStringLiteral("error"), QStringLiteral("refused")}) {
+        if (got.contains(key))
+            told.insert(key, got.value(key));
+    }
+    return differences(expected, told).join(QStringLiteral("\n  "));
+}
+
 // What is wrong with the answer to one command, one difference a line; empty when it is as expected.
 QString complaint(const Step& step, const QByteArray& answer) {
     QJsonParseError error{};
     const QJsonObject got = QJsonDocument::fromJson(answer, &error).object();
     if (error.error != QJsonParseError::NoError)
         return QStringLiteral("not JSON: ") + QString::fromUtf8(answer);
+    if (step.example)
+        return complaintOfExample(step, answer, got);
     if (step.expected.isEmpty())
         return QStringLiteral("no answer is expected here; the program gave ") +
                QString::fromUtf8(withoutCommand(answer));
@@ -77,7 +95,7 @@ class ScenarioTest : public testing::Test {
         ASSERT_NE(std::setlocale(LC_ALL, plain(m_scenario.locale).c_str()), nullptr)
             << "locale not installed: " << plain(m_scenario.locale);
         const BatchRun run = runBatch(batchProgram, m_scenario);
-        if (isWanted("VANZER_SCENARIOS_REWRITE"))
+        if (isWanted("VANZER_SCENARIOS_REWRITE") && !m_scenario.steps.front().example)
             rewrite(run);
         else
             compare(run);
@@ -118,18 +136,22 @@ class ScenarioTest : public testing::Test {
     Scenario m_scenario;
 };
 
-// Registers one test per scenario file and returns their number.
+void registerScenario(const char* suite, const Scenario& scenario) {
+    const QString name = scenario.name().replace(u'-', u'_'); // a filter reads "-" as "not"
+    testing::RegisterTest(suite, plain(name).c_str(), nullptr, nullptr, __FILE__, __LINE__,
+                          [scenario]() -> testing::Test* {
+                              return new ScenarioTest(scenario); // gtest deletes it
+                          });
+}
+
+// Registers one test per scenario file and one per page with examples, and returns the number of the former.
 qsizetype registerScenarios() {
     const QDir folder(scenarioFolder);
     const QStringList files = folder.entryList({QStringLiteral("*.txt")}, QDir::Files, QDir::Name);
-    for (const QString& file : files) {
-        const Scenario scenario = readScenario(folder.filePath(file));
-        const QString name = scenario.name().replace(u'-', u'_'); // a filter reads "-" as "not"
-        testing::RegisterTest("Scenarios", plain(name).c_str(), nullptr, nullptr, __FILE__, __LINE__,
-                              [scenario]() -> testing::Test* {
-                                  return new ScenarioTest(scenario); // gtest deletes it
-                              });
-    }
+    for (const QString& file : files)
+        registerScenario("Scenarios", readScenario(folder.filePath(file)));
+    for (const char* const page : {"batch.md", "manuale.md"})
+        registerScenario("Examples", readExamples(QDir(QStringLiteral(VANZER_DOCS)).filePath(QLatin1StringView(page))));
     return files.size();
 }
 

@@ -67,6 +67,27 @@ Scenario readScenario(const QString& path) {
     return scenario;
 }
 
+Scenario readExamples(const QString& path) {
+    Scenario scenario;
+    scenario.path = path;
+    QByteArray end; // of the block at hand
+    const QList<QByteArray> lines = linesOf(path, scenario.fault);
+    for (int i = 0; i < lines.size(); ++i) {
+        const QByteArray& line = lines.at(i);
+        if (end.isEmpty())
+            end = line == "```vanzer-batch" ? "```" : line == "<!-- vanzer-batch" ? "-->" : "";
+        else if (line == end)
+            end.clear();
+        else if (line.startsWith(arrow))
+            readExpected(line, i + 1, scenario);
+        else if (isCommand(line))
+            scenario.steps.append({line, {}, i + 1, true});
+    }
+    if (scenario.fault.isEmpty() && (scenario.steps.isEmpty() || !end.isEmpty()))
+        scenario.fault = scenario.steps.isEmpty() ? QStringLiteral("no examples") : QStringLiteral("an open block");
+    return scenario;
+}
+
 bool rewriteScenario(const Scenario& scenario) {
     QString fault;
     const QList<QByteArray> lines = linesOf(scenario.path, fault);

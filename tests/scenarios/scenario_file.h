@@ -9,8 +9,9 @@ namespace scenarios {
 /// A command line and what it is expected to answer.
 struct Step {
     QByteArray command;
-    QByteArray expected; ///< JSON text; empty where the file gives none
-    int line = 0;        ///< of the command, from 1
+    QByteArray expected;  ///< JSON text; empty where the file gives none
+    int line = 0;         ///< of the command, from 1
+    bool example = false; ///< of a page for readers: what the page doesn't tell of the answer is free
 };
 
 /// A scenario: header comments, then command lines, each followed by a line "=> JSON" with its expected answer. Empty
@@ -32,6 +33,11 @@ struct Scenario {
 
 /// Reads a scenario; what is wrong with it stands in `fault`.
 [[nodiscard]] Scenario readScenario(const QString& path);
+
+/// Reads the examples of a Markdown page: fenced blocks named "vanzer-batch" and comments that begin so, one session in
+/// the order of the page. A command may be followed by "=> JSON", whose keys the answer must have so, or by
+/// "=> ~ TEXT", which the answer must contain; without either it must be neither an error nor refused.
+[[nodiscard]] Scenario readExamples(const QString& path);
 
 /// Replaces the expected answers in the scenario's file by those of its steps and leaves every other line as it is.
 /// Returns false when the file can't be written.

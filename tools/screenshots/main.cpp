@@ -150,6 +150,16 @@ const std::array shots{
              }
          }},
     Shot{"viandoria", smallest, false, false, calculate},
+    Shot{"linea", smallest, false, false,
+         [](Scene& scene) {
+             calculate(scene);
+             scene.press("cmdLinea");
+         }},
+    Shot{"linea_scura", smallest, false, true,
+         [](Scene& scene) {
+             calculate(scene);
+             scene.press("cmdLinea");
+         }},
     Shot{"totali", usual, false, false,
          [](Scene& scene) {
              calculate(scene);

@@ -1,0 +1,65 @@
+#include "exchange/first_steps_screen.h"
+
+#include <QDir>
+
+#include "exchange/choice_screen.h"
+#include "exchange/exchange_screen.h"
+#include "window/destination_screen.h"
+
+/// Resources of a library are found once this has run.
+static void loadSamples() {
+    Q_INIT_RESOURCE(samples);
+}
+
+namespace vanzer {
+
+namespace {
+
+const QString sampleFolder = QStringLiteral(":/esempi");
+
+void offer(Form& form, const QString& path) {
+    form.frmPrimiPassi.setVisible(false);
+    cmdExport_Click(form);
+    ElencaFileScambio(form, path);
+}
+
+} // namespace
+
+void cmdPrimoViaggio_Click(Form& form) {
+    cmdNuovo_Click(form);
+}
+
+void cmdImportaViaggi_Click(Form& form) {
+    if (const QString path = form.ports.files.open(filtroScambio.toString()); !path.isEmpty())
+        offer(form, path);
+}
+
+void cmdViaggiEsempio_Click(Form& form) {
+    loadSamples();
+    const QDir samples(sampleFolder);
+    form.frmPrimiPassi.setVisible(false);
+    for (const QString& file : samples.entryList(QDir::Files, QDir::Name)) {
+        const auto result = ImportaTutto(form, samples.filePath(file));
+        if (!result)
+            return;
+        if (!result->riuscito) {
+            form.messaggio(result->testo, QStringLiteral("Viaggi di esempio"), Icona::Avviso);
+            return;
+        }
+    }
+    form.messaggio(
+        QStringLiteral("I viaggi di esempio sono in archivio.\n\nQuesto è il primo che si vede: \"Calcola\" ne "
+                       "fa la viandoria, \"Ricerca\" porta agli altri."),
+        QStringLiteral("Viaggi di esempio"), Icona::Informazione);
+}
+
+void apreFileDiViaggi(Form& form, const QString& path) {
+    if (!QFileInfo(path).isFile()) {
+        form.messaggio(QStringLiteral("Il file %1 non c'è.").arg(QDir::toNativeSeparators(path)),
+                       QStringLiteral("Import"), Icona::Avviso);
+        return;
+    }
+    offer(form, path);
+}
+
+} // namespace vanzer

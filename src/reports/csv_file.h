@@ -1,0 +1,13 @@
+// A table as comma-separated values (RFC 4180), UTF-8.
+#pragma once
+
+#include <QByteArray>
+
+#include "reports/text_files.h"
+
+namespace vanzer {
+
+/// Rows 0 to `rows` - 1 with `columns` cells each; empty rows at the end are left out.
+[[nodiscard]] QByteArray valoriSeparati(int rows, int columns, const CellaViandoria& cell);
+
+} // namespace vanzer

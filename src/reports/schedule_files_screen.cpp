@@ -1,0 +1,64 @@
+#include "reports/schedule_files_screen.h"
+
+#include <QDir>
+
+#include "core/text_file.h"
+#include "reports/calendar_file.h"
+#include "reports/csv_file.h"
+#include "schedule/time_line_screen.h"
+
+namespace vanzer {
+
+namespace {
+
+/// Columns of the table that the user sees.
+constexpr int shownColumns = 13;
+
+struct Formato {
+    const char16_t* filtro;
+    const char16_t* titolo;
+};
+
+Formato described(FormatoViandoria format) {
+    return format == FormatoViandoria::Calendario ? Formato{u"Calendario (*.ics)|*.ics", u"Calendario"}
+                                                  : Formato{u"Tabella (*.csv)|*.csv", u"Tabella"};
+}
+
+QByteArray contents(const Form& form, FormatoViandoria format) {
+    if (format == FormatoViandoria::Calendario)
+        return calendario(form.txtLocalita.text(), lineaMostrata(form), form.ports.clock.now());
+    return valoriSeparati(form.mfgTab.rows(), shownColumns,
+                          [&form](int row, int column) -> const QString& { return form.mfgTab.cell(row, column); });
+}
+
+void askAndWrite(Form& form, FormatoViandoria format) {
+    const Formato f = described(format);
+    const QString title = QString::fromUtf16(f.titolo);
+    const QString path = form.ports.files.save(QString::fromUtf16(f.filtro), Ricopertura::ChiedeIlDialogo);
+    if (path.isEmpty())
+        return;
+    const QString shown = QDir::toNativeSeparators(path);
+    if (const QString reason = scriveViandoria(form, format, path); reason.isEmpty())
+        form.messaggio(QStringLiteral("La viandoria è nel file:\n\n") + shown, title, Icona::Informazione);
+    else
+        form.messaggio(QStringLiteral("Il file %1 non è stato scritto: %2").arg(shown, reason), title, Icona::Avviso);
+}
+
+} // namespace
+
+QString scriveViandoria(const Form& form, FormatoViandoria format, const QString& path) {
+    const QString file = QDir(form.archivio.PercorsoProgramma).filePath(path);
+    if (stessoFile(file, form.archivio.PercorsoDatabase))
+        return QStringLiteral("è l'archivio: scegliere un altro nome.");
+    return scriveFile(file, contents(form, format));
+}
+
+void cmdCalendario_Click(Form& form) {
+    askAndWrite(form, FormatoViandoria::Calendario);
+}
+
+void cmdFoglio_Click(Form& form) {
+    askAndWrite(form, FormatoViandoria::Tabella);
+}
+
+} // namespace vanzer

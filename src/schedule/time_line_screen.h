@@ -1,0 +1,26 @@
+// The schedule of the table as a line of time.
+#pragma once
+
+#include <memory>
+
+#include "schedule/simulation.h"
+#include "schedule/time_line.h"
+#include "schedule/working_rows.h"
+#include "window/form.h"
+
+namespace vanzer {
+
+/// A schedule with what it was made from.
+struct ViandoriaMostrata {
+    std::shared_ptr<const RigheDiLavoro> lavoro;
+    Viandoria viandoria;
+    ParametriSimulazione parametri;
+};
+
+/// Made anew from the numbers; empty while the table shows no schedule.
+[[nodiscard]] LineaDelTempo lineaMostrata(const Form& form);
+
+/// Shows the picture over the table, or takes it away.
+void cmdLinea_Click(Form& form);
+
+} // namespace vanzer
