@@ -1,6 +1,8 @@
 #include "desktop/manual_window.h"
 
+#include <QFile>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
@@ -14,6 +16,16 @@ namespace {
 constexpr QSize manualSize{1000, 760};
 constexpr int deepestChapter = 2; // level of the headings in the list
 
+/// The page as a reader sees it: its comments, which hold what the tests do, are left out.
+QString manualText() {
+    QFile file(QStringLiteral(":/manuale/manuale.md"));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    static const QRegularExpression comment(QStringLiteral("<!--.*?-->\\n*"),
+                                            QRegularExpression::DotMatchesEverythingOption);
+    return QString::fromUtf8(file.readAll()).remove(comment);
+}
+
 /// The manual with its pictures scaled to the width that the text has.
 class Pages : public QTextBrowser {
   public:
@@ -22,7 +34,7 @@ class Pages : public QTextBrowser {
         QVariant found = QTextBrowser::loadResource(type, name);
         if (type != QTextDocument::ImageResource)
             return found;
-        constexpr int widest = 720;
+        constexpr int widest = 680;
         QImage picture;
         picture.loadFromData(found.toByteArray());
         return picture.width() > widest ? picture.scaledToWidth(widest, Qt::SmoothTransformation) : picture;
@@ -39,7 +51,8 @@ ManualWindow::ManualWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
     text_ = new Pages;
     text_->setAccessibleName(QStringLiteral("Testo del manuale"));
     text_->setOpenExternalLinks(true);
-    text_->setSource(QUrl(QStringLiteral("qrc:/manuale/manuale.md")), QTextDocument::MarkdownResource);
+    text_->setSearchPaths({QStringLiteral(":/manuale")});
+    text_->setMarkdown(manualText());
     wanted_ = new QLineEdit;
     wanted_->setClearButtonEnabled(true);
     auto* const label = new QLabel(QStringLiteral("&Cerca:"));

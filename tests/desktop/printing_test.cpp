@@ -314,7 +314,8 @@ TEST_F(Printing, TheFramesAreWorkedByKeyboard) {
         }
     };
     goesThrough({"chkTabella", "chkModuli", "chkFrontespizio", "chkVociFrontespizio_0", "chkVociFrontespizio_1",
-                 "chkVociFrontespizio_2", "chkVociFrontespizio_3", "chkLinea", "cmdCalendario", "cmdFoglio", "cmdEsegui_0"});
+                 "chkVociFrontespizio_2", "chkVociFrontespizio_3", "chkLinea", "cmdCalendario", "cmdFoglio",
+                 "cmdEsegui_0"});
     letter('d');
     EXPECT_TRUE(form().chkVociFrontespizio(1).value());
 

@@ -155,11 +155,6 @@ const std::array shots{
              calculate(scene);
              scene.press("cmdLinea");
          }},
-    Shot{"linea_scura", smallest, false, true,
-         [](Scene& scene) {
-             calculate(scene);
-             scene.press("cmdLinea");
-         }},
     Shot{"totali", usual, false, false,
          [](Scene& scene) {
              calculate(scene);

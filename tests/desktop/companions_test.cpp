@@ -1,0 +1,156 @@
+// What the window has beside the table: the first steps, the picture of the trip, the manual.
+#include <QLabel>
+#include <QRegularExpression>
+#include <QTextBlock>
+#include <QTextBrowser>
+
+#include "desktop/manual_window.h"
+#include "desktop/time_line_view.h"
+#include "desktop_fixture.h"
+#include "window/startup.h"
+
+namespace vanzer::desktop {
+namespace {
+
+class Companions : public DesktopTest {
+  protected:
+    [[nodiscard]] int trips() {
+        return static_cast<int>(form().archivio.tabella(QStringLiteral("MeteVanzer")).record.size());
+    }
+    ManualWindow* manual() {
+        letter('m');
+        auto* const found = window().findChild<ManualWindow*>();
+        EXPECT_NE(found, nullptr);
+        return found;
+    }
+};
+
+TEST_F(Companions, AnEmptyArchiveSaysWhatToDo) {
+    open();
+    EXPECT_TRUE(find("frmPrimiPassi")->isVisible());
+    letter('p');
+    EXPECT_EQ(focusName(), QStringLiteral("txtLocalita"));
+    EXPECT_FALSE(find("frmPrimiPassi")->isVisible());
+    EXPECT_TRUE(find("cmdSalva")->isEnabled());
+}
+
+TEST_F(Companions, TheSampleTripsComeInAndThePanelGoes) {
+    open();
+    boxes.expect(Qt::Key_Return);
+    letter('g');
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_EQ(trips(), 3);
+    EXPECT_FALSE(find("frmPrimiPassi")->isVisible());
+    EXPECT_TRUE(find("mfgTab")->isVisible());
+    EXPECT_TRUE(find("cmdItinerario")->isEnabled());
+    EXPECT_GT(form().stato.NumeroTappe, 5);
+}
+
+TEST_F(Companions, AnImportThatIsGivenUpLeadsBackToThePanel) {
+    open();
+    const QString file = directory.filePath(QStringLiteral("vuoto.iei"));
+    QFile empty(file);
+    ASSERT_TRUE(empty.open(QIODevice::WriteOnly));
+    empty.close();
+    withFile(file, [this] { letter('t'); });
+    EXPECT_FALSE(find("frmPrimiPassi")->isVisible());
+    ASSERT_TRUE(find("frmframe_22")->isVisible());
+    letter('f');
+    EXPECT_FALSE(find("frmframe_22")->isVisible());
+    EXPECT_TRUE(find("frmPrimiPassi")->isVisible());
+}
+
+TEST_F(Companions, AFileThatTheProgramIsOpenedWithOffersItsTrips) {
+    open();
+    boxes.expect(Qt::Key_Return);
+    window().binder().input([this] { apreViaggi(form(), QStringLiteral("/non/esiste.iei")); });
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_EQ(boxes.shown()[0].text, QStringLiteral("Il file /non/esiste.iei non c'è."));
+    EXPECT_TRUE(find("frmPrimiPassi")->isVisible());
+    window().binder().input([this] { apreViaggi(form(), QStringLiteral(":/esempi/sud.iei")); });
+    EXPECT_TRUE(find("frmframe_22")->isVisible());
+    EXPECT_FALSE(form().mfgImExp(1).cell(1, 1).isEmpty());
+    EXPECT_EQ(trips(), 0);
+}
+
+TEST_F(Companions, TheLineOfTimeIsWorkedByKeyboard) {
+    storeTrip(12);
+    open();
+    EXPECT_FALSE(find("cmdLinea")->isEnabled());
+    letter('c');
+    ASSERT_TRUE(find("cmdLinea")->isEnabled());
+    letter('p');
+    ASSERT_TRUE(find("frmLinea")->isVisible());
+    EXPECT_EQ(focusName(), QStringLiteral("vistaLinea"));
+    auto* const told = find<QLabel>("giornoLinea");
+    const QString first = told->text();
+    EXPECT_TRUE(first.startsWith(form().mfgTab.cell(1, 9) + u' ' + form().mfgTab.cell(1, 10))) << first.toStdString();
+    EXPECT_EQ(find("vistaLinea")->accessibleDescription(), first);
+    key(Qt::Key_End);
+    EXPECT_NE(told->text(), first);
+    key(Qt::Key_Home);
+    EXPECT_EQ(told->text(), first);
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(find("frmLinea")->isVisible());
+    letter('p');
+    EXPECT_TRUE(find("frmLinea")->isVisible());
+    QTest::mouseClick(find("cmdCalcola"), Qt::LeftButton); // the legs come back into the table
+    EXPECT_FALSE(find("frmLinea")->isVisible());
+    EXPECT_FALSE(find("cmdLinea")->isEnabled());
+}
+
+TEST_F(Companions, TheManualOpensWithAllItsPicturesAndCanBeSearched) {
+    open();
+    ManualWindow* const opened = manual();
+    ASSERT_NE(opened, nullptr);
+    auto* const text = opened->findChild<QTextBrowser*>();
+    auto* const chapters = opened->findChild<QListWidget*>();
+    EXPECT_GT(chapters->count(), 12);
+    EXPECT_FALSE(text->toPlainText().contains(QStringLiteral("cmdCalcola")));
+    int pictures = 0;
+    for (QTextBlock block = text->document()->begin(); block.isValid(); block = block.next()) {
+        for (const QTextLayout::FormatRange& range : block.textFormats()) {
+            if (!range.format.isImageFormat())
+                continue;
+            ++pictures;
+            const QUrl name(range.format.toImageFormat().name());
+            EXPECT_FALSE(text->document()->resource(QTextDocument::ImageResource, name).value<QImage>().isNull())
+                << name.toString().toStdString();
+        }
+    }
+    EXPECT_GT(pictures, 10);
+    auto* const wanted = opened->findChild<QLineEdit*>();
+    wanted->setText(QStringLiteral("foglio di calcolo"));
+    QTest::keyClick(wanted, Qt::Key_Return);
+    EXPECT_EQ(text->textCursor().selectedText().toLower(), QStringLiteral("foglio di calcolo"));
+    chapters->setCurrentRow(chapters->count() - 1);
+    EXPECT_EQ(text->textCursor().block().text(), chapters->currentItem()->text());
+    EXPECT_EQ(manual(), opened);
+}
+
+TEST_F(Companions, WhatTheManualNamesIsInTheWindow) {
+    open();
+    // Captions that come and go.
+    QStringList captions{QStringLiteral("Sblocca"), QStringLiteral("Esporta"), QStringLiteral("Converte vecchi file")};
+    for (const auto& control : form().controls()) {
+        if (const auto* const captioned = dynamic_cast<const Captioned*>(control.get()))
+            captions << QString(captioned->caption()).remove(u'&').trimmed();
+    }
+    for (const auto* const button : window().findChildren<QAbstractButton*>())
+        captions << button->text().remove(u'&').trimmed();
+    QFile file(QStringLiteral(":/manuale/manuale.md"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    static const QRegularExpression comment(QStringLiteral("<!--.*?-->"),
+                                            QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression named(QStringLiteral("`([^`]+)`"));
+    int count = 0;
+    for (const QRegularExpressionMatch& match : named.globalMatch(QString::fromUtf8(file.readAll()).remove(comment))) {
+        const QString name = match.captured(1);
+        EXPECT_TRUE(captions.contains(name)) << name.toStdString();
+        ++count;
+    }
+    EXPECT_GT(count, 30);
+}
+
+} // namespace
+} // namespace vanzer::desktop
