@@ -11,6 +11,7 @@
 #include <QSettings>
 
 #include "desktop/frames.h"
+#include "desktop/spoken.h"
 #include "desktop/time_line_view.h"
 #include "ui_main_window.h"
 #include "window/ways_out.h"
@@ -53,6 +54,7 @@ QWidget* firstOf(const QWidget& frame) {
 } // namespace
 
 MainWindow::MainWindow(Form& form) : form_(form), ui_(std::make_unique<Ui::MainWindow>()), binder_(form) {
+    nameDropDowns();
     ui_->setupUi(this);
     resize(firstSize);
     addFrames();

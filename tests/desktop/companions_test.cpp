@@ -99,6 +99,75 @@ TEST_F(Companions, TheLineOfTimeIsWorkedByKeyboard) {
     EXPECT_FALSE(find("cmdLinea")->isEnabled());
 }
 
+/// From an empty archive to the calendar of the trip, the mouse left alone.
+TEST_F(Companions, AWholeTripIsPlannedByKeyboard) {
+    open();
+    const auto expectFocus = [this](const char* name) {
+        QWidget* const focused = QApplication::focusWidget();
+        ASSERT_NE(focused, nullptr) << "instead of " << name;
+        EXPECT_TRUE(focused->isVisible());
+        EXPECT_EQ(focusName().toStdString(), name);
+    };
+    letter('p'); // first steps
+    write("garda");
+    tab();
+    write("italia");
+    boxes.expect(Qt::Key_Return);
+    letter('v');
+    letter('i');
+    struct Leg {
+        const char* place;
+        const char* road;
+        const char* km;
+    };
+    for (const Leg& leg : {Leg{"bologna", "", ""}, Leg{"verona", "a22", "133"}, Leg{"garda", "sr249", "35"}}) {
+        expectFocus("txtTappa");
+        key(Qt::Key_A, Qt::ControlModifier);
+        write(leg.place);
+        tab();
+        key(Qt::Key_A, Qt::ControlModifier);
+        write(leg.road);
+        tab();
+        write(leg.km);
+        letter('i');
+    }
+    boxes.expect(Qt::Key_Return);
+    letter('f');
+    letter('g'); // the guide, at the last place
+    for (int down = 0; down < 2; ++down)
+        key(Qt::Key_Down);
+    tabTo("txtGDescr");
+    write("rocca");
+    tab();
+    tab();
+    write("01");
+    letter('s');
+    key(Qt::Key_Return);
+    letter('c');
+    EXPECT_EQ(textOf("cmdCalcola"), QStringLiteral("&Sblocca"));
+    letter('p');
+    expectFocus("vistaLinea");
+    key(Qt::Key_Escape);
+    letter('s'); // shared: the letter goes from one button to the other
+    if (focusName() != QStringLiteral("cmdStampa"))
+        letter('s');
+    expectFocus("cmdStampa");
+    key(Qt::Key_Return);
+    expectFocus("chkTabella");
+    boxes.forget();
+    boxes.expect(Qt::Key_Return);
+    const QString calendar = directory.filePath(QStringLiteral("garda.ics"));
+    withFile(calendar, [this] { letter('l'); });
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    QFile written(calendar);
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(written.readAll().contains("SUMMARY:Rocca"));
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(find("frmframe_18")->isVisible());
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    EXPECT_TRUE(QApplication::focusWidget()->isVisible());
+}
+
 TEST_F(Companions, TheManualOpensWithAllItsPicturesAndCanBeSearched) {
     open();
     ManualWindow* const opened = manual();

@@ -1,0 +1,10 @@
+// What the window's own widgets say to a screen reader.
+#pragma once
+
+namespace vanzer::desktop {
+
+/// From now on a drop-down list says its name, and the text that it shows as its value. The platform's own would say the
+/// text in place of the name.
+void nameDropDowns();
+
+} // namespace vanzer::desktop

@@ -1,0 +1,142 @@
+// Who can't see well, or at all, or has no mouse: what the window says to a screen reader, how its colours part, and
+// what becomes of it when letters are large.
+#include <cmath>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "desktop/tints.h"
+#include "desktop_fixture.h"
+
+namespace vanzer::desktop {
+namespace {
+
+QString nameOf(QWidget& widget) {
+    QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(&widget);
+    return face == nullptr ? QString() : face->text(QAccessible::Name).trimmed();
+}
+
+class Reach : public DesktopTest {
+  protected:
+    [[nodiscard]] std::vector<Frame*> outerFrames() {
+        std::vector<Frame*> frames;
+        for (const auto& control : form().controls()) {
+            auto* const frame = dynamic_cast<Frame*>(control.get());
+            if (frame != nullptr && frame->frame() == nullptr && !frame->visible())
+                frames.push_back(frame);
+        }
+        return frames;
+    }
+    /// Runs a look at the window as it stands, then with each of its frames open.
+    template<typename Look> void withEachFrame(const Look& look) {
+        look("the window");
+        for (Frame* const frame : outerFrames()) {
+            frame->setVisible(true);
+            window().binder().flush();
+            QCoreApplication::processEvents();
+            look(frame->name().toStdString());
+            frame->setVisible(false);
+            window().binder().flush();
+        }
+    }
+};
+
+TEST_F(Reach, WhatTakesTheFocusHasANameOfItsOwn) {
+    storeTrip(3);
+    open();
+    withEachFrame([this](const std::string& where) {
+        std::map<std::pair<QWidget*, QString>, QString> met; // by parent and name
+        for (QWidget* const widget : window().findChildren<QWidget*>()) {
+            if (!widget->isVisible() || (widget->focusPolicy() & Qt::TabFocus) == 0 ||
+                widget->objectName().startsWith(u"qt_") || qobject_cast<QComboBox*>(widget->parentWidget()) != nullptr)
+                continue;
+            // Buttons of the exchange get their captions with the choice of what is exchanged.
+            if (const auto* const button = qobject_cast<QAbstractButton*>(widget);
+                button != nullptr && button->text().isEmpty())
+                continue;
+            const QString name = nameOf(*widget);
+            EXPECT_GT(name.size(), 1) << where << ": " << widget->objectName().toStdString();
+            const auto [other, fresh] = met.try_emplace({widget->parentWidget(), name}, widget->objectName());
+            EXPECT_TRUE(fresh) << where << ": " << name.toStdString() << " is " << other->second.toStdString()
+                               << " and " << widget->objectName().toStdString();
+        }
+    });
+}
+
+/// As the guidelines for readable pages count it: 1 to 21.
+double contrast(const QColor& one, const QColor& other) {
+    const auto light = [](const QColor& colour) {
+        const auto channel = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+        return 0.2126 * channel(static_cast<double>(colour.redF())) +
+               0.7152 * channel(static_cast<double>(colour.greenF())) +
+               0.0722 * channel(static_cast<double>(colour.blueF()));
+    };
+    const double a = light(one) + 0.05;
+    const double b = light(other) + 0.05;
+    return std::max(a, b) / std::min(a, b);
+}
+
+TEST(Colours, TextsStandOutFromEveryGroundInTheLightAndInTheDark) {
+    QPalette dark(QColor(0x35, 0x35, 0x35), QColor(0x2a, 0x2d, 0x31));
+    dark.setColor(QPalette::Base, QColor(0x1e, 0x20, 0x23));
+    for (const QPalette& palette : {QApplication::palette(), dark}) {
+        const Tints tints(palette);
+        const QColor text = palette.color(QPalette::Text);
+        const QColor base = palette.color(QPalette::Base);
+        const std::pair<const char*, QColor> grounds[] = {
+            {"fillable", tints.fillable}, {"computed", tints.computed}, {"band", tints.band},   {"total", tints.total},
+            {"marked", tints.marked},     {"place", tints.place},       {"drive", tints.drive}, {"stop", tints.stop},
+            {"meal", tints.meal},         {"pause", tints.pause},       {"night", tints.night}, {"base", base}};
+        for (const auto& [name, ground] : grounds)
+            EXPECT_GE(contrast(text, ground), 4.5) << name << (palette == dark ? ", dark" : "");
+        for (const auto& [name, ground] : {grounds[2], grounds[11]})
+            EXPECT_GE(contrast(tints.faint, ground), 4.5) << "faint on " << name << (palette == dark ? ", dark" : "");
+        EXPECT_GE(contrast(tints.rule, base), 3) << "rule" << (palette == dark ? ", dark" : "");
+        EXPECT_GE(contrast(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)), 3);
+    }
+}
+
+/// Room that a text needs beyond what it has; 0 for none.
+QSize missing(QWidget& widget) {
+    const QSize wish = widget.sizeHint();
+    return {std::max(0, wish.width() - widget.width()), std::max(0, wish.height() - widget.height())};
+}
+
+TEST_F(Reach, LettersUpToTwiceAsLargeStayWhole) {
+    storeTrip(3);
+    const QFont usual = QApplication::font();
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        QFont font = usual;
+        font.setPointSizeF(usual.pointSizeF() * scale);
+        QApplication::setFont(font);
+        open();
+        window().resize(1880, 1120);
+        QCoreApplication::processEvents();
+        withEachFrame([&](const std::string& where) {
+            for (QWidget* const widget : window().findChildren<QWidget*>()) {
+                const bool shows = qobject_cast<QPushButton*>(widget) != nullptr ||
+                                   qobject_cast<QCheckBox*>(widget) != nullptr ||
+                                   qobject_cast<QRadioButton*>(widget) != nullptr;
+                const auto* const label = qobject_cast<QLabel*>(widget);
+                if (!widget->isVisible() || (!shows && (label == nullptr || label->wordWrap())))
+                    continue;
+                const QSize lacks = missing(*widget);
+                EXPECT_TRUE(lacks.width() <= 1 && lacks.height() <= 2)
+                    << "scale " << scale << ", " << where << ": " << widget->objectName().toStdString() << " lacks "
+                    << lacks.width() << " x " << lacks.height();
+            }
+            EXPECT_LE(window().width(), 1920) << "scale " << scale << ", " << where;
+            EXPECT_LE(window().height(), 1200) << "scale " << scale << ", " << where;
+        });
+        close();
+    }
+    QApplication::setFont(usual);
+}
+
+} // namespace
+} // namespace vanzer::desktop
