@@ -133,7 +133,7 @@ class Pagina {
         if (fits(name))
             return name;
         for (qsizetype length = name.size() - 1; length >= shortestName; --length) {
-            if (const QString part = Trim(name.left(length)) + u'.'; fits(part))
+            if (QString part = Trim(name.left(length)) + u'.'; fits(part))
                 return part;
         }
         return {};

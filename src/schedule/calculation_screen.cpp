@@ -169,7 +169,8 @@ class Calcolo {
         form_.txtFine(6).setText(QString::number(s_.GiorniCalcolati));
         showSchedule(form_, *prepared_, last_);
         form_.frmLinea.setVisible(false);
-        form_.viandoria = std::make_shared<const ViandoriaMostrata>(prepared_, std::move(last_), used_);
+        form_.viandoria =
+            std::make_shared<const ViandoriaMostrata>(ViandoriaMostrata{prepared_, std::move(last_), used_});
         form_.cmdCalcola.setCaption(QStringLiteral("&Sblocca"));
         s_.ViandoriaCalcolata = true;
         AzzeraPercentuale(form_);

@@ -79,14 +79,16 @@ class Tracciatore {
         QString name = Trim(RiPulisceNomeLocalita(source.nome));
         if (name.startsWith(u'>'))
             name = Trim(name.mid(1));
-        const double lastDay = inizioDelGiorno(at(last_->giuliano, 0));
+        const double firstDay = inizioDelGiorno(begin);
+        const auto days = std::lround((inizioDelGiorno(at(last_->giuliano, 0)) - firstDay) / giorno);
         const auto visits = [this, &source, &name](double from, double to) {
             if (to > from)
                 adds(Attivita::Tipo::Sosta, from, to, name).nota = source.nota;
         };
         now_ = begin;
-        for (double day = inizioDelGiorno(begin); day < lastDay; day += giorno) {
-            const double from = day == inizioDelGiorno(begin) ? begin : day + ore(p_.inizioVisita);
+        for (long past = 0; past < days; ++past) {
+            const double day = firstDay + static_cast<double>(past) * giorno;
+            const double from = past == 0 ? begin : day + ore(p_.inizioVisita);
             const double to = std::max(from, day + ore(p_.fineVisita));
             visits(from, to);
             now_ = to;

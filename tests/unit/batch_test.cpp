@@ -10,6 +10,7 @@
 #include "batch/queue_ports.h"
 #include "batch/recording_printer.h"
 #include "batch/state_view.h"
+#include "batch/usage.h"
 
 namespace vanzer::batch {
 namespace {
@@ -207,6 +208,20 @@ TEST(BatchState, LeavesOutEmptyEndsOfGrids) {
     grid.setCell(2, 2, QStringLiteral(" "));
     EXPECT_EQ(compact(gridState(grid)), R"({"cells":[["","Tappa"],[],["",""," "]],"col":1,"cols":4,"colsel":1,)"
                                         R"("row":1,"rows":5,"rowsel":1,"toprow":1})");
+}
+
+TEST(BatchInterpreter, KnowsAllThatTheHelpLists) {
+    const QTemporaryDir scratch;
+    Interpreter interpreter({.directory = scratch.path(), .decimalMark = u'.', .versione = {}});
+    const QString unknown = QStringLiteral("unknown command");
+    EXPECT_EQ(interpreter.run(QStringLiteral("launch"))->value(u"error").toString(), unknown);
+    for (const Usage& usage : commandUsage()) {
+        const QString word = usage.command.toString().section(u' ', 0, 0);
+        if (word == u"stop")
+            continue;
+        EXPECT_NE(interpreter.run(word)->value(u"error").toString(), unknown) << word.toStdString();
+        EXPECT_TRUE(helpText().contains(usage.command)) << word.toStdString();
+    }
 }
 
 TEST(BatchInterpreter, AnswersWithoutAWindow) {
