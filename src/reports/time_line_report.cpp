@@ -4,6 +4,7 @@
 #include <span>
 
 #include "core/text.h"
+#include "core/time_values.h"
 
 namespace vanzer {
 
@@ -26,9 +27,8 @@ constexpr double highestRow = 10;
 constexpr double lowestRow = 2.5;
 constexpr double air = 0.12; ///< of a row's height, above its bars and below
 
-constexpr double leastSize = 6;   // points
-constexpr int shortestName = 3;   // letters
-constexpr double midnight = 2400; // hundredths of an hour
+constexpr double leastSize = 6; // points
+constexpr int shortestName = 3; // letters
 constexpr int hoursBetweenMarks = 3;
 
 struct Colore {
@@ -46,7 +46,7 @@ std::optional<quint32> colour(Attivita::Tipo type) {
 }
 
 double across(double hundredths) {
-    return firstHour + (lastHour - firstHour) * hundredths / midnight;
+    return firstHour + (lastHour - firstHour) * hundredths / giornoIntero;
 }
 
 class Pagina {
@@ -93,7 +93,7 @@ class Pagina {
         for (int hour = 0; hour <= lastMark; hour += hoursBetweenMarks) {
             const double x = across(hour * 100);
             sheet_.linea(x, top, x, end);
-            sheet_.StampaTesto(QString::number(hour), hoursLine, x - 4, x + 4, {.dimensione = 7, .posizione = Centro});
+            inTheMiddle(QString::number(hour), hoursLine, x - 4, x + 4, 7);
         }
         sheet_.StampaTesto(u"km"_s, hoursLine, lastHour, right, {.dimensione = 7, .posizione = Destra});
     }
@@ -121,7 +121,12 @@ class Pagina {
         sheet_.riempie(fill);
         sheet_.riquadro(from, y + height_ * air, to, y + height_ * (1 - air));
         if (const QString name = shortened(activity.nome, to - from); !name.isEmpty())
-            sheet_.StampaTesto(name, base, from, to, {.dimensione = std::min(size, 8.0), .posizione = Centro});
+            inTheMiddle(name, base, from, to, std::min(size, 8.0));
+    }
+
+    void inTheMiddle(const QString& text, double y, double from, double to, double size) {
+        constexpr double leftwards = 1; // of the middle, where the sheet centres the cells of its tables
+        sheet_.StampaTesto(text, y, from + leftwards, to + leftwards, {.dimensione = size, .posizione = Centro});
     }
 
     /// As much of a name as fits; nothing where that says nothing.

@@ -12,6 +12,7 @@
 #include "reports/guide_report.h"
 #include "reports/schedule_report.h"
 #include "reports/text_files.h"
+#include "reports/time_line_report.h"
 #include "schedule/rows.h"
 
 namespace vanzer {
@@ -288,6 +289,46 @@ TEST_F(Reports, TheGuideByNamesAndByEntries) {
           "text 187.7 25.64 8|01:30", "line 3 276.5 200 276.5 1", "box 3 24 200 276.5 3"})
         EXPECT_TRUE(holds(drawn[0], line)) << line;
     EXPECT_TRUE(holds(drawn[1], "box 3 24 200 29 3"));
+}
+
+TEST_F(Reports, ATimeLineHasItsNamesInTheMiddleOfTheirBars) {
+    using enum Attivita::Tipo;
+    LineaDelTempo line{.giulianoInizio = 731416, .attivita = {}};
+    const auto lasts = [&line](Attivita::Tipo type, double from, double to, const QString& name) {
+        Attivita& made = line.attivita.emplace_back();
+        made.tipo = type;
+        made.inizio = from;
+        made.fine = to;
+        made.nome = name;
+    };
+    lasts(Guida, 800, 925, u"Casalmaggiore"_s);
+    lasts(Sosta, 925, 1800, u"Duomo"_s);
+    lasts(Libero, 1800, 2250, u"Libero"_s);
+    lasts(Notte, 2250, 3300, u"Parma"_s);
+    lasts(Guida, 3300, 3305, u"Fidenza"_s); // no room for a name
+    sheet.imposta();
+    stampaLinea(sheet, u"GIRO"_s, line, {u"05/07/2003"_s, u"Vanzer"_s});
+    const QJsonArray drawn = printer.take()["pages"].toArray();
+    ASSERT_EQ(drawn.size(), 1);
+    const QStringList names{u"Casa."_s, u"Duomo"_s, u"Parma"_s};
+    QStringList found;
+    QJsonObject box;
+    for (const QJsonValue& value : drawn[0].toArray()) {
+        const QJsonObject o = value.toObject();
+        if (o["op"] == u"box"_s)
+            box = o;
+        if (o["op"] != u"text"_s || !names.contains(o["text"].toString()))
+            continue;
+        printer.setFontSize(o["size"].toDouble());
+        const double x = o["x"].toDouble();
+        const double width = printer.textWidth(o["text"].toString());
+        const double from = box["x1"].toDouble();
+        const double to = box["x2"].toDouble();
+        EXPECT_NEAR(x + width / 2, (from + to) / 2, 0.02);
+        EXPECT_TRUE(from < x && x + width < to) << x << ' ' << width << " in " << from << ' ' << to;
+        found << o["text"].toString();
+    }
+    EXPECT_EQ(found, (QStringList{u"Casa."_s, u"Duomo"_s, u"Parma"_s, u"Parma"_s}));
 }
 
 TEST(PrintedFiles, TableAndPlaces) {
