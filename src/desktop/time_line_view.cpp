@@ -18,7 +18,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr double wholeDay = 2400; // hundredths of an hour
 constexpr int hours = 24;
 constexpr int hoursBetweenMarks = 3;
 
@@ -49,7 +48,7 @@ struct TimeLineView::Measures {
     int width;
 
     [[nodiscard]] int across(double hundredths) const {
-        return left + static_cast<int>((right - left) * hundredths / wholeDay);
+        return left + static_cast<int>((right - left) * hundredths / giornoIntero);
     }
 };
 

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double giorno = 2400;
+constexpr double giorno = giornoIntero;
 constexpr double minutiDelGiorno = 1440;
 constexpr double impercettibile = 2; ///< a shorter gap is left by the counting, not spent
 

@@ -1,4 +1,6 @@
 // What the window has beside the table: the first steps, the picture of the trip, the manual.
+#include <array>
+
 #include <QLabel>
 #include <QRegularExpression>
 #include <QTextBlock>
@@ -115,22 +117,8 @@ TEST_F(Companions, AWholeTripIsPlannedByKeyboard) {
     boxes.expect(Qt::Key_Return);
     letter('v');
     letter('i');
-    struct Leg {
-        const char* place;
-        const char* road;
-        const char* km;
-    };
-    for (const Leg& leg : {Leg{"bologna", "", ""}, Leg{"verona", "a22", "133"}, Leg{"garda", "sr249", "35"}}) {
-        expectFocus("txtTappa");
-        key(Qt::Key_A, Qt::ControlModifier);
-        write(leg.place);
-        tab();
-        key(Qt::Key_A, Qt::ControlModifier);
-        write(leg.road);
-        tab();
-        write(leg.km);
-        letter('i');
-    }
+    typeLegs(
+        std::array{TypedLeg{"bologna", "", ""}, TypedLeg{"verona", "a22", "133"}, TypedLeg{"garda", "sr249", "35"}});
     boxes.expect(Qt::Key_Return);
     letter('f');
     letter('g'); // the guide, at the last place

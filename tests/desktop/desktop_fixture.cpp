@@ -150,4 +150,18 @@ void DesktopTest::typeDestination(const char* place, const char* nation) {
     letter('v');
 }
 
+void DesktopTest::typeLegs(std::span<const TypedLeg> legs) {
+    for (const TypedLeg& leg : legs) {
+        ASSERT_EQ(focusName(), QStringLiteral("txtTappa"));
+        key(Qt::Key_A, Qt::ControlModifier);
+        write(leg.place);
+        tab();
+        key(Qt::Key_A, Qt::ControlModifier);
+        write(leg.road);
+        tab();
+        write(leg.km);
+        letter('i');
+    }
+}
+
 } // namespace vanzer::desktop

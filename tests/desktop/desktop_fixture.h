@@ -4,6 +4,7 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include <QTemporaryDir>
@@ -43,6 +44,12 @@ class BoxKeys : public QObject {
     std::vector<ShownBox> shown_;
 };
 
+struct TypedLeg {
+    const char* place;
+    const char* road;
+    const char* km;
+};
+
 class DesktopTest : public ::testing::Test {
   protected:
     void SetUp() override;
@@ -78,6 +85,8 @@ class DesktopTest : public ::testing::Test {
     void storeTrip(int legs);
     /// Keys alone: a new destination, saved.
     void typeDestination(const char* place, const char* nation);
+    /// In the leg editor, with the focus where it stands when a row is open.
+    void typeLegs(std::span<const TypedLeg> legs);
 
     BoxKeys boxes;
     QTemporaryDir directory;

@@ -8,33 +8,13 @@
 namespace vanzer::desktop {
 namespace {
 
-struct Leg {
-    const char* place;
-    const char* road;
-    const char* km;
-};
-constexpr Leg tenLegs[] = {
+constexpr TypedLeg tenLegs[] = {
     {"bologna", "", ""},        {"modena", "a1", "41"},           {"verona", "a22", "92"},    {"trento", "a22", "97"},
     {"bolzano", "a22", "58"},   {"brennero", "a22", "82"},        {"innsbruck", "a13", "37"}, {"kufstein", "a12", "75"},
     {"rosenheim", "a93", "33"}, {"monaco di baviera", "a8", "60"}};
 
 class TripByKeyboard : public DesktopTest {
   protected:
-    /// In the leg editor, with the focus where it stands when a row is open.
-    void typeLegs() {
-        for (const Leg& leg : tenLegs) {
-            ASSERT_EQ(focusName(), QStringLiteral("txtTappa"));
-            key(Qt::Key_A, Qt::ControlModifier);
-            write(leg.place);
-            tab();
-            key(Qt::Key_A, Qt::ControlModifier);
-            write(leg.road);
-            tab();
-            write(leg.km);
-            letter('i');
-        }
-    }
-
     /// Wanted days that no multiplier reaches, so that a calculation runs all its tests.
     void wantManyDays() { form().cmbGiorni.setText(QStringLiteral("900")); }
 };
@@ -81,7 +61,7 @@ TEST_F(TripByKeyboard, TenLegsAreTypedAndStandInTheArchiveAtTheNextStart) {
     letter('i');
     EXPECT_TRUE(find("frmframe_12")->isVisible());
     EXPECT_FALSE(find("cmdNuovo")->isEnabled());
-    typeLegs();
+    typeLegs(tenLegs);
     EXPECT_EQ(textOf("txtRiga"), QStringLiteral("11"));
     EXPECT_EQ(textOf("txtKmTot_4"), QStringLiteral("575"));
     // The default button asks whether to store; Enter says yes.
