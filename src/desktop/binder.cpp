@@ -28,7 +28,7 @@ Binder::Binder(Form& form) : form_(form) {
     flushSoon_.setInterval(0);
     connect(&flushSoon_, &QTimer::timeout, this, &Binder::flush);
     form_.onFocus = [this](Control& control) {
-        wanted_ = widget(control);
+        wanted_ = &control;
         flushSoon_.start();
     };
 }
@@ -44,10 +44,27 @@ QString Binder::controlName(const QString& widgetName) {
 }
 
 void Binder::bind(QWidget& root) {
-    tie(root);
+    // What stands in a frame is as it should be before the frame comes up.
     for (QWidget* const widget : root.findChildren<QWidget*>())
         tie(*widget);
-    flush();
+    tie(root);
+}
+
+void Binder::bindLater(const Control& frame, std::function<QWidget&()> make) {
+    later_.push_back({&frame, std::move(make)});
+    for (const Control* holder = &frame; holder != nullptr; holder = holder->frame())
+        connect(holder, &Control::changed, this, &Binder::flushSoon);
+}
+
+/// A form costs some milliseconds to make, and most of them are not seen in most sessions.
+void Binder::makeForms() {
+    for (LaterForm& form : later_) {
+        bool seen = form.make != nullptr;
+        for (const Control* holder = form.frame; holder != nullptr; holder = holder->frame())
+            seen = seen && holder->visible();
+        if (seen)
+            bind(std::exchange(form.make, nullptr)());
+    }
 }
 
 void Binder::tie(QWidget& widget) {
@@ -67,6 +84,10 @@ QWidget* Binder::widget(const Control& control) const {
 
 void Binder::changed(Tie& tie) {
     dirty_.push_back(&tie);
+    flushSoon();
+}
+
+void Binder::flushSoon() {
     if (!flushSoon_.isActive())
         flushSoon_.start();
 }
@@ -87,9 +108,10 @@ void Binder::input(const std::function<void()>& handler) {
 void Binder::flush() {
     if (showing_)
         return;
-    flushSoon_.stop();
     QWidget* const before = QApplication::focusWidget();
     showing_ = true;
+    makeForms();
+    flushSoon_.stop();
     for (Tie* const tie : std::exchange(dirty_, {}))
         tie->show();
     showing_ = false;
@@ -99,7 +121,8 @@ void Binder::flush() {
 
 /// As the tab key gives it: the text of a field is selected, so that what is typed takes its place.
 void Binder::giveFocus() {
-    QWidget* const widget = std::exchange(wanted_, nullptr);
+    const Control* const control = std::exchange(wanted_, nullptr);
+    QWidget* const widget = control == nullptr ? nullptr : this->widget(*control);
     if (widget == nullptr || !widget->isEnabled())
         return;
     displaced_ = nullptr;

@@ -25,8 +25,10 @@ class Binder : public QObject {
     explicit Binder(Form& form);
     ~Binder() override;
 
-    /// Ties all widgets at and below `root` that bear a control's name, and shows what the controls hold.
+    /// Ties all widgets at and below `root` that bear a control's name; the next flush shows what the controls hold.
     void bind(QWidget& root);
+    /// The same for a form that `make` makes when its frame is to be seen for the first time.
+    void bindLater(const Control& frame, std::function<QWidget&()> make);
 
     /// An input of the user: the models' handlers run, and then the window shows what they changed.
     void input(const std::function<void()>& handler);
@@ -51,18 +53,26 @@ class Binder : public QObject {
   private:
     friend class Tie;
     void changed(Tie& tie);
+    struct LaterForm {
+        const Control* frame;
+        std::function<QWidget&()> make; ///< empty once it is made
+    };
+
     void tie(QWidget& widget);
+    void flushSoon();
+    void makeForms();
     void giveFocus();
     void keepFocus(QWidget* before);
 
     Form& form_;
     std::vector<std::unique_ptr<Tie>> ties_;
     std::unordered_map<const Control*, QWidget*> widgets_;
+    std::vector<LaterForm> later_;
     std::vector<Tie*> dirty_;
     QTimer flushSoon_;
-    QPointer<QWidget> wanted_;    ///< is to have the focus at the next flush
-    QPointer<QWidget> displaced_; ///< lost the focus because it was switched off
-    QPointer<QWidget> stopgap_;   ///< has it instead
+    const Control* wanted_ = nullptr; ///< is to have the focus at the next flush
+    QPointer<QWidget> displaced_;     ///< lost the focus because it was switched off
+    QPointer<QWidget> stopgap_;       ///< has it instead
     int depth_ = 0;
     bool showing_ = false;
     bool closedTold_ = false;

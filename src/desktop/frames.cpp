@@ -56,10 +56,19 @@ template<typename Design> QWidget* made(QWidget& window) {
     return frame;
 }
 
-/// Of two that lie over each other the later one is on top: the choice of the printer, then the waiting note.
-constexpr std::array designs{made<Ui::FramePrimiPassi>, made<Ui::FrameLinea>, made<Ui::Frame12>, made<Ui::Frame1>,
-                             made<Ui::Frame24>,         made<Ui::Frame17>,    made<Ui::Frame19>, made<Ui::Frame22>,
-                             made<Ui::Frame18>,         made<Ui::Frame25>,    made<Ui::Frame23>, made<Ui::Frame16>};
+/// The choice of the printer, then the waiting note are over all others.
+constexpr std::array<DisegnoRiquadro, 12> designs{{{u"frmPrimiPassi", made<Ui::FramePrimiPassi>},
+                                                   {u"frmLinea", made<Ui::FrameLinea>},
+                                                   {u"frmframe(12)", made<Ui::Frame12>},
+                                                   {u"frmframe(1)", made<Ui::Frame1>},
+                                                   {u"frmframe(24)", made<Ui::Frame24>},
+                                                   {u"frmframe(17)", made<Ui::Frame17>},
+                                                   {u"frmframe(19)", made<Ui::Frame19>},
+                                                   {u"frmframe(22)", made<Ui::Frame22>},
+                                                   {u"frmframe(18)", made<Ui::Frame18>},
+                                                   {u"frmframe(25)", made<Ui::Frame25>},
+                                                   {u"frmframe(23)", made<Ui::Frame23>},
+                                                   {u"frmframe(16)", made<Ui::Frame16>}}};
 
 constexpr std::array<std::pair<const char*, Posto>, 7> places{{{"fianco", Posto::Fianco},
                                                                {"sotto", Posto::Sotto},
@@ -75,12 +84,8 @@ constexpr int head = 8;     // px of its head row
 
 } // namespace
 
-std::vector<QWidget*> makeFrames(QWidget& window) {
-    std::vector<QWidget*> frames;
-    frames.reserve(designs.size());
-    for (const auto make : designs)
-        frames.push_back(make(window));
-    return frames;
+std::span<const DisegnoRiquadro> frameDesigns() {
+    return designs;
 }
 
 Posto posto(const QWidget& frame) {

@@ -2,7 +2,7 @@
 // list of frames.cpp and, in the form, the property "posto" that says where it comes up.
 #pragma once
 
-#include <vector>
+#include <span>
 
 #include <QWidget>
 
@@ -11,8 +11,13 @@ namespace vanzer::desktop {
 /// Where a frame comes up: beside the table on the right, below it, or over its left part, middle, right part or foot.
 enum class Posto { Fianco, Sotto, Sinistra, Centro, Destra, Piede, Tabella };
 
-/// The frames, made as hidden children of the window.
-[[nodiscard]] std::vector<QWidget*> makeFrames(QWidget& window);
+struct DisegnoRiquadro {
+    const char16_t* control;           ///< the frame's name among the controls
+    QWidget* (*make)(QWidget& window); ///< its form, as a hidden child of the window
+};
+
+/// The frames. Of two that lie over each other the later one is on top.
+[[nodiscard]] std::span<const DisegnoRiquadro> frameDesigns();
 
 /// What the frame's form says; over the middle if it says nothing.
 [[nodiscard]] Posto posto(const QWidget& frame);

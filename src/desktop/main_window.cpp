@@ -60,13 +60,8 @@ MainWindow::MainWindow(Form& form) : form_(form), ui_(std::make_unique<Ui::MainW
     addFrames();
     setWindowTitle(form.caption);
     binder_.bind(*this);
-    if (auto* const picture = findChild<TimeLineView*>())
-        connect(picture, &TimeLineView::dayTold, findChild<QLabel*>(QStringLiteral("giornoLinea")), &QLabel::setText);
     form_.onManuale = [this] { showManual(); };
-    for (QAbstractButton* const button : findChildren<QAbstractButton*>())
-        button->installEventFilter(this);
-    for (QLabel* const label : findChildren<QLabel*>())
-        label->installEventFilter(this);
+    watchLetters(*this);
     connect(&binder_, &Binder::closed, this, &QWidget::close);
     layOutFrames();
 }
@@ -85,14 +80,38 @@ void MainWindow::showManual() {
     manual_->activateWindow();
 }
 
+void MainWindow::watchLetters(QWidget& form) {
+    for (QAbstractButton* const button : form.findChildren<QAbstractButton*>())
+        button->installEventFilter(this);
+    for (QLabel* const label : form.findChildren<QLabel*>())
+        label->installEventFilter(this);
+}
+
 void MainWindow::addFrames() {
-    frames_ = makeFrames(*this);
-    frames_.push_back(ui_->cmbRicerca);
-    frames_.push_back(ui_->cmbRicercaTappa);
-    for (QWidget* const frame : frames_) {
-        frame->setAutoFillBackground(true);
-        frame->installEventFilter(this);
+    for (const DisegnoRiquadro& design : frameDesigns()) {
+        const std::size_t at = frames_.size();
+        frames_.push_back(nullptr);
+        binder_.bindLater(*form_.find(QString::fromUtf16(design.control)), [this, at, &design]() -> QWidget& {
+            QWidget& frame = *design.make(*this);
+            watchLetters(frame);
+            if (auto* const picture = frame.findChild<TimeLineView*>())
+                connect(picture, &TimeLineView::dayTold, frame.findChild<QLabel*>(QStringLiteral("giornoLinea")),
+                        &QLabel::setText);
+            return *(frames_[at] = &arranged(frame));
+        });
     }
+    frames_.push_back(&arranged(*ui_->cmbRicerca));
+    frames_.push_back(&arranged(*ui_->cmbRicercaTappa));
+}
+
+QWidget& MainWindow::arranged(QWidget& frame) {
+    frame.setAutoFillBackground(true);
+    frame.installEventFilter(this);
+    return frame;
+}
+
+bool MainWindow::isThere(const QWidget* frame) {
+    return frame != nullptr && !frame->isHidden();
 }
 
 /// Frames at the side and below take their room from the table; the others lie over it.
@@ -101,7 +120,7 @@ void MainWindow::layOutFrames() {
     int side = 0;
     int below = 0;
     for (const QWidget* const frame : frames_) {
-        if (frame->isHidden())
+        if (!isThere(frame))
             continue;
         if (posto(*frame) == Posto::Fianco)
             side = std::max(side, frame->sizeHint().width());
@@ -114,6 +133,8 @@ void MainWindow::layOutFrames() {
     const QRect table(ui_->mfgTab->mapTo(this, QPoint()), ui_->mfgTab->size());
     const QRect room(whole.right() + 1 - side, sideTop, side, table.bottom() + 1 - sideTop);
     for (QWidget* const frame : frames_) {
+        if (!isThere(frame))
+            continue;
         frame->setGeometry(frameRect(*frame, table, whole, room));
         frame->raise();
     }

@@ -38,6 +38,9 @@ class MainWindow : public QWidget {
 
   private:
     void addFrames();
+    [[nodiscard]] QWidget& arranged(QWidget& frame);
+    [[nodiscard]] static bool isThere(const QWidget* frame);
+    void watchLetters(QWidget& form);
     void layOutFrames();
     void pressEnter();
     void takeFocus(QWidget& frame);
@@ -49,7 +52,7 @@ class MainWindow : public QWidget {
 
     Form& form_;
     std::unique_ptr<Ui::MainWindow> ui_;
-    std::vector<QWidget*> frames_;                       ///< laid over and beside the table
+    std::vector<QWidget*> frames_;                       ///< over and beside the table; null until they are seen
     std::map<const QWidget*, QPointer<QWidget>> before_; ///< what had the focus before a frame took it
     QPointer<ManualWindow> manual_;
     Binder binder_;

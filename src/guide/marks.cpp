@@ -4,20 +4,20 @@
 
 namespace vanzer {
 
-std::vector<VoceGuida> SegniGuida::unused(const std::vector<VoceGuida>& entries) {
-    std::vector<VoceGuida> fresh;
+SegniGuida::Voci SegniGuida::unused(const std::vector<VoceGuida>& entries) {
+    Voci fresh;
     for (const VoceGuida& entry : entries) {
         if (used_.insert(entry.rowid))
-            fresh.push_back(entry);
+            fresh.push_back(&entry);
     }
     return fresh;
 }
 
-std::vector<VoceGuida> SegniGuida::usaLuogo(const QString& place) {
+SegniGuida::Voci SegniGuida::usaLuogo(const QString& place) {
     return unused(archive_.guida().leggeLuogo(place));
 }
 
-std::vector<VoceGuida> SegniGuida::usaModello(const QString& pattern) {
+SegniGuida::Voci SegniGuida::usaModello(const QString& pattern) {
     if (!pattern.contains(u'*') && !pattern.contains(u'?'))
         return usaLuogo(pattern);
     return unused(archive_.guida().leggeModello(pattern));

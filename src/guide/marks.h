@@ -14,16 +14,19 @@ class SegniGuida {
   public:
     explicit SegniGuida(store::Archive& archive) : archive_(archive) {}
 
+    /// The archive's own: they hold until it is read or written again.
+    using Voci = std::vector<const VoceGuida*>;
+
     /// The entries of exactly this place, case ignored, that weren't used yet: by category, the longest first, then by
     /// group. They count as used from here on.
-    [[nodiscard]] std::vector<VoceGuida> usaLuogo(const QString& place);
+    [[nodiscard]] Voci usaLuogo(const QString& place);
     /// The entries whose place matches the pattern, used in the same way.
-    [[nodiscard]] std::vector<VoceGuida> usaModello(const QString& pattern);
+    [[nodiscard]] Voci usaModello(const QString& pattern);
     /// Writes the marks of the run to the archive.
     void scrive() { archive_.rimetteVisti(used_); }
 
   private:
-    [[nodiscard]] std::vector<VoceGuida> unused(const std::vector<VoceGuida>& entries);
+    [[nodiscard]] Voci unused(const std::vector<VoceGuida>& entries);
 
     store::Archive& archive_;
     store::InsiemeDiRighe used_;

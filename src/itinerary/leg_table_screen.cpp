@@ -27,9 +27,11 @@ Grid::Rows readLegs(Form& form) {
     const int type = records.campo("TipoStrada");
     const int stop = records.campo("TempoSosta");
     const int end = records.campo("FineGiorno");
+    // As wide as the table, so that no row has to grow in it.
+    const auto width = static_cast<std::size_t>(Maggiore(form.mfgTab.columns(), colonnaFineGiorno + 1));
     Grid::Rows rows;
     for (int number = 1; !records.EOF_(); records.MoveNext(), ++number) {
-        auto& cells = rows.emplace_back(static_cast<std::size_t>(colonnaFineGiorno + 1));
+        auto& cells = rows.emplace_back(width);
         cells[0] = testoNumero(number);
         cells[1] = records.testo(place);
         cells[2] = Trim(records.testo(road));
@@ -44,8 +46,8 @@ Grid::Rows readLegs(Form& form) {
 /// The guide's stops of a place as the text of its cell.
 QString guideStops(SegniGuida& guide, const QString& place, float visitingDay) {
     double sum = 0;
-    for (const VoceGuida& entry : guide.usaLuogo(place))
-        sum += static_cast<double>(tempoVoce(entry.tempoSosta, visitingDay));
+    for (const VoceGuida* const entry : guide.usaLuogo(place))
+        sum += static_cast<double>(tempoVoce(entry->tempoSosta, visitingDay));
     return ghmCentesimi2Stringa(static_cast<float>(sum), giornoIntero);
 }
 
@@ -85,8 +87,8 @@ int recordsNeeded(const Form& form) {
 /// All that the guide knows for a place as it is stored; a wider pattern may find more than the place itself.
 QString guideSnapshot(SegniGuida& guide, const QString& place) {
     double sum = 0;
-    for (const VoceGuida& entry : guide.usaModello(LikeTesto(place)))
-        sum += static_cast<double>(ghmStringa2Centesimi(entry.tempoSosta, giornoIntero));
+    for (const VoceGuida* const entry : guide.usaModello(LikeTesto(place)))
+        sum += static_cast<double>(ghmStringa2Centesimi(entry->tempoSosta, giornoIntero));
     return ghmCentesimi2Stringa(static_cast<float>(sum), giornoIntero);
 }
 

@@ -107,13 +107,13 @@ class Preparatore {
 
     float vociGuida(const TappaDaPreparare& leg) {
         double sum = 0;
-        for (const VoceGuida& entry : with_.guida(PulisceNomeLocalita(leg.luogo))) {
-            const float stop = sostaDellaVoce(entry.tempoSosta, with_.oreVisitaGiorno);
+        for (const VoceGuida* const entry : with_.guida(PulisceNomeLocalita(leg.luogo))) {
+            const float stop = sostaDellaVoce(entry->tempoSosta, with_.oreVisitaGiorno);
             const bool mention = stop == 0;
             RigaDiLavoro& row = mention
-                                    ? aggiunge(RigaDiLavoro::Tipo::Menzione, leg, u" > "_s + Trim(entry.descrizione))
-                                    : aggiunge(RigaDiLavoro::Tipo::SostaGuida, leg, nameOfEntry(entry));
-            row.nota = with_.categoria(entry.codice);
+                                    ? aggiunge(RigaDiLavoro::Tipo::Menzione, leg, u" > "_s + Trim(entry->descrizione))
+                                    : aggiunge(RigaDiLavoro::Tipo::SostaGuida, leg, nameOfEntry(*entry));
+            row.nota = with_.categoria(entry->codice);
             row.sostaGuida = stop;
             sum += static_cast<double>(stop);
         }

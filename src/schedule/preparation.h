@@ -26,7 +26,7 @@ struct Preparazione {
     FonteSoste fonte = FonteSoste::Nessuna;
     float oreVisitaGiorno = 0;
     /// The entries of a place that weren't used yet: by category, the longest first, then by group.
-    std::function<std::vector<VoceGuida>(const QString& place)> guida;
+    std::function<std::vector<const VoceGuida*>(const QString& place)> guida;
     std::function<QString(int category)> categoria;
     /// Called once a leg.
     std::function<void(int row)> avanza;

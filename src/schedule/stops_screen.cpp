@@ -23,8 +23,8 @@ void addGuideStops(Form& form) {
         if (grid.cell(r, 1).isEmpty())
             continue;
         std::vector<QString> times;
-        for (const VoceGuida& entry : guide.usaModello(LikeTesto(grid.cell(r, 1))))
-            times.push_back(entry.tempoSosta);
+        for (const VoceGuida* const entry : guide.usaModello(LikeTesto(grid.cell(r, 1))))
+            times.push_back(entry->tempoSosta);
         if (!times.empty())
             grid.setCell(r, colonnaSosta, sostaConGuida(grid.cell(r, colonnaSosta), times, form.stato.OreVisitaGiorno));
     }

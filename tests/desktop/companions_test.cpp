@@ -29,10 +29,10 @@ class Companions : public DesktopTest {
 
 TEST_F(Companions, AnEmptyArchiveSaysWhatToDo) {
     open();
-    EXPECT_TRUE(find("frmPrimiPassi")->isVisible());
+    EXPECT_TRUE(isSeen("frmPrimiPassi"));
     letter('p');
     EXPECT_EQ(focusName(), QStringLiteral("txtLocalita"));
-    EXPECT_FALSE(find("frmPrimiPassi")->isVisible());
+    EXPECT_FALSE(isSeen("frmPrimiPassi"));
     EXPECT_TRUE(find("cmdSalva")->isEnabled());
 }
 
@@ -42,8 +42,8 @@ TEST_F(Companions, TheSampleTripsComeInAndThePanelGoes) {
     letter('g');
     ASSERT_EQ(boxes.shown().size(), 1U);
     EXPECT_EQ(trips(), 3);
-    EXPECT_FALSE(find("frmPrimiPassi")->isVisible());
-    EXPECT_TRUE(find("mfgTab")->isVisible());
+    EXPECT_FALSE(isSeen("frmPrimiPassi"));
+    EXPECT_TRUE(isSeen("mfgTab"));
     EXPECT_TRUE(find("cmdItinerario")->isEnabled());
     EXPECT_GT(form().stato.NumeroTappe, 5);
 }
@@ -55,11 +55,11 @@ TEST_F(Companions, AnImportThatIsGivenUpLeadsBackToThePanel) {
     ASSERT_TRUE(empty.open(QIODevice::WriteOnly));
     empty.close();
     withFile(file, [this] { letter('t'); });
-    EXPECT_FALSE(find("frmPrimiPassi")->isVisible());
-    ASSERT_TRUE(find("frmframe_22")->isVisible());
+    EXPECT_FALSE(isSeen("frmPrimiPassi"));
+    ASSERT_TRUE(isSeen("frmframe_22"));
     letter('f');
-    EXPECT_FALSE(find("frmframe_22")->isVisible());
-    EXPECT_TRUE(find("frmPrimiPassi")->isVisible());
+    EXPECT_FALSE(isSeen("frmframe_22"));
+    EXPECT_TRUE(isSeen("frmPrimiPassi"));
 }
 
 TEST_F(Companions, AFileThatTheProgramIsOpenedWithOffersItsTrips) {
@@ -68,9 +68,9 @@ TEST_F(Companions, AFileThatTheProgramIsOpenedWithOffersItsTrips) {
     window().binder().input([this] { apreViaggi(form(), QStringLiteral("/non/esiste.iei")); });
     ASSERT_EQ(boxes.shown().size(), 1U);
     EXPECT_EQ(boxes.shown()[0].text, QStringLiteral("Il file /non/esiste.iei non c'è."));
-    EXPECT_TRUE(find("frmPrimiPassi")->isVisible());
+    EXPECT_TRUE(isSeen("frmPrimiPassi"));
     window().binder().input([this] { apreViaggi(form(), QStringLiteral(":/esempi/sud.iei")); });
-    EXPECT_TRUE(find("frmframe_22")->isVisible());
+    EXPECT_TRUE(isSeen("frmframe_22"));
     EXPECT_FALSE(form().mfgImExp(1).cell(1, 1).isEmpty());
     EXPECT_EQ(trips(), 0);
 }
@@ -82,7 +82,7 @@ TEST_F(Companions, TheLineOfTimeIsWorkedByKeyboard) {
     letter('c');
     ASSERT_TRUE(find("cmdLinea")->isEnabled());
     letter('p');
-    ASSERT_TRUE(find("frmLinea")->isVisible());
+    ASSERT_TRUE(isSeen("frmLinea"));
     EXPECT_EQ(focusName(), QStringLiteral("vistaLinea"));
     auto* const told = find<QLabel>("giornoLinea");
     const QString first = told->text();
@@ -93,11 +93,11 @@ TEST_F(Companions, TheLineOfTimeIsWorkedByKeyboard) {
     key(Qt::Key_Home);
     EXPECT_EQ(told->text(), first);
     key(Qt::Key_Escape);
-    EXPECT_FALSE(find("frmLinea")->isVisible());
+    EXPECT_FALSE(isSeen("frmLinea"));
     letter('p');
-    EXPECT_TRUE(find("frmLinea")->isVisible());
+    EXPECT_TRUE(isSeen("frmLinea"));
     QTest::mouseClick(find("cmdCalcola"), Qt::LeftButton); // the legs come back into the table
-    EXPECT_FALSE(find("frmLinea")->isVisible());
+    EXPECT_FALSE(isSeen("frmLinea"));
     EXPECT_FALSE(find("cmdLinea")->isEnabled());
 }
 
@@ -151,7 +151,7 @@ TEST_F(Companions, AWholeTripIsPlannedByKeyboard) {
     ASSERT_TRUE(written.open(QIODevice::ReadOnly));
     EXPECT_TRUE(written.readAll().contains("SUMMARY:Rocca"));
     key(Qt::Key_Escape);
-    EXPECT_FALSE(find("frmframe_18")->isVisible());
+    EXPECT_FALSE(isSeen("frmframe_18"));
     ASSERT_NE(QApplication::focusWidget(), nullptr);
     EXPECT_TRUE(QApplication::focusWidget()->isVisible());
 }
@@ -187,6 +187,7 @@ TEST_F(Companions, TheManualOpensWithAllItsPicturesAndCanBeSearched) {
 
 TEST_F(Companions, WhatTheManualNamesIsInTheWindow) {
     open();
+    seeAllFrames();
     // Captions that come and go.
     QStringList captions{QStringLiteral("Sblocca"), QStringLiteral("Esporta"), QStringLiteral("Converte vecchi file")};
     for (const auto& control : form().controls()) {

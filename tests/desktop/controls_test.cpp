@@ -74,6 +74,7 @@ class Controls : public DesktopTest {
 };
 
 TEST_F(Controls, EachHasItsWidgetWithCaptionTipKeyAndName) {
+    seeAllFrames();
     int checked = 0;
     for (const auto& control : form().controls()) {
         const std::string name = control->name().toStdString();

@@ -65,6 +65,24 @@ void DesktopTest::open(Pace pace) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
 }
 
+void DesktopTest::seeAllFrames() {
+    std::vector<Frame*> hidden;
+    for (const auto& control : form().controls()) {
+        if (auto* const frame = dynamic_cast<Frame*>(control.get()); frame != nullptr && !frame->visible())
+            hidden.push_back(frame);
+    }
+    for (const bool on : {true, false}) {
+        for (Frame* const frame : hidden)
+            frame->setVisible(on);
+        window().binder().flush();
+    }
+}
+
+bool DesktopTest::isSeen(const char* name) {
+    const auto* const widget = window().findChild<QWidget*>(QLatin1StringView(name));
+    return widget != nullptr && widget->isVisible();
+}
+
 QString DesktopTest::focusName() {
     const QWidget* const focus = QApplication::focusWidget();
     return focus == nullptr ? QString() : focus->objectName();

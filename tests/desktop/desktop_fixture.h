@@ -58,6 +58,8 @@ class DesktopTest : public ::testing::Test {
     /// Starts the program on the test's archive; events run inside commands at the given pace.
     void open(Pace pace = {});
     void close() { program_.reset(); }
+    /// All frames come up and go again: their forms are made when they are first seen.
+    void seeAllFrames();
 
     [[nodiscard]] Form& form() { return program_->form(); }
     [[nodiscard]] MainWindow& window() { return program_->window(); }
@@ -66,6 +68,8 @@ class DesktopTest : public ::testing::Test {
         EXPECT_NE(found, nullptr) << name;
         return found;
     }
+    /// A form that was never seen isn't there yet.
+    [[nodiscard]] bool isSeen(const char* name);
     [[nodiscard]] QString focusName();
     [[nodiscard]] QString textOf(const char* name);
 

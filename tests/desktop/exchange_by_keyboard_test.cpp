@@ -21,7 +21,7 @@ TEST_F(ExchangeByKeyboard, ATripGoesOutAndComesInUnderAnotherName) {
     storeTrip(5);
     open();
     letter('x');
-    ASSERT_TRUE(find("frmframe_22")->isVisible());
+    ASSERT_TRUE(isSeen("frmframe_22"));
     EXPECT_EQ(focusName(), QStringLiteral("cmdImportExport_0"));
     letter('e');
     EXPECT_EQ(focusName(), QStringLiteral("mfgImExp_0"));
@@ -42,7 +42,7 @@ TEST_F(ExchangeByKeyboard, ATripGoesOutAndComesInUnderAnotherName) {
     boxes.forget();
 
     key(Qt::Key_Escape);
-    EXPECT_FALSE(find("frmframe_22")->isVisible());
+    EXPECT_FALSE(isSeen("frmframe_22"));
     letter('x');
     withFile(path, [this] { letter('i'); });
     EXPECT_EQ(focusName(), QStringLiteral("mfgImExp_1"));
@@ -55,7 +55,7 @@ TEST_F(ExchangeByKeyboard, ATripGoesOutAndComesInUnderAnotherName) {
     ASSERT_EQ(boxes.shown().size(), 2U);
     EXPECT_EQ(boxes.shown()[1].text, QStringLiteral("Sono stati inseriti:\n\n1 mète/itinerari;\n5 tratti stradali;\n0 "
                                                     "guide/informazioni località.\n\n"));
-    EXPECT_FALSE(find("frmframe_22")->isVisible());
+    EXPECT_FALSE(isSeen("frmframe_22"));
     EXPECT_TRUE(find("cmdExport")->isEnabled());
     EXPECT_EQ(form().archivio.tabella(QStringLiteral("Itinerari")).record.size(), 10U);
 }
@@ -160,7 +160,7 @@ TEST_F(ExchangeByKeyboard, OldFilesAreConvertedWhileTheyAreThere) {
     ASSERT_TRUE(writeOldFile(directory.filePath(QStringLiteral("VanzMete.dat")),
                              oldFile(store::vecchieMete(), {{QStringLiteral("1"), QStringLiteral("ROMA")}})));
     open();
-    ASSERT_TRUE(find("cmdConverte")->isVisible());
+    ASSERT_TRUE(isSeen("cmdConverte"));
     boxes.expect(Qt::Key_Escape);
     letter('o');
     EXPECT_TRUE(find("cmdConverte")->isEnabled());
@@ -170,7 +170,7 @@ TEST_F(ExchangeByKeyboard, OldFilesAreConvertedWhileTheyAreThere) {
     ASSERT_EQ(boxes.shown().size(), 3U);
     EXPECT_EQ(boxes.shown()[2].text, QStringLiteral("Conversione eseguita..."));
     EXPECT_EQ(textOf("txtLocalita"), QStringLiteral("ROMA"));
-    EXPECT_FALSE(find("cmdConverte")->isVisible());
+    EXPECT_FALSE(isSeen("cmdConverte"));
     EXPECT_TRUE(find("cmdItinerario")->isEnabled());
 }
 

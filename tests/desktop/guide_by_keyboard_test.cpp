@@ -15,7 +15,7 @@ class GuideByKeyboard : public DesktopTest {
         storeTrip(legs);
         open();
         letter('g');
-        ASSERT_TRUE(find("frmframe_24")->isVisible());
+        ASSERT_TRUE(isSeen("frmframe_24"));
     }
 
     [[nodiscard]] std::string cell(int row, ColonnaGuida column) {
@@ -55,7 +55,7 @@ TEST_F(GuideByKeyboard, ThirtyNotesInARow) {
     }
     EXPECT_TRUE(boxes.shown().empty());
     key(Qt::Key_Return);
-    EXPECT_FALSE(find("frmframe_24")->isVisible()) << "Enter closes the guide";
+    EXPECT_FALSE(isSeen("frmframe_24")) << "Enter closes the guide";
 
     open();
     letter('g');

@@ -14,11 +14,11 @@ class PrintByKeyboard : public DesktopTest {
         storeTrip(legs);
         open();
         letter('s');
-        ASSERT_TRUE(find("frmframe_18")->isVisible());
+        ASSERT_TRUE(isSeen("frmframe_18"));
         EXPECT_EQ(focusName(), QStringLiteral("chkTabella"));
         key(Qt::Key_Space);
         letter('s');
-        ASSERT_TRUE(find("frmframe_23")->isVisible());
+        ASSERT_TRUE(isSeen("frmframe_23"));
     }
 
     /// Marks "PDF", the last printer, and prints; the dialog that asks for the file gets this one.
@@ -50,7 +50,7 @@ TEST_F(PrintByKeyboard, AScheduleGoesToAPdf) {
         EXPECT_TRUE(text.contains(QLatin1StringView(printed))) << printed;
     EXPECT_EQ(text.count(u'\f'), 2) << "the cover and one page, no blank one";
     EXPECT_TRUE(QFile::exists(directory.filePath(QStringLiteral("Vanztabl.txt"))));
-    EXPECT_FALSE(find("frmframe_18")->isVisible());
+    EXPECT_FALSE(isSeen("frmframe_18"));
     EXPECT_EQ(textOf("cmdCalcola"), QStringLiteral("&Sblocca"));
 }
 
@@ -85,19 +85,19 @@ TEST_F(PrintByKeyboard, APrintIsStoppedByEsc) {
 TEST_F(PrintByKeyboard, TheFramesAreLeftByEsc) {
     openChoice(3);
     key(Qt::Key_Escape);
-    EXPECT_FALSE(find("frmframe_23")->isVisible());
-    EXPECT_TRUE(find("frmframe_18")->isVisible());
+    EXPECT_FALSE(isSeen("frmframe_23"));
+    EXPECT_TRUE(isSeen("frmframe_18"));
     key(Qt::Key_Escape);
-    EXPECT_FALSE(find("frmframe_18")->isVisible());
+    EXPECT_FALSE(isSeen("frmframe_18"));
     EXPECT_TRUE(find("cmdCalcola")->isEnabled());
     find("cmdCalcola")->setFocus();
     key(Qt::Key_Space); // the legs back
     letter('g');
     find("cmdStampaGuidaCitta")->setFocus();
     key(Qt::Key_Space);
-    EXPECT_TRUE(find("frmframe_25")->isVisible());
+    EXPECT_TRUE(isSeen("frmframe_25"));
     key(Qt::Key_Escape);
-    EXPECT_FALSE(find("frmframe_25")->isVisible());
+    EXPECT_FALSE(isSeen("frmframe_25"));
     EXPECT_TRUE(boxes.shown().empty());
 }
 

@@ -271,6 +271,7 @@ TEST_F(Printing, ThePreviewIsHadAndLeft) {
     letter('p');
     EXPECT_TRUE(find<PreviewCheck>("anteprima")->isChecked());
     open();
+    seeAllFrames();
     EXPECT_TRUE(find<PreviewCheck>("anteprima")->isChecked()) << "remembered";
 
     const QString pdf = inFolder("anteprima.pdf");
@@ -363,7 +364,7 @@ TEST_F(Printing, TheGuidesOptionsFollowTheGuide) {
         form().frmframe(24).setEnabled(on);
         form().frmframe(24).setVisible(visible);
         window().binder().flush();
-        return std::pair(find("cmdStampaGuida_0")->isEnabled(), find("frmframe_25")->isVisible());
+        return std::pair(find("cmdStampaGuida_0")->isEnabled(), isSeen("frmframe_25"));
     };
     EXPECT_EQ(shown(false, true), std::pair(false, true));
     EXPECT_FALSE(shown(true, false).second);

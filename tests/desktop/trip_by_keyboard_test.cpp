@@ -27,10 +27,10 @@ TEST_F(TripByKeyboard, FirstStartOffersANewTripAndTheWayOut) {
         EXPECT_FALSE(find(name)->isEnabled()) << name;
     EXPECT_TRUE(find("cmdNuovo")->isEnabled());
     EXPECT_TRUE(find("cmdEsce")->isEnabled());
-    EXPECT_FALSE(find("frmframe_12")->isVisible());
+    EXPECT_FALSE(isSeen("frmframe_12"));
     EXPECT_EQ(textOf("cmbOra_0").toStdString(), "09");
     EXPECT_EQ(textOf("cmbInizio_2").toStdString(), "2026");
-    EXPECT_FALSE(find("txtPerc")->isVisible());
+    EXPECT_FALSE(isSeen("txtPerc"));
 }
 
 TEST_F(TripByKeyboard, DestinationIsTypedAndSaved) {
@@ -59,7 +59,7 @@ TEST_F(TripByKeyboard, TenLegsAreTypedAndStandInTheArchiveAtTheNextStart) {
     open();
     typeDestination("monaco", "germania");
     letter('i');
-    EXPECT_TRUE(find("frmframe_12")->isVisible());
+    EXPECT_TRUE(isSeen("frmframe_12"));
     EXPECT_FALSE(find("cmdNuovo")->isEnabled());
     typeLegs(tenLegs);
     EXPECT_EQ(textOf("txtRiga"), QStringLiteral("11"));
@@ -67,7 +67,7 @@ TEST_F(TripByKeyboard, TenLegsAreTypedAndStandInTheArchiveAtTheNextStart) {
     // The default button asks whether to store; Enter says yes.
     boxes.expect(Qt::Key_Return);
     key(Qt::Key_Return);
-    EXPECT_FALSE(find("frmframe_12")->isVisible());
+    EXPECT_FALSE(isSeen("frmframe_12"));
 
     open();
     EXPECT_EQ(textOf("txtLocalita"), QStringLiteral("MONACO"));
@@ -89,7 +89,7 @@ TEST_F(TripByKeyboard, CalculationIsStoppedOnceAndFinishedOnce) {
         if (stop->text() != QStringLiteral("&Stop"))
             return;
         whileItRuns.stop();
-        seen = find("txtPerc")->isVisible();
+        seen = isSeen("txtPerc");
         stop->click();
     });
     whileItRuns.start(0);
@@ -115,7 +115,7 @@ TEST_F(TripByKeyboard, CalculationIsStoppedOnceAndFinishedOnce) {
     EXPECT_EQ(QAccessible::queryAccessibleInterface(find("cmdCalcola"))->text(QAccessible::Name).toStdString(),
               "Sblocca");
     EXPECT_EQ(focusName(), QStringLiteral("cmdCalcola"));
-    EXPECT_FALSE(find("txtPerc")->isVisible());
+    EXPECT_FALSE(isSeen("txtPerc"));
     key(Qt::Key_Return);
     EXPECT_EQ(textOf("cmdCalcola"), QStringLiteral("&Calcola"));
     EXPECT_EQ(table->model()->index(11, 1).data().toString().toStdString(), "LUOGO 12");
@@ -152,7 +152,7 @@ TEST_F(TripByKeyboard, SearchListsArePickedFromAndLeftByKeys) {
     EXPECT_EQ(focusName(), QStringLiteral("cmbRicerca"));
     EXPECT_FALSE(find("cmdItinerario")->isEnabled());
     key(Qt::Key_Escape);
-    EXPECT_FALSE(find("cmbRicerca")->isVisible());
+    EXPECT_FALSE(isSeen("cmbRicerca"));
     EXPECT_TRUE(find("cmdItinerario")->isEnabled());
     letter('r');
     key(Qt::Key_Return);
@@ -165,7 +165,7 @@ TEST_F(TripByKeyboard, SearchListsArePickedFromAndLeftByKeys) {
     EXPECT_FALSE(find("mfgTab")->isEnabled());
     key(Qt::Key_Escape);
     EXPECT_TRUE(find("mfgTab")->isEnabled());
-    EXPECT_TRUE(find("frmframe_12")->isVisible());
+    EXPECT_TRUE(isSeen("frmframe_12"));
     letter('e');
     key(Qt::Key_Down);
     key(Qt::Key_Return);
@@ -177,7 +177,7 @@ TEST_F(TripByKeyboard, GuideIsSearchedAndLeftByKeys) {
     storeTrip(5);
     open();
     letter('g');
-    ASSERT_TRUE(find("frmframe_24")->isVisible());
+    ASSERT_TRUE(isSeen("frmframe_24"));
     for (const Qt::Key leaves : {Qt::Key_Escape, Qt::Key_Return}) {
         letter('e');
         EXPECT_EQ(focusName(), QStringLiteral("cmbRicercaTappa"));
@@ -188,7 +188,7 @@ TEST_F(TripByKeyboard, GuideIsSearchedAndLeftByKeys) {
     }
     EXPECT_EQ(textOf("txtGCitta").toStdString(), "Luogo 1");
     EXPECT_FALSE(window().close()) << "the window's close button leaves the guide first";
-    EXPECT_FALSE(find("frmframe_24")->isVisible());
+    EXPECT_FALSE(isSeen("frmframe_24"));
     EXPECT_TRUE(find("cmdItinerario")->isEnabled());
 }
 
@@ -216,10 +216,10 @@ TEST_F(TripByKeyboard, TheCloseButtonAsksAndLeaves) {
     QStringList offered = boxes.shown()[1].buttons;
     offered.sort();
     EXPECT_EQ(offered, QStringList({QStringLiteral("Annulla"), QStringLiteral("No"), QStringLiteral("Sì")}));
-    EXPECT_TRUE(find("frmframe_12")->isVisible()) << "Esc in the box cancels";
+    EXPECT_TRUE(isSeen("frmframe_12")) << "Esc in the box cancels";
     boxes.expect(Qt::Key_N);
     EXPECT_FALSE(window().close());
-    EXPECT_FALSE(find("frmframe_12")->isVisible());
+    EXPECT_FALSE(isSeen("frmframe_12"));
     window().resize(1400, 900);
     boxes.expect(Qt::Key_Return);
     EXPECT_TRUE(window().close());
@@ -265,7 +265,7 @@ TEST_F(TripByKeyboard, AStretchGetsItsRoadTypeAndIsSavedOrGivenUp) {
     letter('f');
     ASSERT_EQ(boxes.shown().size(), 1U);
     EXPECT_EQ(boxes.shown()[0].text, QStringLiteral("Vuoi salvare le modifiche apportate?"));
-    EXPECT_FALSE(find("frmframe_1")->isVisible());
+    EXPECT_FALSE(isSeen("frmframe_1"));
     EXPECT_EQ(roads(), before.substr(0, 2) + "LLL" + before.substr(5));
 }
 
@@ -276,9 +276,9 @@ TEST_F(TripByKeyboard, AStretchIsCopiedBackwardsBehindTheCurrentLeg) {
     tabTo("cmdDuplica");
     key(Qt::Key_Space);
     ASSERT_EQ(focusName(), QStringLiteral("mfgCopia"));
-    EXPECT_FALSE(find("frmframe_19")->isVisible());
+    EXPECT_FALSE(isSeen("frmframe_19"));
     key(Qt::Key_Return);
-    ASSERT_TRUE(find("frmframe_19")->isVisible());
+    ASSERT_TRUE(isSeen("frmframe_19"));
     EXPECT_FALSE(find("frmframe_12")->isEnabled());
     EXPECT_TRUE(find("frmframe_19")->geometry().contains(find("frmframe_12")->geometry()));
     EXPECT_FALSE(find("frmframe_19")->geometry().intersects(find("frmframe_17")->geometry()));
@@ -298,7 +298,7 @@ TEST_F(TripByKeyboard, AStretchIsCopiedBackwardsBehindTheCurrentLeg) {
     boxes.expect(Qt::Key_Return);
     letter('p');
     ASSERT_EQ(boxes.shown().size(), 1U);
-    EXPECT_FALSE(find("frmframe_17")->isVisible());
+    EXPECT_FALSE(isSeen("frmframe_17"));
     EXPECT_TRUE(find("frmframe_12")->isEnabled());
     QString places;
     for (int r = 1; form().mfgTab.rows() > r && !form().mfgTab.cell(r, 1).isEmpty(); ++r)

@@ -1,4 +1,7 @@
 // Totals, preparation, fitting and the texts of the schedule.
+#include <algorithm>
+#include <iterator>
+
 #include <gtest/gtest.h>
 
 #include "core/text.h"
@@ -25,8 +28,10 @@ std::vector<std::string> prepared(const std::vector<TappaDaPreparare>& legs, Fon
     with.fonte = source;
     with.oreVisitaGiorno = 1000;
     with.guida = [&guide](const QString& place) {
-        const auto found = guide.find(place);
-        return found == guide.end() ? std::vector<VoceGuida>() : found->second;
+        std::vector<const VoceGuida*> entries;
+        if (const auto found = guide.find(place); found != guide.end())
+            std::ranges::transform(found->second, std::back_inserter(entries), [](const VoceGuida& e) { return &e; });
+        return entries;
     };
     with.categoria = [](int) { return u"Ottimo"_s; };
     std::vector<std::string> rows;
