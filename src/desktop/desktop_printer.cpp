@@ -58,41 +58,42 @@ void DesktopPrinter::choose(const QString& name) {
 }
 
 void DesktopPrinter::setFontName(const QString& name) {
-    if (name == font_.face.name && face_ != nullptr)
+    if (name == font_.face.name)
         return;
     auto known = typefaces_.find(name);
     if (known == typefaces_.end())
         known = typefaces_.emplace(name, typefaceFor(name)).first;
-    if (font_.face.family == known->second.family && font_.face.name == known->second.name)
-        return;
     font_.face = known->second;
-    chooseFace();
+    face_ = nullptr;
 }
 
 void DesktopPrinter::setBold(bool on) {
     if (std::exchange(font_.bold, on) != on)
-        chooseFace();
+        face_ = nullptr;
 }
 
 void DesktopPrinter::setItalic(bool on) {
     if (std::exchange(font_.italic, on) != on)
-        chooseFace();
+        face_ = nullptr;
 }
 
-/// Faces stay: what was drawn knows them.
-void DesktopPrinter::chooseFace() {
-    std::unique_ptr<PrintFace>& face = faces_[{font_.face.family, font_.bold, font_.italic}];
-    if (face == nullptr)
-        face = std::make_unique<PrintFace>(largeFont(font_));
-    face_ = face.get();
+/// Made when a text is measured or drawn with it. Faces stay: what was drawn knows them.
+PrintFace& DesktopPrinter::face() const {
+    if (face_ == nullptr) {
+        std::unique_ptr<PrintFace>& face = faces_[{font_.face.family, font_.bold, font_.italic}];
+        if (face == nullptr)
+            face = std::make_unique<PrintFace>(largeFont(font_));
+        face_ = face.get();
+    }
+    return *face_;
 }
 
 double DesktopPrinter::textWidth(const QString& text) const {
-    return face_->width(text) * mmPerPixel(font_.points);
+    return face().width(text) * mmPerPixel(font_.points);
 }
 
 double DesktopPrinter::textHeight(const QString& /*text*/) const {
-    return face_->height() * mmPerPixel(font_.points);
+    return face().height() * mmPerPixel(font_.points);
 }
 
 template<typename Step> void DesktopPrinter::orDrop(Step step) {
@@ -130,7 +131,7 @@ template<typename Drawn> void DesktopPrinter::draw(Drawn&& drawing) {
 }
 
 void DesktopPrinter::text(Punto at, const QString& text) {
-    draw(DrawnText{at, text, face_, mmPerPixel(font_.points)});
+    draw(DrawnText{at, text, &face(), mmPerPixel(font_.points)});
 }
 
 void DesktopPrinter::line(Punto from, Punto to, int width) {

@@ -49,7 +49,7 @@ class DesktopPrinter : public Printer, public BeforeWindow {
   private:
     /// Throws what `step` throws, with the document dropped.
     template<typename Step> void orDrop(Step step);
-    void chooseFace();
+    [[nodiscard]] PrintFace& face() const;
     void begin();
     template<typename Drawn> void draw(Drawn&& drawing);
     void pageDone();
@@ -60,8 +60,8 @@ class DesktopPrinter : public Printer, public BeforeWindow {
     QString chosen_; ///< empty: the platform's default
     std::map<QString, Typeface> typefaces_;
     PrintFont font_;
-    PrintFace* face_ = nullptr; ///< of that font
-    std::map<std::tuple<QString, bool, bool>, std::unique_ptr<PrintFace>> faces_;
+    mutable PrintFace* face_ = nullptr; ///< of that font; null until it is needed
+    mutable std::map<std::tuple<QString, bool, bool>, std::unique_ptr<PrintFace>> faces_;
 
     // The document that is being drawn.
     int page_ = 0;
