@@ -47,10 +47,12 @@ void sortByName(Grid& list) {
     const int rowSel = list.rowSel();
     const int topRow = list.topRow();
     const SenzaRidisegno quiet(list);
-    Grid::Rows rows = list.takeContents();
-    Grid::Rows sorted;
+    TestiTabella rows = list.takeContents();
+    TestiTabella sorted;
+    sorted.setRows(rows.rows());
+    int to = 0;
     for (const Entry& entry : order)
-        sorted.push_back(std::move(rows[static_cast<std::size_t>(entry.row - 1)]));
+        sorted.moveRow(to++, rows, entry.row - 1);
     list.setContents(std::move(sorted));
     list.select(row, list.col(), rowSel, list.colSel());
     list.setTopRow(topRow);

@@ -67,16 +67,18 @@ void writeFolded(Grid& grid, const std::vector<RigaRimasta>& left) {
     const int rowSel = grid.rowSel();
     const int columnSel = grid.colSel();
     const int top = grid.topRow();
-    Grid::Rows rows = grid.takeContents();
-    Grid::Rows folded;
+    TestiTabella rows = grid.takeContents();
+    TestiTabella folded;
+    folded.setRows(static_cast<int>(left.size()) + 1);
+    int to = 0;
     for (const RigaRimasta& leg : left) {
-        auto& cells = folded.emplace_back(std::move(rows[static_cast<std::size_t>(leg.riga - 1)]));
-        cells.resize(Maggiore(static_cast<int>(cells.size()), 4));
-        cells[1] = leg.cella.luogo;
-        cells[2] = leg.cella.strade;
-        cells[3] = testoNumero(leg.cella.km);
+        folded.moveRow(to, rows, leg.riga - 1);
+        folded.at(to, 1) = leg.cella.luogo;
+        folded.at(to, 2) = leg.cella.strade;
+        folded.at(to, 3) = testoNumero(leg.cella.km);
+        ++to;
     }
-    folded.push_back(std::move(rows.back()));
+    folded.moveRow(to, rows, rows.rows() - 1);
     grid.setContents(std::move(folded));
     grid.select(row, column, rowSel, columnSel);
     grid.setTopRow(top);

@@ -57,12 +57,12 @@ void enableInsertion(Form& form) {
 void listLegs(Form& form, const QString& code) {
     static constexpr std::array<const char16_t*, 6> fields{u"Sequenza",   u"Localita",   u"NomeStrada",
                                                            u"Chilometri", u"TipoStrada", u"TempoSosta"};
-    Grid::Rows rows;
+    TestiTabella rows;
     for (store::Recordset legs = legsOf(form, code); !legs.EOF_(); legs.MoveNext()) {
-        auto& cells = rows.emplace_back();
-        for (const char16_t* const field : fields)
-            cells.push_back(Trim(legs.testo(QString::fromUtf16(field))));
-        cells[3] = migliaia(Val(cells[3]));
+        const int row = rows.addRow();
+        for (int column = 0; const char16_t* const field : fields)
+            rows.at(row, column++) = Trim(legs.testo(QString::fromUtf16(field)));
+        rows.at(row, 3) = migliaia(Val(rows.text(row, 3)));
     }
     form.mfgCopia.setContents(std::move(rows));
 }

@@ -15,7 +15,7 @@ namespace {
 constexpr int colonnaFineGiorno = 14;
 
 /// One row of the table for each record. The places are told apart from the rows' marks later.
-Grid::Rows readLegs(Form& form) {
+TestiTabella readLegs(Form& form) {
     store::Archive& archive = form.archivio;
     archive.StringaSQL = QStringLiteral("SELECT * FROM Itinerari WHERE CodiceMeta = '") +
                          store::quotato(form.stato.CodiceMeta) + QStringLiteral("' ORDER BY Sequenza");
@@ -27,18 +27,16 @@ Grid::Rows readLegs(Form& form) {
     const int type = records.campo("TipoStrada");
     const int stop = records.campo("TempoSosta");
     const int end = records.campo("FineGiorno");
-    // As wide as the table, so that no row has to grow in it.
-    const auto width = static_cast<std::size_t>(Maggiore(form.mfgTab.columns(), colonnaFineGiorno + 1));
-    Grid::Rows rows;
-    for (int number = 1; !records.EOF_(); records.MoveNext(), ++number) {
-        auto& cells = rows.emplace_back(width);
-        cells[0] = testoNumero(number);
-        cells[1] = records.testo(place);
-        cells[2] = Trim(records.testo(road));
-        cells[3] = migliaia(Val(records.testo(km)));
-        cells[4] = records.testo(type);
-        cells[colonnaFineGiorno] = records.testo(end);
-        cells[7] = sostaDelRecord(cells[colonnaFineGiorno], records.testo(stop));
+    TestiTabella rows;
+    for (; !records.EOF_(); records.MoveNext()) {
+        const int row = rows.addRow();
+        rows.at(row, 0) = testoNumero(row + 1);
+        rows.at(row, 1) = records.testo(place);
+        rows.at(row, 2) = Trim(records.testo(road));
+        rows.at(row, 3) = migliaia(Val(records.testo(km)));
+        rows.at(row, 4) = records.testo(type);
+        rows.at(row, 7) = sostaDelRecord(records.testo(end), records.testo(stop));
+        rows.at(row, colonnaFineGiorno) = records.testo(end);
     }
     return rows;
 }
@@ -52,15 +50,15 @@ QString guideStops(SegniGuida& guide, const QString& place, float visitingDay) {
 }
 
 /// The guide's stops into the rows of the stretch, each entry once.
-void addGuideStops(Form& form, Grid::Rows& rows) {
+void addGuideStops(Form& form, TestiTabella& rows) {
     SegniGuida guide(form.archivio);
     TrattoDellaGuida stretch;
     form.stato.RigaCaricata = 0;
-    for (auto& cells : rows) {
+    for (int row = 0; row < rows.rows(); ++row) {
         ++form.stato.RigaCaricata;
-        const TrattoDellaGuida::Passo step = stretch.prossimo(cells[1]);
+        const TrattoDellaGuida::Passo step = stretch.prossimo(rows.text(row, 1));
         if (step.leggere)
-            cells[8] = guideStops(guide, step.luogo, form.stato.OreVisitaGiorno);
+            rows.at(row, 8) = guideStops(guide, step.luogo, form.stato.OreVisitaGiorno);
         form.yield();
     }
     guide.scrive();
@@ -178,14 +176,14 @@ void CaricaTappeItinerario(Form& form) {
     form.tappeConservate.reset();
     CancellaMatrice(form);
     ControllaVariabiliConvertite(form);
-    Grid::Rows rows = readLegs(form);
-    const int legs = static_cast<int>(rows.size());
+    TestiTabella rows = readLegs(form);
+    const int legs = rows.rows();
     SettaAZeroFlaGVisto(form);
     addGuideStops(form, rows);
     {
         const SenzaRidisegno quiet(form.mfgTab);
         form.stato.NumeroTappe = legs;
-        rows.resize(static_cast<std::size_t>(Maggiore(legs + 2, form.stato.RigheMinime) - 1));
+        rows.setRows(Maggiore(legs + 2, form.stato.RigheMinime) - 1);
         form.mfgTab.setContents(std::move(rows));
         form.mfgTab.setTopRow(1);
         markEndsOfDay(form.mfgTab, legs);

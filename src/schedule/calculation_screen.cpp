@@ -79,13 +79,9 @@ void showPanel(Form& form, const PannelloViandoria& panel) {
 
 /// What the rows take from the kept legs and the window.
 TestiViandoria rowTexts(const Form& form) {
-    const Grid::Rows& legs = *form.tappeConservate;
+    const TestiTabella& legs = *form.tappeConservate;
     return {
-        .tappa = [&legs](int row, int column) -> const QString& {
-            static const QString none;
-            const auto& cells = legs[static_cast<std::size_t>(row - 1)];
-            return static_cast<std::size_t>(column) < cells.size() ? cells[static_cast<std::size_t>(column)] : none;
-        },
+        .tappa = [&legs](int row, int column) -> const QString& { return legs.text(row - 1, column); },
         .minutiPausa = form.cmbRipM.text(),
         .oreGuidaGiorno = form.stato.OreGuidaGiorno,
         .oreVisitaGiorno = form.stato.OreVisitaGiorno,
@@ -95,11 +91,17 @@ TestiViandoria rowTexts(const Form& form) {
 /// The table as the last test leaves it, closed and tidied; the rows of totals stay.
 void showSchedule(Form& form, const RigheDiLavoro& prepared, const Viandoria& schedule) {
     const TestiViandoria texts = rowTexts(form);
-    std::vector<CelleViandoria> rows = celleViandoria(schedule, prepared.righe, texts);
+    TestiTabella rows = celleViandoria(schedule, prepared.righe, texts);
     const std::array<QString, righeTotali> totals = chiudeViandoria(rows, schedule, texts);
-    std::erase_if(rows, rigaVuota);
+    std::vector<int> tidied;
+    tidied.reserve(static_cast<std::size_t>(rows.rows()));
+    for (int row = 0; row < rows.rows(); ++row) {
+        if (!rigaVuota(rows, row))
+            tidied.push_back(row);
+    }
+    rows.keepRows(tidied);
     for (const QString& total : totals)
-        rows.push_back({QString(), total});
+        rows.at(rows.addRow(), colTappa) = total;
     const SenzaRidisegno quiet(form.mfgTab);
     form.mfgTab.setRows(1);
     form.mfgTab.setContents(std::move(rows));

@@ -12,7 +12,7 @@ inline constexpr std::size_t massimoRigheNuove = 400;
 
 /// Brings the texts of a test's first rows up to what it has written so far, or as near as one call goes. `rows` holds
 /// what an earlier call made for the same test, or nothing; all but its last two rows stay as they are.
-void cresce(std::vector<CelleViandoria>& rows, const Viandoria& soFar, const std::vector<RigaDiLavoro>& work,
+void cresce(TestiTabella& rows, const Viandoria& soFar, const std::vector<RigaDiLavoro>& work,
             const TestiViandoria& texts);
 
 /// Keeps showings apart by twenty times what the last one took: all of them together take a twentieth of the time.

@@ -30,9 +30,9 @@ void VistaCrescente::show(const Viandoria& soFar) {
     const SenzaRidisegno quiet(grid);
     // A click would go to the editor, which takes the rows for legs.
     grid.setEnabled(false);
-    Grid::Rows rows = grid.takeContents();
+    TestiTabella rows = grid.takeContents();
     if (std::exchange(fresh_, false))
-        rows.clear();
+        rows = {};
     cresce(rows, soFar, work_, texts_);
     grid.setContents(std::move(rows));
     grid.setTopRow(grid.rows() - 1);

@@ -23,19 +23,12 @@ constexpr int colVoceGuida = 15;
 constexpr int colFineGiorno = 16;
 constexpr int colMenzione = 18;
 
-using Celle = std::vector<QString>;
-
-QString cell(const Celle& cells, std::size_t column) {
-    return column < cells.size() ? cells[column] : QString();
-}
-
-std::vector<TappaDaPreparare> legsToPrepare(const Grid::Rows& rows) {
+std::vector<TappaDaPreparare> legsToPrepare(const TestiTabella& rows) {
     std::vector<TappaDaPreparare> legs;
-    legs.reserve(rows.size());
-    int number = 0;
-    for (const Celle& cells : rows)
+    legs.reserve(static_cast<std::size_t>(rows.rows()));
+    for (int r = 0; r < rows.rows(); ++r)
         legs.push_back(
-            {++number, cell(cells, 1), cell(cells, 2), chilometri(cell(cells, 3)), cell(cells, 4), cell(cells, 7)});
+            {r + 1, rows.text(r, 1), rows.text(r, 2), chilometri(rows.text(r, 3)), rows.text(r, 4), rows.text(r, 7)});
     return legs;
 }
 
@@ -47,41 +40,38 @@ QString stopText(float stop, QChar decimalMark) {
 /// What a working row shows of its leg.
 using CelleTappa = std::array<QString, 7>;
 
-std::vector<CelleTappa> shownOfLegs(const Grid::Rows& rows) {
-    std::vector<CelleTappa> legs(rows.size());
-    for (std::size_t r = 0; r < rows.size(); ++r)
-        std::ranges::copy_n(rows[r].begin(), std::min(std::ssize(legs[r]), std::ssize(rows[r])), legs[r].begin());
+std::vector<CelleTappa> shownOfLegs(const TestiTabella& rows) {
+    std::vector<CelleTappa> legs(static_cast<std::size_t>(rows.rows()));
+    for (int r = 0; r < rows.rows(); ++r) {
+        CelleTappa& leg = legs[static_cast<std::size_t>(r)];
+        for (std::size_t column = 0; column < leg.size(); ++column)
+            leg[column] = rows.text(r, static_cast<int>(column));
+    }
     return legs;
 }
 
-Celle workingRow(const RigaDiLavoro& work, const std::vector<CelleTappa>& legs, QChar decimalMark) {
+void writeWorkingRow(RigaDiTesti cells, const RigaDiLavoro& work, const std::vector<CelleTappa>& legs,
+                     QChar decimalMark) {
     using enum RigaDiLavoro::Tipo;
-    Celle cells;
     if (work.tipo == Tappa) {
-        const CelleTappa& leg = legs[static_cast<std::size_t>(work.tappa - 1)];
-        cells.assign(leg.begin(), leg.end());
+        for (int column = 0; const QString& text : legs[static_cast<std::size_t>(work.tappa - 1)])
+            cells[column++] = text;
     }
-    const auto write = [&cells](std::size_t column, const QString& text) {
-        if (cells.size() <= column)
-            cells.resize(column + 1);
-        cells[column] = text;
-    };
-    write(1, work.nome);
+    cells[1] = work.nome;
     if (!work.nota.isEmpty())
-        write(colCategoria, work.nota);
+        cells[colCategoria] = work.nota;
     if (work.tipo == SostaItinerario)
-        write(colSostaFissa, stopText(work.sostaFissa, decimalMark));
+        cells[colSostaFissa] = stopText(work.sostaFissa, decimalMark);
     if (work.tipo == SostaGuida)
-        write(colVoceGuida, stopText(work.sostaGuida, decimalMark));
+        cells[colVoceGuida] = stopText(work.sostaGuida, decimalMark);
     if (work.fineGiorno)
-        write(colFineGiorno, QStringLiteral("1"));
+        cells[colFineGiorno] = QStringLiteral("1");
     if (work.tipo == Menzione)
-        write(colMenzione, QStringLiteral("-1"));
-    return cells;
+        cells[colMenzione] = QStringLiteral("-1");
 }
 
 /// Nobody sees this table but who asks for it: its rows are made then.
-void showWorkingRows(Form& form, const std::shared_ptr<const RigheDiLavoro>& work, const Grid::Rows& legs) {
+void showWorkingRows(Form& form, const std::shared_ptr<const RigheDiLavoro>& work, const TestiTabella& legs) {
     Grid& grid = form.mfgCopia;
     const std::vector<RigaDiLavoro>& rows = work->righe;
     const SenzaRidisegno quiet(grid);
@@ -92,11 +82,11 @@ void showWorkingRows(Form& form, const std::shared_ptr<const RigheDiLavoro>& wor
     grid.setRows(static_cast<int>(rows.size()) + 1);
     std::vector<int> columns(static_cast<std::size_t>(grid.columns()));
     std::iota(columns.begin(), columns.end(), 0);
-    grid.setColumnsLater(1, columns,
-                         [work, shown = shownOfLegs(legs), mark = form.ambiente.decimalMark](int row, Celle& cells) {
-                             if (const auto at = static_cast<std::size_t>(row - 1); at < work->righe.size())
-                                 cells = workingRow(work->righe[at], shown, mark);
-                         });
+    grid.setColumnsLater(
+        1, columns, [work, shown = shownOfLegs(legs), mark = form.ambiente.decimalMark](int row, RigaDiTesti cells) {
+            if (const auto at = static_cast<std::size_t>(row - 1); at < work->righe.size())
+                writeWorkingRow(cells, work->righe[at], shown, mark);
+        });
     form.stato.RigaCaricata = static_cast<int>(rows.size());
 }
 

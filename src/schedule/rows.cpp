@@ -62,7 +62,7 @@ QString noteDelTratto(const RigaViandoria& row, const QString& breakMinutes) {
     return row.pausa ? u"Riposo "_s + breakMinutes + u'\'' + note : note;
 }
 
-void scriveTratto(CelleViandoria& cells, int number, const RigaViandoria& row, const RigaDiLavoro& work,
+void scriveTratto(RigaDiTesti cells, int number, const RigaViandoria& row, const RigaDiLavoro& work,
                   const TestiViandoria& texts) {
     cells[colNumero] = testoNumero(number);
     cells[colTappa] = row.verso ? u"verso: "_s + RiPulisceNomeLocalita(work.nome) : work.nome;
@@ -74,8 +74,7 @@ void scriveTratto(CelleViandoria& cells, int number, const RigaViandoria& row, c
     cells[colNote] = noteDelTratto(row, texts.minutiPausa);
 }
 
-void scriveSosta(CelleViandoria& cells, const RigaViandoria& row, const RigaDiLavoro& work,
-                 const TestiViandoria& texts) {
+void scriveSosta(RigaDiTesti cells, const RigaViandoria& row, const RigaDiLavoro& work, const TestiViandoria& texts) {
     cells[colTappa] = senzaMarche(RiPulisceNomeLocalita(work.nome));
     cells[colSostaGuida] = lunghezzaSosta(row.sostaGuida, texts.oreVisitaGiorno);
     cells[colSosta] = lunghezzaSosta(minutiInteri(row.sosta, texts.oreVisitaGiorno), texts.oreVisitaGiorno);
@@ -93,9 +92,10 @@ QString oreDelGiorno(float time) {
     return ghmSenzaGiorni(time, giornoIntero);
 }
 
-void notaDelGiorno(CelleViandoria& cells, Somma& day, QStringView stopsWord) {
+void notaDelGiorno(RigaDiTesti cells, Somma& day, QStringView stopsWord) {
     if (day.km != 0) {
-        QString note = cells[colNote] + u" [Km "_s + QString::number(day.km) + u" in ore "_s + oreDelGiorno(day.guida);
+        QString note =
+            cells.text(colNote) + u" [Km "_s + QString::number(day.km) + u" in ore "_s + oreDelGiorno(day.guida);
         if (day.soste != 0)
             note += stopsWord.toString() + oreDelGiorno(day.soste);
         cells[colNote] = Trim(note + u']');
@@ -109,28 +109,28 @@ void notaDelGiorno(CelleViandoria& cells, Somma& day, QStringView stopsWord) {
 
 class Chiusura {
   public:
-    Chiusura(std::vector<CelleViandoria>& rows, const Viandoria& schedule, const TestiViandoria& texts)
+    Chiusura(TestiTabella& rows, const Viandoria& schedule, const TestiViandoria& texts)
         : rows_(rows), schedule_(schedule), texts_(texts) {}
 
     std::array<QString, righeTotali> chiude() {
-        if (rows_.size() >= 2)
-            rows_[rows_.size() - 2][colFine] =
-                u'>' + giornoEMese(schedule_.giuliano) + u'-' + oraMostrata(schedule_.ora);
+        const int rows = rows_.rows();
+        if (rows >= 2)
+            rows_.at(rows - 2, colFine) = u'>' + giornoEMese(schedule_.giuliano) + u'-' + oraMostrata(schedule_.ora);
         findStretch();
-        for (std::size_t i = 0; i < rows_.size(); ++i)
+        for (int i = 0; i < rows; ++i)
             riga(i);
         if (day_.km != 0)
-            notaDelGiorno(rows_.back(), day_, u"; sosta ore ");
+            notaDelGiorno(RigaDiTesti(rows_, rows - 1), day_, u"; sosta ore ");
         return totals();
     }
 
   private:
     /// From the last "[Start]" to the row before the next numbered one behind the last "[End]".
     void findStretch() {
-        const std::size_t none = rows_.size();
-        std::size_t end = none;
-        for (std::size_t i = 0; i < rows_.size(); ++i) {
-            const QString& name = rows_[i][colTappa];
+        const int none = rows_.rows();
+        int end = none;
+        for (int i = 0; i < none; ++i) {
+            const QString& name = rows_.text(i, colTappa);
             if (!name.contains(u'['))
                 continue;
             if (contiene(name, marcaStart))
@@ -139,21 +139,19 @@ class Chiusura {
                 end = i;
         }
         last_ = none;
-        if (end == none)
-            return;
-        for (std::size_t i = end + 1; i < rows_.size(); ++i) {
-            if (!rows_[i][colNumero].isEmpty()) {
+        for (int i = end + 1; i < none; ++i) {
+            if (!rows_.text(i, colNumero).isEmpty()) {
                 last_ = i - 1;
                 return;
             }
         }
     }
 
-    void riga(std::size_t i) {
-        const CelleViandoria& cells = rows_[i];
-        if (cells[colGiorno].isEmpty())
+    void riga(int i) {
+        const QString& weekDay = rows_.text(i, colGiorno);
+        if (weekDay.isEmpty())
             return;
-        const RigaViandoria& row = schedule_.righe[i];
+        const RigaViandoria& row = schedule_.righe[static_cast<std::size_t>(i)];
         const float driving = timeShown(row);
         const float stop = stopShown(row);
         if (i >= first_ && i <= last_) {
@@ -161,10 +159,10 @@ class Chiusura {
                 adds(stretch_, row.km, driving);
             stretch_.soste += stop;
         }
-        if (cells[colGiorno] != weekDay_) {
+        if (weekDay != weekDay_) {
             if (i > 0)
-                notaDelGiorno(rows_[i - 1], day_, u"; soste per ore ");
-            weekDay_ = cells[colGiorno];
+                notaDelGiorno(RigaDiTesti(rows_, i - 1), day_, u"; soste per ore ");
+            weekDay_ = weekDay;
         }
         if (row.km != 0) {
             adds(day_, row.km, driving);
@@ -209,11 +207,11 @@ class Chiusura {
                 line(trip_) + u"  \t Sosta "_s + inBothDays(trip_.soste)};
     }
 
-    std::vector<CelleViandoria>& rows_;
+    TestiTabella& rows_;
     const Viandoria& schedule_;
     const TestiViandoria& texts_;
-    std::size_t first_ = 0;
-    std::size_t last_ = 0;
+    int first_ = 0;
+    int last_ = 0;
     QString weekDay_;
     Somma day_;
     Somma stretch_;
@@ -230,17 +228,17 @@ QString oraMostrata(float ora) {
     return ghmSenzaGiorni(ora, giornoIntero);
 }
 
-std::vector<CelleViandoria> celleViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work,
-                                           const TestiViandoria& texts) {
-    std::vector<CelleViandoria> rows(schedule.righe.size());
+TestiTabella celleViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work,
+                            const TestiViandoria& texts) {
+    TestiTabella rows;
+    rows.setRows(static_cast<int>(schedule.righe.size()));
     TestiGiorno day;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const RigaViandoria& row = schedule.righe[i];
+    for (int i = 0; i < rows.rows(); ++i) {
+        const RigaViandoria& row = schedule.righe[static_cast<std::size_t>(i)];
         const RigaDiLavoro& source = work[static_cast<std::size_t>(row.lavoro)];
-        CelleViandoria& cells = rows[i];
-        cells.resize(numeroColonneViandoria);
+        RigaDiTesti cells(rows, i);
         switch (row.tipo) {
-        case RigaViandoria::Tipo::Tratto: scriveTratto(cells, static_cast<int>(i) + 1, row, source, texts); break;
+        case RigaViandoria::Tipo::Tratto: scriveTratto(cells, i + 1, row, source, texts); break;
         case RigaViandoria::Tipo::Sosta: scriveSosta(cells, row, source, texts); break;
         case RigaViandoria::Tipo::Menzione:
             cells[colTappa] = senzaMarche(source.nome);
@@ -252,7 +250,8 @@ std::vector<CelleViandoria> celleViandoria(const Viandoria& schedule, const std:
             break;
         }
         // A stop without any length has neither day nor hour.
-        if (row.tipo == RigaViandoria::Tipo::Sosta && cells[colSosta].isEmpty() && cells[colSostaGuida].isEmpty())
+        if (row.tipo == RigaViandoria::Tipo::Sosta && cells.text(colSosta).isEmpty() &&
+            cells.text(colSostaGuida).isEmpty())
             continue;
         day.mostra(row.giuliano);
         cells[colGiorno] = day.settimana;
@@ -262,14 +261,14 @@ std::vector<CelleViandoria> celleViandoria(const Viandoria& schedule, const std:
     return rows;
 }
 
-std::array<QString, righeTotali> chiudeViandoria(std::vector<CelleViandoria>& rows, const Viandoria& schedule,
+std::array<QString, righeTotali> chiudeViandoria(TestiTabella& rows, const Viandoria& schedule,
                                                  const TestiViandoria& texts) {
     return Chiusura(rows, schedule, texts).chiude();
 }
 
-bool rigaVuota(const CelleViandoria& cells) {
-    static constexpr std::array<std::size_t, 9> columns{0, 2, 3, 4, 5, 6, 7, 8, 12};
-    return std::all_of(columns.begin(), columns.end(), [&cells](std::size_t c) { return cells[c].isEmpty(); });
+bool rigaVuota(const TestiTabella& rows, int row) {
+    static constexpr std::array<int, 9> columns{0, 2, 3, 4, 5, 6, 7, 8, 12};
+    return std::all_of(columns.begin(), columns.end(), [&](int column) { return rows.text(row, column).isEmpty(); });
 }
 
 } // namespace vanzer

@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include "core/table_texts.h"
 #include "schedule/simulation.h"
 
 namespace vanzer {
@@ -29,8 +30,6 @@ enum ColonnaViandoria {
     numeroColonneViandoria
 };
 
-using CelleViandoria = std::vector<QString>;
-
 /// Place of the row that starts a day, and of the first row of totals.
 inline constexpr QStringView testoNuovoGiorno = u" > Partenza mattino successivo";
 inline constexpr QStringView titoloTotali = u"Totali: Km e tempi (gg:hh:mm):";
@@ -49,15 +48,15 @@ struct TestiViandoria {
 
 /// Rows with notes of the days, the mark of the end, and the seven rows of totals behind one spare row are not in here:
 /// only what the simulation wrote.
-[[nodiscard]] std::vector<CelleViandoria>
-celleViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work, const TestiViandoria& texts);
+[[nodiscard]] TestiTabella celleViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work,
+                                          const TestiViandoria& texts);
 
 /// Closes the schedule: the end's mark and the notes of the days into its rows; the result are the rows of totals.
 inline constexpr int righeTotali = 7;
-[[nodiscard]] std::array<QString, righeTotali> chiudeViandoria(std::vector<CelleViandoria>& rows,
-                                                               const Viandoria& schedule, const TestiViandoria& texts);
+[[nodiscard]] std::array<QString, righeTotali> chiudeViandoria(TestiTabella& rows, const Viandoria& schedule,
+                                                               const TestiViandoria& texts);
 
 /// A row that says nothing beyond its name; the tidying takes it away.
-[[nodiscard]] bool rigaVuota(const CelleViandoria& cells);
+[[nodiscard]] bool rigaVuota(const TestiTabella& rows, int row);
 
 } // namespace vanzer

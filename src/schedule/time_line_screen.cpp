@@ -9,11 +9,9 @@ LineaDelTempo lineaMostrata(const Form& form) {
     if (form.viandoria == nullptr || !form.tappeConservate)
         return {};
     const ViandoriaMostrata& shown = *form.viandoria;
-    const Grid::Rows& legs = *form.tappeConservate;
-    return lineaDelTempo(shown.viandoria, shown.lavoro->righe, shown.parametri, [&legs](int leg) {
-        const auto& cells = legs[static_cast<std::size_t>(leg - 1)];
-        return cells.size() > colStrada ? Trim(cells[colStrada]) : QString();
-    });
+    const TestiTabella& legs = *form.tappeConservate;
+    return lineaDelTempo(shown.viandoria, shown.lavoro->righe, shown.parametri,
+                         [&legs](int leg) { return Trim(legs.text(leg - 1, colStrada)); });
 }
 
 void cmdLinea_Click(Form& form) {

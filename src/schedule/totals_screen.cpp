@@ -45,9 +45,9 @@ void workOutAll(Form& form, const Medie& speeds) {
     }
     TotaliTabella& totals = form.totali;
     totals.ricalcola(std::move(legs), speeds);
-    grid.setColumnsLater(1, {colonnaProgressivi, colonnaOre}, [&totals](int row, std::vector<QString>& cells) {
+    grid.setColumnsLater(1, {colonnaProgressivi, colonnaOre}, [&totals](int row, RigaDiTesti cells) {
         const auto& leg = totals.tratto(row);
-        if (!leg || leg->km == 0 || cells.empty())
+        if (!leg || leg->km == 0 || cells.text(1).isEmpty())
             return;
         cells[colonnaOre] = ghmSenzaGiorni(totals.tempo(row), unGiornoDi99Ore);
         cells[colonnaProgressivi] = migliaiaZero(static_cast<double>(totals.kmProgressivi(row)));

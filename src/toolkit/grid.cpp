@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <bit>
 #include <cstdlib>
-#include <iterator>
 #include <utility>
 
 #include "toolkit/grid_model.h"
@@ -23,7 +22,7 @@ const QString emptyCell;
 } // namespace
 
 Grid::Grid(QString baseName, int index, Frame* frame, int rows, int columns)
-    : Control(std::move(baseName), index, frame), cells_(1), columns_(columns),
+    : Control(std::move(baseName), index, frame), head_(static_cast<std::size_t>(columns)), columns_(columns),
       widths_(static_cast<std::size_t>(columns), 960),
       alignments_(static_cast<std::size_t>(columns), Allineamento::Sinistra),
       model_(std::make_unique<GridModel>(*this)) {
@@ -53,7 +52,7 @@ void Grid::setRows(int rows) {
     if (rows > old) {
         if (tell)
             model_->beginInsertRows({}, old - 1, rows - 2);
-        cells_.resize(static_cast<std::size_t>(rows));
+        cells_.setRows(rows - 1);
         keepInside();
         if (tell)
             model_->endInsertRows();
@@ -61,11 +60,11 @@ void Grid::setRows(int rows) {
     }
     if (tell)
         model_->beginRemoveRows({}, rows - 1, old - 2);
-    for (int row = rows; row < old; ++row) {
-        if (!cells_[static_cast<std::size_t>(row)].empty())
+    for (int row = rows; changed_ && row < old; ++row) {
+        if (!cells_.blank(row - 1))
             noteChange(row);
     }
-    cells_.resize(static_cast<std::size_t>(rows));
+    cells_.setRows(rows - 1);
     laterEnd_ = std::min(laterEnd_, rows);
     std::erase_if(marked_, [rows](qint64 key) { return key / cellsPerRow >= rows; });
     keepInside();
@@ -81,8 +80,8 @@ void Grid::setColumns(int columns) {
     forgetChangedRows();
     setRedraw(false);
     columns_ = columns;
-    for (auto& r : cells_)
-        r.resize(std::min(r.size(), static_cast<std::size_t>(columns)));
+    head_.resize(static_cast<std::size_t>(columns));
+    cells_.cutColumns(columns);
     widths_.resize(static_cast<std::size_t>(columns), 960);
     alignments_.resize(static_cast<std::size_t>(columns), Allineamento::Sinistra);
     col_ = std::min(col_, columns - 1);
@@ -93,17 +92,11 @@ void Grid::setColumns(int columns) {
 const QString& Grid::cell(int row, int column) const {
     if (row < 0 || row >= rows() || column < 0)
         return emptyCell;
+    if (row == 0)
+        return column < columns_ ? head_[static_cast<std::size_t>(column)] : emptyCell;
     if (later(row, column))
         makeUpTo(row);
-    const auto& cells = cells_[static_cast<std::size_t>(row)];
-    return static_cast<std::size_t>(column) < cells.size() ? cells[static_cast<std::size_t>(column)] : emptyCell;
-}
-
-std::vector<QString>& Grid::widened(int row) const {
-    auto& cells = cells_[static_cast<std::size_t>(row)];
-    if (cells.size() < static_cast<std::size_t>(columns_))
-        cells.resize(static_cast<std::size_t>(columns_));
-    return cells;
+    return cells_.text(row - 1, column);
 }
 
 void Grid::setCell(int row, int column, const QString& text) {
@@ -112,7 +105,7 @@ void Grid::setCell(int row, int column, const QString& text) {
     if (cell(row, column) == text)
         return;
     noteChange(row);
-    widened(row)[static_cast<std::size_t>(column)] = text;
+    (row == 0 ? head_[static_cast<std::size_t>(column)] : cells_.at(row - 1, column)) = text;
     if (redrawOff_ != 0)
         return;
     if (row == 0)
@@ -129,11 +122,6 @@ void Grid::setColumnsLater(int firstRow, const std::vector<int>& columns, FaRiga
     laterColumns_ = 0;
     for (const int column : columns)
         laterColumns_ |= quint64{1} << column;
-    // What is read from a row stays where it is while the rest of the row is made.
-    for (int row = firstRow; row < rows(); ++row) {
-        if (!cells_[static_cast<std::size_t>(row)].empty())
-            widened(row);
-    }
     tellLater();
 }
 
@@ -152,7 +140,7 @@ void Grid::tellLater() {
 
 void Grid::makeUpTo(int row) const {
     for (const int end = std::min(row + 1, laterEnd_); later_ < end; ++later_) {
-        make_(later_, cells_[static_cast<std::size_t>(later_)]);
+        make_(later_, RigaDiTesti(cells_, later_ - 1));
     }
 }
 
@@ -195,24 +183,15 @@ void Grid::shiftRows(int first, int last, int by) {
     const int top = std::min(first, first + by);
     const int bottom = std::max(last, last + by);
     setRedraw(false);
-    std::vector<QString> numbers;
-    numbers.reserve(static_cast<std::size_t>(bottom) - static_cast<std::size_t>(top) + 1);
-    for (int row = top; row <= bottom; ++row)
-        numbers.push_back(std::exchange(widened(row).front(), QString()));
-    const auto at = [this](int row) { return cells_.begin() + row; };
-    std::rotate(at(top), at(by > 0 ? last + 1 : first), at(bottom + 1));
+    cells_.rotate(top - 1, by > 0 ? last : first - 1, bottom, 1);
     shiftNotes(first, last, by);
-    const auto number = [&numbers, top](int row) -> QString& { return numbers[static_cast<std::size_t>(row - top)]; };
     for (int row = first + by; row <= last + by; ++row) {
-        if (number(row).isEmpty() != number(row - by).isEmpty())
+        if (cells_.text(row - 1, 0).isEmpty() != cells_.text(row - by - 1, 0).isEmpty())
             noteChange(row); // beside another text in column 0 than before
     }
-    for (int row = top; row <= bottom; ++row)
-        cells_[static_cast<std::size_t>(row)].front() = std::move(number(row));
     const int blank = by > 0 ? top : last + 1 + by;
     for (int row = blank; row < blank + std::abs(by); ++row) {
-        auto& cells = cells_[static_cast<std::size_t>(row)];
-        std::fill(cells.begin() + 1, cells.end(), QString());
+        cells_.clearRow(row - 1, 1);
         noteChange(row);
     }
     noteChange(top);
@@ -239,8 +218,8 @@ void Grid::removeRow(int row) {
     makeUpTo(rows());
     forgetChangedRows();
     setRedraw(false);
-    cells_.erase(cells_.begin() + row);
-    cells_.emplace_back();
+    cells_.removeRow(row - 1);
+    cells_.addRow();
     std::unordered_set<qint64> moved;
     for (const qint64 key : marked_) {
         if (key / cellsPerRow != row)
@@ -254,30 +233,28 @@ void Grid::clearCells() {
     forgetLater();
     forgetChangedRows();
     setRedraw(false);
-    for (auto& r : cells_)
-        r.clear();
+    std::fill(head_.begin(), head_.end(), QString());
+    cells_.clear();
     marked_.clear();
     setRedraw(true);
 }
 
-Grid::Rows Grid::takeContents() {
+TestiTabella Grid::takeContents() {
     makeUpTo(rows());
     forgetChangedRows();
     setRedraw(false);
-    Rows rows(std::make_move_iterator(cells_.begin() + 1), std::make_move_iterator(cells_.end()));
-    cells_.resize(1);
+    TestiTabella rows = std::exchange(cells_, TestiTabella());
     marked_.clear();
     keepInside();
     setRedraw(true);
     return rows;
 }
 
-void Grid::setContents(Rows&& rows) {
+void Grid::setContents(TestiTabella&& rows) {
     forgetLater();
     forgetChangedRows();
     setRedraw(false);
-    cells_.resize(1);
-    cells_.insert(cells_.end(), std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end()));
+    cells_ = std::move(rows);
     keepInside();
     setRedraw(true);
 }

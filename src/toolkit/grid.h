@@ -9,6 +9,7 @@
 
 #include <QAbstractTableModel>
 
+#include "core/table_texts.h"
 #include "toolkit/control.h"
 
 namespace vanzer {
@@ -23,7 +24,7 @@ class Grid : public Control {
     Grid(QString baseName, int index, Frame* frame, int rows, int columns);
     ~Grid() override;
 
-    [[nodiscard]] int rows() const { return static_cast<int>(cells_.size()); }
+    [[nodiscard]] int rows() const { return cells_.rows() + 1; }
     [[nodiscard]] int columns() const { return columns_; }
     /// Cuts or adds rows at the end. Current row, selection end and top row stay within 1 and the last row; they are 0
     /// while there is nothing but the head row.
@@ -49,8 +50,8 @@ class Grid : public Control {
 
     /// From `firstRow` on the texts of some columns are made when somebody looks at them: `make` writes them into the
     /// cells of a row, for all rows up to the one looked at, in rising order and each once. It may not look at the
-    /// grid. A row that was blank so far has no cells at all.
-    using FaRiga = std::function<void(int row, std::vector<QString>& cells)>;
+    /// grid.
+    using FaRiga = std::function<void(int row, RigaDiTesti cells)>;
     void setColumnsLater(int firstRow, const std::vector<int>& columns, FaRiga make);
     /// The same texts are out of date from a row on.
     void makeAgainFrom(int row);
@@ -61,10 +62,8 @@ class Grid : public Control {
     void forgetChangedRows() { changed_.reset(); }
 
     /// All rows from 1 on: taken out, so that the head row is left, and put in.
-    using Rows = std::vector<std::vector<QString>>;
-    [[nodiscard]] Rows takeContents();
-    /// A row may be shorter than the grid is wide; what lies behind its end is empty.
-    void setContents(Rows&& rows);
+    [[nodiscard]] TestiTabella takeContents();
+    void setContents(TestiTabella&& rows);
 
     [[nodiscard]] int row() const { return row_; }
     [[nodiscard]] int col() const { return col_; }
@@ -105,7 +104,6 @@ class Grid : public Control {
   private:
     friend class GridModel;
     void keepInside();
-    std::vector<QString>& widened(int row) const;
     [[nodiscard]] bool later(int row, int column) const {
         return row >= later_ && row < laterEnd_ && (laterColumns_ >> column & 1) != 0;
     }
@@ -115,10 +113,11 @@ class Grid : public Control {
     void noteChange(int row);
     void shiftNotes(int first, int last, int by);
 
-    mutable Rows cells_;       ///< mutable for what is made when somebody looks at it
-    mutable int later_ = 0;    ///< the rows from here on are still to be made
-    int laterEnd_ = 0;         ///< up to here
-    quint64 laterColumns_ = 0; ///< a bit for each
+    std::vector<QString> head_;
+    mutable TestiTabella cells_; ///< of the rows from 1 on; mutable for what is made when somebody looks at it
+    mutable int later_ = 0;      ///< the rows from here on are still to be made
+    int laterEnd_ = 0;           ///< up to here
+    quint64 laterColumns_ = 0;   ///< a bit for each
     FaRiga make_;
     std::optional<std::vector<int>> changed_; ///< nothing: all rows
     int columns_;

@@ -81,7 +81,7 @@ class Form {
     std::array<bool, 21> TipiGuidaTempoObbligatorio{};
 
     /// The legs as they stood before a calculation touched them.
-    std::optional<Grid::Rows> tappeConservate;
+    std::optional<TestiTabella> tappeConservate;
     /// Of the legs in the table, as they were last worked out.
     TotaliTabella totali;
     /// The schedule in the table, as numbers; null while it shows legs.

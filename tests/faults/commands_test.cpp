@@ -195,8 +195,15 @@ TEST(Refused, AnItineraryOfTooManyRecords) {
     session.boxes.enqueue(rispostaSi);
     form.cmdSalva.click();
     form.cmdItinerario.click();
-    const auto leave = [&form, &session](std::size_t legs) {
-        form.mfgTab.setContents(Grid::Rows(legs, {u"1"_s, u"RIVA"_s, u""_s, u"7"_s, u"A"_s}));
+    const auto leave = [&form, &session](int legs) {
+        TestiTabella rows;
+        rows.setRows(legs);
+        for (int r = 0; r < legs; ++r) {
+            rows.at(r, 1) = u"RIVA"_s;
+            rows.at(r, 3) = u"7"_s;
+            rows.at(r, 4) = u"A"_s;
+        }
+        form.mfgTab.setContents(std::move(rows));
         session.boxes.enqueue(rispostaSi);
         form.cmdFine.click();
         return session.boxes.exchange({}).last()[u"text"_s].toString();

@@ -21,7 +21,7 @@ namespace vanzer {
 namespace {
 
 using namespace Qt::StringLiterals;
-using Rows = std::vector<CelleViandoria>;
+using Rows = TestiTabella;
 
 /// A user who looks at every n-th row and does something at each yield.
 class Onlooker : public EventYield {
@@ -54,13 +54,9 @@ class NoPrograms : public ProgramStarter {
 
 /// What the rows take from the window while its legs are kept.
 TestiViandoria texts(const Form& form) {
-    const Grid::Rows& legs = *form.tappeConservate;
-    return {[&legs](int row, int column) -> const QString& {
-                static const QString none;
-                const auto& cells = legs.at(static_cast<std::size_t>(row - 1));
-                return static_cast<std::size_t>(column) < cells.size() ? cells[static_cast<std::size_t>(column)] : none;
-            },
-            form.cmbRipM.text(), form.stato.OreGuidaGiorno, form.stato.OreVisitaGiorno};
+    const TestiTabella& legs = *form.tappeConservate;
+    return {[&legs](int row, int column) -> const QString& { return legs.text(row - 1, column); }, form.cmbRipM.text(),
+            form.stato.OreGuidaGiorno, form.stato.OreVisitaGiorno};
 }
 
 /// A stored trip of some days with breaks and long rests, in a window of its own.
@@ -130,7 +126,7 @@ struct Showing {
     int walked; ///< working rows that the test had walked
     float coefficient;
     ParametriSimulazione with;
-    Grid::Rows rows;
+    Rows rows;
     int topRow;
     bool enabled;
 };
@@ -141,11 +137,11 @@ std::vector<Showing> showingsOfACalculation(Trip& trip) {
     const auto watch = QObject::connect(&form.mfgTab.model(), &QAbstractItemModel::modelReset, [&] {
         if (!trip.events.due())
             return;
-        Grid::Rows rows;
+        Rows rows;
         for (int r = 1; r < form.mfgTab.rows(); ++r) {
-            CelleViandoria& cells = rows.emplace_back();
+            const int row = rows.addRow();
             for (int c = 0; c < numeroColonneViandoria; ++c)
-                cells.push_back(form.mfgTab.cell(r, c));
+                rows.at(row, c) = form.mfgTab.cell(r, c);
         }
         showings.push_back({static_cast<int>(form.stato.PercentualeCorrente), form.stato.Coefficiente,
                             parametriSimulazione(form), rows, form.mfgTab.topRow(), form.mfgTab.enabled()});
@@ -196,10 +192,11 @@ TEST(RigheInCrescita, OfALongTestComeLittleByLittle) {
     const TestiViandoria with{[&none](int, int) -> const QString& { return none; }, {}, 925, 1000};
     const Rows whole = celleViandoria(soFar, work, with);
     Rows rows;
-    for (const std::size_t size : {400, 798, 1000, 1000}) {
+    for (const int size : {400, 798, 1000, 1000}) {
         cresce(rows, soFar, work, with);
-        ASSERT_EQ(rows.size(), size);
-        EXPECT_TRUE(std::equal(rows.begin(), rows.end(), whole.begin()));
+        Rows first = whole;
+        first.setRows(size);
+        EXPECT_EQ(rows, first) << size;
     }
 }
 
@@ -234,7 +231,7 @@ TEST(RigheInCrescita, StandInTheTableWhileTheirTestRuns) {
         const TestiViandoria with = texts(form);
         for (const Showing& at : showings) {
             ASSERT_EQ(at.rows, firstRows(at, work.righe, with)) << at.walked;
-            EXPECT_EQ(at.topRow, static_cast<int>(at.rows.size()));
+            EXPECT_EQ(at.topRow, at.rows.rows());
             EXPECT_FALSE(at.enabled) << "a click would edit the rows";
         }
     }

@@ -247,9 +247,14 @@ TEST(RigheViandoria, TextsNotesAndTotals) {
         [&leg](int, int column) -> const QString& { return leg[static_cast<std::size_t>(column)]; }, u"15"_s, 925,
         1000};
 
-    std::vector<CelleViandoria> rows = celleViandoria(v, work, texts);
+    TestiTabella rows = celleViandoria(v, work, texts);
     const auto totals = chiudeViandoria(rows, v, texts);
-    const auto line = [&rows](std::size_t i) { return QStringList(rows[i].begin(), rows[i].end()).join(u'|'); };
+    const auto line = [&rows](int row) {
+        QStringList cells;
+        for (int column = 0; column < numeroColonneViandoria; ++column)
+            cells << rows.text(row, column);
+        return cells.join(u'|');
+    };
     EXPECT_EQ(line(0), u"1|verso: Roma|A1|1300|A|1.300|03:30|||Sab|05/07|12:30|Riposo 15'Pranzo|");
     EXPECT_EQ(line(1), u"|> A * Foro||||||01:01:30|01:30|Sab|05/07|* 16:00|"
                        u"Ottimo [Km 1300 in ore 03:30; soste per ore 01:30]|");

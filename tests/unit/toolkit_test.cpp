@@ -101,7 +101,7 @@ TEST(Griglia, RowsMoveWhole) {
     EXPECT_EQ(column(grid, 0), u"1|2|3|4|5") << "the first column stays";
     grid.setCell(99, 1, u"x"_s);
     EXPECT_EQ(grid.cell(99, 1), u"");
-    Grid::Rows rows = grid.takeContents();
+    TestiTabella rows = grid.takeContents();
     EXPECT_EQ(grid.rows(), 1);
     grid.setContents(std::move(rows));
     EXPECT_EQ(column(grid, 1), u"a|b|b|d|e");
@@ -112,8 +112,8 @@ TEST(Griglia, TextsMadeLaterAreMadeOnceForWhoeverLooks) {
     for (int r = 1; r < 6; ++r)
         grid.setCell(r, 1, QStringLiteral("x"));
     std::vector<int> made;
-    const auto make = [&made](int row, std::vector<QString>& cells) {
-        if (cells.empty())
+    const auto make = [&made](int row, RigaDiTesti cells) {
+        if (cells.text(1).isEmpty())
             return;
         made.push_back(row);
         cells[3] = QString::number(row * 10);
@@ -135,9 +135,9 @@ TEST(Griglia, TextsMadeLaterAreMadeOnceForWhoeverLooks) {
     EXPECT_EQ(grid.cell(4, 3), u"50") << "made before the rows move";
     made.clear();
     grid.makeAgainFrom(2);
-    const Grid::Rows rows = grid.takeContents();
-    EXPECT_EQ(rows[1][3], u"20") << "made before they are taken out";
-    grid.setContents(Grid::Rows(rows));
+    const TestiTabella rows = grid.takeContents();
+    EXPECT_EQ(rows.text(1, 3), u"20") << "made before they are taken out";
+    grid.setContents(TestiTabella(rows));
     (void)grid.cell(4, 3);
     EXPECT_EQ(made, (Rows{2, 3, 4})) << "another table is whole";
     grid.makeAgainFrom(2);
@@ -160,7 +160,7 @@ TEST(Griglia, RowsShiftBesideTheirNumbers) {
             grid.setCell(r, 0, QString::number(r));
             grid.setCell(r, 1, QString(QChar(static_cast<char16_t>(u'a' + r - 1))));
         }
-        grid.setColumnsLater(1, {2}, [](int /*row*/, std::vector<QString>& cells) { cells.at(2) = cells.at(1); });
+        grid.setColumnsLater(1, {2}, [](int /*row*/, RigaDiTesti cells) { cells[2] = cells.text(1); });
         (void)grid.cell(3, 2);
         grid.shiftRows(c.first, c.last, c.by);
         QStringList texts;
@@ -212,7 +212,10 @@ TEST(Griglia, ItsModelKeepsTheRulesOfAView) {
         const SenzaRidisegno outer(grid);
         const SenzaRidisegno inner(grid);
         grid.setRows(1);
-        grid.setContents({{u"1"_s, u"Pisa"_s}, {}});
+        TestiTabella two;
+        two.setRows(2);
+        two.at(0, 1) = u"Pisa"_s;
+        grid.setContents(std::move(two));
         grid.setColumns(12);
     }
     EXPECT_EQ(resets, 1);

@@ -1,0 +1,70 @@
+// The texts of a table's cells, column by column: what goes through a column of a long table finds its texts side by
+// side, and a column that nobody writes into takes no memory.
+#pragma once
+
+#include <vector>
+
+#include <QString>
+
+namespace vanzer {
+
+/// Rows and columns count from 0. There are as many columns as are asked for.
+class TestiTabella {
+  public:
+    [[nodiscard]] int rows() const { return rows_; }
+    /// Cuts rows at the end, or adds blank ones.
+    void setRows(int rows);
+    /// Adds a blank row; its number.
+    int addRow();
+    void removeRow(int row);
+    /// Only these rows are left, numbered in rising order.
+    void keepRows(const std::vector<int>& rows);
+
+    /// Empty where nothing was written.
+    [[nodiscard]] const QString& text(int row, int column) const {
+        const auto c = static_cast<std::size_t>(column);
+        return c < columns_.size() && !columns_[c].empty() ? columns_[c][static_cast<std::size_t>(row)] : none;
+    }
+    /// To be written. It stays where it is until the number of rows changes.
+    [[nodiscard]] QString& at(int row, int column) {
+        const auto c = static_cast<std::size_t>(column);
+        if (c >= columns_.size() || columns_[c].empty())
+            makeColumn(c);
+        return columns_[c][static_cast<std::size_t>(row)];
+    }
+    [[nodiscard]] bool blank(int row) const;
+    [[nodiscard]] bool operator==(const TestiTabella& other) const;
+
+    /// A row of another table moves over a row of this one.
+    void moveRow(int row, TestiTabella& from, int fromRow);
+    /// The rows from `middle` on come before those from `first` on, up to but without `last`; columns before
+    /// `firstColumn` stay.
+    void rotate(int first, int middle, int last, int firstColumn);
+    void clearRow(int row, int firstColumn);
+    /// Blanks all rows.
+    void clear() { columns_.clear(); }
+    /// Forgets the columns from there on.
+    void cutColumns(int column);
+
+  private:
+    void makeColumn(std::size_t column);
+
+    static const QString none;
+
+    int rows_ = 0;
+    std::vector<std::vector<QString>> columns_; ///< each as long as the table, or empty
+};
+
+/// A row that is being written.
+class RigaDiTesti {
+  public:
+    RigaDiTesti(TestiTabella& table, int row) : table_(table), row_(row) {}
+    [[nodiscard]] const QString& text(int column) const { return table_.text(row_, column); }
+    [[nodiscard]] QString& operator[](int column) { return table_.at(row_, column); }
+
+  private:
+    TestiTabella& table_;
+    int row_;
+};
+
+} // namespace vanzer
