@@ -10,8 +10,8 @@ const QString TestiTabella::none;
 void TestiTabella::setRows(int rows) {
     rows_ = rows;
     for (auto& column : columns_) {
-        if (!column.empty())
-            column.resize(static_cast<std::size_t>(rows));
+        if (!column.isEmpty())
+            column.resize(rows);
     }
 }
 
@@ -23,18 +23,20 @@ int TestiTabella::addRow() {
 void TestiTabella::removeRow(int row) {
     --rows_;
     for (auto& column : columns_) {
-        if (!column.empty())
-            column.erase(column.begin() + row);
+        if (!column.isEmpty())
+            column.removeAt(row);
     }
 }
 
 void TestiTabella::keepRows(const std::vector<int>& rows) {
     for (auto& column : columns_) {
-        if (column.empty())
+        if (column.isEmpty())
             continue;
-        for (std::size_t i = 0; i < rows.size(); ++i) {
-            if (const auto from = static_cast<std::size_t>(rows[i]); from != i)
-                column[i] = std::move(column[from]);
+        auto to = column.begin();
+        for (const int row : rows) {
+            if (const auto from = column.begin() + row; from != to)
+                *to = std::move(*from);
+            ++to;
         }
     }
     setRows(static_cast<int>(rows.size()));
@@ -54,36 +56,35 @@ bool TestiTabella::operator==(const TestiTabella& other) const {
 void TestiTabella::makeColumn(std::size_t column) {
     if (column >= columns_.size())
         columns_.resize(column + 1);
-    constexpr std::size_t spare = 8; // for the few rows that come behind a table that is made whole
-    columns_[column].reserve(static_cast<std::size_t>(rows_) + spare);
-    columns_[column].resize(static_cast<std::size_t>(rows_));
+    constexpr int spare = 8; // for the few rows that come behind a table that is made whole
+    columns_[column].reserve(rows_ + spare);
+    columns_[column].resize(rows_);
 }
 
 bool TestiTabella::blank(int row) const {
-    return std::all_of(columns_.begin(), columns_.end(), [row](const std::vector<QString>& column) {
-        return column.empty() || column[static_cast<std::size_t>(row)].isEmpty();
-    });
+    return std::all_of(columns_.begin(), columns_.end(),
+                       [row](const QList<QString>& column) { return column.isEmpty() || column.at(row).isEmpty(); });
 }
 
 void TestiTabella::moveRow(int row, TestiTabella& from, int fromRow) {
     for (std::size_t c = 0; c < from.columns_.size(); ++c) {
-        if (!from.columns_[c].empty())
-            at(row, static_cast<int>(c)) = std::move(from.columns_[c][static_cast<std::size_t>(fromRow)]);
+        if (!from.columns_[c].isEmpty())
+            at(row, static_cast<int>(c)) = std::move(from.columns_[c][fromRow]);
     }
 }
 
 void TestiTabella::rotate(int first, int middle, int last, int firstColumn) {
     for (std::size_t c = static_cast<std::size_t>(firstColumn); c < columns_.size(); ++c) {
         auto& column = columns_[c];
-        if (!column.empty())
+        if (!column.isEmpty())
             std::rotate(column.begin() + first, column.begin() + middle, column.begin() + last);
     }
 }
 
 void TestiTabella::clearRow(int row, int firstColumn) {
     for (std::size_t c = static_cast<std::size_t>(firstColumn); c < columns_.size(); ++c) {
-        if (!columns_[c].empty())
-            columns_[c][static_cast<std::size_t>(row)].clear();
+        if (!columns_[c].isEmpty())
+            columns_[c][row].clear();
     }
 }
 

@@ -4,11 +4,13 @@
 
 #include <vector>
 
+#include <QList>
 #include <QString>
 
 namespace vanzer {
 
-/// Rows and columns count from 0. There are as many columns as are asked for.
+/// Rows and columns count from 0. There are as many columns as are asked for. A copy shares the columns until one of
+/// the two is written.
 class TestiTabella {
   public:
     [[nodiscard]] int rows() const { return rows_; }
@@ -23,14 +25,14 @@ class TestiTabella {
     /// Empty where nothing was written.
     [[nodiscard]] const QString& text(int row, int column) const {
         const auto c = static_cast<std::size_t>(column);
-        return c < columns_.size() && !columns_[c].empty() ? columns_[c][static_cast<std::size_t>(row)] : none;
+        return c < columns_.size() && !columns_[c].isEmpty() ? columns_[c].at(row) : none;
     }
     /// To be written. It stays where it is until the number of rows changes.
     [[nodiscard]] QString& at(int row, int column) {
         const auto c = static_cast<std::size_t>(column);
-        if (c >= columns_.size() || columns_[c].empty())
+        if (c >= columns_.size() || columns_[c].isEmpty())
             makeColumn(c);
-        return columns_[c][static_cast<std::size_t>(row)];
+        return columns_[c][row];
     }
     [[nodiscard]] bool blank(int row) const;
     [[nodiscard]] bool operator==(const TestiTabella& other) const;
@@ -52,7 +54,7 @@ class TestiTabella {
     static const QString none;
 
     int rows_ = 0;
-    std::vector<std::vector<QString>> columns_; ///< each as long as the table, or empty
+    std::vector<QList<QString>> columns_; ///< each as long as the table, or empty
 };
 
 /// A row that is being written.

@@ -22,6 +22,10 @@ QString Mid(const QString& s, qsizetype p, qsizetype n) {
     return s.mid(std::max<qsizetype>(p, 1) - 1, std::max<qsizetype>(n, 0));
 }
 
+QStringView Mid(QStringView s, qsizetype p, qsizetype n) {
+    return s.mid(std::max<qsizetype>(p, 1) - 1, std::max<qsizetype>(n, 0));
+}
+
 QString Right(const QString& s, qsizetype n) {
     return n <= 0 ? QString() : s.right(n);
 }
@@ -39,7 +43,25 @@ QStringView Trim(QStringView s) {
     return s;
 }
 
+namespace {
+
+constexpr qsizetype exactDigits = 15; ///< any number of so many digits is exact in double precision
+
+/// Nearly every number of a trip: digits alone, with other characters behind at most. -1 for any other text.
+double plainNumber(QStringView s) {
+    double value = 0;
+    qsizetype i = 0;
+    for (; i < s.size() && s[i] >= u'0' && s[i] <= u'9'; ++i)
+        value = value * 10 + (s[i].unicode() - u'0');
+    const bool ends = i == s.size() || (s[i] != u' ' && s[i] != u'.');
+    return i > 0 && i <= exactDigits && ends ? value : -1;
+}
+
+} // namespace
+
 double Val(QStringView s) {
+    if (const double plain = plainNumber(s); plain >= 0)
+        return plain;
     std::array<char, 64> digits{};
     std::size_t n = 0;
     bool point = false;

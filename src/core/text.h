@@ -15,6 +15,7 @@ namespace vanzer {
 [[nodiscard]] QString Mid(const QString& s, qsizetype p);
 /// n characters from position p (from 1).
 [[nodiscard]] QString Mid(const QString& s, qsizetype p, qsizetype n);
+[[nodiscard]] QStringView Mid(QStringView s, qsizetype p, qsizetype n);
 /// The last n characters.
 [[nodiscard]] QString Right(const QString& s, qsizetype n);
 /// Without blanks at either end; tabs and line breaks stay.

@@ -23,10 +23,10 @@ SegniGuida::Voci SegniGuida::usaModello(const QString& pattern) {
     return unused(archive_.guida().leggeModello(pattern));
 }
 
-float tempoVoce(const QString& tempoSosta, float visitingDay) {
+float tempoVoce(QStringView tempoSosta, float visitingDay) {
     const bool days = iniziaCon(tempoSosta, u"G");
     const double whole =
-        days ? Val(Mid(tempoSosta, 2, 1)) * static_cast<double>(visitingDay) : Val(Left(tempoSosta, 2)) * 100;
+        days ? Val(Mid(tempoSosta, 2, 1)) * static_cast<double>(visitingDay) : Val(Mid(tempoSosta, 1, 2)) * 100;
     return static_cast<float>(Int(whole + Val(Mid(tempoSosta, 4, 2)) * 100 / 60 + 0.5));
 }
 

@@ -34,6 +34,6 @@ class SegniGuida {
 
 /// Time of an entry in hundredths: hh:mm, or whole visiting days "G1" to "G8" of `visitingDay` hundredths each plus the
 /// minutes.
-[[nodiscard]] float tempoVoce(const QString& tempoSosta, float visitingDay);
+[[nodiscard]] float tempoVoce(QStringView tempoSosta, float visitingDay);
 
 } // namespace vanzer

@@ -1,5 +1,10 @@
 #include "itinerary/leg_table_screen.h"
 
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "core/shared_texts.h"
 #include "core/text.h"
 #include "core/time_values.h"
 #include "guide/marks.h"
@@ -14,13 +19,22 @@ namespace {
 
 constexpr int colonnaFineGiorno = 14;
 
-/// One row of the table for each record. The places are told apart from the rows' marks later.
-TestiTabella readLegs(Form& form) {
+/// "0001" behind "0000", as nearly every trip was stored: the records came in order.
+bool follows(const QString& sequence, const QString& last) {
+    const auto digit = [](QChar c) { return c >= u'0' && c <= u'9'; };
+    return sequence.size() == 4 && std::ranges::all_of(sequence, digit) && last < sequence;
+}
+
+/// One row of the table for each record. The places are told apart from the rows' marks later. Nothing if the records
+/// were to come in the order in which they are stored, and that isn't the order of the legs.
+std::optional<TestiTabella> readLegs(Form& form, TestiComuni& texts, bool asStored) {
     store::Archive& archive = form.archivio;
     archive.StringaSQL = QStringLiteral("SELECT * FROM Itinerari WHERE CodiceMeta = '") +
-                         store::quotato(form.stato.CodiceMeta) + QStringLiteral("' ORDER BY Sequenza");
+                         store::quotato(form.stato.CodiceMeta) + u'\'' +
+                         (asStored ? QString() : QStringLiteral(" ORDER BY Sequenza"));
     archive.RecordSetImposta(0, store::Itinerari);
     store::Recordset& records = archive.Rs(store::Itinerari);
+    const int sequence = records.campo("Sequenza");
     const int place = records.campo("Localita");
     const int km = records.campo("Chilometri");
     const int road = records.campo("NomeStrada");
@@ -28,15 +42,23 @@ TestiTabella readLegs(Form& form) {
     const int stop = records.campo("TempoSosta");
     const int end = records.campo("FineGiorno");
     TestiTabella rows;
-    for (; !records.EOF_(); records.MoveNext()) {
-        const int row = rows.addRow();
+    rows.setRows(static_cast<int>(records.RecordCount()));
+    QString last;
+    for (int row = 0; !records.EOF_(); records.MoveNext(), ++row) {
+        if (asStored) {
+            const QString next = records.testo(sequence);
+            if (!follows(next, last))
+                return {};
+            last = next;
+        }
         rows.at(row, 0) = testoNumero(row + 1);
         rows.at(row, 1) = records.testo(place);
-        rows.at(row, 2) = Trim(records.testo(road));
+        rows.at(row, 2) = texts.comune(Trim(records.testo(road)));
         rows.at(row, 3) = migliaia(Val(records.testo(km)));
         rows.at(row, 4) = records.testo(type);
-        rows.at(row, 7) = sostaDelRecord(records.testo(end), records.testo(stop));
-        rows.at(row, colonnaFineGiorno) = records.testo(end);
+        const QString endOfDay = records.testo(end);
+        rows.at(row, 7) = texts.comune(sostaDelRecord(endOfDay, records.testo(stop)));
+        rows.at(row, colonnaFineGiorno) = endOfDay;
     }
     return rows;
 }
@@ -50,7 +72,7 @@ QString guideStops(SegniGuida& guide, const QString& place, float visitingDay) {
 }
 
 /// The guide's stops into the rows of the stretch, each entry once.
-void addGuideStops(Form& form, TestiTabella& rows) {
+void addGuideStops(Form& form, TestiTabella& rows, TestiComuni& texts) {
     SegniGuida guide(form.archivio);
     TrattoDellaGuida stretch;
     form.stato.RigaCaricata = 0;
@@ -58,7 +80,7 @@ void addGuideStops(Form& form, TestiTabella& rows) {
         ++form.stato.RigaCaricata;
         const TrattoDellaGuida::Passo step = stretch.prossimo(rows.text(row, 1));
         if (step.leggere)
-            rows.at(row, 8) = guideStops(guide, step.luogo, form.stato.OreVisitaGiorno);
+            rows.at(row, 8) = texts.comune(guideStops(guide, step.luogo, form.stato.OreVisitaGiorno));
         form.yield();
     }
     guide.scrive();
@@ -176,10 +198,12 @@ void CaricaTappeItinerario(Form& form) {
     form.tappeConservate.reset();
     CancellaMatrice(form);
     ControllaVariabiliConvertite(form);
-    TestiTabella rows = readLegs(form);
+    TestiComuni texts;
+    std::optional<TestiTabella> stored = readLegs(form, texts, true);
+    TestiTabella rows = stored ? std::move(*stored) : *readLegs(form, texts, false);
     const int legs = rows.rows();
     SettaAZeroFlaGVisto(form);
-    addGuideStops(form, rows);
+    addGuideStops(form, rows, texts);
     {
         const SenzaRidisegno quiet(form.mfgTab);
         form.stato.NumeroTappe = legs;

@@ -1,5 +1,7 @@
 #include "schedule/calculation_screen.h"
 
+#include <numeric>
+
 #include "core/text.h"
 #include "core/time_values.h"
 #include "itinerary/leg_editor_screen.h"
@@ -77,35 +79,33 @@ void showPanel(Form& form, const PannelloViandoria& panel) {
     form.txtFine(5).setText(GiornoSettimana(Gma2Data(date)));
 }
 
-/// What the rows take from the kept legs and the window.
+/// What the rows take from the kept legs and the window. The legs are a copy of their own, since rows are still made
+/// when the table has them back.
 TestiViandoria rowTexts(const Form& form) {
-    const TestiTabella& legs = *form.tappeConservate;
     return {
-        .tappa = [&legs](int row, int column) -> const QString& { return legs.text(row - 1, column); },
+        .tappa = [legs = *form.tappeConservate](int row, int column) -> const QString& {
+            return legs.text(row - 1, column);
+        },
         .minutiPausa = form.cmbRipM.text(),
         .oreGuidaGiorno = form.stato.OreGuidaGiorno,
         .oreVisitaGiorno = form.stato.OreVisitaGiorno,
     };
 }
 
-/// The table as the last test leaves it, closed and tidied; the rows of totals stay.
-void showSchedule(Form& form, const RigheDiLavoro& prepared, const Viandoria& schedule) {
-    const TestiViandoria texts = rowTexts(form);
-    TestiTabella rows = celleViandoria(schedule, prepared.righe, texts);
-    const std::array<QString, righeTotali> totals = chiudeViandoria(rows, schedule, texts);
-    std::vector<int> tidied;
-    tidied.reserve(static_cast<std::size_t>(rows.rows()));
-    for (int row = 0; row < rows.rows(); ++row) {
-        if (!rigaVuota(rows, row))
-            tidied.push_back(row);
-    }
-    rows.keepRows(tidied);
-    for (const QString& total : totals)
-        rows.at(rows.addRow(), colTappa) = total;
-    const SenzaRidisegno quiet(form.mfgTab);
-    form.mfgTab.setRows(1);
-    form.mfgTab.setContents(std::move(rows));
-    form.mfgTab.setTopRow(1);
+/// The table as the last test leaves it, closed and tidied; its rows are made when somebody looks.
+void showSchedule(Form& form) {
+    const std::shared_ptr<const ViandoriaMostrata> shown = form.viandoria;
+    const auto table = std::make_shared<TabellaViandoria>(shown->viandoria, shown->lavoro->righe, rowTexts(form));
+    std::vector<int> columns(numeroColonneViandoria);
+    std::iota(columns.begin(), columns.end(), 0);
+    TestiTabella blank;
+    blank.setRows(table->righe());
+    Grid& grid = form.mfgTab;
+    const SenzaRidisegno quiet(grid);
+    grid.setRows(1);
+    grid.setContents(std::move(blank));
+    grid.setColumnsLater(1, columns, [shown, table](int row, RigaDiTesti cells) { table->scrive(row - 1, cells); });
+    grid.setTopRow(1);
 }
 
 void tellResult(Form& form) {
@@ -169,10 +169,10 @@ class Calcolo {
             form_.archivio.scriveRicavati([this] { storeCoefficient(form_); });
         showPanel(form_, last_.pannello);
         form_.txtFine(6).setText(QString::number(s_.GiorniCalcolati));
-        showSchedule(form_, *prepared_, last_);
-        form_.frmLinea.setVisible(false);
         form_.viandoria =
             std::make_shared<const ViandoriaMostrata>(ViandoriaMostrata{prepared_, std::move(last_), used_});
+        showSchedule(form_);
+        form_.frmLinea.setVisible(false);
         form_.cmdCalcola.setCaption(QStringLiteral("&Sblocca"));
         s_.ViandoriaCalcolata = true;
         AzzeraPercentuale(form_);

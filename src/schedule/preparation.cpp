@@ -1,5 +1,7 @@
 #include "schedule/preparation.h"
 
+#include <QStringBuilder>
+
 #include "core/place_name.h"
 #include "core/text.h"
 #include "core/time_values.h"
@@ -39,7 +41,7 @@ void makeMarksConsistent(std::vector<TappaDaPreparare>& legs) {
 QString nameOfEntry(const VoceGuida& entry) {
     const QString group = Trim(entry.gruppo);
     const QString description = Trim(entry.descrizione);
-    return group.isEmpty() || group == u"0" ? u" > "_s + description : u" > "_s + group + u" * "_s + description;
+    return group.isEmpty() || group == u"0" ? u" > " % description : QString(u" > " % group % u" * " % description);
 }
 
 class Preparatore {
@@ -100,7 +102,7 @@ class Preparatore {
     float sostaItinerario(const TappaDaPreparare& leg) {
         if (leg.sosta.isEmpty() || !conItinerario())
             return 0;
-        RigaDiLavoro& row = aggiunge(RigaDiLavoro::Tipo::SostaItinerario, leg, u" > a "_s + leg.luogo);
+        RigaDiLavoro& row = aggiunge(RigaDiLavoro::Tipo::SostaItinerario, leg, u" > a " % leg.luogo);
         row.sostaFissa = ghmStringa2Centesimi(leg.sosta, with_.oreVisitaGiorno);
         return row.sostaFissa;
     }
@@ -110,9 +112,8 @@ class Preparatore {
         for (const VoceGuida* const entry : with_.guida(PulisceNomeLocalita(leg.luogo))) {
             const float stop = sostaDellaVoce(entry->tempoSosta, with_.oreVisitaGiorno);
             const bool mention = stop == 0;
-            RigaDiLavoro& row = mention
-                                    ? aggiunge(RigaDiLavoro::Tipo::Menzione, leg, u" > "_s + Trim(entry->descrizione))
-                                    : aggiunge(RigaDiLavoro::Tipo::SostaGuida, leg, nameOfEntry(*entry));
+            RigaDiLavoro& row = mention ? aggiunge(RigaDiLavoro::Tipo::Menzione, leg, u" > " % Trim(entry->descrizione))
+                                        : aggiunge(RigaDiLavoro::Tipo::SostaGuida, leg, nameOfEntry(*entry));
             row.nota = with_.categoria(entry->codice);
             row.sostaGuida = stop;
             sum += static_cast<double>(stop);
@@ -158,8 +159,9 @@ RigheDiLavoro preparaRighe(std::vector<TappaDaPreparare> legs, const Preparazion
 float sostaDellaVoce(const QString& tempoSosta, float oreVisitaGiorno) {
     if (!iniziaCon(tempoSosta, u"G"))
         return ghmStringa2Centesimi(tempoSosta, oreVisitaGiorno);
-    const double days = Val(Mid(tempoSosta, 2));
-    const double minutes = Val(Mid(tempoSosta, 4, 2));
+    const QStringView time(tempoSosta);
+    const double days = Val(time.mid(1));
+    const double minutes = Val(Mid(time, 4, 2));
     return static_cast<float>(days * static_cast<double>(oreVisitaGiorno) + Int(minutes * 100 / 60 + 0.5));
 }
 

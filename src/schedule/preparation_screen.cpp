@@ -1,7 +1,5 @@
 #include "schedule/preparation_screen.h"
 
-#include <algorithm>
-#include <array>
 #include <numeric>
 
 #include "core/text.h"
@@ -15,6 +13,8 @@
 namespace vanzer {
 
 namespace {
+
+constexpr int colonneTappa = 7; ///< what a working row shows of its leg
 
 /// Columns of the hidden grid beyond those of the leg table.
 constexpr int colCategoria = 12;
@@ -37,25 +37,11 @@ QString stopText(float stop, QChar decimalMark) {
     return stop == 1 ? QStringLiteral("01") : testoNumero(stop, decimalMark);
 }
 
-/// What a working row shows of its leg.
-using CelleTappa = std::array<QString, 7>;
-
-std::vector<CelleTappa> shownOfLegs(const TestiTabella& rows) {
-    std::vector<CelleTappa> legs(static_cast<std::size_t>(rows.rows()));
-    for (int r = 0; r < rows.rows(); ++r) {
-        CelleTappa& leg = legs[static_cast<std::size_t>(r)];
-        for (std::size_t column = 0; column < leg.size(); ++column)
-            leg[column] = rows.text(r, static_cast<int>(column));
-    }
-    return legs;
-}
-
-void writeWorkingRow(RigaDiTesti cells, const RigaDiLavoro& work, const std::vector<CelleTappa>& legs,
-                     QChar decimalMark) {
+void writeWorkingRow(RigaDiTesti cells, const RigaDiLavoro& work, const TestiTabella& legs, QChar decimalMark) {
     using enum RigaDiLavoro::Tipo;
     if (work.tipo == Tappa) {
-        for (int column = 0; const QString& text : legs[static_cast<std::size_t>(work.tappa - 1)])
-            cells[column++] = text;
+        for (int column = 0; column < colonneTappa; ++column)
+            cells[column] = legs.text(work.tappa - 1, column);
     }
     cells[1] = work.nome;
     if (!work.nota.isEmpty())
@@ -82,11 +68,10 @@ void showWorkingRows(Form& form, const std::shared_ptr<const RigheDiLavoro>& wor
     grid.setRows(static_cast<int>(rows.size()) + 1);
     std::vector<int> columns(static_cast<std::size_t>(grid.columns()));
     std::iota(columns.begin(), columns.end(), 0);
-    grid.setColumnsLater(
-        1, columns, [work, shown = shownOfLegs(legs), mark = form.ambiente.decimalMark](int row, RigaDiTesti cells) {
-            if (const auto at = static_cast<std::size_t>(row - 1); at < work->righe.size())
-                writeWorkingRow(cells, work->righe[at], shown, mark);
-        });
+    grid.setColumnsLater(1, columns, [work, legs, mark = form.ambiente.decimalMark](int row, RigaDiTesti cells) {
+        if (const auto at = static_cast<std::size_t>(row - 1); at < work->righe.size())
+            writeWorkingRow(cells, work->righe[at], legs, mark);
+    });
     form.stato.RigaCaricata = static_cast<int>(rows.size());
 }
 

@@ -1,6 +1,9 @@
 #include "schedule/rows.h"
 
 #include <algorithm>
+#include <utility>
+
+#include <QStringBuilder>
 
 #include "core/place_name.h"
 #include "core/text.h"
@@ -12,22 +15,6 @@ namespace vanzer {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The texts of a day, made once for all its rows.
-struct TestiGiorno {
-    float giuliano = -1;
-    QString settimana;
-    QString data;
-
-    void mostra(float day) {
-        if (day == giuliano)
-            return;
-        giuliano = day;
-        const QString date = Giu2Datas(day);
-        settimana = GiornoSettimana(date);
-        data = Left(Data2Data(date), 5);
-    }
-};
 
 /// A stop as its text tells it, hundredths.
 float minutiInteri(float stop, float visitingDay) {
@@ -81,57 +68,104 @@ void scriveSosta(RigaDiTesti cells, const RigaViandoria& row, const RigaDiLavoro
     cells[colNote] = work.nota;
 }
 
-/// Kilometres, driving time and stops of a day, a stretch or the whole trip; times in hundredths.
-struct Somma {
-    int km = 0;
-    float guida = 0;
-    float soste = 0;
-};
-
 QString oreDelGiorno(float time) {
     return ghmSenzaGiorni(time, giornoIntero);
 }
 
-void notaDelGiorno(RigaDiTesti cells, Somma& day, QStringView stopsWord) {
+QString conNotaDelGiorno(QString note, const SommaViandoria& day, QStringView stopsWord) {
     if (day.km != 0) {
-        QString note =
-            cells.text(colNote) + u" [Km "_s + QString::number(day.km) + u" in ore "_s + oreDelGiorno(day.guida);
+        note += u" [Km "_s + QString::number(day.km) + u" in ore "_s + oreDelGiorno(day.guida);
         if (day.soste != 0)
-            note += stopsWord.toString() + oreDelGiorno(day.soste);
-        cells[colNote] = Trim(note + u']');
-        day = {};
+            note += stopsWord % oreDelGiorno(day.soste);
+        return Trim(note + u']');
     }
-    if (day.soste != 0) {
-        cells[colNote] += u" [Sosta ore "_s + oreDelGiorno(day.soste) + u']';
-        day.soste = 0;
-    }
+    return day.soste == 0 ? note : note + u" [Sosta ore "_s + oreDelGiorno(day.soste) + u']';
 }
 
-class Chiusura {
-  public:
-    Chiusura(TestiTabella& rows, const Viandoria& schedule, const TestiViandoria& texts)
-        : rows_(rows), schedule_(schedule), texts_(texts) {}
+/// The cells of a row as the simulation wrote it. A stop without any length has neither day nor hour.
+void scriveRiga(RigaDiTesti cells, int number, const RigaViandoria& row, const RigaDiLavoro& work,
+                const TestiViandoria& texts, TestiGiorno& day) {
+    switch (row.tipo) {
+    case RigaViandoria::Tipo::Tratto: scriveTratto(cells, number, row, work, texts); break;
+    case RigaViandoria::Tipo::Sosta: scriveSosta(cells, row, work, texts); break;
+    case RigaViandoria::Tipo::Menzione:
+        cells[colTappa] = senzaMarche(work.nome);
+        cells[colNote] = work.nota;
+        break;
+    case RigaViandoria::Tipo::NuovoGiorno:
+        cells[colTappa] = testoNuovoGiorno.toString();
+        cells[colNote] = QStringLiteral("Nuovo giorno");
+        break;
+    }
+    if (row.tipo == RigaViandoria::Tipo::Sosta && cells.text(colSosta).isEmpty() && cells.text(colSostaGuida).isEmpty())
+        return;
+    day.mostra(row.giuliano);
+    cells[colGiorno] = day.settimana();
+    cells[colData] = day.data();
+    cells[colOra] = row.riposoDopo ? u"* "_s + oraMostrata(row.ora) : oraMostrata(row.ora);
+}
 
-    std::array<QString, righeTotali> chiude() {
-        const int rows = rows_.rows();
+/// A stop whose texts of its length are empty.
+bool senzaLunghezza(const RigaViandoria& row, float visitingDay) {
+    const auto nothing = [visitingDay](float length) {
+        return length == 0 || lunghezzaSosta(length, visitingDay).isEmpty();
+    };
+    return row.tipo == RigaViandoria::Tipo::Sosta && nothing(row.sostaGuida) &&
+           nothing(minutiInteri(row.sosta, visitingDay));
+}
+
+} // namespace
+
+void TestiGiorno::mostra(float giuliano) {
+    if (giuliano == giuliano_)
+        return;
+    giuliano_ = giuliano;
+    const QString date = Giu2Datas(giuliano);
+    week_ = GiornoSettimana(date);
+    date_ = Left(Data2Data(date), 5);
+}
+
+/// One way through the rows: sums and notes of the days, rows that stay.
+class TabellaViandoria::Chiusura {
+  public:
+    explicit Chiusura(TabellaViandoria& table)
+        : table_(table), schedule_(table.schedule_), work_(table.work_), texts_(table.texts_) {}
+
+    void chiude() {
+        const int rows = this->rows();
         if (rows >= 2)
-            rows_.at(rows - 2, colFine) = u'>' + giornoEMese(schedule_.giuliano) + u'-' + oraMostrata(schedule_.ora);
+            table_.endRow_ = rows - 2;
         findStretch();
         for (int i = 0; i < rows; ++i)
             riga(i);
         if (day_.km != 0)
-            notaDelGiorno(RigaDiTesti(rows_, rows - 1), day_, u"; sosta ore ");
-        return totals();
+            closesDay(rows - 1, true);
+        keepRows();
+        table_.totals_ = totals();
     }
 
   private:
+    [[nodiscard]] int rows() const { return static_cast<int>(schedule_.righe.size()); }
+    [[nodiscard]] const RigaViandoria& at(int i) const { return schedule_.righe[static_cast<std::size_t>(i)]; }
+    [[nodiscard]] const RigaDiLavoro& workOf(int i) const { return work_[static_cast<std::size_t>(at(i).lavoro)]; }
+
+    /// The name that a row shows, if it may bear a mark.
+    [[nodiscard]] QString markedName(int i) const {
+        const RigaViandoria& row = at(i);
+        const bool leg = row.tipo == RigaViandoria::Tipo::Tratto;
+        if (leg ? row.verso : row.tipo != RigaViandoria::Tipo::Menzione)
+            return {};
+        const QString& name = workOf(i).nome;
+        return !name.contains(u'[') ? QString() : leg ? name : senzaMarche(name);
+    }
+
     /// From the last "[Start]" to the row before the next numbered one behind the last "[End]".
     void findStretch() {
-        const int none = rows_.rows();
+        const int none = rows();
         int end = none;
         for (int i = 0; i < none; ++i) {
-            const QString& name = rows_.text(i, colTappa);
-            if (!name.contains(u'['))
+            const QString name = markedName(i);
+            if (name.isEmpty())
                 continue;
             if (contiene(name, marcaStart))
                 first_ = i;
@@ -140,7 +174,7 @@ class Chiusura {
         }
         last_ = none;
         for (int i = end + 1; i < none; ++i) {
-            if (!rows_.text(i, colNumero).isEmpty()) {
+            if (at(i).tipo == RigaViandoria::Tipo::Tratto) {
                 last_ = i - 1;
                 return;
             }
@@ -148,10 +182,13 @@ class Chiusura {
     }
 
     void riga(int i) {
-        const QString& weekDay = rows_.text(i, colGiorno);
+        const RigaViandoria& row = at(i);
+        if (senzaLunghezza(row, texts_.oreVisitaGiorno))
+            return;
+        date_.mostra(row.giuliano);
+        const QString& weekDay = date_.settimana();
         if (weekDay.isEmpty())
             return;
-        const RigaViandoria& row = schedule_.righe[static_cast<std::size_t>(i)];
         const float driving = timeShown(row);
         const float stop = stopShown(row);
         if (i >= first_ && i <= last_) {
@@ -161,7 +198,7 @@ class Chiusura {
         }
         if (weekDay != weekDay_) {
             if (i > 0)
-                notaDelGiorno(RigaDiTesti(rows_, i - 1), day_, u"; soste per ore ");
+                closesDay(i - 1, false);
             weekDay_ = weekDay;
         }
         if (row.km != 0) {
@@ -172,7 +209,36 @@ class Chiusura {
         trip_.soste += stop;
     }
 
-    static void adds(Somma& sum, int km, float time) {
+    void closesDay(int row, bool last) {
+        if (day_.km == 0 && day_.soste == 0)
+            return;
+        table_.notes_.push_back({row, day_, last});
+        if (day_.km != 0)
+            day_ = {};
+        day_.soste = 0;
+    }
+
+    void keepRows() {
+        table_.kept_.reserve(schedule_.righe.size());
+        auto note = table_.notes_.begin();
+        for (int i = 0; i < rows(); ++i) {
+            const bool closed = note != table_.notes_.end() && note->riga == i;
+            note += closed ? 1 : 0;
+            if (closed || says(i))
+                table_.kept_.push_back(i);
+        }
+    }
+
+    /// Whether anything stands in the row beyond its name, day and hour.
+    [[nodiscard]] bool says(int i) const {
+        const RigaViandoria& row = at(i);
+        using enum RigaViandoria::Tipo;
+        if (row.tipo == Tratto || row.tipo == NuovoGiorno)
+            return true;
+        return (row.tipo == Sosta && !senzaLunghezza(row, texts_.oreVisitaGiorno)) || !workOf(i).nota.isEmpty();
+    }
+
+    static void adds(SommaViandoria& sum, int km, float time) {
         sum.km += km;
         sum.guida += time;
     }
@@ -193,11 +259,11 @@ class Chiusura {
                u')';
     }
 
-    [[nodiscard]] std::array<QString, righeTotali> totals() const {
-        const auto line = [this](const Somma& sum) {
+    [[nodiscard]] std::array<QString, 7> totals() const {
+        const auto line = [this](const SommaViandoria& sum) {
             return u"\t\tKm. "_s + migliaiaZero(sum.km) + u"  \tGuida "_s + inBothDays(sum.guida);
         };
-        const Somma rest{trip_.km - stretch_.km, trip_.guida - stretch_.guida, trip_.soste - stretch_.soste};
+        const SommaViandoria rest{trip_.km - stretch_.km, trip_.guida - stretch_.guida, trip_.soste - stretch_.soste};
         return {titoloTotali.toString(),
                 QStringLiteral("Percorso specifico:\t"),
                 line(stretch_) + u"\t Sosta "_s + inBothDays(stretch_.soste),
@@ -207,18 +273,18 @@ class Chiusura {
                 line(trip_) + u"  \t Sosta "_s + inBothDays(trip_.soste)};
     }
 
-    TestiTabella& rows_;
+    TabellaViandoria& table_;
     const Viandoria& schedule_;
+    const std::vector<RigaDiLavoro>& work_;
     const TestiViandoria& texts_;
     int first_ = 0;
     int last_ = 0;
+    TestiGiorno date_;
     QString weekDay_;
-    Somma day_;
-    Somma stretch_;
-    Somma trip_;
+    SommaViandoria day_;
+    SommaViandoria stretch_;
+    SommaViandoria trip_;
 };
-
-} // namespace
 
 QString giornoEMese(float giuliano) {
     return Left(Data2Data(Giu2Datas(giuliano)), 5);
@@ -235,40 +301,32 @@ TestiTabella celleViandoria(const Viandoria& schedule, const std::vector<RigaDiL
     TestiGiorno day;
     for (int i = 0; i < rows.rows(); ++i) {
         const RigaViandoria& row = schedule.righe[static_cast<std::size_t>(i)];
-        const RigaDiLavoro& source = work[static_cast<std::size_t>(row.lavoro)];
-        RigaDiTesti cells(rows, i);
-        switch (row.tipo) {
-        case RigaViandoria::Tipo::Tratto: scriveTratto(cells, i + 1, row, source, texts); break;
-        case RigaViandoria::Tipo::Sosta: scriveSosta(cells, row, source, texts); break;
-        case RigaViandoria::Tipo::Menzione:
-            cells[colTappa] = senzaMarche(source.nome);
-            cells[colNote] = source.nota;
-            break;
-        case RigaViandoria::Tipo::NuovoGiorno:
-            cells[colTappa] = testoNuovoGiorno.toString();
-            cells[colNote] = QStringLiteral("Nuovo giorno");
-            break;
-        }
-        // A stop without any length has neither day nor hour.
-        if (row.tipo == RigaViandoria::Tipo::Sosta && cells.text(colSosta).isEmpty() &&
-            cells.text(colSostaGuida).isEmpty())
-            continue;
-        day.mostra(row.giuliano);
-        cells[colGiorno] = day.settimana;
-        cells[colData] = day.data;
-        cells[colOra] = (row.riposoDopo ? QStringLiteral("* ") : QString()) + oraMostrata(row.ora);
+        scriveRiga(RigaDiTesti(rows, i), i + 1, row, work[static_cast<std::size_t>(row.lavoro)], texts, day);
     }
     return rows;
 }
 
-std::array<QString, righeTotali> chiudeViandoria(TestiTabella& rows, const Viandoria& schedule,
-                                                 const TestiViandoria& texts) {
-    return Chiusura(rows, schedule, texts).chiude();
+TabellaViandoria::TabellaViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work,
+                                   TestiViandoria texts)
+    : schedule_(schedule), work_(work), texts_(std::move(texts)) {
+    Chiusura(*this).chiude();
 }
 
-bool rigaVuota(const TestiTabella& rows, int row) {
-    static constexpr std::array<int, 9> columns{0, 2, 3, 4, 5, 6, 7, 8, 12};
-    return std::all_of(columns.begin(), columns.end(), [&](int column) { return rows.text(row, column).isEmpty(); });
+void TabellaViandoria::scrive(int row, RigaDiTesti cells) {
+    const auto at = static_cast<std::size_t>(row);
+    if (at >= kept_.size()) {
+        cells[colTappa] = totals_[at - kept_.size()];
+        return;
+    }
+    const int i = kept_[at];
+    const RigaViandoria& shown = schedule_.righe[static_cast<std::size_t>(i)];
+    scriveRiga(cells, i + 1, shown, work_[static_cast<std::size_t>(shown.lavoro)], texts_, day_);
+    const auto note = std::ranges::lower_bound(notes_, i, {}, &NotaGiorno::riga);
+    if (note != notes_.end() && note->riga == i)
+        cells[colNote] =
+            conNotaDelGiorno(cells.text(colNote), note->giorno, note->ultimo ? u"; sosta ore " : u"; soste per ore ");
+    if (i == endRow_)
+        cells[colFine] = u'>' + giornoEMese(schedule_.giuliano) + u'-' + oraMostrata(schedule_.ora);
 }
 
 } // namespace vanzer

@@ -33,8 +33,11 @@ const LettoreGuida::Voci& LettoreGuida::leggeLuogo(const QString& place) {
     found->bindText(1, QStringView(place));
     Voci entries;
     while (found->step())
-        entries.push_back(
-            {found->integer(0), static_cast<int>(Val(found->text(1))), found->text(2), found->text(3), found->text(4)});
+        entries.push_back({.rowid = found->integer(0),
+                           .tempoSosta = texts_.comune(found->text(4)),
+                           .codice = static_cast<int>(Val(found->text(1))),
+                           .gruppo = texts_.comune(found->text(2)),
+                           .descrizione = found->text(3)});
     return keeps(places_, key, std::move(entries));
 }
 
@@ -45,8 +48,11 @@ const LettoreGuida::Voci& LettoreGuida::leggeModello(const QString& pattern) {
     Recordset found(*database_, {TabelleNomi(GuidaCitta), {{QStringLiteral("Localita"), Like, pattern}}, {}});
     Voci entries;
     for (; !found.EOF_(); found.MoveNext())
-        entries.push_back(
-            {found.rowid(), arrotonda(Val(found.testo(1))), found.testo(2), found.testo(3), found.testo(4)});
+        entries.push_back({.rowid = found.rowid(),
+                           .tempoSosta = texts_.comune(found.testo(4)),
+                           .codice = arrotonda(Val(found.testo(1))),
+                           .gruppo = texts_.comune(found.testo(2)),
+                           .descrizione = found.testo(3)});
     return keeps(patterns_, pattern, std::move(entries));
 }
 

@@ -9,6 +9,7 @@
 
 #include <QString>
 
+#include "core/shared_texts.h"
 #include "store/database.h"
 #include "store/row_set.h"
 
@@ -16,10 +17,10 @@ namespace vanzer::store {
 
 struct VoceGuida {
     qint64 rowid = 0;
+    QString tempoSosta;
     int codice = 0; ///< category
     QString gruppo;
     QString descrizione;
-    QString tempoSosta;
 };
 
 class LettoreGuida final : public LiveSet {
@@ -49,12 +50,17 @@ class LettoreGuida final : public LiveSet {
     void abbandona() noexcept override;
 
   private:
-    using Lette = std::unordered_map<QString, Voci>;
+    /// May throw as far as the library knows, so that it keeps each key's hash: no chain of keys is gone through.
+    struct Chiave {
+        std::size_t operator()(const QString& key) const { return qHash(key); }
+    };
+    using Lette = std::unordered_map<QString, Voci, Chiave>;
 
     const Voci& keeps(Lette& known, const QString& key, Voci entries);
     void forget() noexcept;
 
     Database* database_;
+    TestiComuni texts_; ///< times and groups
     Lette places_;
     Lette patterns_;
     std::size_t kept_ = 0; ///< entries in all

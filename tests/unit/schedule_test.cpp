@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 using Tipo = RigaDiLavoro::Tipo;
 
 VoceGuida entry(const QString& description, const QString& time, const QString& group = u" "_s) {
-    return {.rowid = 0, .codice = 1, .gruppo = group, .descrizione = description, .tempoSosta = time};
+    return {.rowid = 0, .tempoSosta = time, .codice = 1, .gruppo = group, .descrizione = description};
 }
 
 /// The working rows told one by one: kind, name, stop, "*" for an end of the day.
@@ -247,8 +247,11 @@ TEST(RigheViandoria, TextsNotesAndTotals) {
         [&leg](int, int column) -> const QString& { return leg[static_cast<std::size_t>(column)]; }, u"15"_s, 925,
         1000};
 
-    TestiTabella rows = celleViandoria(v, work, texts);
-    const auto totals = chiudeViandoria(rows, v, texts);
+    TabellaViandoria table(v, work, texts);
+    TestiTabella rows;
+    rows.setRows(table.righe());
+    for (int row = 0; row < table.righe(); ++row)
+        table.scrive(row, RigaDiTesti(rows, row));
     const auto line = [&rows](int row) {
         QStringList cells;
         for (int column = 0; column < numeroColonneViandoria; ++column)
@@ -261,8 +264,8 @@ TEST(RigheViandoria, TextsNotesAndTotals) {
     EXPECT_EQ(line(2), u"| > Partenza mattino successivo||||||||Dom|06/07|09:00|Nuovo giorno|>07/07-10:00")
         << "a day with nothing in it has no note";
     EXPECT_EQ(line(3), u"4|OSTIA (mare)|A1|20|A|1.320|01:00|||Lun|07/07|10:00|[Km 20 in ore 01:00]|");
-    EXPECT_EQ(totals[6], u"\t\tKm. 1.320  \tGuida 00:04:30 (00:04:30)  \t Sosta 00:01:30 (00:01:30)");
-    EXPECT_EQ(totals[4], u"\t\tKm. 0  \tGuida  ()\t");
+    EXPECT_EQ(rows.text(10, colTappa), u"\t\tKm. 1.320  \tGuida 00:04:30 (00:04:30)  \t Sosta 00:01:30 (00:01:30)");
+    EXPECT_EQ(rows.text(8, colTappa), u"\t\tKm. 0  \tGuida  ()\t");
 }
 
 } // namespace vanzer
