@@ -251,8 +251,12 @@ QString minuscolo(const QString& s) {
 QString senzaMaiuscole(const QString& s) {
     if (std::ranges::none_of(s, [](QChar c) { return c.isSurrogate(); })) {
         QString folded = s;
-        for (QChar& c : folded)
-            c = c.toCaseFolded();
+        for (QChar& c : folded) {
+            if (c < QChar(0x80))
+                c = c >= u'A' && c <= u'Z' ? QChar(static_cast<char16_t>(c.unicode() + 32)) : c;
+            else
+                c = c.toCaseFolded();
+        }
         return folded;
     }
     QList<uint> characters = s.toUcs4();

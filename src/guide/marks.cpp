@@ -4,7 +4,7 @@
 
 namespace vanzer {
 
-SegniGuida::Voci SegniGuida::unused(const std::vector<VoceGuida>& entries) {
+SegniGuida::Voci SegniGuida::unused(store::VociGuida entries) {
     Voci fresh;
     for (const VoceGuida& entry : entries) {
         if (used_.insert(entry.rowid))

@@ -1,7 +1,5 @@
 #include "schedule/preparation.h"
 
-#include <QStringBuilder>
-
 #include "core/place_name.h"
 #include "core/text.h"
 #include "core/time_values.h"
@@ -38,15 +36,12 @@ void makeMarksConsistent(std::vector<TappaDaPreparare>& legs) {
     }
 }
 
-QString nameOfEntry(const VoceGuida& entry) {
-    const QString group = Trim(entry.gruppo);
-    const QString description = Trim(entry.descrizione);
-    return group.isEmpty() || group == u"0" ? u" > " % description : QString(u" > " % group % u" * " % description);
-}
-
 class Preparatore {
   public:
-    explicit Preparatore(const Preparazione& with) : with_(with) {}
+    Preparatore(const Preparazione& with, std::size_t legs) : with_(with) {
+        constexpr std::size_t rowsPerLeg = 8; // most trips have fewer; what is not written takes no memory
+        result_.righe.reserve(legs * rowsPerLeg);
+    }
 
     void tappa(const TappaDaPreparare& leg) {
         if (with_.avanza)
@@ -91,18 +86,18 @@ class Preparatore {
     }
 
     RigaDiLavoro& aggiunge(RigaDiLavoro::Tipo type, const TappaDaPreparare& leg, const QString& name) {
-        RigaDiLavoro row;
+        RigaDiLavoro& row = result_.righe.emplace_back();
         row.tipo = type;
         row.tappa = leg.riga;
         row.nome = name;
-        result_.righe.push_back(std::move(row));
-        return result_.righe.back();
+        row.quadra = name.contains(u'[');
+        return row;
     }
 
     float sostaItinerario(const TappaDaPreparare& leg) {
         if (leg.sosta.isEmpty() || !conItinerario())
             return 0;
-        RigaDiLavoro& row = aggiunge(RigaDiLavoro::Tipo::SostaItinerario, leg, u" > a " % leg.luogo);
+        RigaDiLavoro& row = aggiunge(RigaDiLavoro::Tipo::SostaItinerario, leg, leg.luogo);
         row.sostaFissa = ghmStringa2Centesimi(leg.sosta, with_.oreVisitaGiorno);
         return row.sostaFissa;
     }
@@ -111,9 +106,9 @@ class Preparatore {
         double sum = 0;
         for (const VoceGuida* const entry : with_.guida(PulisceNomeLocalita(leg.luogo))) {
             const float stop = sostaDellaVoce(entry->tempoSosta, with_.oreVisitaGiorno);
-            const bool mention = stop == 0;
-            RigaDiLavoro& row = mention ? aggiunge(RigaDiLavoro::Tipo::Menzione, leg, u" > " % Trim(entry->descrizione))
-                                        : aggiunge(RigaDiLavoro::Tipo::SostaGuida, leg, nameOfEntry(*entry));
+            const auto type = stop == 0 ? RigaDiLavoro::Tipo::Menzione : RigaDiLavoro::Tipo::SostaGuida;
+            RigaDiLavoro& row = aggiunge(type, leg, entry->descrizione);
+            row.gruppo = entry->gruppo;
             row.nota = with_.categoria(entry->codice);
             row.sostaGuida = stop;
             sum += static_cast<double>(stop);
@@ -150,7 +145,7 @@ FonteSoste fonteSoste(const QString& choice) {
 
 RigheDiLavoro preparaRighe(std::vector<TappaDaPreparare> legs, const Preparazione& with) {
     makeMarksConsistent(legs);
-    Preparatore maker(with);
+    Preparatore maker(with, legs.size());
     for (const TappaDaPreparare& leg : legs)
         maker.tappa(leg);
     return std::move(maker).risultato();

@@ -43,7 +43,7 @@ void writeWorkingRow(RigaDiTesti cells, const RigaDiLavoro& work, const TestiTab
         for (int column = 0; column < colonneTappa; ++column)
             cells[column] = legs.text(work.tappa - 1, column);
     }
-    cells[1] = work.nome;
+    cells[1] = nomeMostrato(work);
     if (!work.nota.isEmpty())
         cells[colCategoria] = work.nota;
     if (work.tipo == SostaItinerario)

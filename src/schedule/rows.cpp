@@ -62,7 +62,7 @@ void scriveTratto(RigaDiTesti cells, int number, const RigaViandoria& row, const
 }
 
 void scriveSosta(RigaDiTesti cells, const RigaViandoria& row, const RigaDiLavoro& work, const TestiViandoria& texts) {
-    cells[colTappa] = senzaMarche(RiPulisceNomeLocalita(work.nome));
+    cells[colTappa] = senzaMarche(RiPulisceNomeLocalita(nomeMostrato(work)));
     cells[colSostaGuida] = lunghezzaSosta(row.sostaGuida, texts.oreVisitaGiorno);
     cells[colSosta] = lunghezzaSosta(minutiInteri(row.sosta, texts.oreVisitaGiorno), texts.oreVisitaGiorno);
     cells[colNote] = work.nota;
@@ -89,7 +89,7 @@ void scriveRiga(RigaDiTesti cells, int number, const RigaViandoria& row, const R
     case RigaViandoria::Tipo::Tratto: scriveTratto(cells, number, row, work, texts); break;
     case RigaViandoria::Tipo::Sosta: scriveSosta(cells, row, work, texts); break;
     case RigaViandoria::Tipo::Menzione:
-        cells[colTappa] = senzaMarche(work.nome);
+        cells[colTappa] = senzaMarche(nomeMostrato(work));
         cells[colNote] = work.nota;
         break;
     case RigaViandoria::Tipo::NuovoGiorno:
@@ -136,11 +136,14 @@ class TabellaViandoria::Chiusura {
         if (rows >= 2)
             table_.endRow_ = rows - 2;
         findStretch();
-        for (int i = 0; i < rows; ++i)
+        table_.kept_.reserve(schedule_.righe.size());
+        for (int i = 0; i < rows; ++i) {
             riga(i);
+            if (says(i))
+                table_.kept_.push_back(i);
+        }
         if (day_.km != 0)
             closesDay(rows - 1, true);
-        keepRows();
         table_.totals_ = totals();
     }
 
@@ -155,8 +158,8 @@ class TabellaViandoria::Chiusura {
         const bool leg = row.tipo == RigaViandoria::Tipo::Tratto;
         if (leg ? row.verso : row.tipo != RigaViandoria::Tipo::Menzione)
             return {};
-        const QString& name = workOf(i).nome;
-        return !name.contains(u'[') ? QString() : leg ? name : senzaMarche(name);
+        const RigaDiLavoro& work = workOf(i);
+        return !work.quadra ? QString() : leg ? work.nome : senzaMarche(nomeMostrato(work));
     }
 
     /// From the last "[Start]" to the row before the next numbered one behind the last "[End]".
@@ -209,24 +212,16 @@ class TabellaViandoria::Chiusura {
         trip_.soste += stop;
     }
 
+    /// The note stands on the row that was walked last: the row stays then.
     void closesDay(int row, bool last) {
         if (day_.km == 0 && day_.soste == 0)
             return;
         table_.notes_.push_back({row, day_, last});
+        if (table_.kept_.empty() || table_.kept_.back() != row)
+            table_.kept_.push_back(row);
         if (day_.km != 0)
             day_ = {};
         day_.soste = 0;
-    }
-
-    void keepRows() {
-        table_.kept_.reserve(schedule_.righe.size());
-        auto note = table_.notes_.begin();
-        for (int i = 0; i < rows(); ++i) {
-            const bool closed = note != table_.notes_.end() && note->riga == i;
-            note += closed ? 1 : 0;
-            if (closed || says(i))
-                table_.kept_.push_back(i);
-        }
     }
 
     /// Whether anything stands in the row beyond its name, day and hour.

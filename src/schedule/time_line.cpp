@@ -76,7 +76,7 @@ class Tracciatore {
     }
 
     void stop(const RigaDiLavoro& source, double begin, double end) {
-        QString name = Trim(RiPulisceNomeLocalita(source.nome));
+        QString name = Trim(RiPulisceNomeLocalita(nomeMostrato(source)));
         if (name.startsWith(u'>'))
             name = Trim(name.mid(1));
         const double firstDay = inizioDelGiorno(begin);

@@ -16,11 +16,16 @@ struct RigaDiLavoro {
     int strada = 0; ///< index of the road type
     bool traghetto = false;
     bool fineGiorno = false; ///< the day ends behind this row
+    bool quadra = false;     ///< `nome` holds a "[": it may bear a mark of the stretch
     float sostaFissa = 0;    ///< itinerary stop, hundredths
     float sostaGuida = 0;    ///< guide stop, hundredths: the one that the multiplier stretches
-    QString nome;            ///< place, or text of the stop
+    QString nome;            ///< place, or description of a guide entry
+    QString gruppo;          ///< of a guide entry
     QString nota;            ///< category of a guide entry
 };
+
+/// The name as the schedule and its picture take it: " > a ROMA" for a stop there, " > 2 * Foro" for a guide entry.
+[[nodiscard]] QString nomeMostrato(const RigaDiLavoro& row);
 
 struct RigheDiLavoro {
     std::vector<RigaDiLavoro> righe;

@@ -23,15 +23,15 @@ LettoreGuida::~LettoreGuida() {
         database_->toglie(*this);
 }
 
-const LettoreGuida::Voci& LettoreGuida::leggeLuogo(const QString& place) {
+VociGuida LettoreGuida::leggeLuogo(const QString& place) {
     const QString key = senzaMaiuscole(place);
-    if (const auto known = places_.find(key); known != places_.end())
-        return known->second;
+    if (const VociGuida* const known = places_.trova(key))
+        return *known;
     const StatementLease found =
         database_->prepara("SELECT rowid, CodiceGuida, Gruppo, Descrizione, TempoSosta FROM GuidaCitta "
                            "WHERE Localita = ?1 ORDER BY CodiceGuida, TempoSosta DESC, Gruppo, rowid");
     found->bindText(1, QStringView(place));
-    Voci entries;
+    std::vector<VoceGuida> entries;
     while (found->step())
         entries.push_back({.rowid = found->integer(0),
                            .tempoSosta = texts_.comune(found->text(4)),
@@ -41,12 +41,12 @@ const LettoreGuida::Voci& LettoreGuida::leggeLuogo(const QString& place) {
     return keeps(places_, key, std::move(entries));
 }
 
-const LettoreGuida::Voci& LettoreGuida::leggeModello(const QString& pattern) {
-    if (const auto known = patterns_.find(pattern); known != patterns_.end())
-        return known->second;
+VociGuida LettoreGuida::leggeModello(const QString& pattern) {
+    if (const VociGuida* const known = patterns_.trova(pattern))
+        return *known;
     using enum Condition::Test;
     Recordset found(*database_, {TabelleNomi(GuidaCitta), {{QStringLiteral("Localita"), Like, pattern}}, {}});
-    Voci entries;
+    std::vector<VoceGuida> entries;
     for (; !found.EOF_(); found.MoveNext())
         entries.push_back({.rowid = found.rowid(),
                            .tempoSosta = texts_.comune(found.testo(4)),
@@ -56,16 +56,16 @@ const LettoreGuida::Voci& LettoreGuida::leggeModello(const QString& pattern) {
     return keeps(patterns_, pattern, std::move(entries));
 }
 
-const LettoreGuida::Voci& LettoreGuida::keeps(Lette& known, const QString& key, Voci entries) {
+VociGuida LettoreGuida::keeps(MemoriaGuida& known, const QString& key, std::vector<VoceGuida> entries) {
     if (kept_ + entries.size() > mostKept)
         forget();
     kept_ += entries.size() + 1; // a place without any is kept too
-    return known.insert_or_assign(key, std::move(entries)).first->second;
+    return known.tiene(key, std::move(entries));
 }
 
 void LettoreGuida::forget() noexcept {
-    places_.clear();
-    patterns_.clear();
+    places_.dimentica();
+    patterns_.dimentica();
     kept_ = 0;
     marked_.reset();
 }

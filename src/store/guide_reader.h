@@ -4,40 +4,29 @@
 
 #include <functional>
 #include <optional>
-#include <unordered_map>
-#include <vector>
 
 #include <QString>
 
 #include "core/shared_texts.h"
 #include "store/database.h"
+#include "store/guide_memory.h"
 #include "store/row_set.h"
 
 namespace vanzer::store {
 
-struct VoceGuida {
-    qint64 rowid = 0;
-    QString tempoSosta;
-    int codice = 0; ///< category
-    QString gruppo;
-    QString descrizione;
-};
-
 class LettoreGuida final : public LiveSet {
   public:
-    using Voci = std::vector<VoceGuida>;
-
     explicit LettoreGuida(Database& archive);
     ~LettoreGuida() override;
 
     /// False once its archive was closed: nothing may be read any more.
     [[nodiscard]] bool aperto() const { return database_ != nullptr; }
 
-    /// The entries of exactly this place, case ignored: by category, the longest first, then by group. What is returned
-    /// holds until the next reading or writing.
-    [[nodiscard]] const Voci& leggeLuogo(const QString& place);
+    /// The entries of exactly this place, case ignored: by category, the longest first, then by group. They hold until
+    /// the guide is written, or so much was read that what is kept is forgotten.
+    [[nodiscard]] VociGuida leggeLuogo(const QString& place);
     /// The entries whose place matches the pattern, in the order in which they were added.
-    [[nodiscard]] const Voci& leggeModello(const QString& pattern);
+    [[nodiscard]] VociGuida leggeModello(const QString& pattern);
 
     /// Whether exactly these entries are known to carry the mark of use.
     [[nodiscard]] bool segnate(const InsiemeDiRighe& entries) const { return marked_ == entries; }
@@ -50,19 +39,13 @@ class LettoreGuida final : public LiveSet {
     void abbandona() noexcept override;
 
   private:
-    /// May throw as far as the library knows, so that it keeps each key's hash: no chain of keys is gone through.
-    struct Chiave {
-        std::size_t operator()(const QString& key) const { return qHash(key); }
-    };
-    using Lette = std::unordered_map<QString, Voci, Chiave>;
-
-    const Voci& keeps(Lette& known, const QString& key, Voci entries);
+    VociGuida keeps(MemoriaGuida& known, const QString& key, std::vector<VoceGuida> entries);
     void forget() noexcept;
 
     Database* database_;
     TestiComuni texts_; ///< times and groups
-    Lette places_;
-    Lette patterns_;
+    MemoriaGuida places_;
+    MemoriaGuida patterns_;
     std::size_t kept_ = 0; ///< entries in all
     std::optional<InsiemeDiRighe> marked_;
     bool onlyMarks_ = false;

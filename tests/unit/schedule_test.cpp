@@ -36,7 +36,7 @@ std::vector<std::string> prepared(const std::vector<TappaDaPreparare>& legs, Fon
     with.categoria = [](int) { return u"Ottimo"_s; };
     std::vector<std::string> rows;
     for (const RigaDiLavoro& row : preparaRighe(legs, with).righe) {
-        std::string& text = rows.emplace_back(row.nome.toStdString());
+        std::string& text = rows.emplace_back(nomeMostrato(row).toStdString());
         if (row.tipo == Tipo::SostaGuida || row.tipo == Tipo::SostaItinerario)
             (text += '=') += testoNumero(row.tipo == Tipo::SostaGuida ? row.sostaGuida : row.sostaFissa).toStdString();
         if (row.fineGiorno)
@@ -213,8 +213,10 @@ TEST(Adeguamento, StartOfAFreshSearch) {
 TEST(RigheViandoria, TextsNotesAndTotals) {
     std::vector<RigaDiLavoro> work(3);
     work[0].nome = u"ROMA [Start]"_s;
+    work[0].quadra = true;
     work[1].tipo = Tipo::SostaGuida;
-    work[1].nome = u" > A * Foro"_s;
+    work[1].nome = u"Foro"_s;
+    work[1].gruppo = u" A "_s;
     work[1].nota = u"Ottimo"_s;
     work[2].nome = u"OSTIA (mare)"_s;
     Viandoria v;

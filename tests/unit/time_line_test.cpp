@@ -89,12 +89,12 @@ TEST(TimeLine, FillsWhatLiesBetweenTheRows) {
          asIs,
          "Guida 8-9 Terni | Tempo libero 9-22 | Notte 22-32 Terni | Guida 32-33 Perugia"},
         {"a stop that is too late waits for the visits of the next day",
-         {drive(u"ROMA", 0), drive(u"BARI", 400), drive(u"LECCE", 550), visit(u" > Duomo", 200)},
+         {drive(u"ROMA", 0), drive(u"BARI", 400), drive(u"LECCE", 550), visit(u"Duomo", 200)},
          asIs,
          "Guida 8-12 Bari | Pasto 12-13 | Guida 13-18.5 Lecce | Tempo libero 18.5-22 | Notte 22-32 Lecce | Tempo "
          "libero 32-33 | Sosta 33-35 Duomo"},
         {"a stop of more than a day has a piece for each",
-         {drive(u"ROMA", 0), drive(u"TERNI", 100), visit(u" > 01 * Cascate", 1200)},
+         {drive(u"ROMA", 0), drive(u"TERNI", 100), visit(u"01 * Cascate", 1200)},
          asIs,
          "Guida 8-9 Terni | Sosta 9-18 01 * Cascate | Tempo libero 18-22 | Notte 22-32 Terni | Tempo libero 32-33 | "
          "Sosta 33-36 01 * Cascate"},
@@ -190,10 +190,9 @@ QStringList linesOf(const QByteArray& file, QStringView name) {
 
 TEST(Calendar, HasOneEventForEachDriveStopAndNight) {
     const ParametriSimulazione p = ordinaryDay();
-    const LineaDelTempo line =
-        lineOf({drive(u"ROMA", 0), drive(u"TERNI", 100), visit(u" > Cascate, belle; \"!\"", 1200), drive(u"RIETI", 20),
-                visit(u"Duomo", 50)},
-               p);
+    const LineaDelTempo line = lineOf({drive(u"ROMA", 0), drive(u"TERNI", 100), visit(u"Cascate, belle; \"!\"", 1200),
+                                       drive(u"RIETI", 20), visit(u"Duomo", 50)},
+                                      p);
     const QByteArray file = calendario(u"UMBRIA"_s, line, {QDate(2026, 1, 2), QTime(3, 4), Qt::UTC});
     EXPECT_EQ(linesOf(file, u"SUMMARY").join(u'|').toStdString(),
               "Guida: Terni|Cascate\\, belle\\; \"!\"|Notte: Terni|Guida: Rieti|Duomo");
