@@ -50,7 +50,7 @@ class Preparatore {
             return;
         inside_ = inside_ || holdsMark(leg.luogo, marcaStart);
         const std::size_t first = result_.righe.size();
-        RigaDiLavoro& row = aggiunge(RigaDiLavoro::Tipo::Tappa, leg, leg.luogo);
+        RigaDiLavoro& row = conLuogo(RigaDiLavoro::Tipo::Tappa, leg);
         row.km = leg.km;
         row.strada = indiceStrada(leg.tipoStrada);
         row.traghetto = contiene(leg.strada, u"TRAGH");
@@ -85,19 +85,23 @@ class Preparatore {
         return with_.fonte == Guida || with_.fonte == Entrambe || with_.fonte == Maggiore || with_.fonte == Minore;
     }
 
-    RigaDiLavoro& aggiunge(RigaDiLavoro::Tipo type, const TappaDaPreparare& leg, const QString& name) {
+    RigaDiLavoro& aggiunge(RigaDiLavoro::Tipo type, const TappaDaPreparare& leg) {
         RigaDiLavoro& row = result_.righe.emplace_back();
         row.tipo = type;
         row.tappa = leg.riga;
-        row.nome = name;
-        row.quadra = name.contains(u'[');
+        return row;
+    }
+    RigaDiLavoro& conLuogo(RigaDiLavoro::Tipo type, const TappaDaPreparare& leg) {
+        RigaDiLavoro& row = aggiunge(type, leg);
+        row.nome = leg.luogo;
+        row.quadra = leg.luogo.contains(u'[');
         return row;
     }
 
     float sostaItinerario(const TappaDaPreparare& leg) {
         if (leg.sosta.isEmpty() || !conItinerario())
             return 0;
-        RigaDiLavoro& row = aggiunge(RigaDiLavoro::Tipo::SostaItinerario, leg, leg.luogo);
+        RigaDiLavoro& row = conLuogo(RigaDiLavoro::Tipo::SostaItinerario, leg);
         row.sostaFissa = ghmStringa2Centesimi(leg.sosta, with_.oreVisitaGiorno);
         return row.sostaFissa;
     }
@@ -107,8 +111,9 @@ class Preparatore {
         for (const VoceGuida* const entry : with_.guida(PulisceNomeLocalita(leg.luogo))) {
             const float stop = sostaDellaVoce(entry->tempoSosta, with_.oreVisitaGiorno);
             const auto type = stop == 0 ? RigaDiLavoro::Tipo::Menzione : RigaDiLavoro::Tipo::SostaGuida;
-            RigaDiLavoro& row = aggiunge(type, leg, entry->descrizione);
-            row.gruppo = entry->gruppo;
+            RigaDiLavoro& row = aggiunge(type, leg);
+            row.voce = entry;
+            row.quadra = type == RigaDiLavoro::Tipo::Menzione && entry->descrizione.contains(u'[');
             row.nota = with_.categoria(entry->codice);
             row.sostaGuida = stop;
             sum += static_cast<double>(stop);

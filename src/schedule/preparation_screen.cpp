@@ -37,11 +37,24 @@ QString stopText(float stop, QChar decimalMark) {
     return stop == 1 ? QStringLiteral("01") : testoNumero(stop, decimalMark);
 }
 
-void writeWorkingRow(RigaDiTesti cells, const RigaDiLavoro& work, const TestiTabella& legs, QChar decimalMark) {
+/// The legs of a calculation as they stood, with what nobody had looked at of their texts.
+struct TappeMostrate {
+    TestiTabella testi;
+    Grid::Sospesi sospesi;
+
+    /// All texts of a leg, by its row in the table, are there from here on.
+    void finisce(int leg) {
+        if (leg >= sospesi.da && leg < sospesi.fino)
+            sospesi.fa(leg, RigaDiTesti(testi, leg - 1));
+    }
+};
+
+void writeWorkingRow(RigaDiTesti cells, const RigaDiLavoro& work, TappeMostrate& legs, QChar decimalMark) {
     using enum RigaDiLavoro::Tipo;
     if (work.tipo == Tappa) {
+        legs.finisce(work.tappa);
         for (int column = 0; column < colonneTappa; ++column)
-            cells[column] = legs.text(work.tappa - 1, column);
+            cells[column] = legs.testi.text(work.tappa - 1, column);
     }
     cells[1] = nomeMostrato(work);
     if (!work.nota.isEmpty())
@@ -57,7 +70,7 @@ void writeWorkingRow(RigaDiTesti cells, const RigaDiLavoro& work, const TestiTab
 }
 
 /// Nobody sees this table but who asks for it: its rows are made then.
-void showWorkingRows(Form& form, const std::shared_ptr<const RigheDiLavoro>& work, const TestiTabella& legs) {
+void showWorkingRows(Form& form, const std::shared_ptr<const RigheDiLavoro>& work, TappeMostrate legs) {
     Grid& grid = form.mfgCopia;
     const std::vector<RigaDiLavoro>& rows = work->righe;
     const SenzaRidisegno quiet(grid);
@@ -68,10 +81,12 @@ void showWorkingRows(Form& form, const std::shared_ptr<const RigheDiLavoro>& wor
     grid.setRows(static_cast<int>(rows.size()) + 1);
     std::vector<int> columns(static_cast<std::size_t>(grid.columns()));
     std::iota(columns.begin(), columns.end(), 0);
-    grid.setColumnsLater(1, columns, [work, legs, mark = form.ambiente.decimalMark](int row, RigaDiTesti cells) {
-        if (const auto at = static_cast<std::size_t>(row - 1); at < work->righe.size())
-            writeWorkingRow(cells, work->righe[at], legs, mark);
-    });
+    grid.setColumnsLater(
+        1, columns,
+        [work, legs = std::move(legs), mark = form.ambiente.decimalMark](int row, RigaDiTesti cells) mutable {
+            if (const auto at = static_cast<std::size_t>(row - 1); at < work->righe.size())
+                writeWorkingRow(cells, work->righe[at], legs, mark);
+        });
     form.stato.RigaCaricata = static_cast<int>(rows.size());
 }
 
@@ -84,7 +99,9 @@ std::shared_ptr<const RigheDiLavoro> PreparaTabellaPerCalcoloViandoria(Form& for
     SettaAZeroFlaGVisto(form);
     form.lblElaborazione.setCaption(QStringLiteral("Elaborazione delle soste e guida città"));
     s.PercentualeTotale = form.mfgTab.rows() - 1;
-    form.tappeConservate = form.mfgTab.takeContents();
+    auto [legs, unfinished] = form.mfgTab.takeUnfinished();
+    form.totali = std::make_shared<TotaliTabella>(); // the old ones stay with what is unfinished
+    form.tappeConservate = legs;
 
     SegniGuida guide(form.archivio);
     const Preparazione with{
@@ -102,9 +119,10 @@ std::shared_ptr<const RigheDiLavoro> PreparaTabellaPerCalcoloViandoria(Form& for
                 AggiornaPercentuale(form);
             },
     };
-    auto prepared = std::make_shared<const RigheDiLavoro>(preparaRighe(legsToPrepare(*form.tappeConservate), with));
+    const auto prepared = std::make_shared<RigheDiLavoro>(preparaRighe(legsToPrepare(*form.tappeConservate), with));
+    prepared->tenute = guide.tenute();
     guide.scrive();
-    showWorkingRows(form, prepared, *form.tappeConservate);
+    showWorkingRows(form, prepared, {std::move(legs), std::move(unfinished)});
     return prepared;
 }
 

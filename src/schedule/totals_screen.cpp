@@ -43,14 +43,13 @@ void workOutAll(Form& form, const Medie& speeds) {
         if (leg && leg->km == 0)
             keepsTexts(grid, r);
     }
-    TotaliTabella& totals = form.totali;
-    totals.ricalcola(std::move(legs), speeds);
-    grid.setColumnsLater(1, {colonnaProgressivi, colonnaOre}, [&totals](int row, RigaDiTesti cells) {
-        const auto& leg = totals.tratto(row);
+    form.totali->ricalcola(std::move(legs), speeds);
+    grid.setColumnsLater(1, {colonnaProgressivi, colonnaOre}, [totals = form.totali](int row, RigaDiTesti cells) {
+        const auto& leg = totals->tratto(row);
         if (!leg || leg->km == 0 || cells.text(1).isEmpty())
             return;
-        cells[colonnaOre] = ghmSenzaGiorni(totals.tempo(row), unGiornoDi99Ore);
-        cells[colonnaProgressivi] = migliaiaZero(static_cast<double>(totals.kmProgressivi(row)));
+        cells[colonnaOre] = ghmSenzaGiorni(totals->tempo(row), unGiornoDi99Ore);
+        cells[colonnaProgressivi] = migliaiaZero(static_cast<double>(totals->kmProgressivi(row)));
     });
 }
 
@@ -58,14 +57,14 @@ void workOutAll(Form& form, const Medie& speeds) {
 bool workOutChanges(Form& form, const Medie& speeds) {
     Grid& grid = form.mfgTab;
     const std::optional<std::vector<int>> rows = grid.takeChangedRows();
-    if (!rows || form.totali.medie() != speeds)
+    if (!rows || form.totali->medie() != speeds)
         return false;
     if (rows->empty())
         return true;
     for (const int row : *rows)
         keepsTexts(grid, row);
     for (const int row : *rows) {
-        if (!form.totali.cambia(row, readLeg(grid, row)))
+        if (!form.totali->cambia(row, readLeg(grid, row)))
             return false;
     }
     grid.makeAgainFrom(rows->front());
@@ -111,7 +110,7 @@ void SpostaRighe(Form& form, int first, int last, int by) {
     Grid& grid = form.mfgTab;
     if (!grid.canShift(first, last, by))
         return;
-    TotaliTabella& totals = form.totali;
+    TotaliTabella& totals = *form.totali;
     const int covered = by > 0 ? last + 1 : first + by;
     bool follow = true;
     for (int row = covered; row < covered + std::abs(by); ++row)
@@ -131,7 +130,7 @@ void CalcolaKmTempiItinerario(Form& form) {
     if (!workOutChanges(form, speeds))
         workOutAll(form, speeds);
     (void)form.mfgTab.takeChangedRows(); // what was blanked on the way
-    const TotaliItinerario& totals = form.totali.totali();
+    const TotaliItinerario& totals = form.totali->totali();
     form.stato.NumeroTraghetti = totals.traghetti;
     showPanel(form, totals);
     offerDays(form, totals.km[4] != 0);

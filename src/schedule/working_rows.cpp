@@ -8,8 +8,8 @@ namespace vanzer {
 
 QString nomeMostrato(const RigaDiLavoro& row) {
     using enum RigaDiLavoro::Tipo;
-    const QStringView name = Trim(QStringView(row.nome));
-    const QStringView group = Trim(QStringView(row.gruppo));
+    const QStringView name = Trim(QStringView(row.voce == nullptr ? row.nome : row.voce->descrizione));
+    const QStringView group = row.voce == nullptr ? QStringView() : Trim(QStringView(row.voce->gruppo));
     switch (row.tipo) {
     case Tappa: return row.nome;
     case SostaItinerario: return u" > a " % row.nome;

@@ -1,9 +1,12 @@
 // The one flat list that a simulation walks: each leg, then its itinerary stop, then what the guide knows of the place.
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include <QString>
+
+#include "store/guide_memory.h"
 
 namespace vanzer {
 
@@ -15,13 +18,13 @@ struct RigaDiLavoro {
     int km = 0;     ///< of the leg; 0 on all other rows
     int strada = 0; ///< index of the road type
     bool traghetto = false;
-    bool fineGiorno = false; ///< the day ends behind this row
-    bool quadra = false;     ///< `nome` holds a "[": it may bear a mark of the stretch
-    float sostaFissa = 0;    ///< itinerary stop, hundredths
-    float sostaGuida = 0;    ///< guide stop, hundredths: the one that the multiplier stretches
-    QString nome;            ///< place, or description of a guide entry
-    QString gruppo;          ///< of a guide entry
-    QString nota;            ///< category of a guide entry
+    bool fineGiorno = false;                ///< the day ends behind this row
+    bool quadra = false;                    ///< the name holds a "[": it may bear a mark of the stretch
+    float sostaFissa = 0;                   ///< itinerary stop, hundredths
+    float sostaGuida = 0;                   ///< guide stop, hundredths: the one that the multiplier stretches
+    QString nome;                           ///< place
+    const store::VoceGuida* voce = nullptr; ///< the guide entry of a stop or a mention
+    QString nota;                           ///< its category
 };
 
 /// The name as the schedule and its picture take it: " > a ROMA" for a stop there, " > 2 * Foro" for a guide entry.
@@ -29,7 +32,8 @@ struct RigaDiLavoro {
 
 struct RigheDiLavoro {
     std::vector<RigaDiLavoro> righe;
-    float sosteItinerario = 0; ///< sums over all rows, hundredths
+    std::vector<std::shared_ptr<const void>> tenute; ///< what holds the guide's entries
+    float sosteItinerario = 0;                       ///< sums over all rows, hundredths
     float sosteGuida = 0;
 };
 

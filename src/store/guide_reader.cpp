@@ -25,7 +25,7 @@ LettoreGuida::~LettoreGuida() {
 
 VociGuida LettoreGuida::leggeLuogo(const QString& place) {
     const QString key = senzaMaiuscole(place);
-    if (const VociGuida* const known = places_.trova(key))
+    if (const VociGuida* const known = places_ == nullptr ? nullptr : places_->trova(key))
         return *known;
     const StatementLease found =
         database_->prepara("SELECT rowid, CodiceGuida, Gruppo, Descrizione, TempoSosta FROM GuidaCitta "
@@ -38,7 +38,10 @@ VociGuida LettoreGuida::leggeLuogo(const QString& place) {
                            .codice = static_cast<int>(Val(found->text(1))),
                            .gruppo = texts_.comune(found->text(2)),
                            .descrizione = found->text(3)});
-    return keeps(places_, key, std::move(entries));
+    makeRoom(entries.size());
+    if (places_ == nullptr)
+        places_ = std::make_shared<MemoriaGuida>();
+    return places_->tiene(key, std::move(entries));
 }
 
 VociGuida LettoreGuida::leggeModello(const QString& pattern) {
@@ -53,18 +56,18 @@ VociGuida LettoreGuida::leggeModello(const QString& pattern) {
                            .codice = arrotonda(Val(found.testo(1))),
                            .gruppo = texts_.comune(found.testo(2)),
                            .descrizione = found.testo(3)});
-    return keeps(patterns_, pattern, std::move(entries));
+    makeRoom(entries.size());
+    return patterns_.tiene(pattern, std::move(entries));
 }
 
-VociGuida LettoreGuida::keeps(MemoriaGuida& known, const QString& key, std::vector<VoceGuida> entries) {
-    if (kept_ + entries.size() > mostKept)
+void LettoreGuida::makeRoom(std::size_t entries) {
+    if (kept_ + entries > mostKept)
         forget();
-    kept_ += entries.size() + 1; // a place without any is kept too
-    return known.tiene(key, std::move(entries));
+    kept_ += entries + 1; // a place without any is kept too
 }
 
 void LettoreGuida::forget() noexcept {
-    places_.dimentica();
+    places_.reset();
     patterns_.dimentica();
     kept_ = 0;
     marked_.reset();

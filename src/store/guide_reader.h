@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include <QString>
@@ -25,6 +26,8 @@ class LettoreGuida final : public LiveSet {
     /// The entries of exactly this place, case ignored: by category, the longest first, then by group. They hold until
     /// the guide is written, or so much was read that what is kept is forgotten.
     [[nodiscard]] VociGuida leggeLuogo(const QString& place);
+    /// What holds the entries of places that were read last: they stay as they were as long as somebody has it.
+    [[nodiscard]] const std::shared_ptr<MemoriaGuida>& memoria() const { return places_; }
     /// The entries whose place matches the pattern, in the order in which they were added.
     [[nodiscard]] VociGuida leggeModello(const QString& pattern);
 
@@ -39,12 +42,12 @@ class LettoreGuida final : public LiveSet {
     void abbandona() noexcept override;
 
   private:
-    VociGuida keeps(MemoriaGuida& known, const QString& key, std::vector<VoceGuida> entries);
+    void makeRoom(std::size_t entries);
     void forget() noexcept;
 
     Database* database_;
-    TestiComuni texts_; ///< times and groups
-    MemoriaGuida places_;
+    TestiComuni texts_;                                                       ///< times and groups
+    std::shared_ptr<MemoriaGuida> places_ = std::make_shared<MemoriaGuida>(); ///< null: forgotten
     MemoriaGuida patterns_;
     std::size_t kept_ = 0; ///< entries in all
     std::optional<InsiemeDiRighe> marked_;

@@ -241,13 +241,19 @@ void Grid::clearCells() {
 
 TestiTabella Grid::takeContents() {
     makeUpTo(rows());
+    return takeUnfinished().first;
+}
+
+std::pair<TestiTabella, Grid::Sospesi> Grid::takeUnfinished() {
+    Sospesi unfinished{later_, laterEnd_, make_};
+    forgetLater();
     forgetChangedRows();
     setRedraw(false);
     TestiTabella rows = std::exchange(cells_, TestiTabella());
     marked_.clear();
     keepInside();
     setRedraw(true);
-    return rows;
+    return {std::move(rows), std::move(unfinished)};
 }
 
 void Grid::setContents(TestiTabella&& rows) {

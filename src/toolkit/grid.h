@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include <QAbstractTableModel>
@@ -63,6 +64,13 @@ class Grid : public Control {
 
     /// All rows from 1 on: taken out, so that the head row is left, and put in.
     [[nodiscard]] TestiTabella takeContents();
+    /// The same, with texts that nobody has looked at yet left blank. `make` may write them in any order then.
+    struct Sospesi {
+        int da = 0; ///< rows of the grid, up to but without `fino`
+        int fino = 0;
+        FaRiga fa;
+    };
+    [[nodiscard]] std::pair<TestiTabella, Sospesi> takeUnfinished();
     void setContents(TestiTabella&& rows);
 
     [[nodiscard]] int row() const { return row_; }

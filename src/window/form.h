@@ -83,7 +83,7 @@ class Form {
     /// The legs as they stood before a calculation touched them.
     std::optional<TestiTabella> tappeConservate;
     /// Of the legs in the table, as they were last worked out.
-    TotaliTabella totali;
+    std::shared_ptr<TotaliTabella> totali = std::make_shared<TotaliTabella>();
     /// The schedule in the table, as numbers; null while it shows legs.
     std::shared_ptr<const ViandoriaMostrata> viandoria;
     /// What the picture of the schedule shows; null before it was asked for.

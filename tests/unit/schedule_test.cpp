@@ -215,8 +215,8 @@ TEST(RigheViandoria, TextsNotesAndTotals) {
     work[0].nome = u"ROMA [Start]"_s;
     work[0].quadra = true;
     work[1].tipo = Tipo::SostaGuida;
-    work[1].nome = u"Foro"_s;
-    work[1].gruppo = u" A "_s;
+    const VoceGuida forum = entry(u"Foro"_s, {}, u" A "_s);
+    work[1].voce = &forum;
     work[1].nota = u"Ottimo"_s;
     work[2].nome = u"OSTIA (mare)"_s;
     Viandoria v;
