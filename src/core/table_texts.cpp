@@ -10,7 +10,7 @@ const QString TestiTabella::none;
 void TestiTabella::setRows(int rows) {
     rows_ = rows;
     for (auto& column : columns_) {
-        if (!column.isEmpty())
+        if (column.size() > rows)
             column.resize(rows);
     }
 }
@@ -23,21 +23,22 @@ int TestiTabella::addRow() {
 void TestiTabella::removeRow(int row) {
     --rows_;
     for (auto& column : columns_) {
-        if (!column.isEmpty())
+        if (row < column.size())
             column.removeAt(row);
     }
 }
 
 void TestiTabella::keepRows(const std::vector<int>& rows) {
     for (auto& column : columns_) {
-        if (column.isEmpty())
-            continue;
-        auto to = column.begin();
+        qsizetype to = 0;
         for (const int row : rows) {
-            if (const auto from = column.begin() + row; from != to)
-                *to = std::move(*from);
+            if (row >= column.size())
+                break;
+            if (row != to)
+                column[to] = std::move(column[row]);
             ++to;
         }
+        column.resize(to);
     }
     setRows(static_cast<int>(rows.size()));
 }
@@ -53,37 +54,46 @@ bool TestiTabella::operator==(const TestiTabella& other) const {
     return rows_ == other.rows_;
 }
 
-void TestiTabella::makeColumn(std::size_t column) {
+/// Room for the whole table is taken at once, its memory as far as rows are written.
+void TestiTabella::lengthen(std::size_t column, int row) {
+    constexpr int spare = 8; // for the few rows that come behind a table that is made whole
+    constexpr int step = 64;
     if (column >= columns_.size())
         columns_.resize(column + 1);
-    constexpr int spare = 8; // for the few rows that come behind a table that is made whole
-    columns_[column].reserve(rows_ + spare);
-    columns_[column].resize(rows_);
+    QList<QString>& texts = columns_[column];
+    if (texts.isEmpty())
+        texts.reserve(rows_ + spare);
+    texts.resize(std::max(row + 1, std::min(rows_, row + step)));
 }
 
 bool TestiTabella::blank(int row) const {
-    return std::all_of(columns_.begin(), columns_.end(),
-                       [row](const QList<QString>& column) { return column.isEmpty() || column.at(row).isEmpty(); });
+    return std::all_of(columns_.begin(), columns_.end(), [row](const QList<QString>& column) {
+        return row >= column.size() || column.at(row).isEmpty();
+    });
 }
 
 void TestiTabella::moveRow(int row, TestiTabella& from, int fromRow) {
     for (std::size_t c = 0; c < from.columns_.size(); ++c) {
-        if (!from.columns_[c].isEmpty())
+        if (fromRow < from.columns_[c].size())
             at(row, static_cast<int>(c)) = std::move(from.columns_[c][fromRow]);
+        else if (c < columns_.size() && row < columns_[c].size())
+            columns_[c][row].clear();
     }
 }
 
 void TestiTabella::rotate(int first, int middle, int last, int firstColumn) {
     for (std::size_t c = static_cast<std::size_t>(firstColumn); c < columns_.size(); ++c) {
         auto& column = columns_[c];
-        if (!column.isEmpty())
-            std::rotate(column.begin() + first, column.begin() + middle, column.begin() + last);
+        if (column.size() <= first)
+            continue;
+        column.resize(std::max<qsizetype>(column.size(), last));
+        std::rotate(column.begin() + first, column.begin() + middle, column.begin() + last);
     }
 }
 
 void TestiTabella::clearRow(int row, int firstColumn) {
     for (std::size_t c = static_cast<std::size_t>(firstColumn); c < columns_.size(); ++c) {
-        if (!columns_[c].isEmpty())
+        if (row < columns_[c].size())
             columns_[c][row].clear();
     }
 }

@@ -25,13 +25,13 @@ class TestiTabella {
     /// Empty where nothing was written.
     [[nodiscard]] const QString& text(int row, int column) const {
         const auto c = static_cast<std::size_t>(column);
-        return c < columns_.size() && !columns_[c].isEmpty() ? columns_[c].at(row) : none;
+        return c < columns_.size() && row < columns_[c].size() ? columns_[c].at(row) : none;
     }
     /// To be written. It stays where it is until the number of rows changes.
     [[nodiscard]] QString& at(int row, int column) {
         const auto c = static_cast<std::size_t>(column);
-        if (c >= columns_.size() || columns_[c].isEmpty())
-            makeColumn(c);
+        if (c >= columns_.size() || row >= columns_[c].size())
+            lengthen(c, row);
         return columns_[c][row];
     }
     [[nodiscard]] bool blank(int row) const;
@@ -49,12 +49,12 @@ class TestiTabella {
     void cutColumns(int column);
 
   private:
-    void makeColumn(std::size_t column);
+    void lengthen(std::size_t column, int row);
 
     static const QString none;
 
     int rows_ = 0;
-    std::vector<QList<QString>> columns_; ///< each as long as the table, or empty
+    std::vector<QList<QString>> columns_; ///< none longer than the table; blank behind its end
 };
 
 /// A row that is being written.

@@ -113,7 +113,7 @@ class Preparatore {
             const auto type = stop == 0 ? RigaDiLavoro::Tipo::Menzione : RigaDiLavoro::Tipo::SostaGuida;
             RigaDiLavoro& row = aggiunge(type, leg);
             row.voce = entry;
-            row.quadra = type == RigaDiLavoro::Tipo::Menzione && entry->descrizione.contains(u'[');
+            row.quadra = entry->quadra;
             row.nota = with_.categoria(entry->codice);
             row.sostaGuida = stop;
             sum += static_cast<double>(stop);

@@ -14,7 +14,8 @@ namespace vanzer::store {
 struct VoceGuida {
     qint64 rowid = 0;
     QString tempoSosta;
-    int codice = 0; ///< category
+    int codice = 0;      ///< category
+    bool quadra = false; ///< the description holds a "["
     QString gruppo;
     QString descrizione;
 };
