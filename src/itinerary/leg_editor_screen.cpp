@@ -1,5 +1,6 @@
 #include "itinerary/leg_editor_screen.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/place_name.h"
@@ -301,8 +302,12 @@ void cmdCerca_Click(Form& form) {
     places.reserve(form.mfgTab.rows());
     for (int r = 1; r < form.mfgTab.rows(); ++r) {
         const QString& place = form.mfgTab.cell(r, 1);
-        if (!Trim(QStringView(place)).isEmpty())
-            places << AggStr(place, 31, QStringLiteral(" ")) + Zero(r, 4);
+        if (Trim(QStringView(place)).isEmpty())
+            continue;
+        constexpr int wide = 31;
+        const QString number = Zero(r, 4);
+        QString& entry = places.emplace_back(AggStr(place, wide + 4, QStringLiteral(" ")));
+        std::ranges::copy(number, entry.begin() + wide);
     }
     form.cmbRicercaTappa.setEntries(places);
     form.cmbRicercaTappa.setVisible(true);

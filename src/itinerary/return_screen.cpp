@@ -29,6 +29,7 @@ void packTable(Form& form) {
 std::vector<RigaRitorno> readWayOut(const Form& form) {
     const Grid& grid = form.mfgTab;
     std::vector<RigaRitorno> legs;
+    legs.reserve(static_cast<std::size_t>(form.stato.NumeroTappe));
     for (int r = 1; r <= form.stato.NumeroTappe; ++r)
         legs.push_back({grid.cell(r, 1), grid.cell(r, 2), grid.cell(r, 3), grid.cell(r, 4)});
     return legs;

@@ -26,6 +26,7 @@ QString luogoDiSvolta(const QString& place) {
 
 Ritorno ritornoAStart(const std::vector<RigaRitorno>& legs) {
     Ritorno home{joinRow(legs), {}};
+    home.righe.reserve(static_cast<std::size_t>(home.riga));
     for (int r = home.riga - 1; r >= 1; --r) {
         const auto here = static_cast<std::size_t>(r - 1);
         // The road between two places stands on the later one of the way out.

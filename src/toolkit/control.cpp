@@ -1,7 +1,7 @@
 #include "toolkit/control.h"
 
 #include <algorithm>
-#include <numeric>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -11,21 +11,36 @@ namespace vanzer {
 
 namespace {
 
+struct Entry {
+    std::uint64_t start = 0; ///< the first letters: what nearly every comparison needs
+    std::size_t from = 0;    ///< its letters among those of all
+    std::size_t size = 0;
+    qsizetype number = 0;
+};
+
 /// Entries that tie stay as they were.
 QStringList sorted(const QStringList& entries) {
-    std::vector<std::string> keys;
-    keys.reserve(static_cast<std::size_t>(entries.size()));
-    for (const QString& entry : entries)
-        keys.push_back(entry.toStdString());
-    std::vector<qsizetype> order(keys.size());
-    std::iota(order.begin(), order.end(), 0);
-    std::stable_sort(order.begin(), order.end(), [&keys](qsizetype a, qsizetype b) {
-        return confronta(keys[static_cast<std::size_t>(a)], keys[static_cast<std::size_t>(b)]) < 0;
+    std::string letters;
+    std::vector<Entry> order;
+    order.reserve(static_cast<std::size_t>(entries.size()));
+    for (qsizetype i = 0; i < entries.size(); ++i) {
+        const std::string utf8 = entries[i].toStdString();
+        order.push_back({primeLettere(utf8), letters.size(), utf8.size(), i});
+        letters += utf8;
+    }
+    const auto text = [&letters](const Entry& entry) {
+        return std::string_view(letters).substr(entry.from, entry.size);
+    };
+    std::ranges::sort(order, [&text](const Entry& a, const Entry& b) {
+        if (a.start != b.start)
+            return a.start < b.start;
+        const int difference = confronta(text(a), text(b));
+        return difference != 0 ? difference < 0 : a.number < b.number;
     });
     QStringList result;
     result.reserve(entries.size());
-    for (const qsizetype i : order)
-        result.append(entries[i]);
+    for (const Entry& entry : order)
+        result.append(entries[entry.number]);
     return result;
 }
 

@@ -268,4 +268,68 @@ TEST(RigheInCrescita, AnInterruptionLeavesTheLegs) {
     }
 }
 
+TEST(RigheInCrescita, WhatNobodyHasLookedAtIsAsItWas) {
+    const auto hidden = [](Trip& trip) {
+        return QJsonDocument(batch::gridState(trip.form().mfgCopia)).toJson().toStdString();
+    };
+    Trip watched;
+    watched.form().cmdCalcola.click();
+    const std::string schedule = watched.table();
+    const std::string working = hidden(watched);
+    EXPECT_NE(schedule.find("Nuovo giorno"), std::string::npos);
+    EXPECT_NE(working.find("Duomo"), std::string::npos);
+
+    Trip unseen;
+    Form& form = unseen.form();
+    form.cmdCalcola.click();
+    form.cmbRipM.setText(u"45"_s);
+    form.archivio.CancellaTabella(store::GuidaCitta, u"Descrizione"_s, u"Duomo"_s);
+    EXPECT_EQ(unseen.table(), schedule);
+
+    Trip changed;
+    Form& edited = changed.form();
+    edited.cmdCalcola.click();
+    edited.cmdCalcola.click();
+    edited.cmdItinerario.click();
+    edited.mfgTab.clickRow(7);
+    edited.txtTappa.setText(u"ALTROVE"_s);
+    edited.txtKm.setText(u"500"_s);
+    edited.cmdInserisce.click();
+    edited.mfgTab.clickRow(3);
+    edited.cmdCancella.click();
+    ASSERT_EQ(edited.mfgTab.cell(6, 1), u"ALTROVE");
+    EXPECT_EQ(hidden(changed), working);
+}
+
+TEST(TappeMemorizzate, ComeByTheirSequenceHoweverTheyAreStored) {
+    const struct {
+        const char* what;
+        std::array<const char16_t*, 4> sequences; ///< of the first four records
+        const char* places;
+    } cases[] = {{"in order", {u"0001", u"0002", u"0003", u"0004"}, "001 002 003 004"},
+                 {"two exchanged", {u"0001", u"0003", u"0002", u"0004"}, "001 003 002 004"},
+                 {"two alike", {u"0002", u"0001", u"0001", u"0003"}, "002 003 001 004"},
+                 {"not four digits", {u"1", u"0002", u"0003", u"0000"}, "004 002 003 005"}};
+    for (const auto& c : cases) {
+        Trip trip;
+        Form& form = trip.form();
+        comando(form, [&] {
+            form.archivio.StringaSQL = u"SELECT * FROM Itinerari"_s;
+            form.archivio.RecordSetImposta(0, store::Itinerari);
+            store::Recordset& legs = form.archivio.Rs(store::Itinerari);
+            for (const char16_t* sequence : c.sequences) {
+                legs.Edit();
+                legs.scrive("Sequenza", QString::fromUtf16(sequence));
+                legs.Update();
+                legs.MoveNext();
+            }
+            CaricaTappeItinerario(form);
+        });
+        QStringList places;
+        for (int row = 1; row <= 4; ++row)
+            places += form.mfgTab.cell(row, 1).mid(6, 3);
+        EXPECT_EQ(places.join(u' ').toStdString(), c.places) << c.what;
+    }
+}
+
 } // namespace vanzer
