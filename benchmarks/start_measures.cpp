@@ -75,6 +75,18 @@ void startOfWindow(benchmark::State& state) {
 }
 BENCHMARK(startOfWindow)->Iterations(1)->UseManualTime();
 
+/// What of that is drawing a window of this size at all.
+void startWithWidgets(benchmark::State& state) {
+    const Folder folder;
+    measure(state,
+            {.work = "start of the window to idle, big archive",
+             .against = "the same and a Qt window with as many of Qt's own widgets",
+             .inProcess = false},
+            program("vanzer_window", {folder.path()}),
+            program("least_window", {folder.path(), QStringLiteral("--widgets")}));
+}
+BENCHMARK(startWithWidgets)->Iterations(1)->UseManualTime();
+
 /// What of that is the platform's way to its fonts.
 void startWithText(benchmark::State& state) {
     const Folder folder;

@@ -1,21 +1,67 @@
-// least_window FOLDER [TEXT]: the least that a start can be. A Qt program reads the current trip of the archive in a
-// folder by bare engine calls, shows an empty window, or one with a text, and ends when it has nothing more to do.
+// least_window FOLDER [TEXT | --widgets]: the least that a start can be. A Qt program reads the current trip of the
+// archive in a folder by bare engine calls, shows an empty window, or one with a text, or one with as many of Qt's own
+// widgets as Vanzer's first window has and nothing behind them, and ends when it has nothing more to do.
 #include <cstdlib>
 
 #include <QApplication>
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
+#include <QPushButton>
+#include <QTableWidget>
 #include <QTimer>
 #include <QWindow>
 
 #include "../bare_archive.h"
 
+namespace {
+
+/// Rows of a label, a field and drop-down lists in boxes, a line of buttons, a table.
+QWidget* stockWidgets() {
+    constexpr int boxes = 12;
+    auto* const all = new QWidget;
+    auto* const column = new QVBoxLayout(all);
+    auto* const strip = new QGridLayout;
+    column->addLayout(strip);
+    for (int i = 0; i < boxes; ++i) {
+        auto* const box = new QGroupBox(QStringLiteral("Riquadro"));
+        strip->addWidget(box, i / 4, i % 4);
+        auto* const row = new QHBoxLayout(box);
+        for (int k = 0; k < 3; ++k) {
+            row->addWidget(new QLabel(QStringLiteral("Voce")));
+            auto* const list = new QComboBox;
+            list->addItems({QStringLiteral("00"), QStringLiteral("15"), QStringLiteral("30")});
+            row->addWidget(list);
+        }
+        row->addWidget(new QLineEdit(QStringLiteral("123")));
+        row->addWidget(new QLineEdit(QStringLiteral("00:00")));
+    }
+    auto* const table = new QTableWidget(30, 12);
+    for (int r = 0; r < table->rowCount(); ++r)
+        table->setItem(r, 1, new QTableWidgetItem(QStringLiteral("LUOGO %1").arg(r)));
+    column->addWidget(table);
+    auto* const line = new QHBoxLayout;
+    column->addLayout(line);
+    for (int i = 0; i < 22; ++i)
+        line->addWidget(new QPushButton(QStringLiteral("Tasto")));
+    return all;
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     vanzer::bench::readCurrentTrip(QApplication::arguments().value(1));
     QMainWindow window;
-    if (const QString text = QApplication::arguments().value(2); !text.isEmpty())
+    if (const QString text = QApplication::arguments().value(2); text == u"--widgets") {
+        window.resize(1280, 720);
+        window.setCentralWidget(stockWidgets());
+    } else if (!text.isEmpty()) {
         window.setCentralWidget(new QLabel(text));
+    }
     window.show();
     while (!window.windowHandle()->isExposed())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
