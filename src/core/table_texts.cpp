@@ -87,7 +87,13 @@ void TestiTabella::rotate(int first, int middle, int last, int firstColumn) {
         if (column.size() <= first)
             continue;
         column.resize(std::max<qsizetype>(column.size(), last));
-        std::rotate(column.begin() + first, column.begin() + middle, column.begin() + last);
+        if (last - middle == 1) { // a row comes in: what lies below moves as a whole
+            column.insert(first, column.takeAt(last - 1));
+        } else if (middle - first == 1) {
+            column.insert(last - 1, column.takeAt(first));
+        } else {
+            std::rotate(column.begin() + first, column.begin() + middle, column.begin() + last);
+        }
     }
 }
 

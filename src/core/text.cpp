@@ -123,14 +123,30 @@ QString testoNumero(double x, QChar decimalMark) {
 QString testoNumero(float x, QChar decimalMark) {
     return shortest(x, decimalMark);
 }
-QString testoNumero(int x) {
-    static std::vector<QString> known(10'000);
-    if (x < 0 || x >= std::ssize(known))
-        return QString::number(x);
+namespace {
+
+constexpr int numbersKept = 10'000;
+
+/// The text kept for a number from 0 to below `numbersKept`.
+const QString& numberKept(int x) {
+    static std::vector<QString> known(numbersKept);
     QString& text = known[static_cast<std::size_t>(x)];
     if (text.isNull())
         text = QString::number(x);
     return text;
+}
+
+} // namespace
+
+QString testoNumero(int x) {
+    return x < 0 || x >= numbersKept ? QString::number(x) : numberKept(x);
+}
+
+bool eNumero(const QString& s, int x) {
+    if (x < 0 || x >= numbersKept)
+        return s == QString::number(x);
+    const QString& text = numberKept(x);
+    return s.constData() == text.constData() || s == text;
 }
 
 QString migliaia(double x) {

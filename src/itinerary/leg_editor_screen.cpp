@@ -139,6 +139,12 @@ void reloadDestination(Form& form) {
     form.stato.RigaCorrente = 1;
 }
 
+/// Its own number in column 0.
+void numera(Grid& grid, int row) {
+    if (!eNumero(grid.cell(row, 0), row))
+        grid.setCell(row, 0, testoNumero(row));
+}
+
 void closeLists(Form& form) {
     form.cmbRicercaTappa.setVisible(false);
     form.frmframe(17).setVisible(false);
@@ -264,7 +270,7 @@ void InserisciRigheItinerario(Form& form, int n) {
     grid.setRows(grid.rows() + n);
     SpostaRighe(form, s.RigaCorrente, s.NumeroTappe, n);
     for (int r = s.RigaCorrente + n; r <= s.NumeroTappe + n; ++r)
-        grid.setCell(r, 0, testoNumero(r));
+        numera(grid, r);
     for (int r = s.RigaCorrente; r < s.RigaCorrente + n; ++r)
         grid.clearRow(r, 1);
     s.NumeroTappe += n;
@@ -280,12 +286,16 @@ void cmdCancella_Click(Form& form) {
     Grid& grid = form.mfgTab;
     {
         const SenzaRidisegno quiet(grid);
-        SpostaRighe(form, form.stato.RigaCorrente + 1, grid.rows() - 1, -1);
+        const bool leftBlank = SpostaRighe(form, form.stato.RigaCorrente + 1, grid.rows() - 1, -1);
         for (int r = form.stato.RigaCorrente; r <= grid.rows() - 2; ++r) {
             // A row without a place has no number, one that has got a place has its own.
-            grid.setCell(r, 0, grid.cell(r, 1).isEmpty() ? QString() : testoNumero(r));
+            if (grid.cell(r, 1).isEmpty())
+                grid.setCell(r, 0, {});
+            else
+                numera(grid, r);
         }
-        grid.clearRow(grid.rows() - 1, 1);
+        if (!leftBlank)
+            grid.clearRow(grid.rows() - 1, 1);
     }
     focusPlace(form);
     CalcolaKmTempiItinerario(form);
@@ -306,7 +316,8 @@ void cmdCerca_Click(Form& form) {
             continue;
         constexpr int wide = 31;
         const QString number = Zero(r, 4);
-        QString& entry = places.emplace_back(AggStr(place, wide + 4, QStringLiteral(" ")));
+        QString& entry = places.emplace_back(wide + number.size(), u' ');
+        std::ranges::copy(QStringView(place).first(std::min<qsizetype>(place.size(), wide)), entry.begin());
         std::ranges::copy(number, entry.begin() + wide);
     }
     form.cmbRicercaTappa.setEntries(places);

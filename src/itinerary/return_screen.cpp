@@ -15,37 +15,37 @@ void packTable(Form& form) {
     int& last = form.stato.NumeroTappe;
     last = 0;
     for (int r = 1; r < grid.rows(); ++r) {
-        if (Trim(grid.cell(r, 1)).isEmpty())
+        if (Trim(QStringView(grid.cell(r, 1))).isEmpty())
             continue;
         if (++last == r)
             continue;
         grid.setCell(last, 0, testoNumero(last));
         grid.copyRow(r, last, 1);
     }
-    for (int r = last + 1; r < grid.rows(); ++r)
-        grid.clearRow(r, 0);
+    for (int r = last + 1; r < grid.rows(); ++r) {
+        if (!grid.nothingWritten(r))
+            grid.clearRow(r, 0);
+    }
 }
 
-std::vector<RigaRitorno> readWayOut(const Form& form) {
-    const Grid& grid = form.mfgTab;
-    std::vector<RigaRitorno> legs;
-    legs.reserve(static_cast<std::size_t>(form.stato.NumeroTappe));
+std::vector<QStringView> places(const Form& form) {
+    std::vector<QStringView> names;
+    names.reserve(static_cast<std::size_t>(form.stato.NumeroTappe));
     for (int r = 1; r <= form.stato.NumeroTappe; ++r)
-        legs.push_back({grid.cell(r, 1), grid.cell(r, 2), grid.cell(r, 3), grid.cell(r, 4)});
-    return legs;
+        names.emplace_back(form.mfgTab.cell(r, 1));
+    return names;
 }
 
 void appendLegs(Form& form, const Ritorno& home) {
     Grid& grid = form.mfgTab;
     StatoViaggio& s = form.stato;
     grid.setRows(Maggiore(s.RigheMinime, grid.rows() + home.riga + 2));
-    for (const RigaRitorno& leg : home.righe) {
+    for (const PassoRitorno& leg : home.passi) {
         const int r = ++s.NumeroTappe;
         grid.setCell(r, 0, testoNumero(r));
-        grid.setCell(r, 1, leg.luogo);
-        grid.setCell(r, 2, leg.strada);
-        grid.setCell(r, 3, leg.km);
-        grid.setCell(r, 4, leg.tipoStrada);
+        grid.setCell(r, 1, grid.cell(leg.luogo, 1));
+        for (const int column : {2, 3, 4})
+            grid.setCell(r, column, grid.cell(leg.strada, column));
     }
 }
 
@@ -55,7 +55,7 @@ void cmdRitorno_Click(Form& form) {
     {
         const SenzaRidisegno quiet(form.mfgTab);
         packTable(form);
-        const Ritorno home = ritornoAStart(readWayOut(form));
+        const Ritorno home = ritornoAStart(places(form));
         if (home.riga > 0) {
             appendLegs(form, home);
             form.stato.RigaCorrente = home.riga;

@@ -7,12 +7,12 @@ namespace vanzer {
 
 namespace {
 
-int joinRow(const std::vector<RigaRitorno>& legs) {
-    if (legs.empty())
+int joinRow(const std::vector<QStringView>& places) {
+    if (places.empty())
         return 0;
-    const QString name = luogoDiSvolta(legs.back().luogo);
-    for (std::size_t r = legs.size() - 1; r >= 1; --r) {
-        if (iniziaCon(legs[r - 1].luogo, name))
+    const QString name = luogoDiSvolta(places.back().toString());
+    for (std::size_t r = places.size() - 1; r >= 1; --r) {
+        if (iniziaCon(places[r - 1], name))
             return static_cast<int>(r);
     }
     return 0;
@@ -24,15 +24,11 @@ QString luogoDiSvolta(const QString& place) {
     return taglia(taglia(Trim(place), u'('), u'[');
 }
 
-Ritorno ritornoAStart(const std::vector<RigaRitorno>& legs) {
-    Ritorno home{joinRow(legs), {}};
-    home.righe.reserve(static_cast<std::size_t>(home.riga));
-    for (int r = home.riga - 1; r >= 1; --r) {
-        const auto here = static_cast<std::size_t>(r - 1);
-        // The road between two places stands on the later one of the way out.
-        const RigaRitorno& driven = legs[here + 1];
-        home.righe.push_back({legs[here].luogo, driven.strada, driven.km, driven.tipoStrada});
-    }
+Ritorno ritornoAStart(const std::vector<QStringView>& places) {
+    Ritorno home{joinRow(places), {}};
+    // The road between two places stands on the later one of the way out.
+    for (int r = home.riga - 1; r >= 1; --r)
+        home.passi.push_back({.luogo = r, .strada = r + 1});
     return home;
 }
 

@@ -29,7 +29,8 @@ void keepsTexts(const Grid& grid, int row) {
 std::optional<Tratto> readLeg(Grid& grid, int row) {
     if (!grid.cell(row, 1).isEmpty())
         return legOf(grid, row);
-    grid.clearRow(row, 0);
+    if (!grid.nothingWritten(row)) // for a row without a place nothing is made either
+        grid.clearRow(row, 0);
     return {};
 }
 
@@ -106,10 +107,10 @@ Medie medieMostrate(const Form& form) {
     return speeds;
 }
 
-void SpostaRighe(Form& form, int first, int last, int by) {
+bool SpostaRighe(Form& form, int first, int last, int by) {
     Grid& grid = form.mfgTab;
     if (!grid.canShift(first, last, by))
-        return;
+        return false;
     TotaliTabella& totals = *form.totali;
     const int covered = by > 0 ? last + 1 : first + by;
     bool follow = true;
@@ -122,6 +123,7 @@ void SpostaRighe(Form& form, int first, int last, int by) {
     grid.shiftRows(first, last, by);
     if (follow)
         totals.sposta(first, last, by);
+    return true;
 }
 
 void CalcolaKmTempiItinerario(Form& form) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -18,15 +19,23 @@ struct Entry {
     qsizetype number = 0;
 };
 
+/// As UTF-8; most entries are plain letters.
+void appends(std::string& letters, const QString& entry) {
+    if (std::ranges::all_of(entry, [](QChar c) { return c < QChar(0x80); }))
+        std::ranges::transform(entry, std::back_inserter(letters), &QChar::toLatin1);
+    else
+        letters += entry.toStdString();
+}
+
 /// Entries that tie stay as they were.
 QStringList sorted(const QStringList& entries) {
     std::string letters;
     std::vector<Entry> order;
     order.reserve(static_cast<std::size_t>(entries.size()));
     for (qsizetype i = 0; i < entries.size(); ++i) {
-        const std::string utf8 = entries[i].toStdString();
-        order.push_back({primeLettere(utf8), letters.size(), utf8.size(), i});
-        letters += utf8;
+        const std::size_t from = letters.size();
+        appends(letters, entries[i]);
+        order.push_back({primeLettere(std::string_view(letters).substr(from)), from, letters.size() - from, i});
     }
     const auto text = [&letters](const Entry& entry) {
         return std::string_view(letters).substr(entry.from, entry.size);

@@ -99,13 +99,13 @@ const QString& Grid::cell(int row, int column) const {
     return cells_.text(row - 1, column);
 }
 
-void Grid::setCell(int row, int column, const QString& text) {
+void Grid::setCell(int row, int column, QString text) {
     if (row < 0 || row >= rows() || column < 0 || column >= columns_)
         return;
     if (cell(row, column) == text)
         return;
     noteChange(row);
-    (row == 0 ? head_[static_cast<std::size_t>(column)] : cells_.at(row - 1, column)) = text;
+    (row == 0 ? head_[static_cast<std::size_t>(column)] : cells_.at(row - 1, column)) = std::move(text);
     if (redrawOff_ != 0)
         return;
     if (row == 0)
@@ -165,7 +165,7 @@ std::optional<std::vector<int>> Grid::takeChangedRows() {
 
 void Grid::copyRow(int from, int to, int firstColumn) {
     for (int c = firstColumn; c < columns_; ++c)
-        setCell(to, c, QString(cell(from, c)));
+        setCell(to, c, cell(from, c));
 }
 
 void Grid::clearRow(int row, int firstColumn) {

@@ -35,7 +35,9 @@ class Grid : public Control {
     /// The text of a cell; empty outside the grid.
     [[nodiscard]] const QString& cell(int row, int column) const;
     /// Does nothing outside the grid.
-    void setCell(int row, int column, const QString& text);
+    void setCell(int row, int column, QString text);
+    /// Whether nothing stands in a row from 1 on, but for what is still to be made.
+    [[nodiscard]] bool nothingWritten(int row) const { return cells_.blank(row - 1); }
     /// Copies the cells from `firstColumn` on of one row over those of another.
     void copyRow(int from, int to, int firstColumn);
     void clearRow(int row, int firstColumn);

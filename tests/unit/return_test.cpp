@@ -9,14 +9,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Legs of these places; road and kilometres tell by which row they came.
-std::vector<RigaRitorno> legs(const QStringList& places) {
-    std::vector<RigaRitorno> made;
-    for (const QString& place : places) {
-        const QString n = QString::number(made.size() + 1);
-        made.push_back({place, u"SS"_s + n, n + u"0"_s, u"S"_s});
-    }
-    return made;
+Ritorno homeFrom(const QStringList& out) {
+    return ritornoAStart({out.begin(), out.end()});
 }
 
 TEST(ReturnToStart, JoinsAtTheNearestEarlierPassage) {
@@ -38,24 +32,18 @@ TEST(ReturnToStart, JoinsAtTheNearestEarlierPassage) {
         {{}, 0, {}},
     };
     for (const Row& row : rows) {
-        const Ritorno result = ritornoAStart(legs(row.out));
+        const Ritorno result = homeFrom(row.out);
         QStringList home;
-        for (const RigaRitorno& leg : result.righe)
-            home << leg.luogo;
+        for (const PassoRitorno& leg : result.passi)
+            home << row.out[leg.luogo - 1];
         EXPECT_EQ(result.riga, row.join) << row.out.join(u' ').toStdString();
         EXPECT_EQ(home, row.home) << row.out.join(u' ').toStdString();
     }
 }
 
 TEST(ReturnToStart, DrivesTheSameRoads) {
-    std::vector<RigaRitorno> out = legs({u"A"_s, u"B"_s, u"C"_s, u"D"_s, u"E"_s, u"D"_s});
-    out[2] = {u"C"_s, u"TRAGHETTO"_s, u"0"_s, u"A"_s};
-    const std::vector<RigaRitorno> expected{
-        {u"C"_s, u"SS4"_s, u"40"_s, u"S"_s},
-        {u"B"_s, u"TRAGHETTO"_s, u"0"_s, u"A"_s},
-        {u"A"_s, u"SS2"_s, u"20"_s, u"S"_s},
-    };
-    EXPECT_EQ(ritornoAStart(out).righe, expected);
+    const std::vector<PassoRitorno> expected{{3, 4}, {2, 3}, {1, 2}};
+    EXPECT_EQ(homeFrom({u"A"_s, u"B"_s, u"C"_s, u"D"_s, u"E"_s, u"D"_s}).passi, expected);
 }
 
 } // namespace
