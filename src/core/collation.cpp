@@ -192,8 +192,7 @@ int confronta(std::string_view textA, std::string_view textB) {
 
 std::uint64_t primeLettere(std::string_view text) {
     constexpr int bytes = 8;
-    constexpr std::int32_t beyondAscii =
-        0x80; // of those letters `confronta` knows the order: what follows doesn't count
+    constexpr std::int32_t beyondAscii = 0x80; // stands for all such letters, so that nothing counts behind one
     BaseLetters letters(text.data(), text.data() + text.size());
     std::uint64_t number = 0;
     std::int32_t letter = 0;

@@ -27,7 +27,7 @@ class TestiTabella {
         const auto c = static_cast<std::size_t>(column);
         return c < columns_.size() && row < columns_[c].size() ? columns_[c].at(row) : none;
     }
-    /// To be written. It stays where it is until the number of rows changes.
+    /// To be written. It stays where it is until another row of its column is written, or the number of rows changes.
     [[nodiscard]] QString& at(int row, int column) {
         const auto c = static_cast<std::size_t>(column);
         if (c >= columns_.size() || row >= columns_[c].size())

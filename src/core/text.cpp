@@ -123,6 +123,7 @@ QString testoNumero(double x, QChar decimalMark) {
 QString testoNumero(float x, QChar decimalMark) {
     return shortest(x, decimalMark);
 }
+
 namespace {
 
 constexpr int numbersKept = 10'000;

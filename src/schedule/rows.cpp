@@ -254,7 +254,7 @@ class TabellaViandoria::Chiusura {
                u')';
     }
 
-    [[nodiscard]] std::array<QString, 7> totals() const {
+    [[nodiscard]] std::array<QString, righeTotali> totals() const {
         const auto line = [this](const SommaViandoria& sum) {
             return u"\t\tKm. "_s + migliaiaZero(sum.km) + u"  \tGuida "_s + inBothDays(sum.guida);
         };

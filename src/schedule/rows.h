@@ -70,6 +70,8 @@ struct SommaViandoria {
     float soste = 0;
 };
 
+inline constexpr int righeTotali = 7;
+
 /// The whole table of a schedule: its rows without those that say nothing beyond their name, closed by the notes of the
 /// days and the mark of the end, and behind them the rows of totals. All of it is worked out on numbers at once; the
 /// texts of a row are made when somebody asks.
@@ -98,7 +100,7 @@ class TabellaViandoria {
     std::vector<int> kept_;         ///< rows of the schedule
     std::vector<NotaGiorno> notes_; ///< by row, rising
     int endRow_ = -1;               ///< of the schedule: it bears the mark of the end
-    std::array<QString, 7> totals_;
+    std::array<QString, righeTotali> totals_;
     TestiGiorno day_; ///< of the row written last
 };
 
