@@ -28,21 +28,6 @@ void TestiTabella::removeRow(int row) {
     }
 }
 
-void TestiTabella::keepRows(const std::vector<int>& rows) {
-    for (auto& column : columns_) {
-        qsizetype to = 0;
-        for (const int row : rows) {
-            if (row >= column.size())
-                break;
-            if (row != to)
-                column[to] = std::move(column[row]);
-            ++to;
-        }
-        column.resize(to);
-    }
-    setRows(static_cast<int>(rows.size()));
-}
-
 bool TestiTabella::operator==(const TestiTabella& other) const {
     const auto columns = static_cast<int>(std::max(columns_.size(), other.columns_.size()));
     for (int row = 0; row < rows_ && rows_ == other.rows_; ++row) {

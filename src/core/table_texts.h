@@ -19,8 +19,6 @@ class TestiTabella {
     /// Adds a blank row; its number.
     int addRow();
     void removeRow(int row);
-    /// Only these rows are left, numbered in rising order.
-    void keepRows(const std::vector<int>& rows);
 
     /// Empty where nothing was written.
     [[nodiscard]] const QString& text(int row, int column) const {
