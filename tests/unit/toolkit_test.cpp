@@ -133,9 +133,9 @@ TEST(TestiTabella, AreThoseOfAPlainTable) {
         const auto at = [&plain](int r) { return plain.begin() + r; };
         const int does = rows == 0 ? 0 : below(8);
         if (does == 0) {
-            const int wanted = rows + below(150) - 50;
-            table.setRows(std::max(wanted, 1));
-            plain.resize(static_cast<std::size_t>(std::max(wanted, 1)), std::vector<QString>(columns));
+            const int wanted = 1 + below(300);
+            table.setRows(wanted);
+            plain.resize(static_cast<std::size_t>(wanted), std::vector<QString>(columns));
         } else if (does == 1) {
             const int r = below(rows);
             table.removeRow(r);
