@@ -14,10 +14,7 @@ SegniGuida::Voci SegniGuida::unused(store::VociGuida entries) {
 }
 
 SegniGuida::Voci SegniGuida::usaLuogo(const QString& place) {
-    const store::VociGuida entries = archive_.guida().leggeLuogo(place);
-    if (const auto& memory = archive_.guida().memoria(); held_.empty() || held_.back() != memory)
-        held_.push_back(memory);
-    return unused(entries);
+    return unused(archive_.guida().leggeLuogo(place));
 }
 
 SegniGuida::Voci SegniGuida::usaModello(const QString& pattern) {

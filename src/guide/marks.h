@@ -2,7 +2,6 @@
 // first passage through its place. A run begins with no mark set; the marks are kept in memory and written at its end.
 #pragma once
 
-#include <memory>
 #include <vector>
 
 #include "store/archive.h"
@@ -23,8 +22,6 @@ class SegniGuida {
     [[nodiscard]] Voci usaLuogo(const QString& place);
     /// The entries whose place matches the pattern, used in the same way.
     [[nodiscard]] Voci usaModello(const QString& pattern);
-    /// What holds the entries that were given out for places: they live as long.
-    [[nodiscard]] const std::vector<std::shared_ptr<const void>>& tenute() const { return held_; }
     /// Writes the marks of the run to the archive.
     void scrive() { archive_.rimetteVisti(used_); }
 
@@ -33,7 +30,6 @@ class SegniGuida {
 
     store::Archive& archive_;
     store::InsiemeDiRighe used_;
-    std::vector<std::shared_ptr<const void>> held_;
 };
 
 /// Time of an entry in hundredths: hh:mm, or whole visiting days "G1" to "G8" of `visitingDay` hundredths each plus the

@@ -104,10 +104,17 @@ std::shared_ptr<const RigheDiLavoro> PreparaTabellaPerCalcoloViandoria(Form& for
     form.tappeConservate = legs;
 
     SegniGuida guide(form.archivio);
+    std::vector<std::shared_ptr<const void>> held; // a very long trip makes the reader forget on the way
     const Preparazione with{
         .fonte = fonteSoste(form.cmbSoste.text()),
         .oreVisitaGiorno = s.OreVisitaGiorno,
-        .guida = [&guide](const QString& place) { return guide.usaLuogo(place); },
+        .guida =
+            [&](const QString& place) {
+                SegniGuida::Voci entries = guide.usaLuogo(place);
+                if (const auto& memory = form.archivio.guida().memoria(); held.empty() || held.back() != memory)
+                    held.push_back(memory);
+                return entries;
+            },
         .categoria =
             [&form](int category) {
                 const auto i = static_cast<std::size_t>(category);
@@ -120,7 +127,7 @@ std::shared_ptr<const RigheDiLavoro> PreparaTabellaPerCalcoloViandoria(Form& for
             },
     };
     const auto prepared = std::make_shared<RigheDiLavoro>(preparaRighe(legsToPrepare(*form.tappeConservate), with));
-    prepared->tenute = guide.tenute();
+    prepared->tenute = std::move(held);
     guide.scrive();
     showWorkingRows(form, prepared, {std::move(legs), std::move(unfinished)});
     return prepared;

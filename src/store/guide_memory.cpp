@@ -39,12 +39,13 @@ const VociGuida& MemoriaGuida::tiene(const QString& key, std::vector<VoceGuida> 
     const VoceGuida* const first = block.data() + block.size();
     std::ranges::move(entries, std::back_inserter(block));
     const std::size_t at = read_.size();
-    places_.insert(key, at);
-    read_.push_back({.lettere = letters_.size(),
+    const std::size_t letters = letters_.size();
+    letters_.append(QStringView(key).utf16(), static_cast<std::size_t>(key.size()));
+    read_.push_back({.lettere = letters,
                      .lunghezza = static_cast<std::size_t>(key.size()),
                      .dopo = at + 1,
                      .voci = {first, entries.size()}});
-    letters_.append(QStringView(key).utf16(), static_cast<std::size_t>(key.size()));
+    places_.insert(key, at);
     goesOn(at);
     return read_[at].voci;
 }
