@@ -44,12 +44,12 @@ QString withPlainBreaks(QString text) {
 
 } // namespace
 
-int QueuedBoxes::show(const QString& text, const QString& title, Pulsanti buttons, Icona icon) {
-    const int answer = taken(answers_).value_or(unasked(buttons));
-    shown({{"text", withPlainBreaks(text)},
-           {"title", title},
-           {"buttons", nameOf(buttons)},
-           {"icon", nameOf(icon)},
+int QueuedBoxes::show(const MessageBox& box) {
+    const int answer = taken(answers_).value_or(unasked(box.buttons));
+    shown({{"text", withPlainBreaks(box.text)},
+           {"title", box.title},
+           {"buttons", nameOf(box.buttons)},
+           {"icon", nameOf(box.icon)},
            {"answer", answer}});
     return answer;
 }

@@ -30,7 +30,7 @@ class QueuedBoxes : public MessageBoxes, public ShownList {
   public:
     void enqueue(int answer) { answers_.push_back(answer); }
     /// With no answer queued: OK, no where no can be said, cancel where that is offered too.
-    [[nodiscard]] int show(const QString& text, const QString& title, Pulsanti buttons, Icona icon) override;
+    [[nodiscard]] int show(const MessageBox& box) override;
 
   private:
     std::deque<int> answers_;

@@ -35,21 +35,25 @@ constexpr std::array<Choice, 2> yesNo{{{QMessageBox::Yes, u"&Sì", rispostaSi}, 
 constexpr std::array<Choice, 3> yesNoCancel{{{QMessageBox::Yes, u"&Sì", rispostaSi},
                                              {QMessageBox::No, u"&No", rispostaNo},
                                              {QMessageBox::Cancel, u"&Annulla", rispostaAnnulla}}};
+constexpr std::array<Choice, 3> saveOrNot{{{QMessageBox::Yes, u"&Salva", rispostaSi},
+                                           {QMessageBox::No, u"&Non salvare", rispostaNo},
+                                           {QMessageBox::Cancel, u"&Annulla", rispostaAnnulla}}};
 
 std::span<const Choice> choices(Pulsanti buttons) {
     switch (buttons) {
     case Pulsanti::Ok: return okChoices;
     case Pulsanti::SiNo: return yesNo;
+    case Pulsanti::SalvaNonSalvareAnnulla: return saveOrNot;
     default: return yesNoCancel;
     }
 }
 
-QMessageBox::Icon sign(Icona icon, Pulsanti buttons) {
-    switch (icon) {
-    case Icona::Informazione: return QMessageBox::Information;
-    case Icona::Avviso: return QMessageBox::Warning;
-    default: return buttons == Pulsanti::Ok ? QMessageBox::NoIcon : QMessageBox::Question;
-    }
+QMessageBox::Icon sign(const MessageBox& box) {
+    if (box.icon == Icona::Avviso || box.refuses || box.destroys)
+        return QMessageBox::Warning;
+    if (box.icon == Icona::Informazione || !box.files.isEmpty())
+        return QMessageBox::Information;
+    return box.buttons == Pulsanti::Ok ? QMessageBox::NoIcon : QMessageBox::Question;
 }
 
 /// Whether a text is set out line by line, as the help is, or with tabs.
@@ -109,26 +113,28 @@ QWidget* BeforeWindow::opening() const {
     return window_;
 }
 
-int DialogBoxes::show(const QString& text, const QString& title, Pulsanti buttons, Icona icon) {
+int DialogBoxes::show(const MessageBox& told) {
+    const std::span<const Choice> offered = choices(told.buttons);
     QMessageBox box(opening());
-    box.setWindowTitle(title.isEmpty() ? QCoreApplication::applicationName() : title);
-    box.setIcon(sign(icon, buttons));
+    box.setWindowTitle(told.title.isEmpty() ? QCoreApplication::applicationName() : told.title);
+    box.setIcon(sign(told));
     box.setTextFormat(Qt::PlainText);
-    const QString plain = QString(text).remove(u'\r');
-    if (setOut(text))
+    const QString plain = QString(told.text).remove(u'\r');
+    if (setOut(told.text))
         setInLines(box, plain);
     else
         box.setText(plain);
-    for (const Choice& choice : choices(buttons))
+    box.setInformativeText(told.detail);
+    for (const Choice& choice : offered)
         box.addButton(choice.button)->setText(QString::fromUtf16(choice.text));
-    box.setDefaultButton(choices(buttons).front().button);
-    box.setEscapeButton(choices(buttons).back().button);
+    box.setDefaultButton(told.destroys ? QMessageBox::No : offered.front().button);
+    box.setEscapeButton(offered.back().button);
     const int pressed = box.exec();
-    for (const Choice& choice : choices(buttons)) {
+    for (const Choice& choice : offered) {
         if (choice.button == pressed)
             return choice.answer;
     }
-    return choices(buttons).back().answer;
+    return offered.back().answer;
 }
 
 QString PlatformDialogs::open(const QString& filter) {

@@ -27,7 +27,7 @@ class BeforeWindow {
 /// With Italian buttons. Esc stands for "Annulla", or for "No" where there is nothing to cancel.
 class DialogBoxes : public MessageBoxes, public BeforeWindow {
   public:
-    [[nodiscard]] int show(const QString& text, const QString& title, Pulsanti buttons, Icona icon) override;
+    [[nodiscard]] int show(const MessageBox& box) override;
 };
 
 class PlatformDialogs : public FileDialogs, public BeforeWindow {

@@ -4,12 +4,14 @@
 
 #include <QDateTime>
 #include <QString>
+#include <QStringList>
 
 namespace vanzer {
 
 class Printer;
 
-enum class Pulsanti { Ok, SiNo, SiNoAnnulla };
+/// The buttons of a box. "Salva" is answered as yes, "Non salvare" as no.
+enum class Pulsanti { Ok, SiNo, SiNoAnnulla, SalvaNonSalvareAnnulla };
 enum class Icona { Nessuna, Informazione, Avviso };
 
 /// Answers of a message box.
@@ -18,10 +20,22 @@ inline constexpr int rispostaAnnulla = 2;
 inline constexpr int rispostaSi = 6;
 inline constexpr int rispostaNo = 7;
 
+/// What a box tells or asks. Where there are eyes to see them the last four are shown too; they change no answer.
+struct MessageBox {
+    QString text;
+    QString title = {};
+    Pulsanti buttons = Pulsanti::Ok;
+    Icona icon = Icona::Nessuna;
+    bool refuses = false;   ///< tells why something can't be done: a warning
+    bool destroys = false;  ///< yes deletes or overwrites: Enter answers no
+    QString detail = {};    ///< below the text: what it is about
+    QStringList files = {}; ///< that were made: offered to be opened
+};
+
 class MessageBoxes {
   public:
     virtual ~MessageBoxes() = default;
-    [[nodiscard]] virtual int show(const QString& text, const QString& title, Pulsanti buttons, Icona icon) = 0;
+    [[nodiscard]] virtual int show(const MessageBox& box) = 0;
 };
 
 /// Who asks before a file that is there already is overwritten.

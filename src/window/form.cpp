@@ -126,12 +126,26 @@ Control* Form::find(const QString& name) const {
 }
 
 int Form::domanda(const QString& text, const QString& title, Pulsanti buttons) {
-    stato.Risposta = ports.messages.show(text, title, buttons, Icona::Nessuna);
+    stato.Risposta = ports.messages.show({.text = text, .title = title, .buttons = buttons});
+    return stato.Risposta;
+}
+
+int Form::domandaPericolosa(const QString& text, const QString& title, const QString& detail) {
+    stato.Risposta = ports.messages.show(
+        {.text = text, .title = title, .buttons = Pulsanti::SiNo, .destroys = true, .detail = detail});
     return stato.Risposta;
 }
 
 void Form::messaggio(const QString& text, const QString& title, Icona icon) {
-    static_cast<void>(ports.messages.show(text, title, Pulsanti::Ok, icon));
+    messaggioFile(text, {}, title, icon);
+}
+
+void Form::rifiuta(const QString& text, const QString& title) {
+    static_cast<void>(ports.messages.show({.text = text, .title = title, .refuses = true}));
+}
+
+void Form::messaggioFile(const QString& text, const QStringList& files, const QString& title, Icona icon) {
+    static_cast<void>(ports.messages.show({.text = text, .title = title, .icon = icon, .files = files}));
 }
 
 void Form::setDefault(Button& button) {

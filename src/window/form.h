@@ -59,8 +59,15 @@ class Form {
 
     /// A question: the answer stays in Risposta.
     int domanda(const QString& text, const QString& title, Pulsanti buttons);
+    /// A question whose yes deletes or overwrites what `detail` names.
+    int domandaPericolosa(const QString& text, const QString& title, const QString& detail = {});
     /// A message with an OK button.
     void messaggio(const QString& text, const QString& title = {}, Icona icon = Icona::Nessuna);
+    /// A message that tells why something can't be done.
+    void rifiuta(const QString& text, const QString& title = {});
+    /// A message about files that were made, given by their paths.
+    void messaggioFile(const QString& text, const QStringList& files, const QString& title = {},
+                       Icona icon = Icona::Nessuna);
     /// Lets the waiting events run.
     void yield() { ports.events.yield(); }
     /// The button that Enter presses.
@@ -75,6 +82,7 @@ class Form {
     QString caption;
     bool chiusa = false;                 ///< the window has been left
     bool comandoInCorso = false;         ///< a command of the user is being carried out
+    bool chiedeModifiche = false;        ///< the user is asked before typed fields are cleared or reloaded
     std::function<void()> guideRowShown; ///< raised when the grid's current row changes while the guide is open
 
     std::array<QString, 21> TipiGuidaDescrizione;
@@ -165,6 +173,7 @@ class Form {
     // Table, status line, search lists
     Grid& mfgTab = one<Grid>("mfgTab", finestra, 30, 20);
     Label& lblElaborazione = label("lblElaborazione", 28);
+    Label& lblAvviso = label("lblAvviso", 28);
     TextBox& txtBase = text("txtBase", 28);
     TextBox& txtPerc = text("txtPerc", 28);
     Label& lblPath = label("lblPath", 28);

@@ -18,19 +18,13 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-struct Box {
-    QString text, title;
-    Pulsanti buttons;
-    Icona icon;
-};
-
 class KeptBoxes : public MessageBoxes {
   public:
-    int show(const QString& text, const QString& title, Pulsanti buttons, Icona icon) override {
-        boxes.push_back({text, title, buttons, icon});
+    int show(const MessageBox& box) override {
+        boxes.push_back(box);
         return rispostaOk;
     }
-    std::vector<Box> boxes;
+    std::vector<MessageBox> boxes;
 };
 
 class Help : public testing::Test {
