@@ -149,19 +149,19 @@ QJsonObject cells(Control& control, const QString& /*argument*/) {
     return grid == nullptr ? notPossible() : gridState(*grid);
 }
 
-constexpr std::array<ControlCommand, 13> commands{{{u"set", true, set},
-                                                   {u"type", true, type},
-                                                   {u"key", true, key},
-                                                   {u"keydown", true, keyDown},
-                                                   {u"leave", false, leave},
-                                                   {u"check", true, check},
-                                                   {u"option", true, option},
-                                                   {u"click", true, click},
-                                                   {u"pick", true, pick},
-                                                   {u"row", true, row},
-                                                   {u"dblclick", true, doubleClick},
-                                                   {u"get", false, get},
-                                                   {u"grid", false, cells}}};
+constexpr std::array<ControlCommand, 13> commands{{{u"set", true, true, set},
+                                                   {u"type", true, true, type},
+                                                   {u"key", true, true, key},
+                                                   {u"keydown", true, true, keyDown},
+                                                   {u"leave", false, true, leave},
+                                                   {u"check", true, true, check},
+                                                   {u"option", true, true, option},
+                                                   {u"click", true, true, click},
+                                                   {u"pick", true, true, pick},
+                                                   {u"row", true, true, row},
+                                                   {u"dblclick", true, true, doubleClick},
+                                                   {u"get", false, false, get},
+                                                   {u"grid", false, false, cells}}};
 
 } // namespace
 

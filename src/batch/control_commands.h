@@ -11,6 +11,7 @@ namespace vanzer::batch {
 struct ControlCommand {
     QStringView word;
     bool refusable; ///< the control must be visible and enabled through all its frames
+    bool acts;      ///< as the user's hand does, which waits while a command is at work
     /// `argument` is what stands behind the control's name.
     QJsonObject (*run)(Control& control, const QString& argument);
 };

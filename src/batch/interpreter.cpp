@@ -8,6 +8,7 @@
 #include "batch/control_commands.h"
 #include "batch/state_view.h"
 #include "reports/schedule_files_screen.h"
+#include "window/command.h"
 
 namespace vanzer::batch {
 
@@ -116,12 +117,12 @@ QJsonObject Interpreter::onControl(const Line& line) {
 bool Interpreter::possibleNow(const Line& line) const {
     const ControlCommand* const command = controlCommand(line.word);
     if (command == nullptr)
-        return true;
+        return line.word != u"export";
     const Form* const window = session_.window();
     if (window == nullptr)
         return false;
     const Control* const control = window->find(split(line.rest).word);
-    return control == nullptr || !command->refusable || control->reachable();
+    return control == nullptr || !command->acts || interrompe(*window, *control);
 }
 
 QJsonObject Interpreter::start(const QString& /*rest*/) {

@@ -50,10 +50,12 @@ struct StatoViaggio {
     double PercentualeTotale = 0;
     int PercentualeMostrata = -1; ///< what the progress line shows now
 
-    int NumeroTappe = 0;  ///< last row with a place
-    int RigaCorrente = 0; ///< the row being edited
-    int RigheMinime = 20; ///< least number of rows of the grid
-    int RigaCaricata = 0; ///< last row written by a load, a preparation or a test
+    int NumeroTappe = 0;       ///< last row with a place
+    int RigaCorrente = 0;      ///< the row being edited
+    int RigheMinime = 20;      ///< least number of rows of the grid
+    bool KmProgressivi = true; ///< the user's choice: kilometres above the running total of the row above are a total
+    QString KmDifferenza;      ///< what the kilometres in the field were made into from a total
+    int RigaCaricata = 0;      ///< last row written by a load, a preparation or a test
 
     float Coefficiente = 0; ///< multiplier of the guide stops
     int NumeroTest = 0;

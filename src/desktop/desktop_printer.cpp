@@ -116,6 +116,7 @@ void DesktopPrinter::begin() {
         if (!path.endsWith(pdfEnding, Qt::CaseInsensitive))
             path += pdfEnding;
         output_ = pdfOutput(path);
+        file_ = path;
     } else if (!previewed_) {
         output_ = paperOutput(target_);
     }
@@ -171,6 +172,7 @@ bool DesktopPrinter::approved() {
 }
 
 bool DesktopPrinter::endDoc() {
+    madeFiles_.clear();
     if (page_ == 0)
         return true;
     bool sent = false;
@@ -186,6 +188,8 @@ bool DesktopPrinter::endDoc() {
         for (const DrawnPage& page : waiting_)
             output_->write(page);
         output_->finish();
+        if (!file_.isEmpty())
+            madeFiles_ << file_;
         sent = true;
     });
     drop();
@@ -195,6 +199,7 @@ bool DesktopPrinter::endDoc() {
 void DesktopPrinter::drop() {
     page_ = 0;
     unwanted_ = false;
+    file_.clear();
     output_.reset();
     drawn_.clear();
     waiting_.clear();

@@ -45,6 +45,7 @@ class DesktopPrinter : public Printer, public BeforeWindow {
     void newPage() override;
     bool endDoc() override;
     void dropDoc() override { drop(); }
+    [[nodiscard]] QStringList madeFiles() const override { return madeFiles_; }
 
   private:
     /// Throws what `step` throws, with the document dropped.
@@ -69,8 +70,11 @@ class DesktopPrinter : public Printer, public BeforeWindow {
     bool unwanted_ = false;
     bool previewed_ = false;
     std::unique_ptr<PageOutput> output_;
+    QString file_; ///< that it goes into; empty for paper
     DrawnPage drawn_;
     std::vector<DrawnPage> waiting_; ///< for the preview
+
+    QStringList madeFiles_;
 };
 
 } // namespace vanzer::desktop

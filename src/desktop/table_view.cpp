@@ -225,7 +225,7 @@ bool TableView::choosing() const {
 void TableView::pressChoosingKey(QKeyEvent& event) {
     const int last = grid_->rows() - 1;
     const int page = std::max(viewport()->height() / std::max(verticalHeader()->defaultSectionSize(), 1) - 1, 1);
-    int row = grid_->row();
+    int row = grid_->rowAtHand();
     switch (event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:

@@ -136,7 +136,7 @@ class GridTie : public Tie {
         connect(&view, &TableView::rowDoubleClicked, this,
                 [this] { binder().input([this] { model_.doubleClick(); }); });
         connect(&view, &TableView::rowMarked, this,
-                [this](int row) { binder().input([this, row] { model_.setCurrent(row, model_.col()); }); });
+                [this](int row) { binder().input([this, row] { model_.markRow(row); }); });
         connect(&view, &TableView::keyCode, this,
                 [this](int code) { binder().input([this, code] { model_.pressKey(code); }); });
         connect(&view, &TableView::scrolledTo, this, [this](int row) { model_.setTopRow(row); });

@@ -8,6 +8,7 @@
 #include "core/text_file.h"
 #include "exchange/chosen_file_screen.h"
 #include "exchange/iei_file.h"
+#include "window/changes.h"
 #include "window/destination_screen.h"
 #include "window/grid_layouts.h"
 #include "window/modes.h"
@@ -83,7 +84,7 @@ void chooseForExport(Form& form) {
     form.lblExSelez.setCaption(QStringLiteral("Lista delle mète selezionate per l'EXPORT"));
     form.cmdImExp(0).setCaption(QStringLiteral("Esporta"));
     if (!CaricaListaMete(form))
-        form.messaggio(QStringLiteral("Non ci sono altre mète da esportare..."));
+        form.rifiuta(QStringLiteral("Non ci sono altre mète da esportare..."));
     AzzeraPercentuale(form);
     AggiornaPulsantiImportExport(form);
     form.setFocus(form.mfgImExp(0));
@@ -166,8 +167,6 @@ void captionsOfImport(Form& form) {
 void listFile(Form& form, const QString& path) {
     form.stato.NomeFileScambio = path;
     const bool whole = ElencoDelFile(form).legge();
-    if (form.chiusa)
-        return;
     if (!whole) {
         form.mfgImExp(1).setRows(1);
         form.messaggio(QStringLiteral("Lettura del file interrotta!"));
@@ -191,6 +190,7 @@ bool importaScelto(const Form& form) {
 
 void PreparaExportImport(Form& form) {
     AzzeraSchermo(form);
+    form.campiDaRicordare = true;
     form.frmframe(22).setVisible(true);
     form.cmdExport.setEnabled(false);
     for (Grid* const list : form.mfgImExp) {
@@ -289,7 +289,7 @@ ScambioInCorso::~ScambioInCorso() {
 bool ScambioInCorso::avanza(double done) {
     form_.stato.PercentualeCorrente = done;
     AggiornaPercentuale(form_);
-    return !form_.stato.InterrompiCalcolo && !form_.chiusa;
+    return !form_.stato.InterrompiCalcolo;
 }
 
 void ElencaFileScambio(Form& form, const QString& path) {
@@ -299,10 +299,15 @@ void ElencaFileScambio(Form& form, const QString& path) {
 }
 
 void cmdExport_Click(Form& form) {
+    if (!lasciaModifiche(form))
+        return;
     form.frmframe(22).setVisible(true);
+    AbilitaPulsantiMeta(form, QStringLiteral("zz"));
 }
 
 void cmdImportExport_Click(Form& form, int n) {
+    if (!lasciaModifiche(form))
+        return;
     PreparaExportImport(form);
     n == 0 ? chooseForExport(form) : chooseForImport(form);
 }
@@ -319,8 +324,6 @@ void cmdTutto_Click(Form& form, int n) {
     while (!from.cell(1, scambioMeta).isEmpty()) {
         ++form.stato.PercentualeCorrente;
         AggiornaPercentuale(form);
-        if (form.chiusa)
-            return;
         from.select(1, from.col(), 1, from.colSel());
         if (!moveCurrentRow(from, form.mfgImExp(1 - n)))
             break;

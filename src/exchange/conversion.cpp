@@ -42,6 +42,61 @@ QString codiceConvertito(const store::RecordVecchio& record) {
     return Zero(Val(text(record, store::vecchieMete(), u"Codice")), 6);
 }
 
+QString nomeConvertito(const store::RecordVecchio& record) {
+    return text(record, store::vecchieMete(), u"Locali");
+}
+
+CodiciConvertiti::CodiciConvertiti(const QStringList& stored, const QStringList& old) : before_(stored) {
+    for (const QString& code : stored + old)
+        taken_.insert(arrotonda(Val(code)));
+}
+
+void CodiciConvertiti::legge(const QByteArray& contents) {
+    for (const QString& line : QString::fromUtf8(contents).split(u'\n', Qt::SkipEmptyParts)) {
+        const QStringList parts = line.split(u'\t');
+        if (parts.size() == 4)
+            moved_.push_back({parts[0], parts[1], parts[2] == u"1", parts[3]});
+    }
+}
+
+void CodiciConvertiti::tiene(const std::function<bool(const Spostata&)>& isStored) {
+    std::erase_if(moved_, [&isStored](const Spostata& one) { return !isStored(one); });
+    for (const Spostata& one : moved_)
+        before_.removeAll(one.nuovo);
+}
+
+QByteArray CodiciConvertiti::contenuto() const {
+    QString lines;
+    for (const Spostata& one : moved_)
+        lines += QStringList{one.vecchio, one.nuovo, QString(one.conTappe ? u'1' : u'0'), one.nome}.join(u'\t') + u'\n';
+    return lines.toUtf8();
+}
+
+QString CodiciConvertiti::perMeta(const QString& old, const QString& name, bool taken) {
+    const auto known =
+        std::ranges::find_if(moved_, [&](const Spostata& one) { return one.vecchio == old && one.nome == name; });
+    if (known != moved_.end())
+        return known->nuovo;
+    if (!taken)
+        return old;
+    int code = 1;
+    while (taken_.contains(code))
+        ++code;
+    taken_.insert(code);
+    moved_.push_back({old, Zero(code, 6), before_.contains(old), name});
+    return moved_.back().nuovo;
+}
+
+QString CodiciConvertiti::perTappe(const QString& code) const {
+    for (const Spostata& one : moved_) {
+        if (one.nuovo == code)
+            return one.conTappe ? one.vecchio : QString();
+        if (one.vecchio == code && one.conTappe)
+            return {};
+    }
+    return code;
+}
+
 std::optional<TappaConvertita> tappaConvertita(const store::RecordVecchio& record) {
     const store::FormatoVecchio& format = store::vecchieTappe();
     constexpr qsizetype longestRoad = 64;

@@ -1,7 +1,12 @@
 // What the records of the old files become in the archive.
 #pragma once
 
+#include <functional>
 #include <optional>
+#include <set>
+#include <vector>
+
+#include <QStringList>
 
 #include "store/old_files.h"
 
@@ -11,6 +16,44 @@ namespace vanzer {
 [[nodiscard]] bool metaDaConvertire(const store::RecordVecchio& record);
 /// The code of a converted destination, six digits.
 [[nodiscard]] QString codiceConvertito(const store::RecordVecchio& record);
+[[nodiscard]] QString nomeConvertito(const store::RecordVecchio& record);
+
+/// Destinations whose code belongs to another one here come in under a free code, and their itinerary file with them.
+///
+/// Where each went is kept in a file until the conversion is whole, a line each: the old code, the new one, 1 where the
+/// itinerary file comes along (else 0), the name; parted by tabs, in UTF-8. So a conversion that was broken off goes on
+/// with the same codes.
+class CodiciConvertiti {
+  public:
+    struct Spostata {
+        QString vecchio;
+        QString nuovo;
+        bool conTappe = false;
+        QString nome;
+    };
+
+    /// `stored` are the codes in the archive, `old` those in the old file.
+    CodiciConvertiti(const QStringList& stored, const QStringList& old);
+
+    void legge(const QByteArray& contents);
+    /// Those that `isStored` doesn't confirm are forgotten: they were never stored.
+    void tiene(const std::function<bool(const Spostata&)>& isStored);
+    [[nodiscard]] QByteArray contenuto() const;
+
+    /// The code that a destination comes in under: its own, unless that is `taken` by another one; then the lowest that
+    /// is neither stored nor in the old file.
+    [[nodiscard]] QString perMeta(const QString& old, const QString& name, bool taken);
+    /// The code in the name of the itinerary file of a stored destination; empty if it has none.
+    [[nodiscard]] QString perTappe(const QString& code) const;
+
+    [[nodiscard]] const std::vector<Spostata>& spostate() const { return moved_; }
+
+  private:
+    std::set<int> taken_;
+    QStringList before_; ///< the codes that were stored before
+    std::vector<Spostata> moved_;
+};
+inline constexpr QStringView fileCodiciConvertiti = u"VanzMete.codici";
 
 /// A leg: the texts of the fields of Itinerari that it fills.
 struct TappaConvertita {

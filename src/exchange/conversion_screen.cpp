@@ -1,6 +1,7 @@
 #include "exchange/conversion_screen.h"
 
 #include <algorithm>
+#include <optional>
 
 #include <QDir>
 #include <QFile>
@@ -13,6 +14,7 @@
 #include "exchange/conversion.h"
 #include "guide/categories.h"
 #include "itinerary/leg_table_screen.h"
+#include "window/changes.h"
 #include "window/destination.h"
 #include "window/destination_screen.h"
 #include "window/modes.h"
@@ -22,6 +24,7 @@ namespace vanzer {
 namespace {
 
 const QString titolo = QStringLiteral("Conversione file");
+constexpr QStringView usualRange = u"15"; // minutes
 
 /// Two entries are one if their descriptions are the same and their places the same before a "(", capitals ignored.
 bool sameEntry(const QString& place, const QString& description, const VoceConvertita& entry) {
@@ -39,11 +42,14 @@ class Conversione {
 
     void mete() {
         const OldFile file = openFile(store::vecchieMete(), store::fileVecchieMete.toString());
-        finish(file, readRecords(QStringLiteral("Conversione file mète"), file.records, [this](const auto& record) {
-                   if (metaDaConvertire(record))
-                       writeDestination(record);
-                   return true;
-               }));
+        giveCodes(file);
+        const int left = readRecords(QStringLiteral("Conversione file mète"), file.records, [this](const auto& record) {
+            if (metaDaConvertire(record))
+                writeDestination(record);
+            return true;
+        });
+        keepCodes();
+        finish(file, left);
     }
 
     void itinerari() {
@@ -66,9 +72,13 @@ class Conversione {
         rifaCategorie();
         adegua();
         finish(file, left);
+        QFile::remove(codesFile());
     }
 
     [[nodiscard]] QString resoconto() const {
+        QStringList moved;
+        for (const CodiciConvertiti::Spostata& one : codes_->spostate())
+            moved << QStringLiteral("«%1» entra con il codice %2.").arg(one.nome, one.nuovo);
         const auto listed = [](const QStringList& names) {
             constexpr qsizetype most = 10;
             const QString rest =
@@ -76,6 +86,8 @@ class Conversione {
             return QStringList(names.first(std::min(names.size(), most))).join(u'\n') + rest;
         };
         QString text = QStringLiteral("Conversione eseguita...");
+        if (!moved.isEmpty())
+            text += QStringLiteral("\n\n") + moved.join(u'\n');
         if (left_ > 0)
             text += QStringLiteral("\n\nRecord danneggiati e non convertiti: %1.\nI file che li contengono non sono "
                                    "stati cancellati:\n%2")
@@ -100,6 +112,38 @@ class Conversione {
         if (!file.errore.isEmpty())
             throw Interruzione{QStringLiteral("Il file %1 non può essere letto:\n%2").arg(shown(path), file.errore)};
         return {path, {format, std::move(file.contenuto)}};
+    }
+
+    [[nodiscard]] QString codesFile() const {
+        return form_.archivio.PercorsoProgramma + fileCodiciConvertiti.toString();
+    }
+
+    /// The codes of a conversion that was broken off hold; while the old file is there, only those that are stored.
+    void giveCodes(const OldFile& file) {
+        QStringList old;
+        for (int n = 1; n <= file.records.numero(); ++n) {
+            if (const auto record = file.records.record(n); record && metaDaConvertire(*record))
+                old << codiceConvertito(*record);
+        }
+        codes_.emplace(codiciMemorizzati(form_), old);
+        codes_->legge(leggeFile(codesFile()).contenuto);
+        codes_->tiene([&](const CodiciConvertiti::Spostata& one) {
+            const auto holder = nameOf(one.nuovo);
+            return holder && (file.path.isEmpty() || *holder == one.nome);
+        });
+    }
+
+    void keepCodes() {
+        if (codes_->spostate().empty())
+            return;
+        if (const QString reason = scriveFile(codesFile(), codes_->contenuto()); !reason.isEmpty())
+            throw Interruzione{
+                QStringLiteral("Il file %1 non può essere scritto:\n%2").arg(shown(codesFile()), reason)};
+    }
+
+    std::optional<QString> nameOf(const QString& code) {
+        const store::Recordset& meta = open(store::MeteVanzer, {withCode(code)});
+        return meta.EOF_() ? std::nullopt : std::optional(meta.testo(u"Localita"));
     }
 
     static QString shown(const QString& path) { return QFileInfo(path).fileName(); }
@@ -171,18 +215,23 @@ class Conversione {
 
     /// Adjusted at once: a conversion that is broken off leaves no destination without its times.
     void writeDestination(const store::RecordVecchio& record) {
-        const QString code = codiceConvertito(record);
+        const QString old = codiceConvertito(record);
+        const QString name = nomeConvertito(record);
+        const auto holder = nameOf(old);
+        const QString code = codes_->perMeta(old, name, holder && !stessaMeta(*holder, name));
         store::Recordset& meta = found(store::MeteVanzer, {withCode(code)});
         meta.scrive(0, code);
         for (int field = 1; field < static_cast<int>(record.size()); ++field)
             meta.scrive(field,
                         valoreAdeguato(meta.name(field), meta.size(field), record[static_cast<std::size_t>(field)]));
+        if (Trim(meta.testo(u"Range")).isEmpty())
+            meta.scrive(u"Range", usualRange.toString());
         form_.txtLocalita.setText(meta.testo(u"Localita"));
         meta.Update();
     }
 
     void itinerario(const QString& code) {
-        const OldFile file = openFile(store::vecchieTappe(), store::fileVecchieTappe(code));
+        const OldFile file = openFile(store::vecchieTappe(), store::fileVecchieTappe(codes_->perTappe(code)));
         TappeVecchie legs = tappeDaLeggere(file.records);
         for (int i = 2; i <= legs.tappe + 1; ++i) {
             const auto record = file.records.record(i);
@@ -269,6 +318,7 @@ class Conversione {
 
     Form& form_;
     ScambioInCorso running_;
+    std::optional<CodiciConvertiti> codes_;
     double left_ = 0;
     QStringList kept_;
     QStringList stuck_;
@@ -277,8 +327,6 @@ class Conversione {
 /// What the user reads when it has ended before its time.
 void tellBrokenOff(Form& form, const QString& reason) {
     form.archivio.undoSoFar();
-    if (form.chiusa)
-        return;
     AzzeraPercentuale(form);
     form.messaggio(reason + QStringLiteral("\n\nQuanto è già stato convertito è in archivio, il resto è ancora nei "
                                            "vecchi file: la conversione si può riprendere."),
@@ -319,12 +367,12 @@ void cmdConverte_Click(Form& form) {
         form.domanda(QStringLiteral("Vuoi convertire i vecchi file nel corrente database?\n\nI dati già presenti nel "
                                     "database saranno integrati e non cancellati.\n\nProcedo?"),
                      titolo, Pulsanti::SiNo);
+    if (form.stato.Risposta == rispostaSi && !lasciaModifiche(form))
+        return;
     if (form.stato.Risposta == rispostaSi) {
         AttivaFormMeta(form, true);
         form.txtNazione.setText({});
         converte(form);
-        if (form.chiusa)
-            return;
         cercaVecchiFile(form);
     }
     RicercaMetaCorrente(form);

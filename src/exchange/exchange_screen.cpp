@@ -8,6 +8,7 @@
 #include "exchange/chosen_file_screen.h"
 #include "exchange/export_screen.h"
 #include "exchange/import_screen.h"
+#include "window/changes.h"
 #include "window/confirmation.h"
 #include "window/destination_screen.h"
 #include "window/modes.h"
@@ -53,16 +54,14 @@ void EsciExportImport(Form& form) {
 void reloadMainScreen(Form& form) {
     form.stato.CodiceMeta.clear();
     RicaricaItinerario(form);
-    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    AbilitaPulsantiMeta(form, pulsantiDiBase(form));
 }
 
-/// What was chosen comes in; nothing when the window was left meanwhile.
-std::optional<EsitoImport> importChosen(Form& form) {
+/// What was chosen comes in.
+EsitoImport importChosen(Form& form) {
     AttivaFormMeta(form, true);
     form.frmframe(22).setVisible(false);
     const EsitoImport result = leggeFileImport(form);
-    if (form.chiusa)
-        return std::nullopt;
     AzzeraPercentuale(form);
     EsciExportImport(form);
     return result;
@@ -72,13 +71,11 @@ void importDestinations(Form& form) {
     BoxConferma(form, QStringLiteral("IM"));
     if (form.stato.Risposta == rispostaSi) {
         const ElenchiSpenti off(form);
-        const auto result = importChosen(form);
-        if (!result)
-            return;
-        if (result->riuscito)
-            form.messaggio(result->testo);
+        const EsitoImport result = importChosen(form);
+        if (result.riuscito)
+            form.messaggio(result.testo);
         else
-            form.messaggio(result->testo, QStringLiteral("Import"), Icona::Avviso);
+            form.messaggio(result.testo, QStringLiteral("Import"), Icona::Avviso);
     } else {
         giveListsBack(form);
     }
@@ -100,8 +97,8 @@ bool askForFile(Form& form) {
                        QStringLiteral("Export"), Icona::Avviso);
         return false;
     }
-    return form.domanda(QStringLiteral("Il file %1 esiste già: ricopro?").arg(shown),
-                        QStringLiteral("File %1 esistente").arg(shown), Pulsanti::SiNo) == rispostaSi;
+    return form.domandaPericolosa(QStringLiteral("Il file %1 esiste già: ricopro?").arg(shown),
+                                  QStringLiteral("File %1 esistente").arg(shown)) == rispostaSi;
 }
 
 void exportDestinations(Form& form) {
@@ -113,8 +110,6 @@ void exportDestinations(Form& form) {
     if (form.stato.Risposta == rispostaSi) {
         const ElenchiSpenti off(form);
         scriveFileScambio(form);
-        if (form.chiusa)
-            return;
     } else {
         giveListsBack(form);
     }
@@ -124,24 +119,23 @@ void exportDestinations(Form& form) {
 
 } // namespace
 
-std::optional<EsitoImport> ImportaTutto(Form& form, const QString& path) {
+EsitoImport ImportaTutto(Form& form, const QString& path) {
     form.frmframe(22).setVisible(true);
     ElencaFileScambio(form, path);
-    if (form.chiusa)
-        return std::nullopt;
     cmdTutto_Click(form, 1);
-    std::optional<EsitoImport> result;
+    EsitoImport result;
     {
         const ElenchiSpenti off(form);
         result = importChosen(form);
     }
-    if (result)
-        reloadMainScreen(form);
+    reloadMainScreen(form);
     return result;
 }
 
 void cmdImExp_Click(Form& form, int n) {
     if (n != 0) {
+        if (!lasciaCampi(form))
+            return;
         form.frmframe(22).setVisible(false);
         reloadMainScreen(form);
         return;

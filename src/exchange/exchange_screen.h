@@ -17,7 +17,6 @@ void cmdTutto_Click(Form& form, int n);
 void cmdImExp_Click(Form& form, int n);
 
 /// Brings in all destinations of a file with no question and no word; the main screen shows what is there then.
-/// Nothing when the window was left meanwhile.
-[[nodiscard]] std::optional<EsitoImport> ImportaTutto(Form& form, const QString& path);
+[[nodiscard]] EsitoImport ImportaTutto(Form& form, const QString& path);
 
 } // namespace vanzer

@@ -120,16 +120,14 @@ void scriveFileScambio(Form& form) {
     const QString path = QDir::toNativeSeparators(form.stato.NomeFileScambio);
     Esportazione work(form);
     if (!work.raccoglie()) {
-        if (!form.chiusa)
-            form.messaggio(QStringLiteral("Export interrotto: il file %1 non è stato scritto.").arg(path),
-                           titoloExport);
+        form.messaggio(QStringLiteral("Export interrotto: il file %1 non è stato scritto.").arg(path), titoloExport);
         return;
     }
     tellReplaced(form, work.file().sostituiti());
-    const QString reason =
-        scriveFile(QDir(form.archivio.PercorsoProgramma).filePath(form.stato.NomeFileScambio), work.file().contenuto());
+    const QString file = QDir(form.archivio.PercorsoProgramma).filePath(form.stato.NomeFileScambio);
+    const QString reason = scriveFile(file, work.file().contenuto());
     if (reason.isEmpty())
-        form.messaggio(QStringLiteral("Le mète esportate si trovano sul file ") + path);
+        form.messaggioFile(QStringLiteral("Le mète esportate si trovano sul file ") + path, {file});
     else
         form.messaggio(QStringLiteral("Il file %1 non può essere scritto:\n%2").arg(path, reason), titoloExport,
                        Icona::Avviso);

@@ -4,6 +4,7 @@
 
 #include "exchange/choice_screen.h"
 #include "exchange/exchange_screen.h"
+#include "window/changes.h"
 #include "window/destination_screen.h"
 
 /// Resources of a library are found once this has run.
@@ -18,8 +19,10 @@ namespace {
 const QString sampleFolder = QStringLiteral(":/esempi");
 
 void offer(Form& form, const QString& path) {
-    form.frmPrimiPassi.setVisible(false);
     cmdExport_Click(form);
+    if (!form.frmframe(22).visible())
+        return;
+    form.frmPrimiPassi.setVisible(false);
     ElencaFileScambio(form, path);
 }
 
@@ -35,15 +38,15 @@ void cmdImportaViaggi_Click(Form& form) {
 }
 
 void cmdViaggiEsempio_Click(Form& form) {
+    if (!lasciaModifiche(form))
+        return;
     loadSamples();
     const QDir samples(sampleFolder);
     form.frmPrimiPassi.setVisible(false);
     for (const QString& file : samples.entryList(QDir::Files, QDir::Name)) {
-        const auto result = ImportaTutto(form, samples.filePath(file));
-        if (!result)
-            return;
-        if (!result->riuscito) {
-            form.messaggio(result->testo, QStringLiteral("Viaggi di esempio"), Icona::Avviso);
+        const EsitoImport result = ImportaTutto(form, samples.filePath(file));
+        if (!result.riuscito) {
+            form.messaggio(result.testo, QStringLiteral("Viaggi di esempio"), Icona::Avviso);
             return;
         }
     }

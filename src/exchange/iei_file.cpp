@@ -18,6 +18,25 @@ bool leftOut(QChar c) {
     return c == u'"' || (c < u' ' && c != u'\t');
 }
 
+struct Base {
+    char16_t letter;
+    char16_t written;
+};
+constexpr std::array<Base, 6> separatingLetters{
+    {{u'ÿ', u'y'}, {u'Ÿ', u'Y'}, {u'þ', u't'}, {u'Þ', u'T'}, {u'ý', u'y'}, {u'Ý', u'Y'}}};
+
+/// The text with base letters for those that part fields, which are added to `letters`.
+QString withoutSeparators(const QString& text, std::vector<LetteraSostituita>& letters) {
+    QString plain = text.normalized(QString::NormalizationForm_C); // "y" with an accent behind it is one letter
+    for (const Base& base : separatingLetters) {
+        if (!plain.contains(QChar(base.letter)))
+            continue;
+        letters.push_back({QString(QChar(base.letter)), QChar(base.written)});
+        plain.replace(QChar(base.letter), QChar(base.written));
+    }
+    return plain;
+}
+
 } // namespace
 
 QChar separatoreIei(int section) {
@@ -115,9 +134,9 @@ void ScrittoreIei::testa(int section, const QStringList& names) {
 
 void ScrittoreIei::testo(int section, const QString& text) {
     const QString trimmed = Trim(text);
-    contents_ += toCodePage(trimmed);
-    contents_ += static_cast<char>(separatoreIei(section).unicode());
     auto letters = lettereSostituite(trimmed);
+    contents_ += toCodePage(withoutSeparators(trimmed, letters));
+    contents_ += static_cast<char>(separatoreIei(section).unicode());
     if (letters.empty() || told_.contains(trimmed))
         return;
     told_.insert(trimmed);

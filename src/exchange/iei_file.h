@@ -9,8 +9,9 @@
 //     GuidaCitta    ý (byte 253)    LocalitaýCodiceGuidaý...    Romaý02ý...
 //
 // Since the columns are named, a file of another version finds its fields: columns that the table lacks are passed
-// over, fields that the file lacks are blank. Nothing protects a separator, a line break or a double quote within a
-// text.
+// over, fields that the file lacks are blank. Nothing protects a line break or a double quote within a text. The
+// letters that part the fields, and their capitals, go out as their base letters, so that a place of the guide and its
+// leg, which is written in capitals, still meet.
 #pragma once
 
 #include <array>
@@ -96,7 +97,7 @@ class ScrittoreIei {
     void fineRiga() { contents_ += "\r\n"; }
 
     [[nodiscard]] const QByteArray& contenuto() const { return contents_; }
-    /// The texts with letters that have no place in the code page, each once.
+    /// The texts with letters that don't go into the file, each once.
     [[nodiscard]] const std::vector<TestoSostituito>& sostituiti() const { return replaced_; }
 
   private:

@@ -103,9 +103,9 @@ void CaricaDaPacchetto(Form& form) {
         return;
     const PercorsoImportato route = leggePacchetto(*contents);
     if (route.formato == Pacchetto::Sconosciuto) {
-        form.messaggio(QStringLiteral("Attenzione!\n\nFile non riconosciuto!\n\n"
-                                      "Attualmente sono riconosciuti:\n. MapPoint\n. Autoroute 66\n"
-                                      ". Route 2000-2001\n\nContatta l'autore per l'eventuale abilitazione."));
+        form.rifiuta(QStringLiteral("Attenzione!\n\nFile non riconosciuto!\n\n"
+                                    "Attualmente sono riconosciuti:\n. MapPoint\n. Autoroute 66\n"
+                                    ". Route 2000-2001\n\nContatta l'autore per l'eventuale abilitazione."));
         return;
     }
     writeLegs(form, route);
@@ -144,10 +144,10 @@ void SelezionaMeteValide(Form& form) {
 
 void cmdMapPoint_Click(Form& form) {
     if (!emptyItinerary(form)) {
-        form.messaggio(QStringLiteral("Impossibile: sono presenti delle tappe!\n\n"
-                                      "E' ammesso solo con itinerario vuoto.\n\n"
-                                      "Se vuoi procedere con l'import da MapPoint,\n"
-                                      "è necessario cancellare l'itinerario."));
+        form.rifiuta(QStringLiteral("Impossibile: sono presenti delle tappe!\n\n"
+                                    "E' ammesso solo con itinerario vuoto.\n\n"
+                                    "Se vuoi procedere con l'import da MapPoint,\n"
+                                    "è necessario cancellare l'itinerario."));
         return;
     }
     if (!askForFile(form, QStringLiteral("File Excel salvato in modalità testo (*.TXT)|*.txt")))
@@ -158,8 +158,7 @@ void cmdMapPoint_Click(Form& form) {
 
 void cmdSelezionaMete_Click(Form& form) {
     if (emptyItinerary(form)) {
-        form.messaggio(QStringLiteral("Impossibile: non sono presenti delle tappe!"),
-                       QStringLiteral("Revisione tappe"));
+        form.rifiuta(QStringLiteral("Impossibile: non sono presenti delle tappe!"), QStringLiteral("Revisione tappe"));
         return;
     }
     if (!askForFile(form, QStringLiteral("File export ITN in modalità testo (*.cvs)|*.csv")))

@@ -3,6 +3,7 @@
 #include "guide/entries.h"
 #include "guide/guide_screen.h"
 #include "itinerary/leg_editor_screen.h"
+#include "window/destination_screen.h"
 
 namespace vanzer {
 
@@ -108,8 +109,9 @@ void askAndDelete(Form& form, store::Recordset& records) {
             continue;
         if (form.txtGCitta.text().size() >= 2 && !stessoGruppo(records.testo(u"Gruppo"), form.txtGGruppo.text()))
             continue;
-        if (form.domanda(QStringLiteral("Vuoi cancellare questa riga?"), QStringLiteral("Cancella riga"),
-                         Pulsanti::SiNo) == rispostaSi)
+        const QString entry = records.testo(u"Localita") + QStringLiteral(": ") + records.testo(u"Descrizione");
+        if (form.domandaPericolosa(QStringLiteral("Vuoi cancellare questa riga?"), QStringLiteral("Cancella riga"),
+                                   entry + u'\n' + descriveMeta(form)) == rispostaSi)
             records.Delete();
     }
 }
@@ -155,7 +157,7 @@ void SalvaLaRigaGuidaCitta(Form& form, bool avvisa) {
     const EsitoVoce result = controllaVoce(entry);
     if (result != EsitoVoce::Buona) {
         if (avvisa)
-            form.messaggio(messaggioVoce(result));
+            form.rifiuta(messaggioVoce(result));
         return;
     }
     storeEntry(form, entry);
@@ -181,6 +183,14 @@ void cmdCancellaRiga_Click(Form& form) {
         AggiornaTabellaRigaCorrenteItinerario(form);
     }
     form.setFocus(form.txtGDescr);
+}
+
+void cmbGTipo_Click(Form& form) {
+    const int code = CodiceTipoGuida(form.TipiGuidaDescrizione, form.cmbGTipo.text());
+    if (code < 0 || form.TipiGuidaTempoObbligatorio[static_cast<std::size_t>(code)])
+        return;
+    form.cmbGH.setText(QStringLiteral("00"));
+    form.cmbGM.setText(QStringLiteral("00"));
 }
 
 void txtGDescr_KeyDown(Form& form, int code) {

@@ -5,6 +5,7 @@
 #include "guide/entries.h"
 #include "guide/guide_screen.h"
 #include "itinerary/leg_editor_screen.h"
+#include "window/changes.h"
 #include "window/grid_layouts.h"
 #include "window/modes.h"
 
@@ -133,6 +134,8 @@ void showTime(Form& form, const QString& cell) {
 void cmdGuidaCitta_Click(Form& form) {
     StatoViaggio& s = form.stato;
     AttivaFormMeta(form, true);
+    if (!lasciaTratto(form))
+        return;
     AbilitaPulsantiMeta(form, QStringLiteral("zz"));
     form.mfgTab.setRows(1);
     form.mfgTab.setRows(s.RigheMinime);
@@ -150,7 +153,7 @@ void CreaLaListadellaGuida(Form& form) {
     StatoViaggio& s = form.stato;
     std::vector<TappaGuida> legs = readPlaces(form);
     if (legs.empty()) {
-        form.messaggio(QStringLiteral("Impossibile... non esistono tappe memorizzate!"), QStringLiteral("Guida Città"));
+        form.rifiuta(QStringLiteral("Impossibile... non esistono tappe memorizzate!"), QStringLiteral("Guida Città"));
         if (!s.FiltroGuida.isEmpty()) {
             s.FiltroGuida.clear();
             legs = readPlaces(form);

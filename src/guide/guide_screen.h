@@ -19,6 +19,8 @@ void CmdSalvaRiga_Click(Form& form);
 /// missing is told if `avvisa`, else nothing happens.
 void SalvaLaRigaGuidaCitta(Form& form, bool avvisa);
 void cmdCancellaRiga_Click(Form& form);
+/// A category that needs no time has none until one is typed.
+void cmbGTipo_Click(Form& form);
 /// The row keys store the row and move on, to the group of the next one; every other key writes the short forms out.
 void txtGDescr_KeyDown(Form& form, int code);
 /// The row keys go on from there as they do in the description.

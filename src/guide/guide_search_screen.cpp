@@ -1,6 +1,7 @@
 #include "core/text.h"
 #include "guide/entries.h"
 #include "guide/guide_screen.h"
+#include "window/changes.h"
 #include "window/destination_screen.h"
 #include "window/modes.h"
 
@@ -101,6 +102,8 @@ void cmdFineInserimento_Click(Form& form) {
     for (int r = 1; r < form.mfgTab.rows(); ++r)
         sortGroup(form, r);
     form.archivio.storeSoFar();
+    if (!lasciaCampi(form))
+        return;
     RicaricaItinerario(form);
     form.mfgTab.setHeight(altezzaGrigliaTappe);
     form.frmframe(24).setVisible(false);

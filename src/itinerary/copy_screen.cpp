@@ -67,6 +67,15 @@ void listLegs(Form& form, const QString& code) {
     form.mfgCopia.setContents(std::move(rows));
 }
 
+/// Shows the stretch as it is chosen so far, with the row at hand in it.
+void SelezioneTappeDuplica(Form& form) {
+    const auto number = [&form](int i) { return arrotonda(Val(form.txtInsNum(i).text())); };
+    const Blocco chosen = bloccoScelto(number(0), number(1), form.stato.RigaCopia);
+    form.mfgCopia.select(chosen.prima, 0, chosen.ultima, ultimaColonna);
+    form.mfgCopia.setRowAtHand(form.stato.RigaCopia);
+    enableInsertion(form);
+}
+
 /// The destination in the row at hand becomes the source.
 void RicercaDiUnaSingolaTappa(Form& form) {
     const Grid& list = form.mfgCopia;
@@ -79,18 +88,10 @@ void RicercaDiUnaSingolaTappa(Form& form) {
         for (TextBox* const field : *fields)
             field->setText({});
     }
-    enableInsertion(form);
     form.stato.PulsantiMeta = QStringLiteral("zz");
     listLegs(form, code);
     form.stato.RigaCopia = 1;
-}
-
-/// Shows the stretch as it is chosen so far.
-void SelezioneTappeDuplica(Form& form) {
-    const auto number = [&form](int i) { return arrotonda(Val(form.txtInsNum(i).text())); };
-    const Blocco chosen = bloccoScelto(number(0), number(1), form.stato.RigaCopia);
-    form.mfgCopia.select(chosen.prima, 0, chosen.ultima, ultimaColonna);
-    enableInsertion(form);
+    SelezioneTappeDuplica(form);
 }
 
 std::vector<RigaSorgente> readSource(const Grid& list) {
@@ -157,7 +158,7 @@ void cmdDuplica_Click(Form& form) {
     ImpostaGriglia(form, Disposizione::Mete);
     store::Recordset destinations = records(form, store::MeteVanzer, {}, u"Localita");
     if (destinations.EOF_()) {
-        form.messaggio(QStringLiteral("Non trovate mète memorizzate"));
+        form.rifiuta(QStringLiteral("Non trovate mète memorizzate"));
         return;
     }
     listDestinations(form, destinations);
@@ -179,6 +180,11 @@ void mfgCopia_Click(Form& form) {
     } else if (s.ModoRicerca == scegliTappa) {
         SelezioneTappeDuplica(form);
     }
+}
+
+void mfgCopia_Mark(Form& form) {
+    if (form.stato.ModoRicerca == scegliTappa)
+        mfgCopia_Click(form);
 }
 
 void cmdAssegna_Click(Form& form, int i) {
@@ -210,6 +216,7 @@ void cmdInsEsegui_Click(Form& form, int i) {
     AbilitaPulsantiComando(form);
     CalcolaKmTempiItinerario(form);
     AggiornaNumeroRiga(form);
+    mostraKmProgressivi(form);
     form.yield();
 }
 

@@ -47,9 +47,8 @@ bool kmProgressivi(double kmPrecedenti) {
 TappaControllata controllaTappa(const TappaDigitata& typed) {
     TappaControllata row;
     const double km = Val(typed.km);
-    row.km = typed.riga > 2 && kmProgressivi(typed.kmPrecedenti) && km > typed.kmPrecedenti
-                 ? testoNumero(km - typed.kmPrecedenti)
-                 : typed.km;
+    row.totale = typed.kmComeTotale && typed.riga > 2 && kmProgressivi(typed.kmPrecedenti) && km > typed.kmPrecedenti;
+    row.km = row.totale ? testoNumero(km - typed.kmPrecedenti) : typed.km;
     const QString stop = typed.sosta == u"00:00:00" ? QString() : typed.sosta;
     row.rifiuto = refusal(typed, row.km, stop);
     row.luogo = typed.luogo;

@@ -27,7 +27,8 @@ struct TappaDigitata {
     bool fineGiornata = false;
     bool primaMeta = false;
     bool ultimaMeta = false;
-    double kmPrecedenti = 0; ///< running kilometres of the row above
+    double kmPrecedenti = 0;   ///< running kilometres of the row above
+    bool kmComeTotale = false; ///< kilometres above those are a running total
 };
 
 enum class Rifiuto {
@@ -40,8 +41,9 @@ enum class Rifiuto {
 
 struct TappaControllata {
     Rifiuto rifiuto = Rifiuto::Nessuno;
-    QString km;    ///< as typed, or less what stands above where a running total was typed
-    QString luogo; ///< with its marks
+    QString km;          ///< as typed, or less what stands above where a running total was typed
+    bool totale = false; ///< such a one was typed
+    QString luogo;       ///< with its marks
     QString lettera;
     QString sosta; ///< the cell: empty for none, "*" in front for the end of the day
 };

@@ -9,6 +9,7 @@
 #include "itinerary/leg_table_screen.h"
 #include "itinerary/stretch_screen.h"
 #include "schedule/totals_screen.h"
+#include "window/changes.h"
 #include "window/destination_screen.h"
 #include "window/grid_layouts.h"
 #include "window/modes.h"
@@ -63,6 +64,13 @@ void showPlace(Form& form, const QString& cell) {
     form.txtTappa.setText(place.nome);
 }
 
+/// The options follow a row that has a road type; on any other the last choice stays.
+void showRoadType(Form& form, const QString& cell) {
+    const QString letter = Trim(cell);
+    if (const int at = posizione(QStringLiteral("ASPL"), letter); letter.size() == 1 && at > 0)
+        form.optStrada(at - 1).setValue(true);
+}
+
 void showStop(Form& form, const QString& cell) {
     QString stop = cell.isEmpty() ? QStringLiteral("00:00:00") : cell;
     const bool endOfDay = stop.startsWith(u'*');
@@ -82,6 +90,9 @@ void showRow(Form& form) {
         road = Trim(grid.cell(row - 1, 2));
     form.txtNumStrada.setText(road);
     form.txtKm.setText(Trim(grid.cell(row, 3)));
+    form.stato.KmDifferenza.clear();
+    if (!form.stato.ModoGuida)
+        showRoadType(form, grid.cell(row, 4));
     showStop(form, grid.cell(row, 7));
 }
 
@@ -94,12 +105,17 @@ QString stopTyped(const Form& form) {
 bool refused(Form& form, Rifiuto reason) {
     const QString impossible = QStringLiteral("Impossibile:\n");
     if (reason == Rifiuto::KmTroppi || reason == Rifiuto::KmELuogo)
-        form.messaggio(impossible + QStringLiteral("Indica un valore compreso tra 1 e 999"));
+        form.rifiuta(impossible + QStringLiteral("Indica un valore compreso tra 1 e 999"));
     if (reason == Rifiuto::LuogoMancante || reason == Rifiuto::KmELuogo)
-        form.messaggio(impossible + QStringLiteral("Indica il nome della località!"));
+        form.rifiuta(impossible + QStringLiteral("Indica il nome della località!"));
     if (reason == Rifiuto::NienteDaSegnare)
-        form.messaggio(QStringLiteral("Chilometri (o sosta): dato obbligatorio!"), QStringLiteral("Dato obbligatorio"));
+        form.rifiuta(QStringLiteral("Chilometri (o sosta): dato obbligatorio!"), QStringLiteral("Dato obbligatorio"));
     return reason != Rifiuto::Nessuno;
+}
+
+void clearMarkBoxes(Form& form) {
+    form.chkMeta(0).setValue(false);
+    form.chkMeta(1).setValue(false);
 }
 
 void writeRow(Form& form, const TappaControllata& row) {
@@ -111,8 +127,7 @@ void writeRow(Form& form, const TappaControllata& row) {
         CancellaFlagStartEnd(form, 0);
     if (form.chkMeta(1).value())
         CancellaFlagStartEnd(form, 1);
-    form.chkMeta(0).setValue(false);
-    form.chkMeta(1).setValue(false);
+    clearMarkBoxes(form);
     grid.setCell(r, 0, testoNumero(r));
     grid.setCell(r, 1, row.luogo);
     grid.setCell(r, 2, form.txtNumStrada.text());
@@ -121,17 +136,12 @@ void writeRow(Form& form, const TappaControllata& row) {
     grid.setCell(r, 7, row.sosta);
 }
 
-void showProgressiveBox(Form& form) {
-    form.chkKm.setVisible(false);
-    form.chkKm.setValue(false);
-    if (!form.frmframe(12).visible())
-        return;
-    if (form.stato.RigaCorrente >= 3) {
-        form.chkKm.setValue(kmProgressivi(kmAbove(form)));
-        form.chkKm.setVisible(true);
-        form.chkKm.setEnabled(true);
-    }
-    form.setFocus(form.txtTappa);
+/// Kilometres that stand in the field as the row has them are no total of anything, nor is a difference that was put
+/// there before the row was refused.
+bool kmAreTotal(const Form& form) {
+    const QString typed = Trim(form.txtKm.text());
+    const QString own = Trim(form.mfgTab.cell(form.stato.RigaCorrente, 3));
+    return form.chkKm.value() && typed != own && typed != form.stato.KmDifferenza;
 }
 
 void reloadDestination(Form& form) {
@@ -182,6 +192,7 @@ void AttivitaInserimentoItinerario(Form& form) {
     form.mfgTab.setWidth(largoAccanto);
     form.cmbRicercaTappa.setVisible(false);
     form.cmdMapPoint.setEnabled(form.stato.NumeroTappe < 2);
+    mostraKmProgressivi(form);
     form.setFocus(form.txtTappa);
     form.colonne(0).clear();
 }
@@ -218,9 +229,21 @@ void AggiornaNumeroRiga(Form& form) {
     form.yield();
 }
 
+void mostraKmProgressivi(Form& form) {
+    const bool shown = form.frmframe(12).visible() && form.stato.RigaCorrente >= 3;
+    form.chkKm.setVisible(shown);
+    form.chkKm.setEnabled(shown);
+    form.chkKm.setValue(shown && form.stato.KmProgressivi && kmProgressivi(kmAbove(form)));
+}
+
+void chkKm_Click(Form& form) {
+    form.stato.KmProgressivi = form.chkKm.value();
+}
+
 void AggiornaTabellaRigaCorrenteItinerario(Form& form) {
     AggiornaNumeroRiga(form);
-    showProgressiveBox(form);
+    mostraKmProgressivi(form);
+    focusPlace(form);
     if (form.stato.ModoGuida && form.guideRowShown)
         form.guideRowShown();
 }
@@ -242,7 +265,12 @@ void cmdInserisce_Click(Form& form) {
         .primaMeta = form.chkMeta(0).value(),
         .ultimaMeta = form.chkMeta(1).value(),
         .kmPrecedenti = kmAbove(form),
+        .kmComeTotale = kmAreTotal(form),
     });
+    if (row.totale) {
+        form.lblAvviso.setCaption(QStringLiteral("%1 letto come totale: %2 km.").arg(Trim(form.txtKm.text()), row.km));
+        s.KmDifferenza = row.km;
+    }
     form.txtKm.setText(row.km);
     if (refused(form, row.rifiuto))
         return;
@@ -255,6 +283,7 @@ void cmdInserisce_Click(Form& form) {
     form.cmdMapPoint.setEnabled(s.NumeroTappe == 0);
     focusPlace(form);
     CalcolaKmTempiItinerario(form);
+    mostraKmProgressivi(form);
 }
 
 void CancellaFlagStartEnd(Form& form, int which) {
@@ -279,6 +308,7 @@ void InserisciRigheItinerario(Form& form, int n) {
 void cmdAggiunge_Click(Form& form) {
     InserisciRigheItinerario(form, 1);
     AggiornaNumeroRiga(form);
+    mostraKmProgressivi(form);
     focusPlace(form);
 }
 
@@ -299,6 +329,7 @@ void cmdCancella_Click(Form& form) {
     }
     focusPlace(form);
     CalcolaKmTempiItinerario(form);
+    mostraKmProgressivi(form);
 }
 
 void cmdCerca_Click(Form& form) {
@@ -331,8 +362,9 @@ void cmdMemorizza_Click(Form& form) {
         MemorizzaTappeItinerario(form);
         form.stato.PulsantiItinerario = QStringLiteral("all");
         AbilitaPulsantiMeta(form, QStringLiteral("ZZ"));
-    } else if (answer == rispostaNo && form.domanda(QStringLiteral("Vuoi recuperare l'itinerario originale?"), title,
-                                                    Pulsanti::SiNo) == rispostaSi) {
+    } else if (answer == rispostaNo &&
+               form.domandaPericolosa(QStringLiteral("Vuoi recuperare l'itinerario originale?"), title) == rispostaSi &&
+               lasciaCampi(form)) {
         reloadDestination(form);
     }
 }
@@ -347,7 +379,7 @@ void cmdFine_Click(Form& form) {
                                             "Vuoi salvare le eventuali modifiche?");
     const int answer = form.domanda(question, QStringLiteral("Fine inserimento"), Pulsanti::SiNoAnnulla);
     const bool refused = answer == rispostaSi && !MemorizzaTappeItinerario(form);
-    if (answer != rispostaAnnulla && !refused) {
+    if (answer != rispostaAnnulla && !refused && lasciaCampi(form)) {
         form.frmframe(12).setVisible(false);
         form.mfgTab.setWidth(larghezzaTabella);
         reloadDestination(form);
@@ -358,8 +390,7 @@ void cmdFine_Click(Form& form) {
 }
 
 void mfgTab_Click(Form& form) {
-    form.chkMeta(0).setValue(false);
-    form.chkMeta(1).setValue(false);
+    clearMarkBoxes(form);
     const int clicked = form.mfgTab.row();
     form.stato.RigaCorrente = clicked;
     AggiornaTabellaRigaCorrenteItinerario(form);
@@ -380,15 +411,19 @@ void mfgTab_DblClick(Form& form) {
 
 void mfgTab_KeyPress(Form& form, int code) {
     constexpr int pagina = 18;
-    int& row = form.stato.RigaCorrente;
+    int by = 0;
     switch (code) {
-    case 38: --row; break;
-    case 40: ++row; break;
-    case 33: row -= pagina; break;
-    case 34: row += pagina; break;
+    case 38: by = -1; break;
+    case 40: by = 1; break;
+    case 33: by = -pagina; break;
+    case 34: by = pagina; break;
     default: break;
     }
+    if (by != 0)
+        clearMarkBoxes(form);
+    form.stato.RigaCorrente += by;
     AggiornaNumeroRiga(form);
+    mostraKmProgressivi(form);
     if (form.stato.ModoGuida && form.guideRowShown)
         form.guideRowShown();
 }

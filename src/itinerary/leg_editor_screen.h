@@ -20,7 +20,12 @@ void RimetteTappe(Form& form);
 
 /// Tidies the table's length, refreshes the fields from the current row, sets the buttons that depend on it.
 void AggiornaNumeroRiga(Form& form);
-/// After a change of row: the above, and what else belongs to the row.
+/// From the third row on, while the frame is open: whether typed kilometres above the running total of the row above
+/// are a running total themselves. On by itself where they can be, unless the user has switched it off.
+void mostraKmProgressivi(Form& form);
+/// The user's choice holds until the next one.
+void chkKm_Click(Form& form);
+/// After a change of row: all of the above.
 void AggiornaTabellaRigaCorrenteItinerario(Form& form);
 
 void cmdInserisce_Click(Form& form);

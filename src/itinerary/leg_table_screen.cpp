@@ -224,7 +224,7 @@ void SettaAZeroFlaGVisto(Form& form) {
 bool MemorizzaTappeItinerario(Form& form) {
     AzzeraPercentuale(form);
     if (recordsNeeded(form) > massimoTratti) {
-        form.messaggio(QStringLiteral("Impossibile: l'itinerario supera 9.999 tratti!"));
+        form.rifiuta(QStringLiteral("Impossibile: l'itinerario supera 9.999 tratti!"));
         return false;
     }
     const int stored = form.stato.NumeroTappe;

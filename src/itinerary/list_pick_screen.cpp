@@ -44,6 +44,7 @@ void cmbRicercaTappa_Click(Form& form) {
         AbilitaPulsantiComando(form);
         s.RigaCorrente = form.mfgTab.row();
         AggiornaNumeroRiga(form);
+        mostraKmProgressivi(form);
     }
 }
 

@@ -4,6 +4,7 @@
 #include "itinerary/leg_editor_screen.h"
 #include "itinerary/leg_table_screen.h"
 #include "itinerary/stretch.h"
+#include "window/changes.h"
 #include "window/destination_screen.h"
 #include "window/grid_layouts.h"
 #include "window/modes.h"
@@ -59,19 +60,26 @@ void close(Form& form) {
     form.mfgTab.setWidth(larghezzaTabella);
 }
 
+bool save(Form& form) {
+    if (!MemorizzaTappeItinerario(form))
+        return false;
+    form.stato.MappaModifiche.replace(u'1', u'0');
+    return true;
+}
+
+/// Asks for what was assigned; false if it was to be stored and can't be.
+bool storeIfWanted(Form& form) {
+    return !form.stato.MappaModifiche.contains(u'1') ||
+           form.domanda(QStringLiteral("Vuoi salvare le modifiche apportate?"), QStringLiteral("Salvataggio dati"),
+                        Pulsanti::SiNo) != rispostaSi ||
+           save(form);
+}
+
 void leave(Form& form) {
-    if (form.stato.MappaModifiche.contains(u'1') &&
-        form.domanda(QStringLiteral("Vuoi salvare le modifiche apportate?"), QStringLiteral("Salvataggio dati"),
-                     Pulsanti::SiNo) == rispostaSi &&
-        !MemorizzaTappeItinerario(form))
+    if (!storeIfWanted(form) || !lasciaCampi(form))
         return;
     close(form);
     RicaricaItinerario(form);
-}
-
-void save(Form& form) {
-    if (MemorizzaTappeItinerario(form))
-        form.stato.MappaModifiche.replace(u'1', u'0');
 }
 
 void showStretch(Form& form) {
@@ -100,13 +108,20 @@ void cmdModStrada_Click(Form& form) {
     form.cmdTappaSEl(2).setEnabled(false);
 }
 
+bool chiudeTratto(Form& form) {
+    if (legsInTable(form) && !storeIfWanted(form))
+        return false;
+    close(form);
+    return true;
+}
+
 void cmdTappaSEl_Click(Form& form, int i) {
     if (!legsInTable(form)) {
         if (i == 3)
             close(form);
         else
-            form.messaggio(QStringLiteral("Impossibile: nella tabella c'è la guida.\n\nChiudere prima la guida."),
-                           QStringLiteral("Modifica tratto"));
+            form.rifiuta(QStringLiteral("Impossibile: nella tabella c'è la guida.\n\nChiudere prima la guida."),
+                         QStringLiteral("Modifica tratto"));
         return;
     }
     if (form.stato.MappaModifiche.isEmpty())

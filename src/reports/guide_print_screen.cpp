@@ -81,6 +81,9 @@ class StampaGuida {
             run_.fineDocumento();
         AzzeraPercentuale(form_);
         AbilitaPulsantiMeta(form_, QStringLiteral("zz"));
+        if (!run_.fileFatti().isEmpty())
+            form_.messaggioFile(QStringLiteral("La guida è nel file:"), run_.fileFatti(), QStringLiteral("Guida Città"),
+                                Icona::Informazione);
         run_.dicePerduto();
     }
 

@@ -31,7 +31,10 @@ void CorsaDiStampa::fineDocumento() {
         unwanted_ = true;
         printer.dropDoc();
     } else {
-        passo([this, &printer] { unwanted_ = !printer.endDoc(); });
+        passo([this, &printer] {
+            unwanted_ = !printer.endDoc();
+            files_ += printer.madeFiles();
+        });
     }
 }
 

@@ -40,6 +40,8 @@ class CorsaDiStampa {
     void fineDocumento();
     /// The user didn't want the document after all.
     [[nodiscard]] bool rinunciata() const { return unwanted_; }
+    /// The files that the documents went into.
+    [[nodiscard]] const QStringList& fileFatti() const { return files_; }
     /// Tells what is missing of the print, if anything is.
     void dicePerduto();
 
@@ -49,6 +51,7 @@ class CorsaDiStampa {
     bool failed_ = false;
     bool unwanted_ = false;
     QStringList missing_;
+    QStringList files_;
 };
 
 } // namespace vanzer

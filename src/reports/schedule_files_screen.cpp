@@ -31,6 +31,10 @@ QByteArray contents(const Form& form, FormatoViandoria format) {
                           [&form](int row, int column) -> const QString& { return form.mfgTab.cell(row, column); });
 }
 
+QString fileAt(const Form& form, const QString& path) {
+    return QDir(form.archivio.PercorsoProgramma).filePath(path);
+}
+
 void askAndWrite(Form& form, FormatoViandoria format) {
     const Formato f = described(format);
     const QString title = QString::fromUtf16(f.titolo);
@@ -39,7 +43,8 @@ void askAndWrite(Form& form, FormatoViandoria format) {
         return;
     const QString shown = QDir::toNativeSeparators(path);
     if (const QString reason = scriveViandoria(form, format, path); reason.isEmpty())
-        form.messaggio(QStringLiteral("La viandoria è nel file:\n\n") + shown, title, Icona::Informazione);
+        form.messaggioFile(QStringLiteral("La viandoria è nel file:\n\n") + shown, {fileAt(form, path)}, title,
+                           Icona::Informazione);
     else
         form.messaggio(QStringLiteral("Il file %1 non è stato scritto: %2").arg(shown, reason), title, Icona::Avviso);
 }
@@ -47,7 +52,7 @@ void askAndWrite(Form& form, FormatoViandoria format) {
 } // namespace
 
 QString scriveViandoria(const Form& form, FormatoViandoria format, const QString& path) {
-    const QString file = QDir(form.archivio.PercorsoProgramma).filePath(path);
+    const QString file = fileAt(form, path);
     if (stessoFile(file, form.archivio.PercorsoDatabase))
         return QStringLiteral("è l'archivio: scegliere un altro nome.");
     return scriveFile(file, contents(form, format));

@@ -170,9 +170,13 @@ class StampaItinerario {
         if (run_.rinunciata())
             form_.messaggio(QStringLiteral("Stampa interrotta!"));
         else if (!done.isEmpty())
-            form_.messaggio(QStringLiteral("Stampa ") + done + QStringLiteral(" completata..."));
-        form_.messaggio(QStringLiteral("Stampa dei file: \n\n") + percorsoMostrato(form_, fileTabella) +
-                        QStringLiteral("\n") + percorsoMostrato(form_, placesFile) + QStringLiteral("\n\ncompletata!"));
+            form_.messaggioFile(QStringLiteral("Stampa ") + done + QStringLiteral(" completata..."), run_.fileFatti());
+        form_.messaggioFile(QStringLiteral("Stampa dei file: \n\n") + percorsoMostrato(form_, fileTabella) +
+                                QStringLiteral("\n") + percorsoMostrato(form_, placesFile) +
+                                QStringLiteral("\n\ncompletata!"),
+                            (done.isEmpty() ? run_.fileFatti() : QStringList()) +
+                                QStringList{form_.archivio.PercorsoProgramma + fileTabella.toString(),
+                                            form_.archivio.PercorsoProgramma + placesFile});
         run_.dicePerduto();
     }
 

@@ -12,6 +12,7 @@
 #include "schedule/simulation.h"
 #include "schedule/time_line_screen.h"
 #include "schedule/totals_screen.h"
+#include "window/changes.h"
 #include "window/destination_screen.h"
 #include "window/grid_layouts.h"
 #include "window/modes.h"
@@ -67,6 +68,8 @@ void showPanel(Form& form, const PannelloViandoria& panel) {
     form.txtKmTot(4).setText(migliaiaZero(panel.kmTotali));
     form.txtTempo(4).setText(ghmCentesimi2Stringa(time, s.OreGuidaGiorno));
     form.txtTragh.setText(QString::number(panel.traghetti));
+    if (panel.giuliano == 0)
+        return; // nothing was driven: the trip has no end
     const Gma date = Giul2Data(panel.giuliano);
     form.txtFine(0).setText(Zero(date.giorno, 2));
     form.txtFine(1).setText(Zero(date.mese, 2));
@@ -128,6 +131,7 @@ void abandon(Form& form) {
         AttivaFormMeta(form, true);
         form.stato.ModoRicerca = 1;
         form.cmbRicerca.setText(form.txtLocalita.text());
+        const CampiTenuti typed(form);
         RicaricaItinerario(form);
         form.cmbRicerca.setVisible(false);
     }
@@ -168,7 +172,8 @@ class Calcolo {
         if (s_.Coefficiente != 1)
             form_.archivio.scriveRicavati([this] { storeCoefficient(form_); });
         showPanel(form_, last_.pannello);
-        form_.txtFine(6).setText(QString::number(s_.GiorniCalcolati));
+        if (last_.pannello.giuliano != 0)
+            form_.txtFine(6).setText(QString::number(s_.GiorniCalcolati));
         form_.viandoria =
             std::make_shared<const ViandoriaMostrata>(ViandoriaMostrata{prepared_, std::move(last_), used_});
         showSchedule(form_);
@@ -191,18 +196,17 @@ class Calcolo {
         DatiAdeguamento data;
         data.valoreMemorizzato = storedCoefficient(form_);
         data.giorniGuida = giorniDiGuida(driving, s_.OreGuidaGiorno);
-        data.oreGuidaGiorno = s_.OreGuidaGiorno;
         if (data.giorniGuida <= s_.GiorniDesiderati)
             data.sosteTotali = prepared_->sosteGuida + prepared_->sosteItinerario;
         return data;
     }
 
     void beginSeries(Adeguamento& search) {
-        search.iniziaSerie();
-        s_.Coefficiente = search.coefficiente();
-        s_.NumeroTest = 0;
         Aggiorna(form_, false);
         ControllaVariabiliConvertite(form_);
+        search.iniziaSerie(s_.OreGuidaGiorno);
+        s_.Coefficiente = search.coefficiente();
+        s_.NumeroTest = 0;
     }
 
     bool prova(VistaCrescente& view) {

@@ -7,7 +7,7 @@ namespace vanzer {
 struct DatiAdeguamento {
     double valoreMemorizzato = 0; ///< the multiplier that fitted last
     int giorniGuida = 1;          ///< days of driving alone
-    float oreGuidaGiorno = 0;     ///< hundredths
+    float oreGuidaGiorno = 0;     ///< hundredths; given anew with each series of tests
     float sosteTotali = 0;        ///< hundredths; 0 when the driving alone passes the wanted days
 };
 
@@ -35,8 +35,8 @@ class Adeguamento {
 
     explicit Adeguamento(const DatiAdeguamento& data) : data_(data), partenza_(data.valoreMemorizzato) {}
 
-    /// A series of tests begins.
-    void iniziaSerie();
+    /// A series of tests begins; `oreGuidaGiorno` is the driving time of a day as the parameters give it now.
+    void iniziaSerie(float oreGuidaGiorno);
     /// What to do next, from the days of the test before.
     [[nodiscard]] Passo prossimo(int giorniCalcolati, int giorniDesiderati, bool conSoste);
     /// Whether the test just run was the last.

@@ -4,6 +4,7 @@
 #include "guide/marks.h"
 #include "itinerary/leg_table_screen.h"
 #include "schedule/stops.h"
+#include "window/destination_screen.h"
 #include "window/modes.h"
 
 namespace vanzer {
@@ -12,8 +13,10 @@ namespace {
 
 constexpr int colonnaSosta = 7;
 
-void addGuideStops(Form& form) {
+/// True if any stop has grown.
+bool addGuideStops(Form& form) {
     Grid& grid = form.mfgTab;
+    bool any = false;
     SettaAZeroFlaGVisto(form);
     form.stato.PercentualeTotale = grid.rows() - 1;
     SegniGuida guide(form.archivio);
@@ -25,10 +28,13 @@ void addGuideStops(Form& form) {
         std::vector<QString> times;
         for (const VoceGuida* const entry : guide.usaModello(LikeTesto(grid.cell(r, 1))))
             times.push_back(entry->tempoSosta);
-        if (!times.empty())
-            grid.setCell(r, colonnaSosta, sostaConGuida(grid.cell(r, colonnaSosta), times, form.stato.OreVisitaGiorno));
+        if (times.empty())
+            continue;
+        grid.setCell(r, colonnaSosta, sostaConGuida(grid.cell(r, colonnaSosta), times, form.stato.OreVisitaGiorno));
+        any = true;
     }
     guide.scrive();
+    return any;
 }
 
 } // namespace
@@ -38,8 +44,10 @@ void cmdTrasferisce_Click(Form& form) {
         QStringLiteral("Vuoi copiare le soste indicate nella Guida nelle tappe dell'itinerario?\n\n"
                        "I tempi traghetto e riposi non sono influenzati e la\n"
                        "modifica sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?");
-    if (form.domanda(question, QStringLiteral("Copia soste Guida -> Itinerario"), Pulsanti::SiNo) == rispostaSi)
-        addGuideStops(form);
+    if (form.domanda(question, QStringLiteral("Copia soste Guida -> Itinerario"), Pulsanti::SiNo) == rispostaSi &&
+        addGuideStops(form) && form.cmbSoste.text().startsWith(u'3'))
+        form.lblAvviso.setCaption(
+            QStringLiteral("Con \"3 - Entrambe\" le soste copiate contano due volte: nella guida e nell'itinerario."));
     AzzeraPercentuale(form);
 }
 
@@ -48,7 +56,7 @@ void cmdAzzeraSoste_Click(Form& form) {
         QStringLiteral("Vuoi azzerare le soste indicate nell'itinerario?\n\n"
                        "I tempi traghetto e riposi non sono influenzati e la\n"
                        "cancellazione sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?");
-    if (form.domanda(question, QStringLiteral("Azzera soste itinerario"), Pulsanti::SiNo) != rispostaSi)
+    if (form.domandaPericolosa(question, QStringLiteral("Azzera soste itinerario"), descriveMeta(form)) != rispostaSi)
         return;
     for (int r = 1; r < form.mfgTab.rows(); ++r)
         form.mfgTab.setCell(r, colonnaSosta, {});

@@ -40,6 +40,7 @@ void Grid::keepInside() {
     const int first = std::min(1, last);
     row_ = std::clamp(row_, first, last);
     rowSel_ = std::clamp(rowSel_, first, last);
+    rowAtHand_ = std::clamp(rowAtHand_, first, last);
     topRow_ = std::clamp(topRow_, first, last);
 }
 
@@ -274,6 +275,13 @@ void Grid::select(int row, int column, int rowSel, int colSel) {
     rowSel_ = rowSel;
     col_ = std::clamp(column, 0, columns_ - 1);
     colSel_ = std::clamp(colSel, 0, columns_ - 1);
+    rowAtHand_ = row;
+    keepInside();
+    emit selectionChanged();
+}
+
+void Grid::setRowAtHand(int row) {
+    rowAtHand_ = row;
     keepInside();
     emit selectionChanged();
 }
@@ -329,6 +337,12 @@ void Grid::clickRow(int row) {
     select(row, col_, row, colSel_);
     if (onClick)
         onClick();
+}
+
+void Grid::markRow(int row) {
+    setCurrent(row, col_);
+    if (onMark)
+        onMark();
 }
 
 void Grid::doubleClick() {

@@ -84,6 +84,9 @@ class Grid : public Control {
     void setCurrent(int row, int column);
     void select(int row, int column, int rowSel, int colSel);
     void setTopRow(int row);
+    /// The row from which the user moves on: one of the selection, its first one until another is named.
+    [[nodiscard]] int rowAtHand() const { return rowAtHand_; }
+    void setRowAtHand(int row);
 
     [[nodiscard]] int columnWidth(int column) const;
     void setColumnWidth(int column, int twips);
@@ -101,6 +104,9 @@ class Grid : public Control {
     void clickRow(int row);
     void doubleClick();
     void pressKey(int code);
+    /// The user's mark on a row of a list that is chosen from: what a button then takes.
+    void markRow(int row);
+    std::function<void()> onMark;
     std::function<void()> onClick;
     std::function<void()> onDblClick;
     std::function<void(int& code)> onKeyPress;
@@ -136,6 +142,7 @@ class Grid : public Control {
     int rowSel_ = 0;
     int colSel_ = 1;
     int topRow_ = 0;
+    int rowAtHand_ = 0;
     std::vector<int> widths_;
     std::vector<Allineamento> alignments_;
     std::unordered_set<qint64> marked_;

@@ -69,6 +69,8 @@ class Printer {
     virtual bool endDoc() = 0;
     /// Gives the document up: what wasn't sent yet never is.
     virtual void dropDoc() = 0;
+    /// The file that the document ended last went into; none for paper.
+    [[nodiscard]] virtual QStringList madeFiles() const { return {}; }
 };
 
 } // namespace vanzer

@@ -1,5 +1,7 @@
 #include "window/command.h"
 
+#include "core/text.h"
+#include "window/changes.h"
 #include "window/modes.h"
 
 namespace vanzer {
@@ -33,20 +35,25 @@ void memorizzaInsieme(Form& form, const std::function<void()>& handler) {
 }
 
 void comando(Form& form, const std::function<void()>& handler) {
-    if (form.chiusa)
+    if (form.chiusa || form.comandoInCorso)
         return;
-    if (form.comandoInCorso) {
-        handler();
-        return;
-    }
+    form.lblAvviso.setCaption({});
     const QString meta = form.stato.PulsantiMeta;
     const QString itinerario = form.stato.PulsantiItinerario;
+    // What a command sets right by itself is no change of the user's.
+    form.campiDaRicordare = form.interattiva && campiCambiati(form).isEmpty();
     try {
         memorizzaInsieme(form, handler);
     } catch (const store::StoreError& error) {
         form.messaggio(error.testo(), QStringLiteral("Archivio"), Icona::Avviso);
         giveButtonsBack(form, meta, itinerario);
     }
+    if (form.campiDaRicordare)
+        ricordaCampi(form);
+}
+
+bool interrompe(const Form& form, const Control& control) {
+    return &control == &form.cmdEsce && uguale(form.cmdEsce.caption(), u"&Stop") && control.reachable();
 }
 
 } // namespace vanzer

@@ -31,13 +31,14 @@ constexpr auto questions = std::to_array<Voce>({
 
 } // namespace
 
-void BoxConferma(Form& form, const QString& what) {
+void BoxConferma(Form& form, const QString& what, const QString& detail) {
     QString text = what;
     for (const Voce& question : questions) {
         if (uguale(what, QString::fromUtf16(question.code)))
             text = QString::fromUtf16(question.text);
     }
-    form.domanda(QStringLiteral("Confermi ") + minuscolo(text) + u'?', text, Pulsanti::SiNo);
+    const QString question = QStringLiteral("Confermi ") + minuscolo(text) + u'?';
+    detail.isEmpty() ? form.domanda(question, text, Pulsanti::SiNo) : form.domandaPericolosa(question, text, detail);
 }
 
 } // namespace vanzer

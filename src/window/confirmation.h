@@ -6,7 +6,7 @@
 namespace vanzer {
 
 /// Asks "Confermi ...?" with yes and no; `what` is a code of the known questions or a text. The answer goes to
-/// Risposta.
-void BoxConferma(Form& form, const QString& what);
+/// Risposta. `detail` names what is lost with a yes.
+void BoxConferma(Form& form, const QString& what, const QString& detail = {});
 
 } // namespace vanzer

@@ -4,6 +4,7 @@
 
 #include "core/text.h"
 #include "itinerary/leg_table_screen.h"
+#include "window/changes.h"
 #include "window/confirmation.h"
 #include "window/destination.h"
 #include "window/grid_layouts.h"
@@ -195,7 +196,7 @@ void RicercaMetaCorrente(Form& form) {
         if (!last.EOF_())
             code = last.testo(0);
     }
-    AbilitaPulsantiMeta(form, code.isEmpty() ? pulsantiArchivioVuoto.toString() : QStringLiteral("all"));
+    AbilitaPulsantiMeta(form, pulsantiDiBase(form));
 }
 
 void CaricaDatiAnagraficiMeta(Form& form) {
@@ -213,6 +214,19 @@ void CaricaDatiAnagraficiMeta(Form& form) {
 void RicaricaItinerario(Form& form) {
     CaricaDatiAnagraficiMeta(form);
     CaricaTappeItinerario(form);
+    form.campiDaRicordare = true;
+}
+
+QString descriveMeta(Form& form) {
+    using enum store::Condition::Test;
+    store::Recordset legs(
+        *form.archivio.Db(0),
+        {store::TabelleNomi(store::Itinerari), {{QStringLiteral("CodiceMeta"), Equal, form.txtCodice.text()}}, {}});
+    const qint64 n = legs.RecordCount();
+    const QString count = n == 0   ? QStringLiteral("nessuna tappa")
+                          : n == 1 ? QStringLiteral("1 tappa")
+                                   : QStringLiteral("%1 tappe").arg(n);
+    return QStringLiteral("«%1»: %2").arg(form.txtLocalita.text(), count);
 }
 
 void SalvaIlCodiceMetaCorrente(Form& form) {
@@ -236,6 +250,8 @@ void AzzeraSchermo(Form& form) {
 }
 
 void cmdNuovo_Click(Form& form) {
+    if (!lasciaModifiche(form))
+        return;
     AzzeraSchermo(form);
     AttivaFormMeta(form, true);
     form.cmbRicerca.setVisible(false);
@@ -244,19 +260,22 @@ void cmdNuovo_Click(Form& form) {
     form.txtNazione.setText({});
     form.txtCodice.setText({});
     form.cmbGiorni.setText(QStringLiteral("000"));
+    form.campiDaRicordare = true;
     AbilitaPulsantiMeta(form, form.stato.CodiceMeta.isEmpty() ? QStringLiteral("NuSaEs") : QStringLiteral("NuSaEsRi"));
 }
 
-void cmdSalva_Click(Form& form) {
+bool salvaMeta(Form& form, bool asks) {
     AttivaFormMeta(form, true);
     if (Trim(form.txtLocalita.text()).isEmpty()) {
-        form.messaggio(QStringLiteral("Campo Località: obbligatorio!"));
-        return;
+        form.rifiuta(QStringLiteral("Campo Località: obbligatorio!"));
+        return false;
     }
     if (Trim(form.txtNazione.text()).isEmpty()) {
-        form.messaggio(QStringLiteral("Campo Nazione: obbligatorio!"));
-        return;
+        form.rifiuta(QStringLiteral("Campo Nazione: obbligatorio!"));
+        return false;
     }
+    if (!lasciaTratto(form))
+        return false;
     PulisciFinestre(form);
     const QString codeBefore = form.stato.CodiceMeta;
     const QString shownBefore = form.txtCodice.text();
@@ -264,12 +283,14 @@ void cmdSalva_Click(Form& form) {
     form.stato.CodiceMeta =
         insertion ? newCode(form) : form.archivio.Rs(store::MeteVanzer).testo(QStringLiteral("CodiceMeta"));
     form.txtCodice.setText(form.stato.CodiceMeta);
-    BoxConferma(form, insertion ? QStringLiteral("I") : QStringLiteral("M"));
+    if (asks)
+        BoxConferma(form, insertion ? QStringLiteral("I") : QStringLiteral("M"));
+    const bool wanted = !asks || form.stato.Risposta == rispostaSi;
     const auto takeCodeBack = [&] {
         form.stato.CodiceMeta = codeBefore;
         form.txtCodice.setText(shownBefore);
     };
-    if (form.stato.Risposta != rispostaSi) {
+    if (!wanted) {
         takeCodeBack();
     } else {
         try {
@@ -280,16 +301,23 @@ void cmdSalva_Click(Form& form) {
         }
     }
     Aggiorna(form, true);
+    return wanted;
+}
+
+void cmdSalva_Click(Form& form) {
+    static_cast<void>(salvaMeta(form, true));
 }
 
 void cmdCancMeta_Click(Form& form) {
     AttivaFormMeta(form, true);
+    if (!lasciaModifiche(form))
+        return;
     form.frmframe(12).setVisible(false);
     form.mfgTab.setWidth(larghezzaTabella);
     CancellaMatrice(form);
     Aggiorna(form, false);
     reload(form);
-    BoxConferma(form, QStringLiteral("A"));
+    BoxConferma(form, QStringLiteral("A"), descriveMeta(form));
     if (form.stato.Risposta == rispostaSi) {
         AbilitaPulsantiMeta(form, QStringLiteral("zz"));
         CancellaTabella(form, store::Itinerari, QStringLiteral("CodiceMeta"), form.txtCodice.text());
@@ -302,12 +330,14 @@ void cmdCancMeta_Click(Form& form) {
 
 void cmdCancItin_Click(Form& form) {
     AttivaFormMeta(form, true);
-    BoxConferma(form, QStringLiteral("AI"));
+    if (!lasciaModifiche(form))
+        return;
+    BoxConferma(form, QStringLiteral("AI"), descriveMeta(form));
     if (form.stato.Risposta != rispostaSi)
         return;
     const QString sure = QStringLiteral("Sei sicuro di voler cancellare l'itinerario?\n"
                                         "In caso positivo, non sarà più recuperabile!");
-    if (form.domanda(sure, QStringLiteral("Annullamento itinerario"), Pulsanti::SiNo) != rispostaSi)
+    if (form.domandaPericolosa(sure, QStringLiteral("Annullamento itinerario"), descriveMeta(form)) != rispostaSi)
         return;
     AbilitaPulsantiMeta(form, QStringLiteral("zz"));
     CancellaTabella(form, store::Itinerari, QStringLiteral("CodiceMeta"), form.txtCodice.text());
@@ -360,6 +390,10 @@ void RichiamaMeta(Form& form, const QString& localita) {
 
 void cmbRicerca_Click(Form& form) {
     form.cmbRicerca.setVisible(false);
+    if (!lasciaModifiche(form)) {
+        RinunciaRicerca(form);
+        return;
+    }
     RichiamaMeta(form, form.cmbRicerca.text());
     AbilitaPulsantiMeta(form, QStringLiteral("all"));
 }

@@ -13,12 +13,16 @@ void CaricaDatiAnagraficiMeta(Form& form);
 void RicaricaItinerario(Form& form);
 /// txtCodice becomes the current destination, in the window and in the archive.
 void SalvaIlCodiceMetaCorrente(Form& form);
+/// The destination in the window and the number of its stored legs: "«ROMA»: 12 tappe".
+[[nodiscard]] QString descriveMeta(Form& form);
 /// A blank destination on the screen.
 void AzzeraSchermo(Form& form);
 /// The destination of that name becomes the current one; an unknown name reloads the one there was.
 void RichiamaMeta(Form& form, const QString& localita);
 
 void cmdNuovo_Click(Form& form);
+/// Stores the destination, asking first if `asks`. False if it isn't stored: a field is missing, or the answer was no.
+bool salvaMeta(Form& form, bool asks);
 void cmdSalva_Click(Form& form);
 void cmdCancMeta_Click(Form& form);
 void cmdCancItin_Click(Form& form);

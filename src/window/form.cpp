@@ -1,5 +1,7 @@
 #include "window/form.h"
 
+#include <QDir>
+
 #include "core/text.h"
 #include "window/form_texts.h"
 
@@ -125,15 +127,17 @@ Control* Form::find(const QString& name) const {
     return found == byName_.end() ? nullptr : found->second;
 }
 
-int Form::domanda(const QString& text, const QString& title, Pulsanti buttons) {
-    stato.Risposta = ports.messages.show({.text = text, .title = title, .buttons = buttons});
+int Form::chiede(const MessageBox& question) {
+    stato.Risposta = ports.messages.show(question);
     return stato.Risposta;
 }
 
+int Form::domanda(const QString& text, const QString& title, Pulsanti buttons) {
+    return chiede({.text = text, .title = title, .buttons = buttons});
+}
+
 int Form::domandaPericolosa(const QString& text, const QString& title, const QString& detail) {
-    stato.Risposta = ports.messages.show(
-        {.text = text, .title = title, .buttons = Pulsanti::SiNo, .destroys = true, .detail = detail});
-    return stato.Risposta;
+    return chiede({.text = text, .title = title, .buttons = Pulsanti::SiNo, .destroys = true, .detail = detail});
 }
 
 void Form::messaggio(const QString& text, const QString& title, Icona icon) {
@@ -145,7 +149,13 @@ void Form::rifiuta(const QString& text, const QString& title) {
 }
 
 void Form::messaggioFile(const QString& text, const QStringList& files, const QString& title, Icona icon) {
-    static_cast<void>(ports.messages.show({.text = text, .title = title, .icon = icon, .files = files}));
+    QStringList untold;
+    for (const QString& file : files) {
+        if (const QString path = QDir::toNativeSeparators(file); !text.contains(path))
+            untold << path;
+    }
+    static_cast<void>(ports.messages.show(
+        {.text = text, .title = title, .icon = icon, .detail = untold.join(u'\n'), .files = files}));
 }
 
 void Form::setDefault(Button& button) {

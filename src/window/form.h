@@ -57,7 +57,8 @@ class Form {
     [[nodiscard]] Control* find(const QString& name) const;
     [[nodiscard]] const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
 
-    /// A question: the answer stays in Risposta.
+    /// The answer stays in Risposta.
+    int chiede(const MessageBox& question);
     int domanda(const QString& text, const QString& title, Pulsanti buttons);
     /// A question whose yes deletes or overwrites what `detail` names.
     int domandaPericolosa(const QString& text, const QString& title, const QString& detail = {});
@@ -82,7 +83,10 @@ class Form {
     QString caption;
     bool chiusa = false;                 ///< the window has been left
     bool comandoInCorso = false;         ///< a command of the user is being carried out
-    bool chiedeModifiche = false;        ///< the user is asked before typed fields are cleared or reloaded
+    bool interattiva = false;            ///< a user sits before the window, not a script
+    QStringList campiMemorizzati;        ///< the fields of the destination as they count as stored
+    bool campiDaRicordare = false;       ///< at the end of the command they count so as they stand then
+    std::function<bool()> chiudeTratto;  ///< leaves the editing of a stretch; false if the user stays
     std::function<void()> guideRowShown; ///< raised when the grid's current row changes while the guide is open
 
     std::array<QString, 21> TipiGuidaDescrizione;

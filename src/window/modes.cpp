@@ -1,6 +1,7 @@
 #include "window/modes.h"
 
 #include "core/text.h"
+#include "window/changes.h"
 #include "window/grid_layouts.h"
 
 namespace vanzer {
@@ -78,6 +79,10 @@ void showCompanions(Form& form) {
 
 } // namespace
 
+QString pulsantiDiBase(const Form& form) {
+    return form.stato.CodiceMeta.isEmpty() ? pulsantiArchivioVuoto.toString() : QStringLiteral("all");
+}
+
 void AbilitaPulsantiComando(Form& form) {
     StatoViaggio& s = form.stato;
     if (isAll(s.PulsantiMeta) || isAll(s.PulsantiItinerario)) {
@@ -92,6 +97,9 @@ void AbilitaPulsantiComando(Form& form) {
         s.PulsantiItinerario = allItinerario;
     if (form.frmframe(12).visible())
         s.PulsantiMeta = QStringLiteral("F");
+    // The lists of an exchange stand over a trip that was taken away: nobody is to work on what isn't there.
+    if (form.interattiva && form.frmframe(22).visible() && !s.ScambioInCorso)
+        s.PulsantiMeta = QStringLiteral("zz");
     enableMenu(form);
     enableItinerary(form);
     showCompanions(form);
@@ -160,7 +168,8 @@ void chiedeDiInterrompere(Form& form) {
 void cmdEsce_Click(Form& form) {
     if (uguale(form.cmdEsce.caption(), u"&Stop"))
         chiedeDiInterrompere(form);
-    else if (form.domanda(QStringLiteral("Vuoi chiudere la procedura?"), fineLavoro, Pulsanti::SiNo) == rispostaSi)
+    else if (form.domanda(QStringLiteral("Vuoi chiudere la procedura?"), fineLavoro, Pulsanti::SiNo) == rispostaSi &&
+             lasciaModifiche(form))
         leaveProgram(form);
 }
 

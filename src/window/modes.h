@@ -9,6 +9,9 @@ namespace vanzer {
 /// The buttons of an archive without trips.
 inline constexpr QStringView pulsantiArchivioVuoto = u"NuImEs";
 
+/// The buttons when nothing else is going on: all of them, or those of an archive without trips.
+[[nodiscard]] QString pulsantiDiBase(const Form& form);
+
 /// Applies PulsantiMeta and PulsantiItinerario to the buttons, and yields.
 void AbilitaPulsantiComando(Form& form);
 

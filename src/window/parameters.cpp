@@ -248,6 +248,7 @@ void MetteAdesso(Form& form) {
     form.cmbInizio(3).setText(Zero(now.time().hour(), 2));
     const int quarter = now.time().minute() / 15;
     form.cmbInizio(4).setText(Zero(quarter * 15, 2));
+    MettiGiornoSett(form);
 }
 
 void CaricaRange(Form& form) {

@@ -1,22 +1,26 @@
 #include "window/parameters_screen.h"
 
 #include "schedule/totals_screen.h"
+#include "window/destination_screen.h"
+#include "window/modes.h"
 #include "window/parameters.h"
 
 namespace vanzer {
 
 void cmdDefault_Click(Form& form, int i) {
+    AttivaFormMeta(form, true);
     static constexpr std::array<const char16_t*, 3> verbs{u"salvare", u"caricare", u"ripristinare"};
     const QString title = QStringLiteral("Dati di default");
     const QString question =
         QStringLiteral("Vuoi %1 i dati di default?").arg(QString::fromUtf16(verbs[static_cast<std::size_t>(i)]));
-    if (form.domanda(question, title, Pulsanti::SiNo) != rispostaSi)
+    if (form.domandaPericolosa(question, title, descriveMeta(form)) != rispostaSi)
         return;
     if (i == 0) {
         MemorizzaVariabiliMeta(form);
         form.archivio.storeSoFar();
     } else {
         CaricaDefaultMeta(form, i == 1 ? 0 : 2);
+        form.campiDaRicordare = false; // they are the user's change
     }
     if (i == 1)
         CalcolaKmTempiItinerario(form);

@@ -28,6 +28,7 @@
 #include "schedule/stops_screen.h"
 #include "schedule/time_line_screen.h"
 #include "store/daily_copy.h"
+#include "window/changes.h"
 #include "window/command.h"
 #include "window/destination_screen.h"
 #include "window/grid_layouts.h"
@@ -58,7 +59,9 @@ void wireMenu(Form& form) {
     form.cmdRicerca.onClick = wired(form, cmdRicerca_Click);
     form.cmdCancMeta.onClick = wired(form, cmdCancMeta_Click);
     form.cmdCancItin.onClick = wired(form, cmdCancItin_Click);
-    form.cmdEsce.onClick = wired(form, cmdEsce_Click);
+    form.cmdEsce.onClick = [&form, leaves = wired(form, cmdEsce_Click)] {
+        form.comandoInCorso&& interrompe(form, form.cmdEsce) ? chiedeDiInterrompere(form) : leaves();
+    };
     form.cmdItinerario.onClick = wired(form, cmdItinerario_Click);
     form.cmdGuidaCitta.onClick = wired(form, cmdGuidaCitta_Click);
     form.cmdCalcola.onClick = wired(form, cmdCalcola_Click);
@@ -89,6 +92,7 @@ void wireLegEditor(Form& form) {
     form.cmdCerca.onClick = wired(form, cmdCerca_Click);
     form.cmdFine.onClick = wired(form, cmdFine_Click);
     form.cmdMemorizza.onClick = wired(form, cmdMemorizza_Click);
+    form.chkKm.onClick = wired(form, chkKm_Click);
     form.cmdAzzeraSoste.onClick = wired(form, cmdAzzeraSoste_Click);
     form.cmdTrasferisce.onClick = wired(form, cmdTrasferisce_Click);
     form.mfgTab.onClick = wired(form, mfgTab_Click);
@@ -101,7 +105,9 @@ void wireStretches(Form& form) {
     for (int i = 0; i < form.cmdTappaSEl.count(); ++i)
         form.cmdTappaSEl(i).onClick = wired(form, cmdTappaSEl_Click, i);
     form.cmdDuplica.onClick = wired(form, cmdDuplica_Click);
+    form.chiudeTratto = [&form] { return chiudeTratto(form); };
     form.mfgCopia.onClick = wired(form, mfgCopia_Click);
+    form.mfgCopia.onMark = wired(form, mfgCopia_Mark);
     for (int i = 0; i < 2; ++i) {
         form.cmdAssegna(i).onClick = wired(form, cmdAssegna_Click, i);
         form.cmdInsEsegui(i).onClick = wired(form, cmdInsEsegui_Click, i);
@@ -111,6 +117,7 @@ void wireStretches(Form& form) {
 void wireGuide(Form& form) {
     form.guideRowShown = [&form] { InserisciGuida(form); };
     form.cmdSalvaRiga.onClick = wired(form, CmdSalvaRiga_Click);
+    form.cmbGTipo.onClick = wired(form, cmbGTipo_Click);
     form.cmdCancellaRiga.onClick = wired(form, cmdCancellaRiga_Click);
     form.cmdFind.onClick = wired(form, cmdFind_Click);
     form.cmdFineInserimento.onClick = wired(form, cmdFineInserimento_Click);
@@ -378,7 +385,7 @@ void Form_Load(Form& form) {
         form.mfgCopia.setVisible(false);
         form.yield();
         cercaVecchiFile(form);
-        AbilitaPulsantiMeta(form, s.CodiceMeta.isEmpty() ? pulsantiArchivioVuoto.toString() : QStringLiteral("All"));
+        AbilitaPulsantiMeta(form, pulsantiDiBase(form));
         ImpostaGiorniMeseInizio(form);
         tidyGuidePlaces(form);
         loaded = true;
@@ -390,6 +397,7 @@ void Form_Load(Form& form) {
             throw;
         warnings += error.testo();
     }
+    ricordaCampi(form);
     for (const QString& warning : warnings)
         form.messaggio(warning, QStringLiteral("Archivio"), Icona::Avviso);
 }
@@ -422,7 +430,7 @@ void caricaFinestra(Form& form) {
     try {
         Form_Load(form);
     } catch (const store::StoreError& error) {
-        form.messaggio(openingFailed(form, error));
+        form.rifiuta(openingFailed(form, error));
         form.archivio.chiudi();
         form.chiusa = true;
     }

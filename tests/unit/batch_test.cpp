@@ -55,10 +55,14 @@ TEST(BatchLine, SkipsCommentsAndEmptyLines) {
 TEST(BatchBoxes, AnswerFromTheQueueThenByTheButtons) {
     QueuedBoxes boxes;
     boxes.enqueue(rispostaSi);
-    EXPECT_EQ(boxes.show(QStringLiteral("a\r\nb"), QStringLiteral("t"), Pulsanti::SiNo, Icona::Avviso), rispostaSi);
-    EXPECT_EQ(boxes.show({}, {}, Pulsanti::Ok, Icona::Nessuna), rispostaOk);
-    EXPECT_EQ(boxes.show({}, {}, Pulsanti::SiNo, Icona::Nessuna), rispostaNo);
-    EXPECT_EQ(boxes.show({}, {}, Pulsanti::SiNoAnnulla, Icona::Informazione), rispostaAnnulla);
+    EXPECT_EQ(boxes.show({.text = QStringLiteral("a\r\nb"),
+                          .title = QStringLiteral("t"),
+                          .buttons = Pulsanti::SiNo,
+                          .icon = Icona::Avviso}),
+              rispostaSi);
+    EXPECT_EQ(boxes.show({.text = {}, .buttons = Pulsanti::Ok}), rispostaOk);
+    EXPECT_EQ(boxes.show({.text = {}, .buttons = Pulsanti::SiNo}), rispostaNo);
+    EXPECT_EQ(boxes.show({.text = {}, .buttons = Pulsanti::SiNoAnnulla, .icon = Icona::Informazione}), rispostaAnnulla);
     const QJsonArray shown = boxes.exchange({});
     ASSERT_EQ(shown.size(), 4);
     EXPECT_EQ(compact(shown[0].toObject()),

@@ -82,7 +82,7 @@ TEST_F(Help, EveryButtonShowsItsMessage) {
         messages.boxes.clear();
         button->click();
         ASSERT_EQ(messages.boxes.size(), 1U);
-        const Box& box = messages.boxes.front();
+        const MessageBox& box = messages.boxes.front();
         EXPECT_EQ(box.title, u"");
         EXPECT_EQ(box.buttons, Pulsanti::Ok);
         EXPECT_EQ(box.icon, Icona::Nessuna);

@@ -80,6 +80,7 @@ TEST(EditorTappe, WhatIsRefusedAndWhatIsKept) {
         t.lettera = u"A"_s;
         t.sosta = u"00:00:00"_s;
         t.kmPrecedenti = above;
+        t.kmComeTotale = true;
         return t;
     };
     const auto with = [](TappaDigitata t, auto change) {
@@ -102,6 +103,8 @@ TEST(EditorTappe, WhatIsRefusedAndWhatIsKept) {
               }),
          Nessuno, u"10", u"A", u"*00:01:30"},
         {"running total", typed(5, u"1250", 1000), Nessuno, u"250", u"A", u""},
+        {"switched off", with(typed(5, u"950", 900), [](auto& t) { t.kmComeTotale = false; }), Nessuno, u"950", u"A",
+         u""},
         {"no running total up to 100", typed(5, u"120", 100), Nessuno, u"120", u"A", u""},
         {"no running total on row 2", typed(2, u"250", 200), Nessuno, u"250", u"A", u""},
         {"too far", typed(3, u"1000", 50), KmTroppi, u"1000", u"A", u""},

@@ -219,15 +219,18 @@ TEST_F(Conversion, WhatIsThereStaysAndEqualKeysAreOverwritten) {
     oldArchive();
     start();
     convert();
-    old(u"VanzMete.dat"_s, oldFile(store::vecchieMete(), {{u"3"_s, u"LUCCA"_s, u"ITALIA"_s}}));
+    EXPECT_EQ(column(store::MeteVanzer, u"Range"_s), u"15|15"_s);
+    old(u"VanzMete.dat"_s,
+        oldFile(store::vecchieMete(), {{u"3"_s, u"LUCCA"_s, u"ITALIA"_s}, {u"1"_s, u"roma (centro)"_s}}));
     old(u"vanz0003.dat"_s, oldItinerary({{u"1 CASA"_s}, {u"VINCI"_s}, {u"LUCCA"_s}}));
     old(u"VanzGuid.dat"_s, oldFile(store::vecchiaGuida(), {{u"Pisa (centro)"_s, u"TORRE (VISTA)"_s, u"3"_s}}));
     start();
     EXPECT_TRUE(waiting());
-    convert();
-    EXPECT_EQ(column(store::MeteVanzer, u"Localita"_s), u"ROMA|LUCCA"_s);
-    EXPECT_EQ(column(store::Itinerari, u"Localita"_s), u"TERNI|LUCCA|VINCI|LUCCA"_s);
-    EXPECT_EQ(column(store::Itinerari, u"Sequenza"_s), u"0001|0001|0002|0003"_s);
+    EXPECT_EQ(convert().last(), u"Conversione eseguita...\n\n«LUCCA» entra con il codice 000002."_s);
+    EXPECT_EQ(column(store::MeteVanzer, u"Localita"_s), u"roma (centro)|PISA|LUCCA"_s);
+    EXPECT_EQ(column(store::MeteVanzer, u"CodiceMeta"_s), u"000001|000003|000002"_s);
+    EXPECT_EQ(column(store::Itinerari, u"Localita"_s), u"TERNI|LUCCA|PISA|VINCI|LUCCA"_s);
+    EXPECT_EQ(column(store::Itinerari, u"CodiceMeta"_s), u"000001|000003|000003|000002|000002"_s);
     EXPECT_EQ(column(store::GuidaCitta, u"CodiceGuida"_s), u"01|03"_s);
 }
 
@@ -254,10 +257,19 @@ TEST_F(Conversion, DamagedRecordsAreCountedAndTheirFilesKept) {
 }
 
 TEST_F(Conversion, StoppedAnywhereItLosesNothingAndGoesOn) {
+    // ROMA's code is taken: it comes in under another one, with its legs, whenever the work is broken off.
+    old(u"VanzMete.dat"_s, oldFile(store::vecchieMete(), {{u"1"_s, u"VIENNA"_s}}));
+    old(u"vanz0001.dat"_s, oldItinerary({{u"GRAZ"_s}}));
+    start();
+    convert();
+    session.close();
+    const QString archive = directory.filePath(u"Vanzer.mdb"_s);
+    ASSERT_TRUE(QFile::copy(archive, archive + u".prima"_s));
+    const QString done = u"Conversione eseguita...\n\n«ROMA» entra con il codice 000002."_s;
     int stops = 0;
     for (int yield = 1;; ++yield) {
         session.close();
-        QFile::remove(directory.filePath(u"Vanzer.mdb"_s));
+        ASSERT_TRUE(QFile::remove(archive) && QFile::copy(archive + u".prima"_s, archive));
         oldArchive();
         start();
         int seen = 0;
@@ -270,18 +282,19 @@ TEST_F(Conversion, StoppedAnywhereItLosesNothingAndGoesOn) {
         });
         const QStringList told = convert();
         session.events.expect({});
-        if (told.last() == u"Conversione eseguita..."_s)
+        if (told.last() == done)
             break;
         ++stops;
         EXPECT_TRUE(told.last().startsWith(u"Conversione interrotta!\n"_s)) << told.last().toStdString();
         EXPECT_NE(files(), QString());
         start();
         EXPECT_TRUE(waiting()) << files().toStdString();
-        EXPECT_EQ(convert().last(), u"Conversione eseguita..."_s);
+        EXPECT_EQ(convert().last(), done);
         EXPECT_EQ(files(), QString());
-        EXPECT_EQ(column(store::MeteVanzer, u"Localita"_s), u"ROMA|PISA"_s);
-        EXPECT_EQ(column(store::MeteVanzer, u"OraPranzo"_s), u"1230|1230"_s);
-        EXPECT_EQ(column(store::Itinerari, u"Localita"_s), u"TERNI|LUCCA|PISA"_s);
+        EXPECT_EQ(column(store::MeteVanzer, u"Localita"_s), u"VIENNA|ROMA|PISA"_s);
+        EXPECT_EQ(column(store::MeteVanzer, u"OraPranzo"_s), u"1230|1230|1230"_s);
+        EXPECT_EQ(column(store::Itinerari, u"Localita"_s), u"GRAZ|TERNI|LUCCA|PISA"_s);
+        EXPECT_EQ(column(store::Itinerari, u"CodiceMeta"_s), u"000001|000002|000003|000003"_s);
         EXPECT_EQ(column(store::GuidaCitta, u"Descrizione"_s), u"Torre (la)|Torre (vista)"_s);
         EXPECT_EQ(column(store::TipoGuida, u"CodiceGuida"_s), u"01|02|03|04|05|06|07|08|09"_s);
     }

@@ -138,7 +138,7 @@ TEST(Preparazione, StretchOfTheGuide) {
 
 TEST(Adeguamento, AStoredValueThatFitsTakesOneTest) {
     Adeguamento search({0.75, 3, 925, 500});
-    search.iniziaSerie();
+    search.iniziaSerie(925);
     EXPECT_EQ(search.prossimo(0, 5, true), Adeguamento::Passo::Prova);
     EXPECT_EQ(search.coefficiente(), 0.75f);
     EXPECT_EQ(search.esito(5, 5), Adeguamento::Fine::Raggiunto);
@@ -148,7 +148,7 @@ TEST(Adeguamento, AStoredValueThatFitsTakesOneTest) {
 TEST(Adeguamento, WithoutDaysOrStopsTheMultiplierIsOne) {
     for (const bool stops : {true, false}) {
         Adeguamento search({0.75, 1, 925, 0});
-        search.iniziaSerie();
+        search.iniziaSerie(925);
         EXPECT_EQ(search.prossimo(0, stops ? 0 : 5, stops), Adeguamento::Passo::Prova);
         EXPECT_EQ(search.coefficiente(), 1);
     }
@@ -165,12 +165,12 @@ TEST(Adeguamento, SearchesByHalvingSteps) {
     };
     for (const auto& c : cases) {
         Adeguamento search({0.5, 5, 925, 0});
-        search.iniziaSerie();
+        search.iniziaSerie(925);
         std::vector<float> values;
         int series = 1;
         while (values.size() < c.values.size()) {
             if (search.prossimo(c.days, 5, true) == Adeguamento::Passo::NuovaSerie) {
-                search.iniziaSerie();
+                search.iniziaSerie(925);
                 ++series;
                 continue;
             }
@@ -183,11 +183,11 @@ TEST(Adeguamento, SearchesByHalvingSteps) {
 
 TEST(Adeguamento, EndsAfterTwentyOneTestsFromTheFreshStart) {
     // The fresh start tries the ratio once, goes on at 1, and must not come back to the ratio.
-    Adeguamento search({0, 1, 1000, 500});
-    search.iniziaSerie();
+    Adeguamento search({0, 1, 925, 500});
+    search.iniziaSerie(1000);
     EXPECT_EQ(search.prossimo(0, 5, true), Adeguamento::Passo::Prova);
     EXPECT_EQ(search.prossimo(2, 5, true), Adeguamento::Passo::NuovaSerie);
-    search.iniziaSerie();
+    search.iniziaSerie(1000);
     std::vector<float> values;
     do {
         ASSERT_EQ(search.prossimo(2, 5, true), Adeguamento::Passo::Prova);

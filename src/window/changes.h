@@ -1,0 +1,35 @@
+// Fields of the destination and its parameters that were changed and not stored. A user who sits before the window is
+// asked before they are cleared or reloaded; a script is not.
+#pragma once
+
+#include "window/form.h"
+
+namespace vanzer {
+
+/// The fields as they stand count as stored.
+void ricordaCampi(Form& form);
+
+/// The kinds of fields that differ from what is stored, in words: "nazione", "partenza"; empty if none does.
+[[nodiscard]] QStringList campiCambiati(const Form& form);
+
+/// Before fields or legs are cleared or reloaded: an open stretch is left by its own way, and changed fields are asked
+/// for, once. False if the user wants none of it, or what was to be stored can't be.
+[[nodiscard]] bool lasciaModifiche(Form& form);
+/// The same for the stretch alone, and for the fields alone.
+[[nodiscard]] bool lasciaTratto(Form& form);
+[[nodiscard]] bool lasciaCampi(Form& form);
+
+/// Keeps what the user typed over a reload that he didn't ask for. Does nothing in a script.
+class CampiTenuti {
+  public:
+    explicit CampiTenuti(Form& form);
+    ~CampiTenuti();
+    CampiTenuti(const CampiTenuti&) = delete;
+    CampiTenuti& operator=(const CampiTenuti&) = delete;
+
+  private:
+    Form& form_;
+    QStringList typed_; ///< empty if nothing was changed
+};
+
+} // namespace vanzer
