@@ -276,13 +276,11 @@ QStringList copyOfTheDay(Form& form, store::Database& archive) {
         return shown->avanza(static_cast<double>(done));
     };
     QStringList failure;
-    form.comandoInCorso = true;
     try {
         store::copiaDelGiorno(archive, form.ports.clock.now().date(), progress);
     } catch (const store::StoreError& error) {
         failure += copyFailed(form, error);
     }
-    form.comandoInCorso = false;
     if (shown) {
         AzzeraPercentuale(form);
         AbilitaPulsantiMeta(form, QStringLiteral("ZZ"));
@@ -365,6 +363,7 @@ void showCurrentTrip(Form& form) {
 
 void Form_Load(Form& form) {
     StatoViaggio& s = form.stato;
+    form.comandoInCorso = true; // till all is loaded
     s.PulsantiItinerario = QStringLiteral("ZZ");
     AbilitaPulsantiMeta(form, QStringLiteral("ZZ"));
     PulisciFinestre(form);
