@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QAccessible>
 #include <QEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -212,6 +213,21 @@ QSize WideStrip::minimumSizeHint() const {
 void WideStrip::resizeEvent(QResizeEvent* event) {
     QScrollArea::resizeEvent(event);
     updateGeometry();
+}
+
+void Notice::setText(const QString& text) {
+    if (text == this->text())
+        return;
+    QLabel::setText(text);
+    setAccessibleName(text);
+    QAccessibleEvent told(this, QAccessible::Alert);
+    if (!text.isEmpty())
+        QAccessible::updateAccessibility(&told);
+}
+
+void Notice::paintEvent(QPaintEvent* event) {
+    QPainter(this).fillRect(rect(), Tints(palette()).marked);
+    QLabel::paintEvent(event);
 }
 
 void PercentBar::show(double share, const QString& text) {

@@ -1,8 +1,9 @@
 // Widgets of the forms that the toolkit lacks: fields as wide as a number of characters, a list that can show a text
-// beside its entries, a button with two lines, the bar of the progress line.
+// beside its entries, a button with two lines, the notice and the bar of the progress line.
 #pragma once
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
@@ -112,6 +113,18 @@ class WideStrip : public QScrollArea {
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
+};
+
+/// A notice beside the progress line, on a ground of its own; screen readers tell it when it comes up. Without a text
+/// it takes no room.
+class Notice : public QLabel {
+    Q_OBJECT
+  public:
+    explicit Notice(QWidget* parent = nullptr) : QLabel(parent) { setContentsMargins(8, 0, 8, 0); }
+    void setText(const QString& text);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
 };
 
 /// The filled part of the progress line, with its text.

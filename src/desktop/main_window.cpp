@@ -54,7 +54,7 @@ QWidget* firstOf(const QWidget& frame) {
 } // namespace
 
 MainWindow::MainWindow(Form& form) : form_(form), ui_(std::make_unique<Ui::MainWindow>()), binder_(form) {
-    nameDropDowns();
+    nameOwnWidgets();
     ui_->setupUi(this);
     resize(firstSize);
     addFrames();

@@ -85,7 +85,8 @@ TEST_F(Controls, EachHasItsWidgetWithCaptionTipKeyAndName) {
         ++checked;
         EXPECT_EQ(Binder::controlName(widget->objectName()), control->name());
         EXPECT_EQ(widget->toolTip(), control->tooltip()) << name;
-        EXPECT_EQ(widget->isHidden(), !control->visible()) << name;
+        const bool emptyNotice = control.get() == &form().lblAvviso && form().lblAvviso.caption().isEmpty();
+        EXPECT_EQ(widget->isHidden(), !control->visible() || emptyNotice) << name;
         if (const auto* const captioned = dynamic_cast<const Captioned*>(control.get());
             captioned != nullptr && qobject_cast<QFrame*>(widget) == nullptr) {
             EXPECT_EQ(captionShown(*widget), captioned->caption().trimmed()) << name;
@@ -98,6 +99,22 @@ TEST_F(Controls, EachHasItsWidgetWithCaptionTipKeyAndName) {
         EXPECT_TRUE(speaks || qobject_cast<QLabel*>(widget) != nullptr) << name << " has no name for screen readers";
     }
     EXPECT_GT(checked, 140);
+}
+
+TEST_F(Controls, ANoticeTakesRoomAndIsSpokenWhileThereIsOne) {
+    const QString text = QStringLiteral("950 letto come totale: 21 km.");
+    EXPECT_FALSE(isSeen("lblAvviso"));
+    form().lblAvviso.setCaption(text);
+    window().binder().flush();
+    QCoreApplication::processEvents();
+    auto* const notice = find<QLabel>("lblAvviso");
+    EXPECT_TRUE(notice->isVisible());
+    EXPECT_GE(notice->width(), notice->sizeHint().width());
+    EXPECT_EQ(spokenName(*notice), text);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(notice)->role(), QAccessible::AlertMessage);
+    form().lblAvviso.setCaption({});
+    window().binder().flush();
+    EXPECT_FALSE(notice->isVisible());
 }
 
 TEST_F(Controls, FieldsTellByTheirGroundWhatCanBeFilledInAlsoInTheDark) {
