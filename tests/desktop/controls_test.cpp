@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QWheelEvent>
+#include <qtestspontaneevent.h>
 
 #include "desktop/text_ties.h"
 #include "desktop/tints.h"
@@ -65,6 +66,29 @@ class Controls : public DesktopTest {
         }
         for (const char* name : {"cmbOra_0", "cmbMediaKm_0", "cmbInizio_4"})
             EXPECT_EQ(find(name)->palette().color(QPalette::Button), tints.fillable) << name;
+    }
+
+    /// Fields that can be typed into now, with the line that takes the keys.
+    [[nodiscard]] std::vector<std::pair<TextControl*, QLineEdit*>> typedInto() {
+        std::vector<std::pair<TextControl*, QLineEdit*>> fields;
+        for (const auto& control : form().controls()) {
+            auto* const model = dynamic_cast<TextControl*>(control.get());
+            QWidget* const widget = model == nullptr ? nullptr : window().binder().widget(*model);
+            auto* const list = qobject_cast<QComboBox*>(widget);
+            auto* const line = list == nullptr ? qobject_cast<QLineEdit*>(widget) : list->lineEdit();
+            if (line != nullptr && line->isVisible() && line->isEnabled() && !line->isReadOnly())
+                fields.emplace_back(model, line);
+        }
+        return fields;
+    }
+
+    /// As the mouse's own wheel, one step down.
+    static void turnWheel(QWidget& over) {
+        const QPointF middle(over.rect().center());
+        QWheelEvent wheel(middle, over.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&wheel);
+        qApp->notify(&over, &wheel);
     }
 
     [[nodiscard]] static QString spokenName(QWidget& widget) {
@@ -215,6 +239,49 @@ TEST_F(Controls, TypedAndPastedTextGoesThroughTheKeyHandlers) {
     km->deselect();
     key(Qt::Key_Backspace);
     EXPECT_EQ(km->text().toStdString(), "1234");
+}
+
+/// A character that shares its number with a key that moves is a character all the same.
+TEST_F(Controls, EveryCharacterIsTypedAndNothingElse) {
+    storeTrip(3);
+    QString characters = QStringLiteral("èéàòùçñ°§€");
+    for (char16_t c = 32; c < 127; ++c)
+        characters += c;
+    const auto moved = [this] {
+        const auto stored = form().archivio.tabella(QStringLiteral("GuidaCitta")).record.size();
+        return std::tuple(form().stato.RigaCorrente, form().mfgTab.row(), form().mfgTab.rows(), stored);
+    };
+    std::set<QString> met;
+    for (const char opens : {'i', 'g'}) {
+        open();
+        letter(opens);
+        form().cmbGH.setText(QStringLiteral("01")); // with a time a description is an entry that can be stored
+        for (const auto& [model, line] : typedInto()) {
+            met.insert(model->name());
+            model->setText(QStringLiteral("1"));
+            window().binder().flush();
+            const auto before = moved();
+            for (const QChar c : characters) {
+                model->setText(QStringLiteral("1"));
+                window().binder().flush();
+                line->setFocus();
+                line->end(false);
+                write(QString(c).toUtf8().constData());
+                const int passed = model->filterKey(c.unicode());
+                const QString expected = QStringLiteral("1") + (passed < 32 ? QString() : QString(QChar(passed)));
+                ASSERT_EQ(model->text().toStdString(), expected.toStdString())
+                    << model->name().toStdString() << ", " << static_cast<int>(c.unicode());
+                ASSERT_EQ(line->text(), model->text());
+                ASSERT_EQ(moved(), before) << model->name().toStdString() << ", " << static_cast<int>(c.unicode());
+            }
+        }
+        find("mfgTab")->setFocus();
+        const auto before = moved();
+        write(characters.toUtf8().constData());
+        EXPECT_EQ(moved(), before) << "in the table";
+    }
+    EXPECT_TRUE(met.contains(QStringLiteral("txtGDescr")) && met.contains(QStringLiteral("txtTappa")) &&
+                met.contains(QStringLiteral("cmbMediaKm(0)")) && met.contains(QStringLiteral("txtLocalita")));
 }
 
 TEST_F(Controls, ListsArePickedFromAndTypedIntoAsTheirKindAllows) {
