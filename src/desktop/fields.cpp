@@ -87,6 +87,7 @@ void Field::tint() {
 DropDown::DropDown(QWidget* parent) : QComboBox(parent) {
     setInsertPolicy(QComboBox::NoInsert);
     setMaxVisibleItems(16);
+    setFocusPolicy(Qt::StrongFocus);
 }
 
 void DropDown::setCharacters(int n) {
@@ -97,6 +98,7 @@ void DropDown::setCharacters(int n) {
 void DropDown::showEntries(const QStringList& entries) {
     clear();
     addItems(entries);
+    showText(text_);
 }
 
 void DropDown::showText(const QString& text) {

@@ -39,6 +39,7 @@ class DropDown : public QComboBox {
     explicit DropDown(QWidget* parent = nullptr);
     [[nodiscard]] int characters() const { return characters_; }
     void setCharacters(int n);
+    /// The text stays, and the entry that bears it is the chosen one.
     void showEntries(const QStringList& entries);
     void showText(const QString& text);
     [[nodiscard]] const QString& shownText() const { return text_; }
@@ -50,7 +51,7 @@ class DropDown : public QComboBox {
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    /// A wheel that passes by changes nothing: only the list that has the focus turns.
+    /// A wheel that passes by changes nothing and gives no focus: only the list that has it turns.
     void wheelEvent(QWheelEvent* event) override;
 
   private:

@@ -292,9 +292,13 @@ TEST_F(Controls, ListsArePickedFromAndTypedIntoAsTheirKindAllows) {
     key(Qt::Key_Down);
     EXPECT_EQ(form().cmbOra(0).text().toStdString(), "10");
     find("cmbRange")->setFocus();
-    QWheelEvent wheel({}, {}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(hour, &wheel);
+    turnWheel(*hour);
+    turnWheel(*find<DropDown>("cmbMediaKm_0")->lineEdit());
     EXPECT_EQ(form().cmbOra(0).text().toStdString(), "10") << "a wheel that passes by";
+    EXPECT_EQ(focusName(), QStringLiteral("cmbRange"));
+    hour->setFocus();
+    turnWheel(*hour);
+    EXPECT_EQ(form().cmbOra(0).text().toStdString(), "11");
 
     auto* const speed = find<DropDown>("cmbMediaKm_0");
     speed->setFocus();
@@ -309,6 +313,28 @@ TEST_F(Controls, ListsArePickedFromAndTypedIntoAsTheirKindAllows) {
     form().cmbOra(0).setText(QStringLiteral("99"));
     window().binder().flush();
     EXPECT_EQ(hour->shownText().toStdString(), "99") << "a text beside the entries";
+}
+
+/// The arrow goes on from the entry that was chosen, whatever has become of the entries.
+TEST_F(Controls, ListsMadeAnewKeepTheirEntry) {
+    form().cmbInizio(0).pick(QStringLiteral("27"));
+    form().cmbInizio(1).pick(QStringLiteral("06"));
+    const struct {
+        const char* list;
+        const char* chosen;
+        const char* next;
+    } cases[] = {{"cmbInizio_1", "06", "07"}, {"cmbInizio_0", "27", "28"}, {"cmbGTipo", "Ottimo", "Da vedere"}};
+    seeAllFrames();
+    for (const auto& c : cases) {
+        auto& model = *dynamic_cast<ListControl*>(form().find(Binder::controlName(QLatin1StringView(c.list))));
+        auto* const list = find<DropDown>(c.list);
+        EXPECT_EQ(list->shownText().toStdString(), c.chosen);
+        const QStringList entries = model.entries();
+        model.setEntries(entries + QStringList(QStringLiteral("~")));
+        window().binder().flush();
+        QTest::keyClick(list, Qt::Key_Down);
+        EXPECT_EQ(model.text().toStdString(), c.next);
+    }
 }
 
 TEST_F(Controls, FocusThatLeavesAnHourChecksTheClock) {
