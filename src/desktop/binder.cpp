@@ -103,6 +103,8 @@ void Binder::input(const std::function<void()>& handler) {
     flush();
     if (form_.chiusa && !std::exchange(closedTold_, true))
         emit closed();
+    else
+        emit inputEnded();
 }
 
 void Binder::flush() {

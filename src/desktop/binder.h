@@ -47,6 +47,8 @@ class Binder : public QObject {
   signals:
     /// An input begins; nothing of it has run yet.
     void inputBegins();
+    /// All that an input led to has run and is shown.
+    void inputEnded();
     /// The window has been left.
     void closed();
 

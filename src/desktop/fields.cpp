@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QAccessible>
 #include <QEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -86,6 +87,7 @@ void Field::tint() {
 DropDown::DropDown(QWidget* parent) : QComboBox(parent) {
     setInsertPolicy(QComboBox::NoInsert);
     setMaxVisibleItems(16);
+    setFocusPolicy(Qt::StrongFocus);
 }
 
 void DropDown::setCharacters(int n) {
@@ -96,6 +98,7 @@ void DropDown::setCharacters(int n) {
 void DropDown::showEntries(const QStringList& entries) {
     clear();
     addItems(entries);
+    showText(text_);
 }
 
 void DropDown::showText(const QString& text) {
@@ -212,6 +215,21 @@ QSize WideStrip::minimumSizeHint() const {
 void WideStrip::resizeEvent(QResizeEvent* event) {
     QScrollArea::resizeEvent(event);
     updateGeometry();
+}
+
+void Notice::setText(const QString& text) {
+    if (text == this->text())
+        return;
+    QLabel::setText(text);
+    setAccessibleName(text);
+    QAccessibleEvent told(this, QAccessible::Alert);
+    if (!text.isEmpty())
+        QAccessible::updateAccessibility(&told);
+}
+
+void Notice::paintEvent(QPaintEvent* event) {
+    QPainter(this).fillRect(rect(), Tints(palette()).marked);
+    QLabel::paintEvent(event);
 }
 
 void PercentBar::show(double share, const QString& text) {

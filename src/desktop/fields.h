@@ -1,8 +1,9 @@
 // Widgets of the forms that the toolkit lacks: fields as wide as a number of characters, a list that can show a text
-// beside its entries, a button with two lines, the bar of the progress line.
+// beside its entries, a button with two lines, the notice and the bar of the progress line.
 #pragma once
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
@@ -38,6 +39,7 @@ class DropDown : public QComboBox {
     explicit DropDown(QWidget* parent = nullptr);
     [[nodiscard]] int characters() const { return characters_; }
     void setCharacters(int n);
+    /// The text stays, and the entry that bears it is the chosen one.
     void showEntries(const QStringList& entries);
     void showText(const QString& text);
     [[nodiscard]] const QString& shownText() const { return text_; }
@@ -49,7 +51,7 @@ class DropDown : public QComboBox {
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    /// A wheel that passes by changes nothing: only the list that has the focus turns.
+    /// A wheel that passes by changes nothing and gives no focus: only the list that has it turns.
     void wheelEvent(QWheelEvent* event) override;
 
   private:
@@ -112,6 +114,18 @@ class WideStrip : public QScrollArea {
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
+};
+
+/// A notice beside the progress line, on a ground of its own; screen readers tell it when it comes up. Without a text
+/// it takes no room.
+class Notice : public QLabel {
+    Q_OBJECT
+  public:
+    explicit Notice(QWidget* parent = nullptr) : QLabel(parent) { setContentsMargins(8, 0, 8, 0); }
+    void setText(const QString& text);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
 };
 
 /// The filled part of the progress line, with its text.

@@ -1,6 +1,7 @@
 #include "desktop/main_window.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -54,7 +55,7 @@ QWidget* firstOf(const QWidget& frame) {
 } // namespace
 
 MainWindow::MainWindow(Form& form) : form_(form), ui_(std::make_unique<Ui::MainWindow>()), binder_(form) {
-    nameDropDowns();
+    nameOwnWidgets();
     ui_->setupUi(this);
     resize(firstSize);
     addFrames();
@@ -63,6 +64,10 @@ MainWindow::MainWindow(Form& form) : form_(form), ui_(std::make_unique<Ui::MainW
     form_.onManuale = [this] { showManual(); };
     watchLetters(*this);
     connect(&binder_, &Binder::closed, this, &QWidget::close);
+    connect(&binder_, &Binder::inputEnded, this, [this] {
+        if (std::exchange(closeWaits_, false))
+            close();
+    });
     layOutFrames();
 }
 
@@ -243,7 +248,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     if (!form_.chiusa) {
-        binder_.input([this] { chiedeDiChiudere(form_); });
+        binder_.input([this] { closeWaits_ = !chiedeDiChiudere(form_); });
         event->setAccepted(form_.chiusa);
     }
     if (event->isAccepted())

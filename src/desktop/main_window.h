@@ -55,6 +55,7 @@ class MainWindow : public QWidget {
     std::vector<QWidget*> frames_;                       ///< over and beside the table; null until they are seen
     std::map<const QWidget*, QPointer<QWidget>> before_; ///< what had the focus before a frame took it
     QPointer<ManualWindow> manual_;
+    bool closeWaits_ = false; ///< the window is to be left when the running command has ended
     Binder binder_;
 };
 

@@ -36,14 +36,17 @@ class SpokenDropDown : public QAccessibleWidget {
     [[nodiscard]] DropDown& list() const { return *static_cast<DropDown*>(widget()); }
 };
 
+/// The platform deletes what is made.
 QAccessibleInterface* made(const QString& /*className*/, QObject* object) {
+    if (auto* const notice = qobject_cast<Notice*>(object))
+        return new QAccessibleWidget(notice, QAccessible::AlertMessage);
     auto* const list = qobject_cast<DropDown*>(object);
-    return list == nullptr ? nullptr : new SpokenDropDown(*list); // the platform deletes it
+    return list == nullptr ? nullptr : new SpokenDropDown(*list);
 }
 
 } // namespace
 
-void nameDropDowns() {
+void nameOwnWidgets() {
     static const bool once = (QAccessible::installFactory(made), true);
     static_cast<void>(once);
 }

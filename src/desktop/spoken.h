@@ -3,8 +3,8 @@
 
 namespace vanzer::desktop {
 
-/// From now on a drop-down list says its name, and the text that it shows as its value. The platform's own would say
-/// the text in place of the name.
-void nameDropDowns();
+/// From now on a drop-down list says its name, and the text that it shows as its value; the platform's own would say
+/// the text in place of the name. A notice is an alert, which is told when it comes up.
+void nameOwnWidgets();
 
 } // namespace vanzer::desktop

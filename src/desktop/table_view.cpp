@@ -247,13 +247,9 @@ void TableView::keyPressEvent(QKeyEvent* event) {
         return;
     }
     const int moving = rowKeyCode(event->key());
-    const bool confirms = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (moving == 0 && (confirms || event->text().isEmpty() || event->key() == Qt::Key_Escape)) {
-        event->ignore();
-        return;
-    }
-    emit keyCode(moving != 0 ? moving : static_cast<int>(event->text().at(0).unicode()));
-    event->accept();
+    event->setAccepted(moving != 0);
+    if (moving != 0)
+        emit keyCode(moving);
 }
 
 /// A text that its cell can't show whole is told beside the mouse.

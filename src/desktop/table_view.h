@@ -34,7 +34,7 @@ class TableView : public QTableView {
     void rowDoubleClicked(int row);
     /// A key moved the mark of a table that is chosen from.
     void rowMarked(int row);
-    /// Arrows and page keys come as 38, 40, 33, 34, every other key as its character code.
+    /// Arrows and page keys: 38, 40, 33, 34.
     void keyCode(int code);
     void scrolledTo(int topRow);
 

@@ -11,7 +11,8 @@ namespace {
 constexpr int backspace = 8;
 constexpr int firstCharacter = 32;
 
-/// Key-down codes: letters and digits are their own, the keys that move have those of old.
+/// Key-down codes: letters, digits and the blank are their own, the keys that move have those of old; 0 for all other
+/// characters, whose numbers are those of keys that move.
 int keyDownCode(int key) {
     switch (key) {
     case Qt::Key_End: return 35;
@@ -23,8 +24,11 @@ int keyDownCode(int key) {
     case Qt::Key_Return:
     case Qt::Key_Enter: return 13;
     case Qt::Key_Escape: return 27;
-    default: return key >= firstCharacter && key <= Qt::Key_Z ? key : rowKeyCode(key);
+    default: break;
     }
+    const bool own =
+        key == Qt::Key_Space || (key >= Qt::Key_0 && key <= Qt::Key_9) || (key >= Qt::Key_A && key <= Qt::Key_Z);
+    return own ? key : rowKeyCode(key);
 }
 
 qsizetype commonStart(const QString& a, const QString& b) {

@@ -76,10 +76,19 @@ template<typename View> class LabelTie : public Tie {
 
   protected:
     void showOwn() override { label_.setText(model_.caption()); }
+    [[nodiscard]] const QString& caption() const { return model_.caption(); }
 
   private:
     Label& model_;
     View& label_;
+};
+
+class NoticeTie : public LabelTie<Notice> {
+  public:
+    using LabelTie<Notice>::LabelTie;
+
+  protected:
+    [[nodiscard]] bool visible() const override { return Tie::visible() && !caption().isEmpty(); }
 };
 
 /// A frame that another one holds may have its form elsewhere in the window, and follows that one all the same.
@@ -189,9 +198,10 @@ void Tie::show() {
 
 std::unique_ptr<Tie> makeTie(Control& control, QWidget& widget, Binder& binder) {
     using Maker = std::unique_ptr<Tie> (*)(Control&, QWidget&, Binder&);
-    constexpr std::array<Maker, 11> makers{made<Button, QPushButton, ButtonTie>,
+    constexpr std::array<Maker, 12> makers{made<Button, QPushButton, ButtonTie>,
                                            made<CheckBox, QCheckBox, CheckTie>,
                                            made<OptionButton, QRadioButton, OptionTie>,
+                                           made<Label, Notice, NoticeTie>,
                                            made<Label, QLabel, LabelTie<QLabel>>,
                                            made<Label, ShortenedLabel, LabelTie<ShortenedLabel>>,
                                            made<Frame, QGroupBox, FrameTie>,

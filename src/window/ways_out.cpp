@@ -1,25 +1,69 @@
 #include "window/ways_out.h"
 
 #include <algorithm>
+#include <array>
 
+#include "core/text.h"
 #include "guide/guide_screen.h"
 #include "reports/print_screen.h"
+#include "window/command.h"
 #include "window/destination_screen.h"
 #include "window/modes.h"
 
 namespace vanzer {
 
-void chiedeDiChiudere(Form& form) {
-    Button* const waysOut[] = {
-        &form.cmdEsce,         &form.cmdFine,      &form.cmdSelStampante(1), &form.cmdFineInserimento,
-        &form.cmdInsEsegui(1), &form.cmdEsegui(1), &form.cmdImExp(1),        &form.cmdTappaSEl(3)};
-    for (Button* const button : waysOut) {
-        if (button->reachable()) {
-            button->click();
-            return;
-        }
+namespace {
+
+/// A thing of the window that can be open, and what leaves it.
+struct Aperto {
+    bool (*open)(const Form& form);
+    void (*leave)(Form& form);
+};
+
+/// From the top down: what lies over another thing goes before it.
+constexpr std::array<Aperto, 10> apribili{{
+    {[](const Form& f) { return f.frmframe(23).visible(); }, [](Form& f) { f.cmdSelStampante(1).click(); }},
+    {[](const Form& f) { return f.frmframe(18).visible(); }, [](Form& f) { f.cmdEsegui(1).click(); }},
+    {[](const Form& f) { return f.frmframe(25).visible(); }, [](Form& f) { f.cmdStampaGuida(1).click(); }},
+    {[](const Form& f) { return f.frmframe(19).visible(); }, [](Form& f) { f.cmdInsEsegui(1).click(); }},
+    {[](const Form& f) { return f.cmbRicercaTappa.visible() && f.stato.ModoGuida; },
+     [](Form& f) { comando(f, [&f] { RinunciaRicercaGuida(f); }); }},
+    {[](const Form& f) { return f.cmbRicercaTappa.visible() || f.frmframe(17).visible(); },
+     [](Form& f) { f.cmdFine.click(); }},
+    {[](const Form& f) { return f.frmframe(1).visible(); }, [](Form& f) { f.cmdTappaSEl(3).click(); }},
+    {[](const Form& f) { return f.frmframe(12).visible() || f.frmframe(24).visible(); },
+     [](Form& f) { (f.frmframe(12).visible() ? f.cmdFine : f.cmdFineInserimento).click(); }},
+    {[](const Form& f) { return f.frmframe(22).visible(); }, [](Form& f) { f.cmdImExp(1).click(); }},
+    {[](const Form& f) { return f.cmbRicerca.visible(); }, [](Form& f) { comando(f, [&f] { RinunciaRicerca(f); }); }},
+}};
+
+/// Asks the work that is running to end; false if it can't be asked.
+bool asksToInterrupt(Form& form) {
+    if (form.stato.StampaInCorso)
+        chiedeDiInterrompereLaStampa(form);
+    else if (form.stato.ScambioInCorso)
+        chiedeDiInterrompere(form);
+    else if (uguale(form.cmdEsce.caption(), u"&Stop") && form.cmdEsce.reachable())
+        form.cmdEsce.click();
+    else
+        return false;
+    return true;
+}
+
+} // namespace
+
+bool chiedeDiChiudere(Form& form) {
+    if (form.comandoInCorso)
+        return asksToInterrupt(form);
+    for (const Aperto& thing : apribili) {
+        if (!thing.open(form))
+            continue;
+        thing.leave(form);
+        if (thing.open(form))
+            return true;
     }
-    rinunciaAllaScelta(form);
+    form.cmdEsce.click();
+    return true;
 }
 
 void rinunciaAllaScelta(Form& form) {

@@ -6,8 +6,10 @@
 
 namespace vanzer {
 
-/// The close button: "&Esce" or "&Stop" where it can be pressed, else the button that leaves the open frame.
-void chiedeDiChiudere(Form& form);
+/// The close button: leaves what is open, one thing after the other and each with its own question, then asks to leave
+/// the program. Stops at the first that stays open. Running work is asked to end; false if it can't be asked, so that
+/// the wish has to wait for its end.
+bool chiedeDiChiudere(Form& form);
 
 /// Esc: leaves a list that was opened to pick from, with nothing picked, and the frames of a print, of a copy, of a
 /// stretch and of the exchange; a print, an import or an export that is running may be given up. Does nothing

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QWheelEvent>
+#include <qtestspontaneevent.h>
 
 #include "desktop/text_ties.h"
 #include "desktop/tints.h"
@@ -67,6 +68,29 @@ class Controls : public DesktopTest {
             EXPECT_EQ(find(name)->palette().color(QPalette::Button), tints.fillable) << name;
     }
 
+    /// Fields that can be typed into now, with the line that takes the keys.
+    [[nodiscard]] std::vector<std::pair<TextControl*, QLineEdit*>> typedInto() {
+        std::vector<std::pair<TextControl*, QLineEdit*>> fields;
+        for (const auto& control : form().controls()) {
+            auto* const model = dynamic_cast<TextControl*>(control.get());
+            QWidget* const widget = model == nullptr ? nullptr : window().binder().widget(*model);
+            auto* const list = qobject_cast<QComboBox*>(widget);
+            auto* const line = list == nullptr ? qobject_cast<QLineEdit*>(widget) : list->lineEdit();
+            if (line != nullptr && line->isVisible() && line->isEnabled() && !line->isReadOnly())
+                fields.emplace_back(model, line);
+        }
+        return fields;
+    }
+
+    /// As the mouse's own wheel, one step down.
+    static void turnWheel(QWidget& over) {
+        const QPointF middle(over.rect().center());
+        QWheelEvent wheel(middle, over.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&wheel);
+        qApp->notify(&over, &wheel);
+    }
+
     [[nodiscard]] static QString spokenName(QWidget& widget) {
         QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(&widget);
         return face == nullptr ? QString() : face->text(QAccessible::Name);
@@ -85,7 +109,8 @@ TEST_F(Controls, EachHasItsWidgetWithCaptionTipKeyAndName) {
         ++checked;
         EXPECT_EQ(Binder::controlName(widget->objectName()), control->name());
         EXPECT_EQ(widget->toolTip(), control->tooltip()) << name;
-        EXPECT_EQ(widget->isHidden(), !control->visible()) << name;
+        const bool emptyNotice = control.get() == &form().lblAvviso && form().lblAvviso.caption().isEmpty();
+        EXPECT_EQ(widget->isHidden(), !control->visible() || emptyNotice) << name;
         if (const auto* const captioned = dynamic_cast<const Captioned*>(control.get());
             captioned != nullptr && qobject_cast<QFrame*>(widget) == nullptr) {
             EXPECT_EQ(captionShown(*widget), captioned->caption().trimmed()) << name;
@@ -98,6 +123,22 @@ TEST_F(Controls, EachHasItsWidgetWithCaptionTipKeyAndName) {
         EXPECT_TRUE(speaks || qobject_cast<QLabel*>(widget) != nullptr) << name << " has no name for screen readers";
     }
     EXPECT_GT(checked, 140);
+}
+
+TEST_F(Controls, ANoticeTakesRoomAndIsSpokenWhileThereIsOne) {
+    const QString text = QStringLiteral("950 letto come totale: 21 km.");
+    EXPECT_FALSE(isSeen("lblAvviso"));
+    form().lblAvviso.setCaption(text);
+    window().binder().flush();
+    QCoreApplication::processEvents();
+    auto* const notice = find<QLabel>("lblAvviso");
+    EXPECT_TRUE(notice->isVisible());
+    EXPECT_GE(notice->width(), notice->sizeHint().width());
+    EXPECT_EQ(spokenName(*notice), text);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(notice)->role(), QAccessible::AlertMessage);
+    form().lblAvviso.setCaption({});
+    window().binder().flush();
+    EXPECT_FALSE(notice->isVisible());
 }
 
 TEST_F(Controls, FieldsTellByTheirGroundWhatCanBeFilledInAlsoInTheDark) {
@@ -200,6 +241,49 @@ TEST_F(Controls, TypedAndPastedTextGoesThroughTheKeyHandlers) {
     EXPECT_EQ(km->text().toStdString(), "1234");
 }
 
+/// A character that shares its number with a key that moves is a character all the same.
+TEST_F(Controls, EveryCharacterIsTypedAndNothingElse) {
+    storeTrip(3);
+    QString characters = QStringLiteral("èéàòùçñ°§€");
+    for (char16_t c = 32; c < 127; ++c)
+        characters += c;
+    const auto moved = [this] {
+        const auto stored = form().archivio.tabella(QStringLiteral("GuidaCitta")).record.size();
+        return std::tuple(form().stato.RigaCorrente, form().mfgTab.row(), form().mfgTab.rows(), stored);
+    };
+    std::set<QString> met;
+    for (const char opens : {'i', 'g'}) {
+        open();
+        letter(opens);
+        form().cmbGH.setText(QStringLiteral("01")); // with a time a description is an entry that can be stored
+        for (const auto& [model, line] : typedInto()) {
+            met.insert(model->name());
+            model->setText(QStringLiteral("1"));
+            window().binder().flush();
+            const auto before = moved();
+            for (const QChar c : characters) {
+                model->setText(QStringLiteral("1"));
+                window().binder().flush();
+                line->setFocus();
+                line->end(false);
+                write(QString(c).toUtf8().constData());
+                const int passed = model->filterKey(c.unicode());
+                const QString expected = QStringLiteral("1") + (passed < 32 ? QString() : QString(QChar(passed)));
+                ASSERT_EQ(model->text().toStdString(), expected.toStdString())
+                    << model->name().toStdString() << ", " << static_cast<int>(c.unicode());
+                ASSERT_EQ(line->text(), model->text());
+                ASSERT_EQ(moved(), before) << model->name().toStdString() << ", " << static_cast<int>(c.unicode());
+            }
+        }
+        find("mfgTab")->setFocus();
+        const auto before = moved();
+        write(characters.toUtf8().constData());
+        EXPECT_EQ(moved(), before) << "in the table";
+    }
+    EXPECT_TRUE(met.contains(QStringLiteral("txtGDescr")) && met.contains(QStringLiteral("txtTappa")) &&
+                met.contains(QStringLiteral("cmbMediaKm(0)")) && met.contains(QStringLiteral("txtLocalita")));
+}
+
 TEST_F(Controls, ListsArePickedFromAndTypedIntoAsTheirKindAllows) {
     auto* const hour = find<DropDown>("cmbOra_0");
     hour->setFocus();
@@ -208,9 +292,13 @@ TEST_F(Controls, ListsArePickedFromAndTypedIntoAsTheirKindAllows) {
     key(Qt::Key_Down);
     EXPECT_EQ(form().cmbOra(0).text().toStdString(), "10");
     find("cmbRange")->setFocus();
-    QWheelEvent wheel({}, {}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(hour, &wheel);
+    turnWheel(*hour);
+    turnWheel(*find<DropDown>("cmbMediaKm_0")->lineEdit());
     EXPECT_EQ(form().cmbOra(0).text().toStdString(), "10") << "a wheel that passes by";
+    EXPECT_EQ(focusName(), QStringLiteral("cmbRange"));
+    hour->setFocus();
+    turnWheel(*hour);
+    EXPECT_EQ(form().cmbOra(0).text().toStdString(), "11");
 
     auto* const speed = find<DropDown>("cmbMediaKm_0");
     speed->setFocus();
@@ -225,6 +313,28 @@ TEST_F(Controls, ListsArePickedFromAndTypedIntoAsTheirKindAllows) {
     form().cmbOra(0).setText(QStringLiteral("99"));
     window().binder().flush();
     EXPECT_EQ(hour->shownText().toStdString(), "99") << "a text beside the entries";
+}
+
+/// The arrow goes on from the entry that was chosen, whatever has become of the entries.
+TEST_F(Controls, ListsMadeAnewKeepTheirEntry) {
+    form().cmbInizio(0).pick(QStringLiteral("27"));
+    form().cmbInizio(1).pick(QStringLiteral("06"));
+    const struct {
+        const char* list;
+        const char* chosen;
+        const char* next;
+    } cases[] = {{"cmbInizio_1", "06", "07"}, {"cmbInizio_0", "27", "28"}, {"cmbGTipo", "Ottimo", "Da vedere"}};
+    seeAllFrames();
+    for (const auto& c : cases) {
+        auto& model = *dynamic_cast<ListControl*>(form().find(Binder::controlName(QLatin1StringView(c.list))));
+        auto* const list = find<DropDown>(c.list);
+        EXPECT_EQ(list->shownText().toStdString(), c.chosen);
+        const QStringList entries = model.entries();
+        model.setEntries(entries + QStringList(QStringLiteral("~")));
+        window().binder().flush();
+        QTest::keyClick(list, Qt::Key_Down);
+        EXPECT_EQ(model.text().toStdString(), c.next);
+    }
 }
 
 TEST_F(Controls, FocusThatLeavesAnHourChecksTheClock) {

@@ -107,7 +107,7 @@ void DesktopTest::write(const char* text) {
     for (const QChar c : QString::fromUtf8(text)) {
         QWidget* const focus = QApplication::focusWidget();
         ASSERT_NE(focus, nullptr);
-        QTest::sendKeyEvent(QTest::Click, focus, Qt::Key_unknown, c, Qt::NoModifier);
+        QTest::sendKeyEvent(QTest::Click, focus, static_cast<Qt::Key>(c.toUpper().unicode()), c, Qt::NoModifier);
     }
 }
 

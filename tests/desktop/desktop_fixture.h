@@ -75,6 +75,7 @@ class DesktopTest : public ::testing::Test {
 
     /// To whatever has the focus.
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// Each character with its own key, as on a keyboard that has one for it.
     void write(const char* text);
     /// An Alt letter.
     void letter(char c) { key(QChar(QLatin1Char(c)).toUpper().unicode(), Qt::AltModifier); }
