@@ -198,6 +198,23 @@ bool MainWindow::pressMnemonic(QWidget& widget, bool ambiguous) {
     return true;
 }
 
+bool MainWindow::pressLetter(const QKeyEvent& key) {
+    if (key.modifiers() != Qt::AltModifier)
+        return false;
+    QList<QWidget*> having;
+    for (QWidget* const widget : findChildren<QWidget*>()) {
+        if (mnemonic(*widget) == QKeySequence(key.keyCombination()) && widget->isVisible() && widget->isEnabled())
+            having << widget;
+    }
+    if (having.isEmpty())
+        return false;
+    if (!pressMnemonic(*having.front(), having.size() > 1)) {
+        if (const auto* const label = qobject_cast<QLabel*>(having.front()))
+            label->buddy()->setFocus(Qt::ShortcutFocusReason);
+    }
+    return true;
+}
+
 QAbstractButton* MainWindow::meantBy(const QWidget& widget) const {
     const auto other = [letter = mnemonic(widget)](const QWidget* one) {
         return mnemonic(*one) != letter || !one->isVisible() || !one->isEnabled();

@@ -27,6 +27,10 @@ class MainWindow : public QWidget {
     ~MainWindow() override;
 
     [[nodiscard]] Binder& binder() { return binder_; }
+    [[nodiscard]] Form& form() { return form_; }
+    /// An Alt letter whose key comes late presses its button, or goes to its field, all the same; false if nothing in
+    /// sight has it.
+    bool pressLetter(const QKeyEvent& key);
     /// Size and place of the last time; the window's own without any.
     void restorePlace();
 

@@ -14,7 +14,8 @@ constexpr int slowStart = 300; // ms; a start that takes longer shows its window
 
 Program::Program(const Ambiente& surroundings, Clock& clock, Pace pace)
     : events_(pace), ports_{boxes_, dialogs_, clock, events_, programs_, &printer_},
-      form_(nuovaFinestra(surroundings, ports_)), window_(std::make_unique<MainWindow>(*form_)) {
+      form_(nuovaFinestra(surroundings, ports_)), window_(std::make_unique<MainWindow>(*form_)),
+      gate_(std::make_unique<InputGate>(*window_)) {
     form_->interattiva = true;
     boxes_.setWindow(window_.get());
     dialogs_.setWindow(window_.get());

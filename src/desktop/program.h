@@ -5,6 +5,7 @@
 
 #include "desktop/desktop_ports.h"
 #include "desktop/desktop_printer.h"
+#include "desktop/input_gate.h"
 #include "desktop/main_window.h"
 #include "toolkit/program_starter.h"
 
@@ -33,6 +34,7 @@ class Program {
     Ports ports_;
     std::unique_ptr<Form> form_;
     std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<InputGate> gate_;
 };
 
 } // namespace vanzer::desktop

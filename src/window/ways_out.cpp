@@ -74,14 +74,16 @@ void rinunciaAllaScelta(Form& form) {
         chiedeDiInterrompereLaStampa(form);
     else if (form.stato.ScambioInCorso)
         chiedeDiInterrompere(form);
+    else if (form.comandoInCorso)
+        return;
     else if (open != std::end(choices))
         (*open)->click();
     else if ((form.cmbRicercaTappa.reachable() || form.mfgCopia.reachable()) && form.cmdFine.reachable())
         form.cmdFine.click();
     else if (form.cmbRicercaTappa.reachable() && form.stato.ModoGuida)
-        RinunciaRicercaGuida(form);
+        comando(form, [&form] { RinunciaRicercaGuida(form); });
     else if (form.cmbRicerca.reachable())
-        RinunciaRicerca(form);
+        comando(form, [&form] { RinunciaRicerca(form); });
     else if (form.cmdImExp(1).reachable())
         form.cmdImExp(1).click();
     else if (form.frmLinea.visible() && form.cmdLinea.reachable())

@@ -1,0 +1,40 @@
+// Keeps the user's hand out while a command is at work: presses, keys and clicks wait for its end, in their order. What
+// interrupts the work gets through.
+#pragma once
+
+#include <deque>
+#include <memory>
+
+#include <QEvent>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+
+namespace vanzer::desktop {
+
+class MainWindow;
+
+class InputGate : public QObject {
+    Q_OBJECT
+  public:
+    /// Stands before all input of the application; what isn't the window's own passes.
+    explicit InputGate(MainWindow& window);
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    struct Waiting {
+        QPointer<QObject> receiver;
+        std::unique_ptr<QEvent> event;
+    };
+
+    [[nodiscard]] bool closed() const;
+    [[nodiscard]] bool interrupts(QObject* watched, const QEvent& event) const;
+    void deliver();
+
+    MainWindow& window_;
+    std::deque<Waiting> waiting_;
+    QTimer soon_;
+    bool delivering_ = false;
+};
+
+} // namespace vanzer::desktop

@@ -1,0 +1,172 @@
+// Fields that were typed and not stored, before a user: asked for once before they are cleared or reloaded.
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <QTemporaryDir>
+
+#include "batch/session.h"
+
+namespace vanzer {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class Changes : public testing::Test {
+  protected:
+    /// A stored trip of two legs, before a user.
+    void begin() {
+        folder_.emplace();
+        session.emplace(Ambiente{.directory = folder_->path(), .decimalMark = u'.', .versione = {}});
+        session->start();
+        form().txtLocalita.type(u"PROVA"_s);
+        form().txtNazione.type(u"ITALIA"_s);
+        answer({rispostaSi, rispostaSi});
+        form().cmdSalva.click();
+        form().cmdItinerario.click();
+        for (const QString& place : {u"ASTI"_s, u"ALBA"_s}) {
+            form().txtTappa.type(place);
+            form().txtKm.type(u"30"_s);
+            form().cmdInserisce.click();
+        }
+        form().cmdFine.click();
+        form().interattiva = true;
+        form().cmdLinea.click(); // a command that changes nothing: what is there counts as stored
+        static_cast<void>(session->boxes.exchange({}));
+    }
+    Form& form() { return *session->window(); }
+    void answer(const std::vector<int>& answers) {
+        for (const int one : answers)
+            session->boxes.enqueue(one);
+    }
+    QStringList asked() {
+        QStringList texts;
+        for (const QJsonValue box : session->boxes.exchange({}))
+            texts << box[u"text"].toString();
+        return texts;
+    }
+    QString stored(const QString& table, int field) {
+        store::Archive archive(folder_->path());
+        archive.PercorsoDatabase = archive.PercorsoProgramma + store::nomeArchivio;
+        store::Archive* open = session->window() == nullptr ? &archive : &form().archivio;
+        if (open == &archive)
+            archive.DatabaseApre(0);
+        QStringList texts;
+        for (const auto& record : open->tabella(table).record)
+            texts << std::get<QString>(record[static_cast<std::size_t>(field)]);
+        return texts.join(u'|');
+    }
+
+    std::optional<batch::Session> session;
+
+  private:
+    std::optional<QTemporaryDir> folder_;
+};
+
+TEST_F(Changes, EachWayThatTakesThemAsksFirst) {
+    constexpr auto stay = [](Form&) {};
+    struct Way {
+        const char* what;
+        void (*reach)(Form&);
+        void (*leave)(Form&);
+        std::vector<int> own; ///< answers to the way's own questions, which come first
+    };
+    const Way ways[] = {
+        {"a new trip", stay, [](Form& f) { f.cmdNuovo.click(); }, {}},
+        {"a pick", [](Form& f) { f.cmdRicerca.click(); }, [](Form& f) { f.cmbRicerca.pick(u"PROVA"_s); }, {}},
+        {"a deletion", stay, [](Form& f) { f.cmdCancMeta.click(); }, {}},
+        {"a deletion of the legs", stay, [](Form& f) { f.cmdCancItin.click(); }, {}},
+        {"the exchange", stay, [](Form& f) { f.cmdExport.click(); }, {}},
+        {"the legs", [](Form& f) { f.cmdItinerario.click(); }, [](Form& f) { f.cmdFine.click(); }, {rispostaSi}},
+        {"the stored legs",
+         [](Form& f) { f.cmdItinerario.click(); },
+         [](Form& f) { f.cmdMemorizza.click(); },
+         {rispostaNo, rispostaSi}},
+        {"a stretch", [](Form& f) { f.cmdModStrada.click(); }, [](Form& f) { f.cmdTappaSEl(3).click(); }, {}},
+        {"the guide", [](Form& f) { f.cmdGuidaCitta.click(); }, [](Form& f) { f.cmdFineInserimento.click(); }, {}},
+        {"the program", stay, [](Form& f) { f.cmdEsce.click(); }, {rispostaSi}},
+    };
+    for (const Way& way : ways) {
+        for (const int wish : {rispostaAnnulla, rispostaNo, rispostaSi}) {
+            SCOPED_TRACE(way.what + std::string(" ") + std::to_string(wish));
+            begin();
+            way.reach(form());
+            form().txtNazione.type(u"FRANCIA"_s);
+            answer(way.own);
+            answer({wish});
+            way.leave(form());
+            const QStringList texts = asked();
+            ASSERT_GT(texts.size(), static_cast<qsizetype>(way.own.size()));
+            EXPECT_EQ(texts[static_cast<qsizetype>(way.own.size())], u"Salvare le modifiche a «PROVA»?"_s);
+            EXPECT_EQ(texts.count(u"Salvare le modifiche a «PROVA»?"_s), 1);
+            EXPECT_EQ(stored(u"MeteVanzer"_s, 2).trimmed(), wish == rispostaSi ? u"FRANCIA"_s : u"ITALIA"_s);
+            EXPECT_EQ(stored(u"Itinerari"_s, 2), u"ASTI|ALBA"_s);
+            if (wish == rispostaAnnulla) {
+                ASSERT_NE(session->window(), nullptr);
+                EXPECT_EQ(form().txtNazione.text(), u"FRANCIA"_s);
+            }
+        }
+    }
+}
+
+TEST_F(Changes, WhatTheProgramSetsRightIsNoChangeOfTheUsers) {
+    begin();
+    form().cmdCalcola.click();
+    form().cmdCalcola.click();
+    form().cmdNuovo.click();
+    form().cmdRicerca.click();
+    form().cmbRicerca.pick(u"PROVA"_s);
+    EXPECT_EQ(asked(), QStringList());
+    form().cmbRange.pick(u"45"_s);
+    form().cmdCalcola.click(); // it stays the user's through other commands
+    form().cmdCalcola.click();
+    answer({rispostaSi, rispostaAnnulla});
+    form().cmdDefault(1).click();
+    form().cmdNuovo.click();
+    EXPECT_EQ(asked().mid(0, 2), (QStringList{u"Vuoi caricare i dati di default?"_s, u"Operazione eseguita!"_s}))
+        << "the defaults are what was stored: nothing is left to ask for";
+}
+
+TEST_F(Changes, WhatIsMissingIsToldAndNothingGoes) {
+    begin();
+    form().txtNazione.type({});
+    answer({rispostaSi});
+    form().cmdNuovo.click();
+    EXPECT_EQ(asked(), (QStringList{u"Salvare le modifiche a «PROVA»?"_s, u"Campo Nazione: obbligatorio!"_s}));
+    EXPECT_EQ(form().txtLocalita.text(), u"PROVA"_s);
+}
+
+/// A stretch that was changed is asked for too, and its frame never stays open over a table that isn't the trip's.
+TEST_F(Changes, AStretchIsLeftByItsOwnWay) {
+    begin();
+    form().cmdModStrada.click();
+    for (const int i : {0, 2})
+        form().cmdTappaSEl(i).click();
+    answer({rispostaSi});
+    form().cmdNuovo.click();
+    EXPECT_EQ(asked(), QStringList{u"Vuoi salvare le modifiche apportate?"_s});
+    EXPECT_FALSE(form().frmframe(1).visible());
+    EXPECT_EQ(stored(u"Itinerari"_s, 2), u"ASTI|ALBA"_s);
+}
+
+TEST_F(Changes, AStoppedCalculationKeepsThem) {
+    begin();
+    form().cmbGiorni.setText(u"009"_s);
+    form().txtNazione.type(u"FRANCIA"_s);
+    session->events.expect([this] {
+        if (!form().comandoInCorso || form().cmdEsce.caption() != u"&Stop"_s)
+            return false;
+        answer({rispostaSi});
+        form().cmdEsce.click();
+        return true;
+    });
+    form().cmdCalcola.click();
+    EXPECT_EQ(asked(), QStringList{u"Vuoi interrompere l'elaborazione?"_s});
+    EXPECT_EQ(form().txtNazione.text(), u"FRANCIA"_s);
+    EXPECT_EQ(form().cmbGiorni.text(), u"009"_s);
+    answer({rispostaAnnulla});
+    form().cmdNuovo.click();
+    EXPECT_EQ(asked(), QStringList{u"Salvare le modifiche a «PROVA»?"_s});
+}
+
+} // namespace
+} // namespace vanzer
