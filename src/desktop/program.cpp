@@ -1,5 +1,6 @@
 #include "desktop/program.h"
 
+#include <QSettings>
 #include <QTimer>
 
 #include "window/startup.h"
@@ -9,6 +10,9 @@ namespace vanzer::desktop {
 namespace {
 
 constexpr int slowStart = 300; // ms; a start that takes longer shows its window before the end
+
+/// The user's choice in the leg editor, which holds to the next start.
+const QString totalsKey = QStringLiteral("tappe/kmProgressivi");
 
 } // namespace
 
@@ -22,6 +26,8 @@ Program::Program(const Ambiente& surroundings, Clock& clock, Pace pace)
     printer_.setWindow(window_.get());
     boxes_.onOpen = dialogs_.onOpen = printer_.onOpen = [this] { window_->binder().flush(); };
     QObject::connect(&window_->binder(), &Binder::inputBegins, [this] { events_.begin(); });
+    form_->stato.KmProgressivi = QSettings().value(totalsKey, true).toBool();
+    form_->onKmProgressivi = [this] { QSettings().setValue(totalsKey, form_->stato.KmProgressivi); };
 }
 
 bool Program::start() {

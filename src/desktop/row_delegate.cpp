@@ -53,13 +53,14 @@ struct RowDelegate::Cell {
 RowDelegate::RowDelegate(TableView& view) : QStyledItemDelegate(&view), view_(view) {}
 
 void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const bool chosen = option.state.testFlag(QStyle::State_Selected);
     const Cell cell{.option = option,
                     .look = view_.look(index.row() + 1),
                     .column = index.column(),
                     .text = index.data().toString(),
                     .across = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>(),
-                    .marked = index.data(GridModel::MarkedRole).toBool(),
-                    .selected = option.state.testFlag(QStyle::State_Selected),
+                    .marked = chosen || index.data(GridModel::MarkedRole).toBool(),
+                    .selected = chosen && view_.standsOut(index.row() + 1),
                     .tints = view_.tints()};
     painter->save();
     painter->setClipRect(option.rect);

@@ -103,7 +103,7 @@ void TableView::showSelection() {
     }
     selectionModel()->clearSelection();
     if (row >= 1) {
-        const QModelIndex first = model()->index(row - 1, std::max(grid_->col(), 1));
+        const QModelIndex first = model()->index(grid_->rowAtHand() - 1, std::max(grid_->col(), 1));
         const bool moved = currentIndex().row() != first.row();
         selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
         const QItemSelection rows(model()->index(std::min(row, grid_->rowSel()) - 1, 0),
@@ -111,6 +111,7 @@ void TableView::showSelection() {
         selectionModel()->select(rows, QItemSelectionModel::Select);
         if (moved)
             scrollTo(first);
+        viewport()->update();
     }
     showing_ = false;
 }
@@ -215,6 +216,10 @@ void TableView::changeEvent(QEvent* event) {
         fitRows();
         fitColumns();
     }
+}
+
+bool TableView::standsOut(int row) const {
+    return !choosing() || row == grid_->rowAtHand();
 }
 
 bool TableView::choosing() const {

@@ -27,6 +27,8 @@ class TableView : public QTableView {
 
     /// `row` counts from 1, as in the grid.
     [[nodiscard]] const AspettoRiga& look(int row) const;
+    /// Of a block that is chosen in a list the row at hand is marked in full, the others softly.
+    [[nodiscard]] bool standsOut(int row) const;
     [[nodiscard]] const Tints& tints() const { return tints_; }
 
   signals:

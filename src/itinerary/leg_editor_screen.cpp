@@ -238,6 +238,8 @@ void mostraKmProgressivi(Form& form) {
 
 void chkKm_Click(Form& form) {
     form.stato.KmProgressivi = form.chkKm.value();
+    if (form.onKmProgressivi)
+        form.onKmProgressivi();
 }
 
 void AggiornaTabellaRigaCorrenteItinerario(Form& form) {

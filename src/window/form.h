@@ -77,6 +77,8 @@ class Form {
     void setFocus(Control& control);
     [[nodiscard]] Control* focus() const { return focus_; }
     std::function<void(Control&)> onFocus;
+    /// The user has chosen whether kilometres are typed as running totals.
+    std::function<void()> onKmProgressivi;
     /// The user asks for the manual.
     std::function<void()> onManuale;
 

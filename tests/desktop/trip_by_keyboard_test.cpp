@@ -268,9 +268,8 @@ TEST_F(TripByKeyboard, AStretchIsCopiedBackwardsBehindTheCurrentLeg) {
     EXPECT_FALSE(find("frmframe_19")->geometry().intersects(find("frmframe_17")->geometry()));
     const auto chooseRow = [this](int row, const char* assign) {
         tabTo("mfgCopia");
-        while (form().mfgCopia.row() != row)
-            key(form().mfgCopia.row() < row ? Qt::Key_Down : Qt::Key_Up);
-        key(Qt::Key_Return);
+        while (form().mfgCopia.rowAtHand() != row)
+            key(form().mfgCopia.rowAtHand() < row ? Qt::Key_Down : Qt::Key_Up);
         for (int i = 0; i < 3 && focusName() != QLatin1StringView(assign); ++i)
             letter('g');
         key(Qt::Key_Space);
