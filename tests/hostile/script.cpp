@@ -87,10 +87,11 @@ class Run {
         Form* const window = program_.window();
         if (!found.isEmpty() || window == nullptr)
             return found;
+        window->interattiva = script_.number % 2 == 1; // before a user, who is asked more
         if (!answer.value_or(QJsonObject()).contains(u"refused"_s))
             remember(line, *window, totals_.worked);
         found = brokenInWindow(*window, marksRepeated_, totals_.looks);
-        if (found.isEmpty() && taken && !answer->contains(u"during"_s))
+        if (found.isEmpty() && taken)
             found = taken->broken(*window, totals_.looks);
         if (found.isEmpty() && number % archiveEach == archiveEach - 1 && window->archivio.Db(0) != nullptr)
             found = brokenInArchive(window->archivio, totals_.looks);
