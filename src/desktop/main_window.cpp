@@ -15,6 +15,7 @@
 #include "desktop/spoken.h"
 #include "desktop/time_line_view.h"
 #include "ui_main_window.h"
+#include "window/enter_key.h"
 #include "window/ways_out.h"
 
 namespace vanzer::desktop {
@@ -222,19 +223,16 @@ QAbstractButton* MainWindow::meantBy(const QWidget& widget) const {
     return only(first);
 }
 
-/// Presses the button that has the focus, else the default one.
+/// Presses the button that has the focus, else the one that Enter is for.
 void MainWindow::pressEnter() {
-    if (auto* const focused = qobject_cast<QPushButton*>(focusWidget()); focused != nullptr && focused->isEnabled()) {
-        focused->click();
+    QWidget* const focused = focusWidget();
+    if (auto* const button = qobject_cast<QPushButton*>(focused); button != nullptr && button->isEnabled()) {
+        button->click();
         return;
     }
-    for (const auto& control : form_.controls()) {
-        auto* const button = dynamic_cast<Button*>(control.get());
-        if (button != nullptr && button->isDefault() && button->reachable()) {
-            binder_.input([button] { button->click(); });
-            return;
-        }
-    }
+    const Control* const field = focused == nullptr ? nullptr : form_.find(Binder::controlName(focused->objectName()));
+    if (Button* const button = pulsanteDiInvio(form_, field))
+        binder_.input([button] { button->click(); });
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {
