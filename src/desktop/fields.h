@@ -73,12 +73,13 @@ class TwoLineButton : public QPushButton {
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// A button with nothing but a "?": as small as can be hit.
+/// A button with nothing but a "?": as small as can be hit. A click leaves the focus where it is.
 class HelpButton : public QPushButton {
     Q_OBJECT
   public:
     explicit HelpButton(QWidget* parent = nullptr) : QPushButton(parent) {
         setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        setFocusPolicy(Qt::TabFocus);
     }
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }

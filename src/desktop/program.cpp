@@ -12,8 +12,9 @@ constexpr int slowStart = 300; // ms; a start that takes longer shows its window
 
 } // namespace
 
-Program::Program(const Ambiente& surroundings, Clock& clock, Pace pace)
-    : events_(pace), ports_{boxes_, dialogs_, clock, events_, programs_, &printer_},
+Program::Program(const Ambiente& surroundings, Clock& clock, Pace pace, FileOpener* opener)
+    : boxes_(opener != nullptr ? *opener : opener_),
+      events_(pace), ports_{boxes_, dialogs_, clock, events_, programs_, &printer_},
       form_(nuovaFinestra(surroundings, ports_)), window_(std::make_unique<MainWindow>(*form_)) {
     form_->chiedeModifiche = true;
     boxes_.setWindow(window_.get());

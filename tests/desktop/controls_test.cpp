@@ -170,6 +170,39 @@ TEST_F(Controls, BlanksInTheHelpKeepLinesUnderEachOther) {
     EXPECT_EQ(lines, 2);
 }
 
+TEST_F(Controls, ABoxOpensTheFilesThatItTellsOf) {
+    const QString folder = directory.path();
+    const QString file = folder + QStringLiteral("/viaggio.iei");
+    const struct {
+        Qt::Key key;
+        QStringList opened;
+    } cases[] = {{Qt::Key_Return, {}}, {Qt::Key_Escape, {}}, {Qt::Key_P, {file}}, {Qt::Key_M, {folder}}};
+    for (const auto& c : cases) {
+        boxes.expect(c.key);
+        opener.opened.clear();
+        const MessageBox box{.text = QStringLiteral("<b>Fatto</b>"),
+                             .detail = QStringLiteral("<i>viaggio</i>"),
+                             .files = {file, folder + QStringLiteral("/altro.iei")}};
+        EXPECT_EQ(form().ports.messages.show(box), rispostaOk);
+        EXPECT_EQ(opener.opened, c.opened) << c.key;
+    }
+    ASSERT_EQ(boxes.shown().size(), 4U);
+    EXPECT_TRUE(boxes.shown()[0].plain);
+    EXPECT_EQ(boxes.shown()[0].buttons.size(), 3);
+}
+
+TEST_F(Controls, TheFocusIsBackWhereItWasBeforeTheHelp) {
+    typeDestination("roma", "italia");
+    letter('i');
+    for (const char* const name : {"cmdHelpGenerico", "cmdHelpTotale1", "cmdHelpKm", "cmdHelpItin_0"}) {
+        find("txtKm")->setFocus();
+        boxes.forget();
+        QTest::mouseClick(find(name), Qt::LeftButton);
+        EXPECT_EQ(boxes.shown().size(), 1U) << name;
+        EXPECT_EQ(window().focusWidget(), find("txtKm")) << name;
+    }
+}
+
 TEST_F(Controls, NoLineOfTheHelpIsBroken) {
     typeDestination("roma", "italia");
     boxes.forget();
