@@ -93,6 +93,10 @@ class ShortenedLabel : public QWidget {
     explicit ShortenedLabel(QWidget* parent = nullptr) : QWidget(parent) {}
     void setText(const QString& text);
     [[nodiscard]] const QString& text() const { return text_; }
+    /// In place of the text `idle` a hint is shown, if there is one.
+    void setIdle(const QString& idle) { idle_ = idle; }
+    void setHint(const QString& hint);
+    [[nodiscard]] const QString& shown() const;
     void setAlignment(Qt::Alignment alignment) { alignment_ = alignment; }
     [[nodiscard]] Qt::Alignment alignment() const { return alignment_; }
     [[nodiscard]] QSize minimumSizeHint() const override { return {0, fontMetrics().height()}; }
@@ -102,6 +106,8 @@ class ShortenedLabel : public QWidget {
 
   private:
     QString text_;
+    QString idle_;
+    QString hint_;
     Qt::Alignment alignment_ = Qt::AlignLeft | Qt::AlignVCenter;
 };
 

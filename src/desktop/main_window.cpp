@@ -16,6 +16,7 @@
 #include "desktop/time_line_view.h"
 #include "ui_main_window.h"
 #include "window/enter_key.h"
+#include "window/modes.h"
 #include "window/ways_out.h"
 
 namespace vanzer::desktop {
@@ -61,6 +62,8 @@ MainWindow::MainWindow(Form& form) : form_(form), ui_(std::make_unique<Ui::MainW
     resize(firstSize);
     addFrames();
     setWindowTitle(form.caption);
+    ui_->lblElaborazione->setIdle(testoInAttesa.toString());
+    hints_ = std::make_unique<HintLine>(*this, *ui_->lblElaborazione);
     binder_.bind(*this);
     form_.onManuale = [this] { showManual(); };
     watchLetters(*this);

@@ -9,6 +9,9 @@ namespace vanzer {
 /// The buttons of an archive without trips.
 inline constexpr QStringView pulsantiArchivioVuoto = u"NuImEs";
 
+/// What the progress line says while nothing runs.
+inline constexpr QStringView testoInAttesa = u"Sposta il mouse sui pulsanti/campi attivi per istruzioni.";
+
 /// Applies PulsantiMeta and PulsantiItinerario to the buttons, and yields.
 void AbilitaPulsantiComando(Form& form);
 

@@ -15,6 +15,7 @@
 #include "desktop/text_ties.h"
 #include "desktop/tints.h"
 #include "desktop_fixture.h"
+#include "window/modes.h"
 
 namespace vanzer::desktop {
 namespace {
@@ -139,6 +140,31 @@ TEST_F(Controls, ANoticeTakesRoomAndIsSpokenWhileThereIsOne) {
     form().lblAvviso.setCaption({});
     window().binder().flush();
     EXPECT_FALSE(notice->isVisible());
+}
+
+TEST_F(Controls, TheStatusLineTellsWhatAControlIsFor) {
+    find("cmbInizio_0")->setFocus();
+    auto* const line = find<ShortenedLabel>("lblElaborazione");
+    const QString work = QStringLiteral("Calcolo in corso");
+    const struct {
+        const char* under; ///< the mouse
+        QString caption;
+        QString shown;
+    } cases[] = {{"lblAutore", testoInAttesa.toString(), form().cmbInizio(0).tooltip()},
+                 {"cmdNuovo", testoInAttesa.toString(), form().cmdNuovo.tooltip()},
+                 {"cmbMediaKm_0", testoInAttesa.toString(), form().cmbMediaKm(0).tooltip()},
+                 {"cmdRicerca", work, work},
+                 {"cmdRicerca", testoInAttesa.toString(), form().cmdRicerca.tooltip()},
+                 {"lblAutore", testoInAttesa.toString(), form().cmbInizio(0).tooltip()}};
+    for (const auto& c : cases) {
+        QTest::mouseMove(find(c.under));
+        form().lblElaborazione.setCaption(c.caption);
+        window().binder().flush();
+        EXPECT_FALSE(c.shown.isEmpty()) << c.under;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return line->shown() == c.shown; }, 500))
+            << c.under << ": " << line->shown().toStdString();
+        EXPECT_EQ(form().lblElaborazione.caption(), c.caption);
+    }
 }
 
 TEST_F(Controls, FieldsTellByTheirGroundWhatCanBeFilledInAlsoInTheDark) {
