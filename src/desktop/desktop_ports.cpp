@@ -6,6 +6,7 @@
 #include <utility>
 
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
@@ -13,6 +14,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QUrl>
 
 namespace vanzer::desktop {
 
@@ -113,6 +115,17 @@ QWidget* BeforeWindow::opening() const {
     return window_;
 }
 
+bool DesktopOpener::open(const QString& path) {
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+void DialogBoxes::open(const QString& path) {
+    if (!opener_.open(path))
+        static_cast<void>(show({.text = QStringLiteral("Non c'è un programma che apra %1.").arg(path),
+                                .title = QStringLiteral("Apri"),
+                                .refuses = true}));
+}
+
 int DialogBoxes::show(const MessageBox& told) {
     const std::span<const Choice> offered = choices(told.buttons);
     QMessageBox box(opening());
@@ -125,8 +138,15 @@ int DialogBoxes::show(const MessageBox& told) {
     else
         box.setText(plain);
     box.setInformativeText(told.detail);
+    for (auto* const label : box.findChildren<QLabel*>())
+        label->setTextFormat(Qt::PlainText);
     for (const Choice& choice : offered)
         box.addButton(choice.button)->setText(QString::fromUtf16(choice.text));
+    const QFileInfo file(told.files.value(0));
+    const bool opens = !told.files.isEmpty();
+    const auto* const shows = opens ? box.addButton(QStringLiteral("A&pri"), QMessageBox::ActionRole) : nullptr;
+    const auto* const showsFolder =
+        opens ? box.addButton(QStringLiteral("&Mostra cartella"), QMessageBox::ActionRole) : nullptr;
     box.setDefaultButton(told.destroys ? QMessageBox::No : offered.front().button);
     box.setEscapeButton(offered.back().button);
     const int pressed = box.exec();
@@ -134,6 +154,8 @@ int DialogBoxes::show(const MessageBox& told) {
         if (choice.button == pressed)
             return choice.answer;
     }
+    if (const auto* const clicked = box.clickedButton(); opens && (clicked == shows || clicked == showsFolder))
+        open(clicked == shows ? file.absoluteFilePath() : file.absolutePath());
     return offered.back().answer;
 }
 

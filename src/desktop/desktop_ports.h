@@ -24,10 +24,30 @@ class BeforeWindow {
     QPointer<QWidget> window_;
 };
 
-/// With Italian buttons. Esc stands for "Annulla", or for "No" where there is nothing to cancel.
+/// Opens a file or a folder with the program that the desktop has for it.
+class FileOpener {
+  public:
+    virtual ~FileOpener() = default;
+    /// False if there is none.
+    [[nodiscard]] virtual bool open(const QString& path) = 0;
+};
+
+class DesktopOpener : public FileOpener {
+  public:
+    [[nodiscard]] bool open(const QString& path) override;
+};
+
+/// With Italian buttons. Esc stands for "Annulla", or for "No" where there is nothing to cancel. Beside the "OK" of a
+/// box about files "Apri" opens the first of them and "Mostra cartella" its folder; they are answered as "OK".
 class DialogBoxes : public MessageBoxes, public BeforeWindow {
   public:
+    /// `opener` lives longer than the boxes.
+    explicit DialogBoxes(FileOpener& opener) : opener_(opener) {}
     [[nodiscard]] int show(const MessageBox& box) override;
+
+  private:
+    void open(const QString& path);
+    FileOpener& opener_;
 };
 
 class PlatformDialogs : public FileDialogs, public BeforeWindow {

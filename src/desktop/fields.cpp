@@ -190,10 +190,19 @@ void ShortenedLabel::setText(const QString& text) {
     update();
 }
 
+void ShortenedLabel::setHint(const QString& hint) {
+    hint_ = hint;
+    update();
+}
+
+const QString& ShortenedLabel::shown() const {
+    return text_ == idle_ && !hint_.isEmpty() ? hint_ : text_;
+}
+
 void ShortenedLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    const QString shown = fontMetrics().elidedText(text_, Qt::ElideMiddle, width());
-    style()->drawItemText(&painter, rect(), static_cast<int>(alignment_), palette(), isEnabled(), shown,
+    const QString fitting = fontMetrics().elidedText(shown(), Qt::ElideMiddle, width());
+    style()->drawItemText(&painter, rect(), static_cast<int>(alignment_), palette(), isEnabled(), fitting,
                           QPalette::WindowText);
 }
 

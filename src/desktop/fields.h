@@ -73,12 +73,13 @@ class TwoLineButton : public QPushButton {
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// A button with nothing but a "?": as small as can be hit.
+/// A button with nothing but a "?": as small as can be hit. A click leaves the focus where it is.
 class HelpButton : public QPushButton {
     Q_OBJECT
   public:
     explicit HelpButton(QWidget* parent = nullptr) : QPushButton(parent) {
         setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        setFocusPolicy(Qt::TabFocus);
     }
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
@@ -92,6 +93,10 @@ class ShortenedLabel : public QWidget {
     explicit ShortenedLabel(QWidget* parent = nullptr) : QWidget(parent) {}
     void setText(const QString& text);
     [[nodiscard]] const QString& text() const { return text_; }
+    /// In place of the text `idle` a hint is shown, if there is one.
+    void setIdle(const QString& idle) { idle_ = idle; }
+    void setHint(const QString& hint);
+    [[nodiscard]] const QString& shown() const;
     void setAlignment(Qt::Alignment alignment) { alignment_ = alignment; }
     [[nodiscard]] Qt::Alignment alignment() const { return alignment_; }
     [[nodiscard]] QSize minimumSizeHint() const override { return {0, fontMetrics().height()}; }
@@ -101,6 +106,8 @@ class ShortenedLabel : public QWidget {
 
   private:
     QString text_;
+    QString idle_;
+    QString hint_;
     Qt::Alignment alignment_ = Qt::AlignLeft | Qt::AlignVCenter;
 };
 

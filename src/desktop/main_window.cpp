@@ -15,6 +15,8 @@
 #include "desktop/spoken.h"
 #include "desktop/time_line_view.h"
 #include "ui_main_window.h"
+#include "window/enter_key.h"
+#include "window/modes.h"
 #include "window/ways_out.h"
 
 namespace vanzer::desktop {
@@ -60,6 +62,8 @@ MainWindow::MainWindow(Form& form) : form_(form), ui_(std::make_unique<Ui::MainW
     resize(firstSize);
     addFrames();
     setWindowTitle(form.caption);
+    ui_->lblElaborazione->setIdle(testoInAttesa.toString());
+    hints_ = std::make_unique<HintLine>(*this, *ui_->lblElaborazione);
     binder_.bind(*this);
     form_.onManuale = [this] { showManual(); };
     watchLetters(*this);
@@ -239,19 +243,16 @@ QAbstractButton* MainWindow::meantBy(const QWidget& widget) const {
     return only(first);
 }
 
-/// Presses the button that has the focus, else the default one.
+/// Presses the button that has the focus, else the one that Enter is for.
 void MainWindow::pressEnter() {
-    if (auto* const focused = qobject_cast<QPushButton*>(focusWidget()); focused != nullptr && focused->isEnabled()) {
-        focused->click();
+    QWidget* const focused = focusWidget();
+    if (auto* const button = qobject_cast<QPushButton*>(focused); button != nullptr && button->isEnabled()) {
+        button->click();
         return;
     }
-    for (const auto& control : form_.controls()) {
-        auto* const button = dynamic_cast<Button*>(control.get());
-        if (button != nullptr && button->isDefault() && button->reachable()) {
-            binder_.input([button] { button->click(); });
-            return;
-        }
-    }
+    const Control* const field = focused == nullptr ? nullptr : form_.find(Binder::controlName(focused->objectName()));
+    if (Button* const button = pulsanteDiInvio(form_, field))
+        binder_.input([button] { button->click(); });
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {

@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include "desktop/binder.h"
+#include "desktop/hint_line.h"
 #include "desktop/manual_window.h"
 
 namespace Ui {
@@ -61,6 +62,7 @@ class MainWindow : public QWidget {
     QPointer<ManualWindow> manual_;
     bool closeWaits_ = false; ///< the window is to be left when the running command has ended
     Binder binder_;
+    std::unique_ptr<HintLine> hints_;
 };
 
 } // namespace vanzer::desktop

@@ -13,8 +13,8 @@ namespace vanzer::desktop {
 
 class Program {
   public:
-    /// `clock` lives longer than the program.
-    Program(const Ambiente& surroundings, Clock& clock, Pace pace = {});
+    /// `clock` and `opener` live longer than the program; without an opener files are opened by the desktop.
+    Program(const Ambiente& surroundings, Clock& clock, Pace pace = {}, FileOpener* opener = nullptr);
 
     /// Opens the archive and shows the window; false if the user has been told why that can't be.
     [[nodiscard]] bool start();
@@ -26,6 +26,7 @@ class Program {
     [[nodiscard]] MainWindow& window() { return *window_; }
 
   private:
+    DesktopOpener opener_;
     DialogBoxes boxes_;
     PlatformDialogs dialogs_;
     PacedYield events_;

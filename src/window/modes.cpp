@@ -139,7 +139,7 @@ void AggiornaPercentuale(Form& form) {
     s.PercentualeCorrente = Maggiore(Minore(s.PercentualeCorrente, s.PercentualeTotale), 0.0);
     if (s.PercentualeCorrente == 0) {
         form.txtPerc.setVisible(false);
-        form.lblElaborazione.setCaption(QStringLiteral("Sposta il mouse sui pulsanti/campi attivi per istruzioni."));
+        form.lblElaborazione.setCaption(testoInAttesa.toString());
         form.txtBase.setText({});
         form.txtPerc.setWidth(0);
         return;

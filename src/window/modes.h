@@ -12,6 +12,9 @@ inline constexpr QStringView pulsantiArchivioVuoto = u"NuImEs";
 /// The buttons when nothing else is going on: all of them, or those of an archive without trips.
 [[nodiscard]] QString pulsantiDiBase(const Form& form);
 
+/// What the progress line says while nothing runs.
+inline constexpr QStringView testoInAttesa = u"Sposta il mouse sui pulsanti/campi attivi per istruzioni.";
+
 /// Applies PulsantiMeta and PulsantiItinerario to the buttons, and yields.
 void AbilitaPulsantiComando(Form& form);
 

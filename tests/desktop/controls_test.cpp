@@ -15,6 +15,7 @@
 #include "desktop/text_ties.h"
 #include "desktop/tints.h"
 #include "desktop_fixture.h"
+#include "window/modes.h"
 
 namespace vanzer::desktop {
 namespace {
@@ -141,6 +142,31 @@ TEST_F(Controls, ANoticeTakesRoomAndIsSpokenWhileThereIsOne) {
     EXPECT_FALSE(notice->isVisible());
 }
 
+TEST_F(Controls, TheStatusLineTellsWhatAControlIsFor) {
+    find("cmbInizio_0")->setFocus();
+    auto* const line = find<ShortenedLabel>("lblElaborazione");
+    const QString work = QStringLiteral("Calcolo in corso");
+    const struct {
+        const char* under; ///< the mouse
+        QString caption;
+        QString shown;
+    } cases[] = {{"lblAutore", testoInAttesa.toString(), form().cmbInizio(0).tooltip()},
+                 {"cmdNuovo", testoInAttesa.toString(), form().cmdNuovo.tooltip()},
+                 {"cmbMediaKm_0", testoInAttesa.toString(), form().cmbMediaKm(0).tooltip()},
+                 {"cmdRicerca", work, work},
+                 {"cmdRicerca", testoInAttesa.toString(), form().cmdRicerca.tooltip()},
+                 {"lblAutore", testoInAttesa.toString(), form().cmbInizio(0).tooltip()}};
+    for (const auto& c : cases) {
+        QTest::mouseMove(find(c.under));
+        form().lblElaborazione.setCaption(c.caption);
+        window().binder().flush();
+        EXPECT_FALSE(c.shown.isEmpty()) << c.under;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return line->shown() == c.shown; }, 500))
+            << c.under << ": " << line->shown().toStdString();
+        EXPECT_EQ(form().lblElaborazione.caption(), c.caption);
+    }
+}
+
 TEST_F(Controls, FieldsTellByTheirGroundWhatCanBeFilledInAlsoInTheDark) {
     const QPalette light = QApplication::palette();
     checkGrounds();
@@ -168,6 +194,39 @@ TEST_F(Controls, BlanksInTheHelpKeepLinesUnderEachOther) {
                     metrics.height());
     }
     EXPECT_EQ(lines, 2);
+}
+
+TEST_F(Controls, ABoxOpensTheFilesThatItTellsOf) {
+    const QString folder = directory.path();
+    const QString file = folder + QStringLiteral("/viaggio.iei");
+    const struct {
+        Qt::Key key;
+        QStringList opened;
+    } cases[] = {{Qt::Key_Return, {}}, {Qt::Key_Escape, {}}, {Qt::Key_P, {file}}, {Qt::Key_M, {folder}}};
+    for (const auto& c : cases) {
+        boxes.expect(c.key);
+        opener.opened.clear();
+        const MessageBox box{.text = QStringLiteral("<b>Fatto</b>"),
+                             .detail = QStringLiteral("<i>viaggio</i>"),
+                             .files = {file, folder + QStringLiteral("/altro.iei")}};
+        EXPECT_EQ(form().ports.messages.show(box), rispostaOk);
+        EXPECT_EQ(opener.opened, c.opened) << c.key;
+    }
+    ASSERT_EQ(boxes.shown().size(), 4U);
+    EXPECT_TRUE(boxes.shown()[0].plain);
+    EXPECT_EQ(boxes.shown()[0].buttons.size(), 3);
+}
+
+TEST_F(Controls, TheFocusIsBackWhereItWasBeforeTheHelp) {
+    typeDestination("roma", "italia");
+    letter('i');
+    for (const char* const name : {"cmdHelpGenerico", "cmdHelpTotale1", "cmdHelpKm", "cmdHelpItin_0"}) {
+        find("txtKm")->setFocus();
+        boxes.forget();
+        QTest::mouseClick(find(name), Qt::LeftButton);
+        EXPECT_EQ(boxes.shown().size(), 1U) << name;
+        EXPECT_EQ(window().focusWidget(), find("txtKm")) << name;
+    }
 }
 
 TEST_F(Controls, NoLineOfTheHelpIsBroken) {

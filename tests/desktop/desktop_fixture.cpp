@@ -27,7 +27,9 @@ bool BoxKeys::eventFilter(QObject* watched, QEvent* event) {
     QStringList buttons;
     for (const QAbstractButton* button : box->buttons())
         buttons << button->text().remove(u'&');
-    shown_.push_back({box->text(), box->windowTitle(), buttons, box->font(), 0});
+    shown_.push_back({box->text(), box->windowTitle(), buttons, box->font()});
+    for (const QLabel* const label : box->findChildren<QLabel*>())
+        shown_.back().plain = shown_.back().plain && label->textFormat() == Qt::PlainText;
     const Qt::Key key = keys_.empty() ? Qt::Key_Escape : keys_.front();
     if (!keys_.empty())
         keys_.pop_front();
@@ -58,8 +60,8 @@ void DesktopTest::TearDown() {
 void DesktopTest::open(Pace pace) {
     close();
     program_ = std::make_unique<Program>(
-        Ambiente{.directory = directory.path(), .decimalMark = u'.', .versione = QStringLiteral("1.0.0")}, clock_,
-        pace);
+        Ambiente{.directory = directory.path(), .decimalMark = u'.', .versione = QStringLiteral("1.0.0")}, clock_, pace,
+        &opener);
     ASSERT_TRUE(program_->start());
     window().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));

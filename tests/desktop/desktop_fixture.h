@@ -20,13 +20,24 @@ class FixedClock : public Clock {
     [[nodiscard]] QDateTime now() const override { return {QDate(2026, 6, 1), QTime(9, 10)}; }
 };
 
+/// Opens nothing and keeps what it was to open.
+class KeptOpener : public FileOpener {
+  public:
+    [[nodiscard]] bool open(const QString& path) override {
+        opened << path;
+        return true;
+    }
+    QStringList opened;
+};
+
 /// A message box that came up.
 struct ShownBox {
     QString text;
     QString title;
     QStringList buttons;
     QFont font;
-    int lines = 0; ///< that its text takes in the window
+    int lines = 0;     ///< that its text takes in the window
+    bool plain = true; ///< nothing in its texts is taken for a mark-up
 };
 
 /// Presses keys in each message box that shows up, in the order told; Esc when none is told.
@@ -94,6 +105,7 @@ class DesktopTest : public ::testing::Test {
     void typeLegs(std::span<const TypedLeg> legs);
 
     BoxKeys boxes;
+    KeptOpener opener;
     QTemporaryDir directory;
 
   private:

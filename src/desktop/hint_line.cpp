@@ -1,0 +1,44 @@
+#include "desktop/hint_line.h"
+
+#include <QApplication>
+#include <QEvent>
+
+namespace vanzer::desktop {
+
+namespace {
+
+/// A part of a control has the control's.
+QString hintOf(const QWidget* widget) {
+    while (widget != nullptr && widget->toolTip().isEmpty())
+        widget = widget->parentWidget();
+    return widget == nullptr ? QString() : widget->toolTip();
+}
+
+} // namespace
+
+HintLine::HintLine(QWidget& window, ShortenedLabel& label) : window_(window), label_(label) {
+    qApp->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, &HintLine::tell);
+}
+
+/// The mouse enters from the outer widget to the inner one, and leaves in the other order.
+bool HintLine::eventFilter(QObject* watched, QEvent* event) {
+    const QEvent::Type type = event->type();
+    if (type != QEvent::Enter && type != QEvent::Leave)
+        return false;
+    auto* const widget = qobject_cast<QWidget*>(watched);
+    if (widget != nullptr && widget->window() == &window_) {
+        pointed_ = type == QEvent::Enter ? widget : widget->parentWidget();
+        tell();
+    }
+    return false;
+}
+
+void HintLine::tell() {
+    const QString pointed = hintOf(pointed_);
+    const QWidget* const focused = QApplication::focusWidget();
+    const bool here = focused != nullptr && focused->window() == &window_;
+    label_.setHint(pointed.isEmpty() && here ? hintOf(focused) : pointed);
+}
+
+} // namespace vanzer::desktop

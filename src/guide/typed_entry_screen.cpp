@@ -1,0 +1,50 @@
+#include "guide/typed_entry_screen.h"
+
+#include "core/place_name.h"
+#include "core/text.h"
+#include "guide/entries.h"
+
+namespace vanzer {
+
+namespace {
+
+/// What is stored of a description.
+QString stored(const QString& description) {
+    return PrimoMaiuscolo(Trim(description), false);
+}
+
+bool entryRow(const Grid& grid, int row) {
+    return tipoRigaGuida(grid.cell(row, guidaLuogo), grid.cell(row, guidaSegno)) == TipoRigaGuida::Voce;
+}
+
+/// Category and time that a row leaves empty stay in their fields as they were.
+bool shownInFields(const Form& form, int row) {
+    const auto cell = [&form, row](ColonnaGuida column) { return form.mfgTab.cell(row, column); };
+    const QString category = Trim(cell(guidaTipo));
+    const QString time = cell(guidaTempo);
+    return stored(form.txtGDescr.text()) == stored(cell(guidaDescrizione)) &&
+           stessoGruppo(form.txtGGruppo.text(), cell(guidaGruppo)) &&
+           (category.isEmpty() || form.cmbGTipo.text() == category) &&
+           (time.isEmpty() || tempoDigitato(form.cmbGH.text(), form.cmbGM.text()) ==
+                                  tempoDigitato(oreMostrate(time), minutiMostrati(time)));
+}
+
+} // namespace
+
+bool voceDigitata(const Form& form) {
+    const Grid& grid = form.mfgTab;
+    const int marked = grid.row();
+    const QString& description = form.txtGDescr.text();
+    if (Trim(description).isEmpty() || (!entryRow(grid, marked) && description == form.stato.FiltroGuida))
+        return false;
+    const QString place = RiPulisceNomeLocalita(grid.cell(marked, guidaLuogo));
+    for (int row = 1; row < grid.rows(); ++row) {
+        // A list that was sorted anew has the entry in another row.
+        if (entryRow(grid, row) && RiPulisceNomeLocalita(grid.cell(row, guidaLuogo)) == place &&
+            shownInFields(form, row))
+            return false;
+    }
+    return true;
+}
+
+} // namespace vanzer

@@ -1,0 +1,12 @@
+// Whether the leg editor's fields hold something that the table doesn't.
+#pragma once
+
+#include "window/form.h"
+
+namespace vanzer {
+
+/// True if the fields differ from the current row as it is shown. On a row without a place yet only place, road,
+/// kilometres and stop count: the road is carried over from the row above, and the road type stays as last chosen.
+[[nodiscard]] bool tappaDigitata(const Form& form);
+
+} // namespace vanzer
