@@ -1,6 +1,7 @@
 #include "core/text.h"
 #include "guide/entries.h"
 #include "guide/guide_screen.h"
+#include "guide/typed_entry_screen.h"
 #include "window/changes.h"
 #include "window/destination_screen.h"
 #include "window/modes.h"
@@ -99,6 +100,9 @@ void RinunciaRicercaGuida(Form& form) {
 }
 
 void cmdFineInserimento_Click(Form& form) {
+    int row = form.mfgTab.row();
+    if (!lasciaVoce(form, row))
+        return;
     for (int r = 1; r < form.mfgTab.rows(); ++r)
         sortGroup(form, r);
     form.archivio.storeSoFar();

@@ -3,6 +3,7 @@
 #include "core/place_name.h"
 #include "core/text.h"
 #include "guide/entries.h"
+#include "guide/guide_screen.h"
 
 namespace vanzer {
 
@@ -43,6 +44,33 @@ bool voceDigitata(const Form& form) {
         if (entryRow(grid, row) && RiPulisceNomeLocalita(grid.cell(row, guidaLuogo)) == place &&
             shownInFields(form, row))
             return false;
+    }
+    return true;
+}
+
+bool lasciaVoce(Form& form, int& row) {
+    if (!form.interattiva || !form.cmdSalvaRiga.reachable() || !voceDigitata(form))
+        return true;
+    const int answer = form.domanda(
+        QStringLiteral("La nota «%1» è scritta ma non salvata.\n\nSalvarla?").arg(Trim(form.txtGDescr.text())),
+        QStringLiteral("Nota non salvata"), Pulsanti::SiNoAnnulla);
+    if (answer != rispostaSi)
+        return answer == rispostaNo;
+    const auto cells = [&form](int r) {
+        QStringList texts;
+        for (const ColonnaGuida column : {guidaLuogo, guidaGruppo, guidaDescrizione, guidaTempo, guidaTipo})
+            texts << form.mfgTab.cell(r, column);
+        return texts;
+    };
+    const QStringList meant = cells(row);
+    SalvaLaRigaGuidaCitta(form, true);
+    if (voceDigitata(form))
+        return false;
+    for (int r = 1; r < form.mfgTab.rows(); ++r) {
+        if (cells(r) == meant) {
+            row = r;
+            break;
+        }
     }
     return true;
 }

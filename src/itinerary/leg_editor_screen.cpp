@@ -155,6 +155,14 @@ void numera(Grid& grid, int row) {
         grid.setCell(row, 0, testoNumero(row));
 }
 
+/// Before a user the mark stays on the row at hand until what is typed for it is dealt with.
+bool leavesRowFor(Form& form, int& row) {
+    if (!form.interattiva || !form.lasciaRiga)
+        return true;
+    SelezionaRiga(form, form.stato.RigaCorrente);
+    return form.lasciaRiga(row);
+}
+
 void closeLists(Form& form) {
     form.cmbRicercaTappa.setVisible(false);
     form.frmframe(17).setVisible(false);
@@ -392,8 +400,10 @@ void cmdFine_Click(Form& form) {
 }
 
 void mfgTab_Click(Form& form) {
+    int clicked = form.mfgTab.row();
+    if (!leavesRowFor(form, clicked))
+        return;
     clearMarkBoxes(form);
-    const int clicked = form.mfgTab.row();
     form.stato.RigaCorrente = clicked;
     AggiornaTabellaRigaCorrenteItinerario(form);
     scegliSingolaTappa(form, clicked);
@@ -421,9 +431,12 @@ void mfgTab_KeyPress(Form& form, int code) {
     case 34: by = pagina; break;
     default: break;
     }
+    int row = form.stato.RigaCorrente + by;
+    if (!leavesRowFor(form, row))
+        return;
     if (by != 0)
         clearMarkBoxes(form);
-    form.stato.RigaCorrente += by;
+    form.stato.RigaCorrente = row;
     AggiornaNumeroRiga(form);
     mostraKmProgressivi(form);
     if (form.stato.ModoGuida && form.guideRowShown)

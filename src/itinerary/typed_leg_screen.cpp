@@ -44,4 +44,17 @@ bool tappaDigitata(const Form& form) {
            (QStringLiteral("ASPL").contains(letter) && !letter.isEmpty() && letter != strTipoStrada(form.optStrada));
 }
 
+bool lasciaTappa(Form& form) {
+    if (!form.interattiva || !form.cmdInserisce.reachable() || !tappaDigitata(form))
+        return true;
+    const QString place = Trim(form.txtTappa.text());
+    const QString leg = place.isEmpty() ? QStringLiteral("La tappa della riga %1").arg(form.stato.RigaCorrente)
+                                        : QStringLiteral("La tappa «%1»").arg(place);
+    const int answer = form.domanda(leg + QStringLiteral(" è scritta ma non inserita.\n\nInserirla?"),
+                                    QStringLiteral("Tappa non inserita"), Pulsanti::SiNoAnnulla);
+    if (answer == rispostaSi)
+        cmdInserisce_Click(form);
+    return answer == rispostaNo || (answer == rispostaSi && !tappaDigitata(form));
+}
+
 } // namespace vanzer

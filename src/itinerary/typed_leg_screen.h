@@ -9,4 +9,8 @@ namespace vanzer {
 /// kilometres and stop count: the road is carried over from the row above, and the road type stays as last chosen.
 [[nodiscard]] bool tappaDigitata(const Form& form);
 
+/// Before a user, when the fields are about to show another row or to go: asks whether a leg that is typed and not in
+/// the table is to be put in, and does so. False if it can't be, or the user wants to go on with it.
+[[nodiscard]] bool lasciaTappa(Form& form);
+
 } // namespace vanzer

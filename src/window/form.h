@@ -83,13 +83,14 @@ class Form {
     std::function<void()> onManuale;
 
     QString caption;
-    bool chiusa = false;                 ///< the window has been left
-    bool comandoInCorso = false;         ///< a command of the user is being carried out
-    bool interattiva = false;            ///< a user sits before the window, not a script
-    QStringList campiMemorizzati;        ///< the fields of the destination as they count as stored
-    bool campiDaRicordare = false;       ///< at the end of the command they count so as they stand then
-    std::function<bool()> chiudeTratto;  ///< leaves the editing of a stretch; false if the user stays
-    std::function<void()> guideRowShown; ///< raised when the grid's current row changes while the guide is open
+    bool chiusa = false;                      ///< the window has been left
+    bool comandoInCorso = false;              ///< a command of the user is being carried out
+    bool interattiva = false;                 ///< a user sits before the window, not a script
+    QStringList campiMemorizzati;             ///< the fields of the destination as they count as stored
+    bool campiDaRicordare = false;            ///< at the end of the command they count so as they stand then
+    std::function<bool()> chiudeTratto;       ///< leaves the editing of a stretch; false if the user stays
+    std::function<bool(int& row)> lasciaRiga; ///< before the fields show another row: false if the user stays on his
+    std::function<void()> guideRowShown;      ///< raised when the grid's current row changes while the guide is open
 
     std::array<QString, 21> TipiGuidaDescrizione;
     std::array<bool, 21> TipiGuidaTempoObbligatorio{};

@@ -15,6 +15,7 @@
 #include "exchange/route_screen.h"
 #include "guide/categories.h"
 #include "guide/guide_screen.h"
+#include "guide/typed_entry_screen.h"
 #include "help/help_screen.h"
 #include "itinerary/copy_screen.h"
 #include "itinerary/leg_editor_screen.h"
@@ -22,6 +23,7 @@
 #include "itinerary/list_pick_screen.h"
 #include "itinerary/return_screen.h"
 #include "itinerary/stretch_screen.h"
+#include "itinerary/typed_leg_screen.h"
 #include "reports/print_screen.h"
 #include "reports/schedule_files_screen.h"
 #include "schedule/calculation_screen.h"
@@ -51,6 +53,16 @@ std::function<void()> wired(Form& form, Handler handler) {
 
 std::function<void()> wired(Form& form, HandlerConIndice handler, int index) {
     return [&form, handler, index] { comando(form, [&form, handler, index] { handler(form, index); }); };
+}
+
+/// The same for what takes the leg editor's fields away from what is typed in them.
+std::function<void()> wiredLeaving(Form& form, Handler handler) {
+    return [&form, handler] {
+        comando(form, [&form, handler] {
+            if (lasciaTappa(form))
+                handler(form);
+        });
+    };
 }
 
 void wireMenu(Form& form) {
@@ -85,13 +97,13 @@ void wireParameters(Form& form) {
 
 void wireLegEditor(Form& form) {
     form.cmdInserisce.onClick = wired(form, cmdInserisce_Click);
-    form.cmdAggiunge.onClick = wired(form, cmdAggiunge_Click);
+    form.cmdAggiunge.onClick = wiredLeaving(form, cmdAggiunge_Click);
     form.cmdCancella.onClick = wired(form, cmdCancella_Click);
-    form.cmdRicalcola.onClick = wired(form, cmdRicalcola_Click);
-    form.cmdRitorno.onClick = wired(form, cmdRitorno_Click);
-    form.cmdCerca.onClick = wired(form, cmdCerca_Click);
-    form.cmdFine.onClick = wired(form, cmdFine_Click);
-    form.cmdMemorizza.onClick = wired(form, cmdMemorizza_Click);
+    form.cmdRicalcola.onClick = wiredLeaving(form, cmdRicalcola_Click);
+    form.cmdRitorno.onClick = wiredLeaving(form, cmdRitorno_Click);
+    form.cmdCerca.onClick = wiredLeaving(form, cmdCerca_Click);
+    form.cmdFine.onClick = wiredLeaving(form, cmdFine_Click);
+    form.cmdMemorizza.onClick = wiredLeaving(form, cmdMemorizza_Click);
     form.chkKm.onClick = wired(form, chkKm_Click);
     form.cmdAzzeraSoste.onClick = wired(form, cmdAzzeraSoste_Click);
     form.cmdTrasferisce.onClick = wired(form, cmdTrasferisce_Click);
@@ -104,7 +116,7 @@ void wireStretches(Form& form) {
     form.cmdModStrada.onClick = wired(form, cmdModStrada_Click);
     for (int i = 0; i < form.cmdTappaSEl.count(); ++i)
         form.cmdTappaSEl(i).onClick = wired(form, cmdTappaSEl_Click, i);
-    form.cmdDuplica.onClick = wired(form, cmdDuplica_Click);
+    form.cmdDuplica.onClick = wiredLeaving(form, cmdDuplica_Click);
     form.chiudeTratto = [&form] { return chiudeTratto(form); };
     form.mfgCopia.onClick = wired(form, mfgCopia_Click);
     form.mfgCopia.onMark = wired(form, mfgCopia_Mark);
@@ -116,6 +128,7 @@ void wireStretches(Form& form) {
 
 void wireGuide(Form& form) {
     form.guideRowShown = [&form] { InserisciGuida(form); };
+    form.lasciaRiga = [&form](int& row) { return form.stato.ModoGuida ? lasciaVoce(form, row) : lasciaTappa(form); };
     form.cmdSalvaRiga.onClick = wired(form, CmdSalvaRiga_Click);
     form.cmbGTipo.onClick = wired(form, cmbGTipo_Click);
     form.cmdCancellaRiga.onClick = wired(form, cmdCancellaRiga_Click);
