@@ -89,7 +89,6 @@ TEST_F(EnterKey, TakesATypedEntryElseLeavesTheGuide) {
         {"a place with a time", 1, "cmbGH", hours, false},
         {"a place with a category", 1, "cmbGTipo", category, false},
         {"a description", 1, "txtGDescr", describe, true},
-        {"a description, out of the table", 1, "mfgTab", describe, false},
         {"what was searched for", 1, "txtGDescr",
          [](Form& f) {
              f.txtGDescr.type(QStringLiteral("2"));

@@ -148,6 +148,71 @@ TEST_F(Changes, AStretchIsLeftByItsOwnWay) {
     EXPECT_EQ(stored(u"Itinerari"_s, 2), u"ASTI|ALBA"_s);
 }
 
+/// A leg that is typed and not in the table, before its fields show another row or go.
+TEST_F(Changes, ATypedLegIsAskedForBeforeItsFieldsGo) {
+    const std::pair<const char*, void (*)(Form&)> ways[] = {
+        {"a click", [](Form& f) { f.mfgTab.clickRow(1); }},
+        {"a key", [](Form& f) { f.mfgTab.pressKey(38); }},
+        {"a blank row", [](Form& f) { f.cmdAggiunge.click(); }},
+        {"the search", [](Form& f) { f.cmdCerca.click(); }},
+        {"a copy", [](Form& f) { f.cmdDuplica.click(); }},
+        {"the way back", [](Form& f) { f.cmdRitorno.click(); }},
+        {"a calculation", [](Form& f) { f.cmdRicalcola.click(); }},
+        {"a save", [](Form& f) { f.cmdMemorizza.click(); }},
+        {"the end", [](Form& f) { f.cmdFine.click(); }},
+    };
+    for (const auto& [what, leave] : ways) {
+        for (const int wish : {rispostaAnnulla, rispostaNo, rispostaSi}) {
+            SCOPED_TRACE(what + std::string(" ") + std::to_string(wish));
+            begin();
+            form().cmdItinerario.click();
+            form().mfgTab.clickRow(3);
+            form().txtTappa.type(u"CUNEO"_s);
+            form().txtKm.type(u"70"_s);
+            EXPECT_EQ(asked(), QStringList());
+            answer({wish});
+            leave(form());
+            EXPECT_EQ(asked().value(0), u"La tappa «CUNEO» è scritta ma non inserita.\n\nInserirla?"_s);
+            const TestiTabella* const kept = form().tappeConservate ? &*form().tappeConservate : nullptr;
+            const QString place = kept != nullptr ? kept->text(2, 1) : form().mfgTab.cell(3, 1);
+            EXPECT_EQ(place == u"CUNEO"_s, wish == rispostaSi);
+            if (wish == rispostaAnnulla) {
+                EXPECT_EQ(form().txtTappa.text(), u"CUNEO"_s);
+                EXPECT_EQ(form().mfgTab.row(), 3);
+                EXPECT_TRUE(form().frmframe(12).visible());
+            }
+        }
+    }
+    begin();
+    form().cmdItinerario.click();
+    form().mfgTab.clickRow(3);
+    form().txtTappa.type(u"CUNEO"_s);
+    answer({rispostaSi});
+    form().cmdFine.click();
+    EXPECT_EQ(asked(), (QStringList{u"La tappa «CUNEO» è scritta ma non inserita.\n\nInserirla?"_s,
+                                    u"Chilometri (o sosta): dato obbligatorio!"_s}))
+        << "one that can't be put in stays where it is";
+    EXPECT_EQ(form().txtTappa.text(), u"CUNEO"_s);
+}
+
+TEST_F(Changes, ATypedEntryIsAskedForBeforeItsFieldsGo) {
+    for (const int wish : {rispostaAnnulla, rispostaNo, rispostaSi}) {
+        SCOPED_TRACE(wish);
+        begin();
+        form().cmdGuidaCitta.click();
+        form().mfgTab.clickRow(1);
+        form().txtGDescr.type(u"torre"_s);
+        form().cmbGTipo.pick(u"Gpl"_s);
+        answer({wish});
+        form().mfgTab.clickRow(2);
+        EXPECT_EQ(asked(), QStringList{u"La nota «torre» è scritta ma non salvata.\n\nSalvarla?"_s});
+        EXPECT_EQ(stored(u"GuidaCitta"_s, 3), wish == rispostaSi ? u"Torre"_s : QString());
+        // The row that was clicked is one further down when the entry has come in above it.
+        EXPECT_EQ(form().mfgTab.row(), wish == rispostaAnnulla ? 1 : wish == rispostaNo ? 2 : 3);
+        EXPECT_EQ(form().txtGCitta.text(), wish == rispostaAnnulla ? u"Alba"_s : u"Asti"_s);
+    }
+}
+
 TEST_F(Changes, AStoppedCalculationKeepsThem) {
     begin();
     form().cmbGiorni.setText(u"009"_s);
