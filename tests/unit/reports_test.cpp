@@ -291,44 +291,24 @@ TEST_F(Reports, TheGuideByNamesAndByEntries) {
     EXPECT_TRUE(holds(drawn[1], "box 3 24 200 29 3"));
 }
 
-TEST_F(Reports, ATimeLineHasItsNamesInTheMiddleOfTheirBars) {
-    using enum Attivita::Tipo;
-    LineaDelTempo line{.giulianoInizio = 731416, .attivita = {}};
-    const auto lasts = [&line](Attivita::Tipo type, double from, double to, const QString& name) {
-        Attivita& made = line.attivita.emplace_back();
-        made.tipo = type;
-        made.inizio = from;
-        made.fine = to;
-        made.nome = name;
-    };
-    lasts(Guida, 800, 925, u"Casalmaggiore"_s);
-    lasts(Sosta, 925, 1800, u"Duomo"_s);
-    lasts(Libero, 1800, 2250, u"Libero"_s);
-    lasts(Notte, 2250, 3300, u"Parma"_s);
-    lasts(Guida, 3300, 3305, u"Fidenza"_s); // no room for a name
-    sheet.imposta();
-    stampaLinea(sheet, u"GIRO"_s, line, {u"05/07/2003"_s, u"Vanzer"_s});
-    const QJsonArray drawn = printer.take()["pages"].toArray();
-    ASSERT_EQ(drawn.size(), 1);
-    const QStringList names{u"Casa."_s, u"Duomo"_s, u"Parma"_s};
-    QStringList found;
-    QJsonObject box;
-    for (const QJsonValue& value : drawn[0].toArray()) {
-        const QJsonObject o = value.toObject();
-        if (o["op"] == u"box"_s)
-            box = o;
-        if (o["op"] != u"text"_s || !names.contains(o["text"].toString()))
-            continue;
-        printer.setFontSize(o["size"].toDouble());
-        const double x = o["x"].toDouble();
-        const double width = printer.textWidth(o["text"].toString());
-        const double from = box["x1"].toDouble();
-        const double to = box["x2"].toDouble();
-        EXPECT_NEAR(x + width / 2, (from + to) / 2, 0.02);
-        EXPECT_TRUE(from < x && x + width < to) << x << ' ' << width << " in " << from << ' ' << to;
-        found << o["text"].toString();
+TEST_F(Reports, TheDaysOfATimeLineShareAPageWhileTheyCanBeToldApart) {
+    const struct {
+        int days;
+        std::size_t pages;
+        std::string underTheFirst;
+    } cases[] = {{24, 1, "line 12 46 200 46 1"},
+                 {50, 1, "line 12 40.96 200 40.96 1"},
+                 {99, 1, "line 12 38.51 200 38.51 1"},
+                 {100, 2, "line 12 38.5 200 38.5 1"}};
+    for (const auto& c : cases) {
+        LineaDelTempo line;
+        line.attivita.emplace_back().fine = 2400.0 * c.days;
+        sheet.imposta();
+        stampaLinea(sheet, u"GIRO"_s, line, {u"05/07/2003"_s, u"Vanzer"_s});
+        const auto drawn = pages();
+        EXPECT_EQ(drawn.size(), c.pages) << c.days;
+        EXPECT_TRUE(holds(drawn[0], c.underTheFirst)) << c.days;
     }
-    EXPECT_EQ(found, (QStringList{u"Casa."_s, u"Duomo"_s, u"Parma"_s, u"Parma"_s}));
 }
 
 TEST(PrintedFiles, TableAndPlaces) {
