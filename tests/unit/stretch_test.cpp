@@ -64,7 +64,8 @@ TEST(Stretch, ChangesAreKeptRowByRow) {
 TEST(Copy, WhatTheWindowNeverAsksFor) {
     using Legs = std::vector<RigaSorgente>;
     const Legs source{{u"A"_s, {}, {}, {}, {}}, {u"B"_s, u"A1"_s, u"10"_s, u"A"_s, u"*01:00:00"_s}};
-    EXPECT_EQ(copiaTratto(source, 2, 3, true), (Legs{{u"B"_s, u"A1"_s, u"10"_s, u"A"_s, u"01:00:00"_s}, {}}));
+    EXPECT_EQ(copiaTratto(source, 1, 3, true),
+              (Legs{source[0], {u"B"_s, u"A1"_s, u"10"_s, u"A"_s, u"01:00:00"_s}, {}}));
     EXPECT_EQ(copiaTratto(source, 3, 2, false), (Legs{{}, {u"B"_s, {}, {}, {}, {}}}));
 }
 
