@@ -112,7 +112,7 @@ void writeRecord(Form& form, store::Recordset& record) {
     };
     const auto number = [](const ListControl& list) { return testoNumero(Val(list.text())); };
     write(u"Localita", Trim(form.txtLocalita.text()));
-    write(u"Nazione", Left(Trim(form.txtNazione.text()) + u' ', 19));
+    write(u"Nazione", Trim(form.txtNazione.text()) + u' '); // its field cuts it
     write(u"DataInizio", form.cmbInizio(0).text() + form.cmbInizio(1).text() + form.cmbInizio(2).text());
     write(u"OraInizio", form.cmbInizio(3).text() + form.cmbInizio(4).text());
     for (int i = 0; i < 4; ++i)

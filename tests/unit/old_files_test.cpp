@@ -107,6 +107,11 @@ TEST(OldFiles, LegsPartPlaceAndRoad) {
     const std::vector<Row> rows{{u"MODENA*A1"_s, u"000000"_s, u"MODENA", u"A1 ", u" "},
                                 {u"MODENA * A1 *A22 "_s, u"010230"_s, u"MODENA", u"A1 *A22 ", u"01:02:30"},
                                 {u"MODENA"_s, {}, u"MODENA", u" ", u" "},
+                                {u"ASTI*A21 FINO A TORTONA E POI LA SS10 PER CASALE"_s,
+                                 {},
+                                 u"ASTI",
+                                 u"A21 FINO A TORTONA E POI LA SS10 PER CASALE ",
+                                 u" "},
                                 {u"ÅNDALSNES*E136"_s, u"000100"_s, u"ÅNDALSNES", u"E136 ", u"00:01:00"},
                                 {u"østersund"_s, u"00010"_s, u"østersund", u" ", u"00:01:0"},
                                 {u"*A1"_s, {}, nullptr, nullptr, nullptr},
@@ -151,9 +156,9 @@ class Conversion : public testing::Test {
         ASSERT_NE(session.window(), nullptr);
     }
     [[nodiscard]] Form& form() { return *session.window(); }
-    QStringList convert(int answer = rispostaSi) {
+    QStringList convert() {
         static_cast<void>(session.boxes.exchange({}));
-        session.boxes.enqueue(answer);
+        session.boxes.enqueue(rispostaSi);
         form().cmdConverte.click();
         QStringList texts;
         for (const QJsonValue box : session.boxes.exchange({}))
@@ -190,31 +195,6 @@ class Conversion : public testing::Test {
     batch::Session session{{.directory = directory.path(), .decimalMark = u'.', .versione = {}}};
 };
 
-TEST_F(Conversion, ComesInWholeAndTheFilesGo) {
-    oldArchive();
-    start();
-    EXPECT_TRUE(waiting());
-    form().cmdNuovo.click();
-    EXPECT_FALSE(form().cmdConverte.enabled()) << "while a destination is being typed";
-    EXPECT_TRUE(form().cmdConverte.visible());
-    start();
-    EXPECT_EQ(convert(rispostaNo).size(), 1);
-    EXPECT_TRUE(waiting()) << "still there after a no";
-    EXPECT_EQ(convert().last(), u"Conversione eseguita..."_s);
-    EXPECT_FALSE(form().cmdConverte.visible());
-    EXPECT_EQ(files(), QString());
-    EXPECT_EQ(column(store::MeteVanzer, u"CodiceMeta"_s), u"000001|000003"_s);
-    EXPECT_EQ(column(store::MeteVanzer, u"OraCena"_s), u"2000|2000"_s);
-    EXPECT_EQ(column(store::Itinerari, u"Localita"_s), u"TERNI|LUCCA|PISA"_s);
-    EXPECT_EQ(column(store::Itinerari, u"NomeStrada"_s), u"SS3 | | "_s);
-    EXPECT_EQ(column(store::GuidaCitta, u"Descrizione"_s), u"Torre (la)|Torre (vista)"_s);
-    EXPECT_EQ(column(store::GuidaCitta, u"TempoSosta"_s), u"01:30|00:20"_s);
-    EXPECT_EQ(column(store::TipoGuida, u"CodiceGuida"_s), u"01|02|03|04|05|06|07|08|09"_s);
-    EXPECT_EQ(form().txtLocalita.text(), u"PISA"_s);
-    start();
-    EXPECT_FALSE(form().cmdConverte.visible());
-}
-
 TEST_F(Conversion, WhatIsThereStaysAndEqualKeysAreOverwritten) {
     oldArchive();
     start();
@@ -232,28 +212,6 @@ TEST_F(Conversion, WhatIsThereStaysAndEqualKeysAreOverwritten) {
     EXPECT_EQ(column(store::Itinerari, u"Localita"_s), u"TERNI|LUCCA|PISA|VINCI|LUCCA"_s);
     EXPECT_EQ(column(store::Itinerari, u"CodiceMeta"_s), u"000001|000003|000003|000002|000002"_s);
     EXPECT_EQ(column(store::GuidaCitta, u"CodiceGuida"_s), u"01|03"_s);
-}
-
-TEST_F(Conversion, DamagedRecordsAreCountedAndTheirFilesKept) {
-    oldArchive();
-    const auto& mete = store::vecchieMete();
-    old(u"VANZMETE.DAT"_s, oldFile(mete, {{u"1"_s, u"ROMA"_s}, {u"2"_s, u"BA\nRI"_s}}) + "000003PISA");
-    old(u"VANZMETE.DAT.vecchio"_s, "from another time");
-    old(u"vanz0001.dat"_s, oldItinerary({{u"TERNI"_s}, {u"NARNI"_s}}, u"1"_s));
-    old(u"VanzGuid.dat"_s, oldFile(store::vecchiaGuida(), {{u"PISA"_s}, {u"PISA"_s, u"Torre"_s}}));
-    start();
-    const QString told = convert().last();
-    EXPECT_TRUE(told.startsWith(u"Conversione eseguita...\n\nRecord danneggiati e non convertiti: 4.\n"_s))
-        << told.toStdString();
-    for (const QString& kept : {u"VANZMETE.DAT.2.vecchio"_s, u"vanz0001.dat.vecchio"_s, u"VanzGuid.dat.vecchio"_s})
-        EXPECT_TRUE(told.contains(u'\n' + kept)) << kept.toStdString();
-    EXPECT_EQ(column(store::MeteVanzer, u"Localita"_s), u"ROMA"_s);
-    EXPECT_EQ(column(store::Itinerari, u"Localita"_s), u"TERNI"_s);
-    EXPECT_EQ(column(store::GuidaCitta, u"Descrizione"_s), u"Torre"_s);
-    EXPECT_FALSE(form().cmdConverte.visible()) << "an itinerary of no destination is not waited for";
-    QFile kept(directory.filePath(u"VANZMETE.DAT.2.vecchio"_s));
-    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(kept.readAll().endsWith("000003PISA"));
 }
 
 TEST_F(Conversion, StoppedAnywhereItLosesNothingAndGoesOn) {

@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include "batch/session.h"
+#include "core/text.h"
 #include "schedule/totals_screen.h"
 
 namespace vanzer {

@@ -61,42 +61,12 @@ TEST(Stretch, ChangesAreKeptRowByRow) {
     EXPECT_EQ(conModifiche(u"000"_s, 0, 2), u"110");
 }
 
-const std::vector<RigaSorgente> source{{u"A"_s, {}, {}, {}, {}},
-                                       {u"B"_s, u"A1"_s, u"10"_s, u"A"_s, u"00:02:00"_s},
-                                       {u"C"_s, u"SS2"_s, u"20"_s, u"S"_s, u"*01:00:00"_s},
-                                       {u"D"_s, u"SP3"_s, u"30"_s, u"L"_s, {}}};
-
-TEST(Copy, GoesInBothDirections) {
+TEST(Copy, WhatTheWindowNeverAsksFor) {
     using Legs = std::vector<RigaSorgente>;
-    const struct {
-        const char* what;
-        int from, to;
-        bool stops;
-        Legs legs;
-    } cases[] = {
-        {"forward", 2, 3, false, {{u"B"_s, u"A1"_s, u"10"_s, u"A"_s, {}}, {u"C"_s, u"SS2"_s, u"20"_s, u"S"_s, {}}}},
-        {"backward, by the road behind",
-         3,
-         2,
-         true,
-         {{u"C"_s, u"SP3"_s, u"30"_s, u"L"_s, u"01:00:00"_s}, {u"B"_s, u"SS2"_s, u"20"_s, u"S"_s, u"00:02:00"_s}}},
-        {"one leg is forward", 2, 2, true, {{u"B"_s, u"A1"_s, u"10"_s, u"A"_s, u"00:02:00"_s}}},
-        {"backward from the end", 4, 3, false, {{u"D"_s, {}, {}, {}, {}}, {u"C"_s, u"SP3"_s, u"30"_s, u"L"_s, {}}}},
-        {"rows that aren't there", 4, 6, false, {{u"D"_s, u"SP3"_s, u"30"_s, u"L"_s, {}}, {}, {}}},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(copiaTratto(source, c.from, c.to, c.stops), c.legs) << c.what;
-}
-
-TEST(Copy, WhatIsChosenShowsWithTheRowAtHand) {
-    const struct {
-        int first, last, row, from, to;
-    } cases[] = {{0, 0, 4, 4, 4}, {2, 0, 4, 2, 4}, {0, 2, 4, 2, 4}, {6, 3, 4, 3, 6}, {3, 6, 1, 1, 6}, {3, 6, 9, 3, 9}};
-    for (const auto& c : cases) {
-        const Blocco chosen = bloccoScelto(c.first, c.last, c.row);
-        EXPECT_EQ(chosen.prima, c.from) << c.first << ' ' << c.last << ' ' << c.row;
-        EXPECT_EQ(chosen.ultima, c.to) << c.first << ' ' << c.last << ' ' << c.row;
-    }
+    const Legs source{{u"A"_s, {}, {}, {}, {}}, {u"B"_s, u"A1"_s, u"10"_s, u"A"_s, u"*01:00:00"_s}};
+    EXPECT_EQ(copiaTratto(source, 1, 3, true),
+              (Legs{source[0], {u"B"_s, u"A1"_s, u"10"_s, u"A"_s, u"01:00:00"_s}, {}}));
+    EXPECT_EQ(copiaTratto(source, 3, 2, false), (Legs{{}, {u"B"_s, {}, {}, {}, {}}}));
 }
 
 } // namespace

@@ -54,69 +54,6 @@ LineaDelTempo lineOf(const std::vector<RigaDiLavoro>& rows, const ParametriSimul
     return lineaDelTempo(simula(rows, p, 1), rows, p, [](int) { return u"SS1"_s; });
 }
 
-std::string clockOf(double hundredths) {
-    return QString::number(hundredths / 100).toStdString();
-}
-
-/// "Guida 8-12 Roma | ..." with hours from the first midnight.
-std::string told(const LineaDelTempo& line) {
-    std::string text;
-    for (const Attivita& a : line.attivita) {
-        text += text.empty() ? "" : " | ";
-        text += nomeAttivita(a.tipo).toStdString() + ' ' + clockOf(a.inizio) + '-' + clockOf(a.fine);
-        if (a.tipo != Attivita::Tipo::Libero && a.tipo != Attivita::Tipo::Pasto)
-            text += ' ' + a.nome.toStdString();
-    }
-    return text;
-}
-
-TEST(TimeLine, FillsWhatLiesBetweenTheRows) {
-    struct Case {
-        const char* idea;
-        std::vector<RigaDiLavoro> rows;
-        void (*change)(ParametriSimulazione&);
-        const char* line;
-    };
-    const auto asIs = [](ParametriSimulazione&) {};
-    const Case cases[] = {
-        {"a departure takes no time", {drive(u"ROMA [Start]", 0)}, asIs, ""},
-        {"lunch cuts a drive",
-         {drive(u"ROMA", 0), drive(u"BARI", 500)},
-         asIs,
-         "Guida 8-12 verso Bari | Pasto 12-13 | Guida 13-14 Bari"},
-        {"an ordered end of the day: free until the night",
-         {drive(u"ROMA", 0), drive(u"TERNI", 100, true), drive(u"PERUGIA", 100)},
-         asIs,
-         "Guida 8-9 Terni | Tempo libero 9-22 | Notte 22-32 Terni | Guida 32-33 Perugia"},
-        {"a stop that is too late waits for the visits of the next day",
-         {drive(u"ROMA", 0), drive(u"BARI", 400), drive(u"LECCE", 550), visit(u"Duomo", 200)},
-         asIs,
-         "Guida 8-12 Bari | Pasto 12-13 | Guida 13-18.5 Lecce | Tempo libero 18.5-22 | Notte 22-32 Lecce | Tempo "
-         "libero 32-33 | Sosta 33-35 Duomo"},
-        {"a stop of more than a day has a piece for each",
-         {drive(u"ROMA", 0), drive(u"TERNI", 100), visit(u"01 * Cascate", 1200)},
-         asIs,
-         "Guida 8-9 Terni | Sosta 9-18 01 * Cascate | Tempo libero 18-22 | Notte 22-32 Terni | Tempo libero 32-33 | "
-         "Sosta 33-36 01 * Cascate"},
-        {"the night begins with the arrival that reaches it, and the trip ends behind it",
-         {drive(u"ROMA", 0), drive(u"BARI", 400), drive(u"LECCE", 600), drive(u"OTRANTO", 200)},
-         [](ParametriSimulazione& p) { p.oraCena = 2600; },
-         "Guida 8-12 Bari | Pasto 12-13 | Guida 13-19 Lecce | Guida 19-21 Otranto"},
-        {"breaks",
-         {drive(u"ROMA", 0), drive(u"TERNI", 300)},
-         [](ParametriSimulazione& p) {
-             p.riposoOre = 2;
-             p.riposoMinuti = 50;
-         },
-         "Guida 8-10 verso Terni | Riposo 10-10.5 Riposo | Guida 10.5-11.5 Terni"},
-    };
-    for (const Case& c : cases) {
-        ParametriSimulazione p = ordinaryDay();
-        c.change(p);
-        EXPECT_EQ(told(lineOf(c.rows, p)), c.line) << c.idea;
-    }
-}
-
 TEST(TimeLine, NothingOverlapsAndNoTimeIsLost) {
     ParametriSimulazione p = ordinaryDay();
     p.riposoOre = 2;
@@ -159,21 +96,15 @@ TEST(TimeLine, NothingOverlapsAndNoTimeIsLost) {
     EXPECT_EQ(km, simula(rows, p, 1).pannello.kmTotali);
 }
 
-TEST(TimeLine, DaysAreCutAtMidnight) {
-    const ParametriSimulazione p = ordinaryDay();
-    const LineaDelTempo line =
-        lineOf({drive(u"ROMA", 0), drive(u"TERNI", 100, true), drive(u"RIETI", 50), visit(u"Duomo", 50)}, p);
+TEST(TimeLine, ADaysSumsAndTheWordsForAnActivity) {
+    const LineaDelTempo line = lineOf(
+        {drive(u"ROMA", 0), drive(u"TERNI", 100, true), drive(u"RIETI", 50), visit(u"Duomo", 50)}, ordinaryDay());
     const std::vector<Giornata> days = giornate(line);
     ASSERT_EQ(days.size(), 2U);
-    EXPECT_EQ(days[0].data.toStdString(), "Lun 01/01");
-    EXPECT_EQ(days[1].data.toStdString(), "Mar 02/01");
-    EXPECT_EQ(days[0].km, 100);
     EXPECT_EQ(days[1].guida, 50);
     EXPECT_EQ(days[1].soste, 50);
-    ASSERT_FALSE(days[1].barre.empty());
-    EXPECT_EQ(days[0].barre.back().a, 2400);
-    EXPECT_EQ(days[1].barre.front().da, 0);
     EXPECT_EQ(descrizione(line, line.attivita[0]).toStdString(), "Lun 01/01 08:00 - 09:00  Guida: Terni (SS1, 100 km)");
+    EXPECT_EQ(descrizione(line, line.attivita[1]).toStdString(), "Lun 01/01 09:00 - 22:00  Tempo libero");
     EXPECT_EQ(descrizione(line, line.attivita[2]).toStdString(), "Lun 01/01 22:00 - Mar 02/01 08:00  Notte: Terni");
 }
 
@@ -186,20 +117,6 @@ QStringList linesOf(const QByteArray& file, QStringView name) {
             found << line.mid(name.size() + 1);
     }
     return found;
-}
-
-TEST(Calendar, HasOneEventForEachDriveStopAndNight) {
-    const ParametriSimulazione p = ordinaryDay();
-    const LineaDelTempo line = lineOf({drive(u"ROMA", 0), drive(u"TERNI", 100), visit(u"Cascate, belle; \"!\"", 1200),
-                                       drive(u"RIETI", 20), visit(u"Duomo", 50)},
-                                      p);
-    const QByteArray file = calendario(u"UMBRIA"_s, line, {QDate(2026, 1, 2), QTime(3, 4), Qt::UTC});
-    EXPECT_EQ(linesOf(file, u"SUMMARY").join(u'|').toStdString(),
-              "Guida: Terni|Cascate\\, belle\\; \"!\"|Notte: Terni|Guida: Rieti|Duomo");
-    EXPECT_EQ(linesOf(file, u"DTSTART")[1].toStdString(), "20010101T090000");
-    EXPECT_EQ(linesOf(file, u"DTEND")[1].toStdString(), "20010102T120000");
-    EXPECT_EQ(linesOf(file, u"DESCRIPTION")[0].toStdString(), "SS1\\, 100 km\\, ore 01:00");
-    EXPECT_EQ(linesOf(file, u"DTSTAMP")[0].toStdString(), "20260102T030400Z");
 }
 
 TEST(Calendar, EventsKeepTheirIdentifiers) {
