@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
 
@@ -88,6 +89,10 @@ TEST_F(Companions, TheLineOfTimeIsWorkedByKeyboard) {
     const QString first = told->text();
     EXPECT_TRUE(first.startsWith(form().mfgTab.cell(1, 9) + u' ' + form().mfgTab.cell(1, 10))) << first.toStdString();
     EXPECT_EQ(find("vistaLinea")->accessibleDescription(), first);
+    const auto* const picture = find<QAbstractScrollArea>("vistaLinea");
+    const double lines =
+        static_cast<double>(picture->verticalScrollBar()->singleStep()) / picture->fontMetrics().height();
+    EXPECT_TRUE(lines > 3 && lines < 4) << "a day is as high as its names and hours need: " << lines;
     key(Qt::Key_End);
     EXPECT_NE(told->text(), first);
     key(Qt::Key_Home);

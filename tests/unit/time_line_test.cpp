@@ -96,6 +96,18 @@ TEST(TimeLine, NothingOverlapsAndNoTimeIsLost) {
     EXPECT_EQ(km, simula(rows, p, 1).pannello.kmTotali);
 }
 
+TEST(TimeLine, AGapThatTheCountingLeavesIsNoFreeTime) {
+    ParametriSimulazione p = ordinaryDay();
+    p.range = 0;
+    for (const auto& [night, between] : {std::pair(902.F, false), std::pair(903.F, true)}) {
+        p.oraNotte = night; // two hundredths of an hour, or three, behind the arrival
+        const LineaDelTempo line = lineOf({drive(u"ROMA", 0), drive(u"TERNI", 100, true), drive(u"RIETI", 50)}, p);
+        ASSERT_GT(line.attivita.size(), 1U);
+        EXPECT_EQ(line.attivita[1].tipo == Attivita::Tipo::Libero, between);
+        EXPECT_EQ(line.attivita[1].tipo == Attivita::Tipo::Notte, !between);
+    }
+}
+
 TEST(TimeLine, ADaysSumsAndTheWordsForAnActivity) {
     const LineaDelTempo line = lineOf(
         {drive(u"ROMA", 0), drive(u"TERNI", 100, true), drive(u"RIETI", 50), visit(u"Duomo", 50)}, ordinaryDay());
