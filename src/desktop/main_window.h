@@ -8,6 +8,7 @@
 
 #include <QAbstractButton>
 #include <QPointer>
+#include <QScrollArea>
 #include <QWidget>
 
 #include "desktop/binder.h"
@@ -28,7 +29,7 @@ class MainWindow : public QWidget {
     ~MainWindow() override;
 
     [[nodiscard]] Binder& binder() { return binder_; }
-    /// Size and place of the last time; the window's own without any.
+    /// Size and place of the last time; the window's own without any. What is larger than the screen fills it.
     void restorePlace();
 
   protected:
@@ -43,6 +44,9 @@ class MainWindow : public QWidget {
     [[nodiscard]] static bool isThere(const QWidget* frame);
     void watchLetters(QWidget& form);
     void layOutFrames();
+    [[nodiscard]] QSize neededSize() const;
+    void fitScreen();
+    void scrollTo(QWidget* before, QWidget* focused) const;
     void pressEnter();
     void takeFocus(QWidget& frame);
     void giveFocusBack(QWidget& frame);
@@ -53,6 +57,8 @@ class MainWindow : public QWidget {
 
     Form& form_;
     std::unique_ptr<Ui::MainWindow> ui_;
+    QScrollArea area_{this};                             ///< all of the window, of which a small one shows a part
+    QWidget& contents_;                                  ///< in the area
     std::vector<QWidget*> frames_;                       ///< over and beside the table; null until they are seen
     std::map<const QWidget*, QPointer<QWidget>> before_; ///< what had the focus before a frame took it
     QPointer<ManualWindow> manual_;
