@@ -193,12 +193,17 @@ void TableView::fitColumns() {
             room -= columnWidth(c);
         }
     }
+    int leastBehind = 0;
+    for (const auto& [column, wish] : wishes)
+        leastBehind += leastWidth(column);
     for (std::size_t i = 0; i < wishes.size(); ++i) {
         const auto& [column, wish] = wishes[i];
+        const int least = leastWidth(column);
+        leastBehind -= least;
         const bool last = i + 1 == wishes.size();
-        const int part = last ? room : room * wish / std::max(wished, 1);
-        setColumnWidth(column, std::max(part, leastWidth(column)));
-        room -= part;
+        const int part = last ? room : std::min(room * wish / std::max(wished, 1), room - leastBehind);
+        setColumnWidth(column, std::max(part, least));
+        room -= columnWidth(column);
         wished -= wish;
     }
 }
