@@ -61,8 +61,8 @@ TEST_F(EnterKey, TakesATypedLegElseAsksToLeave) {
              f.txtKm.type(QStringLiteral("5"));
          },
          true},
-        {"a new place, out of the table", 4, "mfgTab", [](Form& f) { f.txtTappa.type(QStringLiteral("ALTROVE")); },
-         false},
+        {"a new place, the focus in the table", 4, "mfgTab",
+         [](Form& f) { f.txtTappa.type(QStringLiteral("ALTROVE")); }, false},
     };
     for (const Case& c : cases) {
         open();
@@ -89,7 +89,7 @@ TEST_F(EnterKey, TakesATypedEntryElseLeavesTheGuide) {
         {"a place with a time", 1, "cmbGH", hours, false},
         {"a place with a category", 1, "cmbGTipo", category, false},
         {"a description", 1, "txtGDescr", describe, true},
-        {"a description, out of the table", 1, "mfgTab", describe, false},
+        {"a description, the focus in the table", 1, "mfgTab", describe, false},
         {"what was searched for", 1, "txtGDescr",
          [](Form& f) {
              f.txtGDescr.type(QStringLiteral("2"));

@@ -9,11 +9,6 @@
 namespace vanzer::desktop {
 namespace {
 
-constexpr TypedLeg tenLegs[] = {
-    {"bologna", "", ""},        {"modena", "a1", "41"},           {"verona", "a22", "92"},    {"trento", "a22", "97"},
-    {"bolzano", "a22", "58"},   {"brennero", "a22", "82"},        {"innsbruck", "a13", "37"}, {"kufstein", "a12", "75"},
-    {"rosenheim", "a93", "33"}, {"monaco di baviera", "a8", "60"}};
-
 class TripByKeyboard : public DesktopTest {
   protected:
     /// Wanted days that no multiplier reaches, so that a calculation runs all its tests.
@@ -54,28 +49,6 @@ TEST_F(TripByKeyboard, DestinationIsTypedAndSaved) {
     EXPECT_EQ(textOf("cmbInizio_0"), QStringLiteral("02"));
     EXPECT_EQ(textOf("txtInizioGSett"), QStringLiteral("Mar"));
     EXPECT_TRUE(find("cmdItinerario")->isEnabled());
-}
-
-TEST_F(TripByKeyboard, TenLegsAreTypedAndStandInTheArchiveAtTheNextStart) {
-    open();
-    typeDestination("monaco", "germania");
-    letter('i');
-    EXPECT_TRUE(isSeen("frmframe_12"));
-    EXPECT_FALSE(find("cmdNuovo")->isEnabled());
-    typeLegs(tenLegs);
-    EXPECT_EQ(textOf("txtRiga"), QStringLiteral("11"));
-    EXPECT_EQ(textOf("txtKmTot_4"), QStringLiteral("575"));
-    // The default button asks whether to store; Enter says yes.
-    boxes.expect(Qt::Key_Return);
-    key(Qt::Key_Return);
-    EXPECT_FALSE(isSeen("frmframe_12"));
-
-    open();
-    EXPECT_EQ(textOf("txtLocalita"), QStringLiteral("MONACO"));
-    const auto* const table = find<TableView>("mfgTab");
-    EXPECT_EQ(table->model()->index(9, 1).data().toString().toStdString(), "MONACO DI BAVIERA");
-    EXPECT_EQ(table->model()->index(9, 5).data().toString().toStdString(), "575");
-    EXPECT_EQ(textOf("txtKmTot_0"), QStringLiteral("575"));
 }
 
 TEST_F(TripByKeyboard, CalculationIsStoppedOnceAndFinishedOnce) {
