@@ -201,7 +201,8 @@ const QString& ShortenedLabel::shown() const {
 
 void ShortenedLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    const QString fitting = fontMetrics().elidedText(shown(), Qt::ElideMiddle, width());
+    const Qt::TextElideMode left = &shown() == &hint_ ? Qt::ElideRight : Qt::ElideMiddle;
+    const QString fitting = fontMetrics().elidedText(shown(), left, width());
     style()->drawItemText(&painter, rect(), static_cast<int>(alignment_), palette(), isEnabled(), fitting,
                           QPalette::WindowText);
 }

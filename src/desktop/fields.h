@@ -85,7 +85,8 @@ class HelpButton : public QPushButton {
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 };
 
-/// A text that gives way: what has no room is left out in its middle. Another text moves nothing else in the window.
+/// A text that gives way: what has no room is left out in its middle, of a hint at its end. Another text moves nothing
+/// else in the window.
 class ShortenedLabel : public QWidget {
     Q_OBJECT
     Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment)

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QRadioButton>
+#include <QScreen>
 #include <QSettings>
 
 #include "desktop/frames.h"
@@ -24,6 +25,7 @@ namespace vanzer::desktop {
 namespace {
 
 constexpr QSize firstSize{1280, 720};
+constexpr QSize leastSize{320, 240};
 const QString placeKey = QStringLiteral("finestra/posto");
 
 /// The frame of the window that a widget stands in.
@@ -56,9 +58,17 @@ QWidget* firstOf(const QWidget& frame) {
 
 } // namespace
 
-MainWindow::MainWindow(Form& form) : form_(form), ui_(std::make_unique<Ui::MainWindow>()), binder_(form) {
+MainWindow::MainWindow(Form& form)
+    : form_(form), ui_(std::make_unique<Ui::MainWindow>()), contents_(*new QWidget(this)), binder_(form) {
     nameOwnWidgets();
-    ui_->setupUi(this);
+    ui_->setupUi(&contents_);
+    area_.setFrameShape(QFrame::NoFrame);
+    area_.setFocusPolicy(Qt::NoFocus);
+    area_.setWidgetResizable(true);
+    area_.setWidget(&contents_);
+    contents_.installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, &MainWindow::scrollTo);
+    setMinimumSize(leastSize);
     resize(firstSize);
     addFrames();
     setWindowTitle(form.caption);
@@ -101,7 +111,7 @@ void MainWindow::addFrames() {
         const std::size_t at = frames_.size();
         frames_.push_back(nullptr);
         binder_.bindLater(*form_.find(QString::fromUtf16(design.control)), [this, at, &design]() -> QWidget& {
-            QWidget& frame = *design.make(*this);
+            QWidget& frame = *design.make(contents_);
             watchLetters(frame);
             if (auto* const picture = frame.findChild<TimeLineView*>())
                 connect(picture, &TimeLineView::dayTold, frame.findChild<QLabel*>(QStringLiteral("giornoLinea")),
@@ -123,9 +133,39 @@ bool MainWindow::isThere(const QWidget* frame) {
     return frame != nullptr && !frame->isHidden();
 }
 
+/// Brings what got the focus into view, unless the mouse gave it: nothing moves under a click.
+void MainWindow::scrollTo(QWidget* /*before*/, QWidget* focused) const {
+    if (focused == nullptr || !contents_.isAncestorOf(focused) || QApplication::mouseButtons() != Qt::NoButton)
+        return;
+    for (QWidget* holder = focused; holder != nullptr; holder = holder->parentWidget()) {
+        if (auto* const area = qobject_cast<QScrollArea*>(holder))
+            area->ensureWidgetVisible(focused, 0, 0);
+    }
+}
+
+/// What the fixed forms and the frames that are there need to be whole.
+QSize MainWindow::neededSize() const {
+    const QLayout& fixed = *contents_.layout();
+    const QMargins margins = fixed.contentsMargins();
+    const int above = ui_->parametri->mapTo(&contents_, QPoint()).y();
+    const int below = ui_->piede->minimumSizeHint().height() + fixed.spacing() + margins.bottom();
+    QSize needed = fixed.minimumSize();
+    for (const QWidget* const frame : frames_) {
+        if (!isThere(frame))
+            continue;
+        QSize own = frame->minimumSizeHint().grownBy(margins);
+        if (posto(*frame) == Posto::Fianco)
+            own = {0, above + frame->minimumSizeHint().height() + below};
+        if (posto(*frame) == Posto::Sotto)
+            own.setHeight(0); // taken from the table
+        needed = needed.expandedTo(own);
+    }
+    return needed;
+}
+
 /// Frames at the side and below take their room from the table; the others lie over it.
 void MainWindow::layOutFrames() {
-    const QRect whole = contentsRect().marginsRemoved(layout()->contentsMargins());
+    const QRect whole = contents_.contentsRect().marginsRemoved(contents_.layout()->contentsMargins());
     int side = 0;
     int below = 0;
     for (const QWidget* const frame : frames_) {
@@ -137,9 +177,10 @@ void MainWindow::layOutFrames() {
             below = std::max(below, frameHeight(*frame, whole.width()) + ui_->areaTabella->spacing());
     }
     ui_->areaTabella->setContentsMargins(0, 0, side > 0 ? side + ui_->areaTabella->spacing() : 0, below);
-    layout()->activate();
-    const int sideTop = ui_->parametri->mapTo(this, QPoint()).y();
-    const QRect table(ui_->mfgTab->mapTo(this, QPoint()), ui_->mfgTab->size());
+    contents_.layout()->activate();
+    contents_.setMinimumSize(neededSize());
+    const int sideTop = ui_->parametri->mapTo(&contents_, QPoint()).y();
+    const QRect table(ui_->mfgTab->mapTo(&contents_, QPoint()), ui_->mfgTab->size());
     const QRect room(whole.right() + 1 - side, sideTop, side, table.bottom() + 1 - sideTop);
     for (QWidget* const frame : frames_) {
         if (!isThere(frame))
@@ -151,7 +192,7 @@ void MainWindow::layOutFrames() {
 
 void MainWindow::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    layOutFrames();
+    area_.resize(size());
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -160,6 +201,8 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         if (auto* const widget = qobject_cast<QWidget*>(watched))
             return pressMnemonic(*widget, static_cast<QShortcutEvent*>(event)->isAmbiguous());
     }
+    if (watched == &contents_ && type == QEvent::Resize)
+        layOutFrames();
     const bool arranges = type == QEvent::ShowToParent || type == QEvent::HideToParent;
     if (const auto frame = std::ranges::find(frames_, watched); arranges && frame != frames_.end()) {
         layOutFrames();
@@ -275,6 +318,16 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::restorePlace() {
     restoreGeometry(QSettings().value(placeKey).toByteArray());
+    fitScreen();
+}
+
+/// Nobody knows yet how much the window's own frame takes: about a title bar.
+void MainWindow::fitScreen() {
+    const QSize room = screen()->availableGeometry().size() - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    if (size() == size().boundedTo(room))
+        return;
+    resize(size().boundedTo(room));
+    setWindowState(windowState() | Qt::WindowMaximized);
 }
 
 void MainWindow::savePlace() const {

@@ -8,6 +8,7 @@
 
 #include <QAbstractButton>
 #include <QPointer>
+#include <QScrollArea>
 #include <QWidget>
 
 #include "desktop/binder.h"
@@ -32,7 +33,7 @@ class MainWindow : public QWidget {
     /// An Alt letter whose key comes late presses its button, or goes to its field, all the same; false if nothing in
     /// sight has it.
     bool pressLetter(const QKeyEvent& key);
-    /// Size and place of the last time; the window's own without any.
+    /// Size and place of the last time; the window's own without any. What is larger than the screen fills it.
     void restorePlace();
 
   protected:
@@ -47,6 +48,9 @@ class MainWindow : public QWidget {
     [[nodiscard]] static bool isThere(const QWidget* frame);
     void watchLetters(QWidget& form);
     void layOutFrames();
+    [[nodiscard]] QSize neededSize() const;
+    void fitScreen();
+    void scrollTo(QWidget* before, QWidget* focused) const;
     void pressEnter();
     void takeFocus(QWidget& frame);
     void giveFocusBack(QWidget& frame);
@@ -57,6 +61,8 @@ class MainWindow : public QWidget {
 
     Form& form_;
     std::unique_ptr<Ui::MainWindow> ui_;
+    QScrollArea area_{this};                             ///< all of the window, of which a small one shows a part
+    QWidget& contents_;                                  ///< in the area
     std::vector<QWidget*> frames_;                       ///< over and beside the table; null until they are seen
     std::map<const QWidget*, QPointer<QWidget>> before_; ///< what had the focus before a frame took it
     QPointer<ManualWindow> manual_;

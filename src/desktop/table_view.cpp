@@ -29,7 +29,7 @@ TableView::TableView(QWidget* parent) : QTableView(parent), tints_(palette()) {
     setSelectionMode(NoSelection);
     setSelectionBehavior(SelectRows);
     setVerticalScrollMode(ScrollPerItem);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setHorizontalScrollMode(ScrollPerPixel);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setTabKeyNavigation(false);
     setShowGrid(false);
@@ -165,6 +165,13 @@ int TableView::ownWidth(int column) const {
     return std::max({laidOut, headWidth(column), std::min(textWidth(column) + cellPadding, laidOut * 3 / 2)});
 }
 
+/// Where there is no room a column of long texts keeps this much, and the table scrolls.
+int TableView::leastWidth(int column) const {
+    constexpr int characters = 14;
+    const int legible = QFontMetrics(font()).horizontalAdvance(u'0') * characters + cellPadding;
+    return std::max(headWidth(column), std::min(textWidth(column) + cellPadding, legible));
+}
+
 /// Columns keep the widths of the layout, in the measure of the font; what is left goes to the columns of long texts,
 /// by what their texts ask for. A list that is chosen from keeps to its layout, so that nothing jumps as rows come and
 /// go.
@@ -187,12 +194,17 @@ void TableView::fitColumns() {
             room -= columnWidth(c);
         }
     }
+    int leastBehind = 0;
+    for (const auto& [column, wish] : wishes)
+        leastBehind += leastWidth(column);
     for (std::size_t i = 0; i < wishes.size(); ++i) {
         const auto& [column, wish] = wishes[i];
+        const int least = leastWidth(column);
+        leastBehind -= least;
         const bool last = i + 1 == wishes.size();
-        const int part = last ? room : room * wish / std::max(wished, 1);
-        setColumnWidth(column, std::max(part, headWidth(column)));
-        room -= part;
+        const int part = last ? room : std::min(room * wish / std::max(wished, 1), room - leastBehind);
+        setColumnWidth(column, std::max(part, least));
+        room -= columnWidth(column);
         wished -= wish;
     }
 }

@@ -56,6 +56,7 @@ class TableView : public QTableView {
     void spanTotals();
     [[nodiscard]] int ownWidth(int column) const;
     [[nodiscard]] int headWidth(int column) const;
+    [[nodiscard]] int leastWidth(int column) const;
     [[nodiscard]] int textWidth(int column) const;
     [[nodiscard]] bool flexible(int column) const;
     void tellCell(const QPoint& at);

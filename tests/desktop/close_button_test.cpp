@@ -1,4 +1,7 @@
 // The window's own close button, in whatever state the window is.
+#include <QAbstractButton>
+#include <QTimer>
+
 #include "desktop_fixture.h"
 
 namespace vanzer::desktop {

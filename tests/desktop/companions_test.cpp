@@ -124,8 +124,11 @@ TEST_F(Companions, AWholeTripIsPlannedByKeyboard) {
     letter('i');
     typeLegs(
         std::array{TypedLeg{"bologna", "", ""}, TypedLeg{"verona", "a22", "133"}, TypedLeg{"garda", "sr249", "35"}});
+    EXPECT_EQ(textOf("txtRiga"), QStringLiteral("4"));
+    EXPECT_EQ(textOf("txtKmTot_4"), QStringLiteral("168"));
     boxes.expect(Qt::Key_Return);
-    letter('f');
+    key(Qt::Key_Return); // nothing is typed: the default button asks whether to store
+    EXPECT_FALSE(isSeen("frmframe_12"));
     letter('g'); // the guide, at the last place
     for (int down = 0; down < 2; ++down)
         key(Qt::Key_Down);

@@ -61,8 +61,8 @@ TEST_F(EnterKey, TakesATypedLegElseAsksToLeave) {
              f.txtKm.type(QStringLiteral("5"));
          },
          true},
-        {"a new place, out of the table", 4, "mfgTab", [](Form& f) { f.txtTappa.type(QStringLiteral("ALTROVE")); },
-         false},
+        {"a new place, the focus in the table", 4, "mfgTab",
+         [](Form& f) { f.txtTappa.type(QStringLiteral("ALTROVE")); }, false},
     };
     for (const Case& c : cases) {
         open();

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 
 #include "desktop/tints.h"
 #include "desktop_fixture.h"
@@ -136,6 +137,47 @@ TEST_F(Reach, LettersUpToTwiceAsLargeStayWhole) {
         close();
     }
     QApplication::setFont(usual);
+}
+
+/// Whether it lies whole in all that holds it, or in what an area can scroll to.
+bool isReached(const QWidget& widget) {
+    QRect place = widget.rect();
+    for (const QWidget* at = &widget; !at->isWindow(); at = at->parentWidget()) {
+        const QWidget& holder = *at->parentWidget();
+        place.translate(at->pos());
+        const auto* const area = qobject_cast<const QScrollArea*>(holder.parentWidget());
+        const bool scrolls = area != nullptr && (area->verticalScrollBarPolicy() != Qt::ScrollBarAlwaysOff ||
+                                                 at->height() <= holder.height());
+        if (scrolls && at->rect().translated(at->pos()).contains(place))
+            place = holder.rect();
+        if (!holder.rect().contains(place))
+            return false;
+    }
+    return true;
+}
+
+/// A low screen, and a wide one at twice the scale, each without its panel and the window's title.
+TEST_F(Reach, ASmallWindowShowsEverythingOrScrollsToIt) {
+    storeTrip(3);
+    for (const QSize size : {QSize(1280, 660), QSize(1024, 540), QSize(960, 480)}) {
+        open();
+        window().resize(size);
+        QCoreApplication::processEvents();
+        withEachFrame([&](const std::string& where) {
+            EXPECT_EQ(window().size(), size) << where;
+            for (QWidget* const widget : window().findChildren<QWidget*>()) {
+                if (!widget->isVisible() || (widget->focusPolicy() & Qt::TabFocus) == 0)
+                    continue;
+                const QSize lacks = qobject_cast<QAbstractButton*>(widget) == nullptr ? QSize() : missing(*widget);
+                EXPECT_TRUE(lacks.width() <= 1 && lacks.height() <= 2)
+                    << size.width() << ", " << where << ": " << widget->objectName().toStdString() << " lacks "
+                    << lacks.width() << " x " << lacks.height();
+                EXPECT_TRUE(isReached(*widget)) << size.width() << ", " << where << ": "
+                                                << widget->objectName().toStdString() << " is out of reach";
+            }
+        });
+        close();
+    }
 }
 
 } // namespace
