@@ -2,6 +2,7 @@
 #include "core/text.h"
 #include "guide/entries.h"
 #include "guide/guide_screen.h"
+#include "guide/typed_entry_screen.h"
 #include "itinerary/leg_editor_screen.h"
 #include "window/destination_screen.h"
 
@@ -134,12 +135,15 @@ void scrollDownTo(Form& form, int row) {
 bool saveAndMove(Form& form, int code) {
     const bool anotherList = takeMarkedRow(form);
     int& row = form.stato.RigaCorrente;
-    const int next = rigaDopoTasto(row, code, form.mfgTab.rows());
+    int next = rigaDopoTasto(row, code, form.mfgTab.rows());
     scrollDownTo(form, next);
     if (next == row)
         return false;
-    if (!anotherList)
+    if (!anotherList) {
         SalvaLaRigaGuidaCitta(form, false);
+        if (!lasciaVoce(form, next)) // one that lacks something
+            return true;
+    }
     row = next;
     AggiornaTabellaRigaCorrenteItinerario(form);
     return true;

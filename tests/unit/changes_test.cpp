@@ -211,6 +211,21 @@ TEST_F(Changes, ATypedEntryIsAskedForBeforeItsFieldsGo) {
         EXPECT_EQ(form().mfgTab.row(), wish == rispostaAnnulla ? 1 : wish == rispostaNo ? 2 : 3);
         EXPECT_EQ(form().txtGCitta.text(), wish == rispostaAnnulla ? u"Alba"_s : u"Asti"_s);
     }
+    // A key stores it and moves on with no word, unless it lacks something.
+    begin();
+    form().cmdGuidaCitta.click();
+    form().mfgTab.clickRow(1);
+    form().txtGDescr.type(u"torre"_s);
+    form().cmbGTipo.pick(u"Ottimo"_s);
+    answer({rispostaSi});
+    form().txtGDescr.keyDown(40);
+    EXPECT_EQ(asked(), (QStringList{u"La nota «torre» è scritta ma non salvata.\n\nSalvarla?"_s,
+                                    u"Errore! Manca il tempo stimato!!!"_s}));
+    EXPECT_EQ(form().txtGDescr.text(), u"torre"_s);
+    form().cmbGH.pick(u"01"_s);
+    form().txtGDescr.keyDown(40);
+    EXPECT_EQ(asked(), QStringList());
+    EXPECT_EQ(stored(u"GuidaCitta"_s, 3), u"Torre"_s);
 }
 
 TEST_F(Changes, AStoppedCalculationKeepsThem) {
