@@ -165,8 +165,10 @@ int TableView::ownWidth(int column) const {
     return std::max({laidOut, headWidth(column), std::min(textWidth(column) + cellPadding, laidOut * 3 / 2)});
 }
 
-/// Where there is no room a column of long texts keeps this much, and the table scrolls.
+/// Where there is no room a column of long texts keeps this much, and the table scrolls; a list keeps to its frame.
 int TableView::leastWidth(int column) const {
+    if (choosing())
+        return headWidth(column);
     constexpr int characters = 14;
     const int legible = QFontMetrics(font()).horizontalAdvance(u'0') * characters + cellPadding;
     return std::max(headWidth(column), std::min(textWidth(column) + cellPadding, legible));
