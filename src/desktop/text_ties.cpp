@@ -83,6 +83,9 @@ bool TextTie::keyPressed(const QKeyEvent& event) {
         return filtered(backspace) == 0;
     const bool command = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
     const bool character = event.text().size() == 1 && event.text().at(0).unicode() >= firstCharacter;
+    // The letter of a button that is off is no text. (With Ctrl it may be the third level of a keyboard.)
+    if (character && event.modifiers().testFlag(Qt::AltModifier) && !event.modifiers().testFlag(Qt::ControlModifier))
+        return true;
     return !command && character && event.key() != Qt::Key_Delete && typed(event.text().at(0).unicode());
 }
 

@@ -26,6 +26,7 @@ TEST_F(InputGateTest, KeysLettersAndClicksWaitInTheirOrder) {
     inside([&] {
         letter('n'); // a new trip; then its name
         QTest::keyClick(place, Qt::Key_X);
+        QTest::keyClick(place, 'd', Qt::AltModifier); // a button that is off by then
         QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {},
                           nation->mapTo(&window(), nation->rect().center()));
         QTest::keyClick(nation, Qt::Key_Y);
