@@ -87,6 +87,7 @@ MainWindow::MainWindow(Form& form)
 
 MainWindow::~MainWindow() {
     form_.onManuale = {};
+    hints_.reset(); // the mouse leaves widgets that go
 }
 
 void MainWindow::showManual() {

@@ -61,14 +61,15 @@ class MainWindow : public QWidget {
 
     Form& form_;
     std::unique_ptr<Ui::MainWindow> ui_;
-    QScrollArea area_{this};                             ///< all of the window, of which a small one shows a part
-    QWidget& contents_;                                  ///< in the area
+    QWidget& contents_;                                  ///< all of the window
     std::vector<QWidget*> frames_;                       ///< over and beside the table; null until they are seen
     std::map<const QWidget*, QPointer<QWidget>> before_; ///< what had the focus before a frame took it
     QPointer<ManualWindow> manual_;
     bool closeWaits_ = false; ///< the window is to be left when the running command has ended
     Binder binder_;
     std::unique_ptr<HintLine> hints_;
+    QScrollArea area_{
+        this}; ///< of the contents, of which a small window shows a part; goes first, while all are watched
 };
 
 } // namespace vanzer::desktop

@@ -61,7 +61,7 @@ void reloadMainScreen(Form& form) {
 EsitoImport importChosen(Form& form) {
     AttivaFormMeta(form, true);
     form.frmframe(22).setVisible(false);
-    const EsitoImport result = leggeFileImport(form);
+    EsitoImport result = leggeFileImport(form);
     AzzeraPercentuale(form);
     EsciExportImport(form);
     return result;

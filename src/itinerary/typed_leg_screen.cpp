@@ -22,7 +22,7 @@ QString stopInFields(const Form& form) {
 }
 
 QString stopShown(const QString& cell) {
-    const QString none = QStringLiteral("00:00:00");
+    QString none = QStringLiteral("00:00:00");
     if (cell.isEmpty())
         return none;
     return cell == u'*' ? cell + none : cell;

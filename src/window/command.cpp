@@ -1,5 +1,8 @@
 #include "window/command.h"
 
+#include <algorithm>
+#include <array>
+
 #include "core/text.h"
 #include "window/changes.h"
 #include "window/modes.h"
@@ -8,8 +11,14 @@ namespace vanzer {
 
 namespace {
 
+bool anyFrameOpen(const Form& form) {
+    return std::ranges::any_of(std::array{1, 12, 17, 18, 19, 22, 23, 24, 25},
+                               [&form](int frame) { return form.frmframe(frame).visible(); });
+}
+
+/// As they were, unless all were off for a frame that the command has taken away before it failed.
 void giveButtonsBack(Form& form, const QString& meta, const QString& itinerario) {
-    form.stato.PulsantiMeta = meta;
+    form.stato.PulsantiMeta = uguale(meta, u"zz") && !anyFrameOpen(form) ? QStringLiteral("all") : meta;
     form.stato.PulsantiItinerario = itinerario;
     form.frmframe(15).setEnabled(true);
     AbilitaPulsantiComando(form);
