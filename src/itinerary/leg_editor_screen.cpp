@@ -136,12 +136,13 @@ void writeRow(Form& form, const TappaControllata& row) {
     grid.setCell(r, 7, row.sosta);
 }
 
-/// Kilometres that stand in the field as the row has them are no total of anything, nor is a difference that was put
-/// there before the row was refused.
+/// Kilometres that stand in the field as the row has them are no total of anything. Before a user nor is a difference
+/// that was put there before the row was refused.
 bool kmAreTotal(const Form& form) {
     const QString typed = Trim(form.txtKm.text());
     const QString own = Trim(form.mfgTab.cell(form.stato.RigaCorrente, 3));
-    return form.chkKm.value() && typed != own && typed != form.stato.KmDifferenza;
+    const bool made = form.interattiva && typed == form.stato.KmDifferenza;
+    return form.chkKm.value() && typed != own && !made;
 }
 
 void reloadDestination(Form& form) {

@@ -195,6 +195,21 @@ TEST_F(Changes, ATypedLegIsAskedForBeforeItsFieldsGo) {
     EXPECT_EQ(form().txtTappa.text(), u"CUNEO"_s);
 }
 
+TEST_F(Changes, ADifferenceIsNotTakenForATotalWhenItsRowWasRefused) {
+    begin();
+    form().cmdItinerario.click();
+    form().mfgTab.clickRow(2);
+    form().txtKm.type(u"200"_s);
+    form().cmdInserisce.click();
+    form().txtKm.type(u"700"_s);
+    for (const QString& place : {QString(), u"CUNEO"_s}) {
+        form().txtTappa.type(place);
+        form().cmdInserisce.click();
+    }
+    EXPECT_EQ(asked(), QStringList{u"Impossibile:\nIndica il nome della località!"_s});
+    EXPECT_EQ(form().mfgTab.cell(3, 3), u"470"_s) << "700 less 230";
+}
+
 TEST_F(Changes, ATypedEntryIsAskedForBeforeItsFieldsGo) {
     for (const int wish : {rispostaAnnulla, rispostaNo, rispostaSi}) {
         SCOPED_TRACE(wish);
