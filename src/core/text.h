@@ -1,5 +1,5 @@
-// Text helpers of the whole system. Positions count from 1 as in the system's own words (Left, Mid, Right), case is
-// ignored letter by letter (simple folding: "ß" stays one letter, an accent counts).
+// Text helpers of the whole system. Positions count from 1 (Left, Mid, Right), case is ignored letter by letter (simple
+// folding: "ß" stays one letter, an accent counts).
 #pragma once
 
 #include <cmath>

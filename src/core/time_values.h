@@ -3,7 +3,7 @@
 // A clock time or a duration is a single-precision count of hundredths of an hour: 8:30 is 850. A duration longer than
 // a day is written gg:hh:mm, and how long one gg is (the day unit, in hundredths) is an argument of each conversion:
 // 2400 for clock times and stops, the driving hours of a day for driving times, the visiting hours for visits.
-// A date is eight digits, ggmmaaaa; day arithmetic goes through the system's own Julian day (1 January 2001: 730501).
+// A date is eight digits, ggmmaaaa; day arithmetic goes through a Julian day of its own (1 January 2001: 730501).
 #pragma once
 
 #include <QString>

@@ -68,8 +68,8 @@ class MainWindow : public QWidget {
     bool closeWaits_ = false; ///< the window is to be left when the running command has ended
     Binder binder_;
     std::unique_ptr<HintLine> hints_;
-    QScrollArea area_{
-        this}; ///< of the contents, of which a small window shows a part; goes first, while all are watched
+    /// Of the contents, of which a small window shows a part; goes first, while all are watched.
+    QScrollArea area_{this};
 };
 
 } // namespace vanzer::desktop

@@ -2,6 +2,7 @@
 
 #include "core/place_name.h"
 #include "core/text.h"
+#include "schedule/totals.h"
 
 namespace vanzer {
 
@@ -36,6 +37,18 @@ LuogoConMarche separaMarche(const QString& cell) {
     return place;
 }
 
+SostaConFine separaSosta(const QString& cell) {
+    if (cell.isEmpty())
+        return {senzaSosta.toString()};
+    return cell.startsWith(u'*') ? SostaConFine{Mid(cell, 2), true} : SostaConFine{cell};
+}
+
+std::optional<int> tipoStrada(const QString& cell) {
+    const QString letter = Trim(cell);
+    const int at = posizione(tipiStrada, letter);
+    return letter.size() == 1 && at > 0 ? std::optional(at - 1) : std::nullopt;
+}
+
 QString senzaMarca(const QString& cell, QStringView mark) {
     return contiene(cell, mark) ? Trim(QString(cell).remove(mark.toString(), Qt::CaseInsensitive)) : Trim(cell);
 }
@@ -49,7 +62,7 @@ TappaControllata controllaTappa(const TappaDigitata& typed) {
     const double km = Val(typed.km);
     row.totale = typed.kmComeTotale && typed.riga > 2 && kmProgressivi(typed.kmPrecedenti) && km > typed.kmPrecedenti;
     row.km = row.totale ? testoNumero(km - typed.kmPrecedenti) : typed.km;
-    const QString stop = typed.sosta == u"00:00:00" ? QString() : typed.sosta;
+    const QString stop = typed.sosta == senzaSosta ? QString() : typed.sosta;
     row.rifiuto = refusal(typed, row.km, stop);
     row.luogo = typed.luogo;
     if (typed.primaMeta)

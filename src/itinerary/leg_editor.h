@@ -1,6 +1,8 @@
 // The rules of the leg editor, apart from the window.
 #pragma once
 
+#include <optional>
+
 #include <QString>
 
 namespace vanzer {
@@ -13,6 +15,18 @@ struct LuogoConMarche {
 };
 [[nodiscard]] LuogoConMarche separaMarche(const QString& cell);
 
+inline constexpr QStringView senzaSosta = u"00:00:00";
+
+/// The stop of a row taken apart.
+struct SostaConFine {
+    QString durata; ///< gg:hh:mm
+    bool fineGiornata = false;
+};
+[[nodiscard]] SostaConFine separaSosta(const QString& cell);
+
+/// Index of a row's road type; none if the row has no such letter.
+[[nodiscard]] std::optional<int> tipoStrada(const QString& cell);
+
 /// Without every occurrence of the mark, case ignored, trimmed.
 [[nodiscard]] QString senzaMarca(const QString& cell, QStringView mark);
 
@@ -23,7 +37,7 @@ struct TappaDigitata {
     QString km;
     QString strada;
     QString lettera; ///< road type
-    QString sosta;   ///< gg:hh:mm, "00:00:00" for none
+    QString sosta;   ///< gg:hh:mm
     bool fineGiornata = false;
     bool primaMeta = false;
     bool ultimaMeta = false;

@@ -66,39 +66,27 @@ void showPlace(Form& form, const QString& cell) {
 
 /// The options follow a row that has a road type; on any other the last choice stays.
 void showRoadType(Form& form, const QString& cell) {
-    const QString letter = Trim(cell);
-    if (const int at = posizione(QStringLiteral("ASPL"), letter); letter.size() == 1 && at > 0)
-        form.optStrada(at - 1).setValue(true);
+    if (const auto type = tipoStrada(cell))
+        form.optStrada(*type).setValue(true);
 }
 
 void showStop(Form& form, const QString& cell) {
-    QString stop = cell.isEmpty() ? QStringLiteral("00:00:00") : cell;
-    const bool endOfDay = stop.startsWith(u'*');
-    form.chkEndDay.setValue(endOfDay);
-    if (endOfDay)
-        stop = Mid(stop, 2);
+    const SostaConFine stop = separaSosta(cell);
+    form.chkEndDay.setValue(stop.fineGiornata);
     for (int i = 0; i < 3; ++i)
-        form.cmbSosta(i).setText(Mid(stop, 1 + 3 * i, 2));
+        form.cmbSosta(i).setText(Mid(stop.durata, 1 + 3 * i, 2));
 }
 
 void showRow(Form& form) {
     const Grid& grid = form.mfgTab;
     const int row = form.stato.RigaCorrente;
     showPlace(form, grid.cell(row, 1));
-    QString road = Trim(grid.cell(row, 2));
-    if (road.isEmpty() && row >= 2)
-        road = Trim(grid.cell(row - 1, 2));
-    form.txtNumStrada.setText(road);
+    form.txtNumStrada.setText(stradaMostrata(grid, row));
     form.txtKm.setText(Trim(grid.cell(row, 3)));
     form.stato.KmDifferenza.clear();
     if (!form.stato.ModoGuida)
         showRoadType(form, grid.cell(row, 4));
     showStop(form, grid.cell(row, 7));
-}
-
-QString stopTyped(const Form& form) {
-    return Zero(Val(form.cmbSosta(0).text()), 2) + u':' + Zero(Val(form.cmbSosta(1).text()), 2) + u':' +
-           Zero(Val(form.cmbSosta(2).text()), 2);
 }
 
 /// Tells why a row is refused; true if it is.
@@ -177,9 +165,19 @@ void closeLists(Form& form) {
 QString strTipoStrada(const Serie<OptionButton>& options) {
     for (int i = 0; i < options.count(); ++i) {
         if (options(i).value())
-            return Mid(QStringLiteral("ASPL"), i + 1, 1);
+            return QString(tipiStrada[i]);
     }
     return {};
+}
+
+QString stradaMostrata(const Grid& grid, int row) {
+    const QString road = Trim(grid.cell(row, 2));
+    return road.isEmpty() && row >= 2 ? Trim(grid.cell(row - 1, 2)) : road;
+}
+
+QString sostaDigitata(const Form& form) {
+    const auto part = [&form](int i) { return Zero(Val(form.cmbSosta(i).text()), 2); };
+    return part(0) + u':' + part(1) + u':' + part(2);
 }
 
 void cmdItinerario_Click(Form& form) {
@@ -271,7 +269,7 @@ void cmdInserisce_Click(Form& form) {
         .km = form.txtKm.text(),
         .strada = form.txtNumStrada.text(),
         .lettera = strTipoStrada(form.optStrada),
-        .sosta = stopTyped(form),
+        .sosta = sostaDigitata(form),
         .fineGiornata = form.chkEndDay.value(),
         .primaMeta = form.chkMeta(0).value(),
         .ultimaMeta = form.chkMeta(1).value(),

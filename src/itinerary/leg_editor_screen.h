@@ -8,6 +8,11 @@ namespace vanzer {
 /// The road type whose option is on: "A", "S", "P" or "L".
 [[nodiscard]] QString strTipoStrada(const Serie<OptionButton>& options);
 
+/// The road that the field shows of a row: one without a road takes on that of the row above.
+[[nodiscard]] QString stradaMostrata(const Grid& grid, int row);
+/// The stop in its fields, gg:hh:mm.
+[[nodiscard]] QString sostaDigitata(const Form& form);
+
 /// Enters the mode.
 void cmdItinerario_Click(Form& form);
 /// Brings the fields up to date and sets the buttons; opens the frame if that was asked for. Legs that a schedule had

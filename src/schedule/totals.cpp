@@ -10,10 +10,9 @@
 namespace vanzer {
 
 int indiceStrada(QStringView letter) {
-    static constexpr QStringView types = u"ASPL";
     if (letter.isEmpty())
         return 0;
-    const auto at = types.indexOf(letter, 0, Qt::CaseInsensitive);
+    const auto at = tipiStrada.indexOf(letter, 0, Qt::CaseInsensitive);
     return at < 0 ? 3 : static_cast<int>(at);
 }
 

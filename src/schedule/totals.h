@@ -9,10 +9,13 @@
 
 namespace vanzer {
 
-/// Average speeds in km/h by road type, in the order "ASPL".
+/// The letters of the road types, in the order of all that goes by road type.
+inline constexpr QStringView tipiStrada = u"ASPL";
+
+/// Average speeds in km/h by road type.
 using Medie = std::array<double, 4>;
 
-/// Position of a road-type letter in "ASPL", from 0: an empty text counts as the first, an unknown letter as the last.
+/// Position of a road-type letter, from 0: an empty text counts as the first, an unknown letter as the last.
 [[nodiscard]] int indiceStrada(QStringView letter);
 
 /// Driving time in hundredths, rounded to whole ones; 0 without a speed.

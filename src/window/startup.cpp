@@ -72,7 +72,10 @@ void wireMenu(Form& form) {
     form.cmdCancMeta.onClick = wired(form, cmdCancMeta_Click);
     form.cmdCancItin.onClick = wired(form, cmdCancItin_Click);
     form.cmdEsce.onClick = [&form, leaves = wired(form, cmdEsce_Click)] {
-        form.comandoInCorso&& interrompe(form, form.cmdEsce) ? chiedeDiInterrompere(form) : leaves();
+        if (form.comandoInCorso && interrompe(form, form.cmdEsce))
+            chiedeDiInterrompere(form);
+        else
+            leaves();
     };
     form.cmdItinerario.onClick = wired(form, cmdItinerario_Click);
     form.cmdGuidaCitta.onClick = wired(form, cmdGuidaCitta_Click);

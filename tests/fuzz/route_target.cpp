@@ -47,7 +47,7 @@ std::vector<RigaPercorso> routeThrough(const QStringList& stops) {
     return legs;
 }
 
-/// The rule of the marks as it is told, row by row.
+/// The rule of the marks, row by row.
 QStringList markedOneByOne(const std::vector<RigaPercorso>& legs, const QStringList& stops) {
     QStringList places;
     for (const RigaPercorso& leg : legs)
