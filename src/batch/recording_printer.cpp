@@ -5,7 +5,7 @@
 #include <QJsonArray>
 
 #include "batch/pdf_file.h"
-#include "core/text_file.h"
+#include "core/disk.h"
 
 namespace vanzer::batch {
 

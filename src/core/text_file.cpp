@@ -57,11 +57,6 @@ FileLetto leggeFile(const QString& path) {
     return read;
 }
 
-bool stessoFile(const QString& path, const QString& other) {
-    const QString file = QFileInfo(path).canonicalFilePath();
-    return !file.isEmpty() && file == QFileInfo(other).canonicalFilePath();
-}
-
 RigheTesto::RigheTesto(const QByteArray& contents)
     : text_(decoded(contents)), end_(text_.contains(u'\n') || !text_.contains(u'\r') ? u'\n' : u'\r') {}
 

@@ -22,9 +22,6 @@ struct FileLetto {
 };
 [[nodiscard]] FileLetto leggeFile(const QString& path);
 
-/// Both paths lead to one file that is there.
-[[nodiscard]] bool stessoFile(const QString& path, const QString& other);
-
 /// The lines of a text: UTF-8 where the bytes are valid UTF-8, else the code page. A line ends with CR LF or LF; CR
 /// alone ends lines where there is no LF at all.
 class RigheTesto {

@@ -2,6 +2,7 @@
 
 #include <QDir>
 
+#include "core/disk.h"
 #include "core/text_file.h"
 
 namespace vanzer {

@@ -2,6 +2,7 @@
 
 #include <QDir>
 
+#include "core/disk.h"
 #include "core/text_file.h"
 #include "reports/calendar_file.h"
 #include "reports/csv_file.h"

@@ -7,28 +7,78 @@
 #include <QFileInfo>
 
 #ifdef Q_OS_UNIX
+#include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
+#include "core/disk.h"
 #include "store/error.h"
 
 namespace vanzer::store {
 
 namespace {
 
-/// A new name is safe once its directory is.
-void syncDirectory(const QString& directory) {
-#ifdef Q_OS_UNIX
-    const int handle = ::open(QFile::encodeName(directory).constData(), O_RDONLY | O_CLOEXEC);
-    if (handle >= 0) {
-        ::fsync(handle);
-        ::close(handle);
-    }
-#else
-    (void)directory;
-#endif
+[[noreturn]] void failed(const QString& path, const QString& reason) {
+    throw StoreError(StoreError::Kind::Io, path, reason);
 }
+
+void makeSafe(const QString& path, const QString& file) {
+    if (const QString reason = alSicuro(path); !reason.isEmpty())
+        failed(file, reason);
+}
+
+std::error_code renamed(const QString& from, const QString& to) {
+    std::error_code error;
+    std::filesystem::rename(QFileInfo(from).filesystemFilePath(), QFileInfo(to).filesystemFilePath(), error);
+    return error;
+}
+
+/// The copy on the other disk has the rights of the file from the first byte on.
+void moveAcross(const QString& from, const QString& to) {
+    const QString beside = to + QStringLiteral(".parte");
+    try {
+        toglieFile(beside);
+        copiaDiritti(from, beside);
+        std::error_code error;
+        std::filesystem::copy_file(QFileInfo(from).filesystemFilePath(), QFileInfo(beside).filesystemFilePath(),
+                                   std::filesystem::copy_options::overwrite_existing, error);
+        if (!error) {
+            makeSafe(beside, to);
+            error = renamed(beside, to);
+        }
+        if (error)
+            failed(to, QString::fromStdString(error.message()));
+    } catch (const StoreError&) {
+        toglieFile(beside);
+        throw;
+    }
+    toglieFile(from);
+}
+
+#ifdef Q_OS_UNIX
+
+constexpr mode_t rightsOf(const struct stat& file) {
+    return file.st_mode & 0777U;
+}
+
+/// A group that can't be given the file gets no rights of another group's.
+mode_t rightsFor(const struct stat& from, bool sameGroup) {
+    return sameGroup ? rightsOf(from) : rightsOf(from) & ~mode_t{070};
+}
+
+void makeWithRights(const struct stat& from, const QByteArray& name, const QString& path) {
+    const int handle = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
+    if (handle < 0)
+        failed(path, qt_error_string(errno));
+    const bool given =
+        ::fchown(handle, from.st_uid, from.st_gid) == 0 || ::fchown(handle, static_cast<uid_t>(-1), from.st_gid) == 0;
+    static_cast<void>(::fchmod(handle, rightsFor(from, given)));
+    ::close(handle);
+}
+
+#endif
 
 } // namespace
 
@@ -41,12 +91,38 @@ void toglieResti(const QString& path) noexcept {
     QFile::remove(path + QStringLiteral("-journal"));
 }
 
+void copiaDiritti(const QString& from, const QString& to) {
+#ifdef Q_OS_UNIX
+    struct stat source {};
+    if (::stat(QFile::encodeName(from).constData(), &source) != 0)
+        failed(from, qt_error_string(errno));
+    const QByteArray name = QFile::encodeName(to);
+    struct stat target {};
+    if (::lstat(name.constData(), &target) != 0)
+        return makeWithRights(source, name, to);
+    // By its name alone: whoever closes a file that the engine has open lets go of the engine's lock.
+    const bool given = (target.st_uid == source.st_uid && target.st_gid == source.st_gid) ||
+                       ::chown(name.constData(), source.st_uid, source.st_gid) == 0 ||
+                       ::chown(name.constData(), static_cast<uid_t>(-1), source.st_gid) == 0;
+    if (rightsOf(target) != rightsFor(source, given))
+        static_cast<void>(::chmod(name.constData(), rightsFor(source, given)));
+#else
+    if (QFileInfo::exists(to))
+        return;
+    QFile made(to);
+    if (!made.open(QIODevice::WriteOnly))
+        failed(to, made.errorString());
+#endif
+}
+
 void metteAlPosto(const QString& from, const QString& to) {
-    std::error_code error;
-    std::filesystem::rename(QFileInfo(from).filesystemFilePath(), QFileInfo(to).filesystemFilePath(), error);
-    if (error)
-        throw StoreError(StoreError::Kind::Io, to, QString::fromStdString(error.message()));
-    syncDirectory(QFileInfo(to).path());
+    const QString place = doveConduce(to);
+    makeSafe(from, to);
+    if (const std::error_code error = renamed(from, place); error == std::errc::cross_device_link)
+        moveAcross(from, place);
+    else if (error)
+        failed(to, QString::fromStdString(error.message()));
+    makeSafe(QFileInfo(place).path(), to);
 }
 
 } // namespace vanzer::store

@@ -11,7 +11,14 @@ void toglieFile(const QString& path) noexcept;
 /// Takes away what a failing disk may have left beside a file of the engine that was closed in order.
 void toglieResti(const QString& path) noexcept;
 
-/// A file takes another's name, in one step that outlives a loss of power. Throws Io.
+/// The file `to` gets the rights of the file `from`: who may read and write it, and whose it is as far as this user may
+/// decide that. If it isn't there it is made, empty, and nobody ever had more rights to it; before that the engine must
+/// not have it open. Throws Io if it can't be made; a disk that keeps no rights is no failure.
+void copiaDiritti(const QString& from, const QString& to);
+
+/// A whole file that is closed takes the place of another, in one step that outlives a loss of power. Where the name
+/// is a link the file behind it is replaced, on whatever disk that is. Throws Io; if it was the last step, making the
+/// folder safe, that failed, the new file is in its place.
 void metteAlPosto(const QString& from, const QString& to);
 
 } // namespace vanzer::store

@@ -1,0 +1,73 @@
+#include "core/disk.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include <QFile>
+#include <QFileInfo>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+namespace vanzer {
+
+namespace {
+
+std::filesystem::path onDisk(const QString& path) {
+    return QFileInfo(path).filesystemAbsoluteFilePath();
+}
+
+} // namespace
+
+QString doveConduce(const QString& path) {
+    constexpr int mostLinks = 40; // more are a ring, as for the system
+    std::filesystem::path at = onDisk(path);
+    std::error_code error;
+    for (int link = 0; link < mostLinks && std::filesystem::is_symlink(at, error); ++link) {
+        const std::filesystem::path target = std::filesystem::read_symlink(at, error);
+        if (error)
+            break;
+        at = at.parent_path() / target;
+    }
+    const std::filesystem::path whole = std::filesystem::weakly_canonical(at, error);
+    return QFileInfo(error ? at : whole).filePath();
+}
+
+bool stessoFile(const QString& path, const QString& other) {
+    std::error_code error;
+    return !path.isEmpty() && !other.isEmpty() && std::filesystem::equivalent(onDisk(path), onDisk(other), error);
+}
+
+#ifdef Q_OS_UNIX
+
+QString alSicuro(int handle) {
+    if (::fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP)
+        return {};
+    return qt_error_string(errno);
+}
+
+QString alSicuro(const QString& path) {
+    const int handle = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (handle < 0)
+        return errno == EACCES ? QString() : qt_error_string(errno); // it may be written to, but not read
+    QString reason = alSicuro(handle);
+    ::close(handle);
+    return reason;
+}
+
+#else
+
+QString alSicuro(int /*handle*/) {
+    return {};
+}
+
+QString alSicuro(const QString& /*path*/) {
+    return {};
+}
+
+#endif
+
+} // namespace vanzer

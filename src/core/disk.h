@@ -1,0 +1,20 @@
+// What the disk says of a file: where its name leads, and whether it is safe there.
+#pragma once
+
+#include <QString>
+
+namespace vanzer {
+
+/// Where a name leads through links, whether something is there or not: a full path.
+[[nodiscard]] QString doveConduce(const QString& path);
+
+/// Both paths lead to one file that is there, be it by links or by two names of its own.
+[[nodiscard]] bool stessoFile(const QString& path, const QString& other);
+
+/// Waits until a file, or a folder with the names in it, outlives a loss of power. The result is the system's reason of
+/// a failure, empty if there is none; where that can't be asked for, a file counts as safe.
+[[nodiscard]] QString alSicuro(const QString& path);
+/// The same of a file that is open.
+[[nodiscard]] QString alSicuro(int handle);
+
+} // namespace vanzer
