@@ -1,10 +1,16 @@
 #include "store/daily_copy.h"
 
+#include <memory>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QUrl>
+
+#include <sqlite3.h>
 
 #include "store/safe_files.h"
+#include "store/schema.h"
 
 namespace vanzer::store {
 
@@ -19,11 +25,40 @@ QDir folderOf(const QString& archivePath) {
 
 const QString nameOfDay = QStringLiteral("'Vanzer 'yyyy-MM-dd'.mdb'");
 
+/// No date for any other name, be it only by a capital.
+QDate dayOf(const QString& name) {
+    const QDate day = QDate::fromString(name, nameOfDay);
+    return day.toString(nameOfDay) == name ? day : QDate();
+}
+
 /// The newest first: the names stand in the order of their days. What else lies there is the user's own.
 QStringList copiesIn(const QDir& folder) {
     QStringList names = folder.entryList({QStringLiteral("Vanzer *.mdb")}, QDir::Files, QDir::Name | QDir::Reversed);
-    names.removeIf([](const QString& name) { return !QDate::fromString(name, nameOfDay).isValid(); });
+    names.removeIf([](const QString& name) { return !dayOf(name).isValid(); });
     return names;
+}
+
+struct Closer {
+    void operator()(sqlite3* connection) const { sqlite3_close_v2(connection); }
+};
+
+/// Opened as a file that nobody writes to: no lock, no journal, whatever its state.
+int tripsIn(const QString& path) {
+    QUrl name = QUrl::fromLocalFile(path);
+    name.setQuery(QStringLiteral("immutable=1"));
+    sqlite3* opened = nullptr;
+    const int result = sqlite3_open_v2(name.toEncoded().constData(), &opened,
+                                       SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX, nullptr);
+    const std::unique_ptr<sqlite3, Closer> connection(opened);
+    if (result != SQLITE_OK)
+        return -1;
+    try {
+        // No index: their collation is the archive's own.
+        Statement count(opened, "SELECT count(*) FROM " + TabelleNomi(MeteVanzer).toUtf8() + " NOT INDEXED", path);
+        return count.step() ? static_cast<int>(count.integer(0)) : -1;
+    } catch (const StoreError&) {
+        return -1;
+    }
 }
 
 /// What was left by a program that was killed while it made a copy.
@@ -73,6 +108,16 @@ void copiaDelGiorno(Database& archive, const QDate& day, const Database::CopyPro
         throw;
     }
     removeOldest(folder, name);
+}
+
+std::vector<CopiaTrovata> copieAccanto(const QString& archivePath) {
+    const QDir folder = folderOf(archivePath);
+    std::vector<CopiaTrovata> found;
+    for (const QString& name : copiesIn(folder)) {
+        const QString path = folder.filePath(name);
+        found.push_back({path, dayOf(name), tripsIn(path)});
+    }
+    return found;
 }
 
 QString ultimaCopia(const QString& archivePath) {
