@@ -1,6 +1,9 @@
 #include "store/daily_copy.h"
 
+#include <algorithm>
 #include <memory>
+#include <set>
+#include <span>
 
 #include <QDir>
 #include <QFile>
@@ -63,20 +66,67 @@ int tripsIn(const QString& path) {
 
 /// What was left by a program that was killed while it made a copy.
 void removeUnfinished(const QDir& folder) {
-    for (const QString& name :
-         folder.entryList({u'*' + unfinished, u'*' + unfinished + QStringLiteral("-journal")}, QDir::Files))
-        toglieFile(folder.filePath(name));
+    for (const QString& name : folder.entryList({QStringLiteral("Vanzer *") + unfinished}, QDir::Files)) {
+        if (dayOf(name.chopped(unfinished.size())).isValid())
+            toglieFile(folder.filePath(name));
+    }
 }
 
-void removeOldest(const QDir& folder, const QString& made) {
-    QStringList others = copiesIn(folder);
-    others.removeOne(made);
-    for (const QString& name : others.mid(copieTenute - 1))
-        QFile::remove(folder.filePath(name));
+std::vector<CopiaTrovata> found(const QDir& folder) {
+    std::vector<CopiaTrovata> copies;
+    for (const QString& name : copiesIn(folder))
+        copies.push_back({folder.filePath(name), dayOf(name)});
+    return copies;
+}
+
+void countTrips(std::vector<CopiaTrovata>& copies) {
+    for (CopiaTrovata& copy : copies)
+        copy.mete = tripsIn(copy.path);
+}
+
+/// Most of the days nothing goes, and no copy is opened.
+void removeTooMany(const QDir& folder, const QDate& today) {
+    std::vector<CopiaTrovata> copies = found(folder);
+    if (copieDaTogliere(copies, today).empty())
+        return;
+    countTrips(copies);
+    for (const CopiaTrovata& copy : copieDaTogliere(copies, today))
+        QFile::remove(copy.path);
+}
+
+using Copies = std::span<const CopiaTrovata>; // the newest first
+
+constexpr qint64 dayNumber(const QDate& day) {
+    return day.toJulianDay();
+}
+/// Weeks begin on Monday, as day 0 did.
+constexpr qint64 weekNumber(const QDate& day) {
+    return day.toJulianDay() / 7;
+}
+qint64 monthNumber(const QDate& day) {
+    return qint64{day.year()} * 12 + day.month();
+}
+
+void keepNewestOfEach(qint64 (*spanOf)(const QDate&), std::size_t most, Copies copies, std::set<QDate>& kept) {
+    std::set<qint64> spans;
+    for (const CopiaTrovata& copy : copies) {
+        if (!spans.insert(spanOf(copy.day)).second)
+            continue;
+        if (spans.size() > most)
+            return;
+        kept.insert(copy.day);
+    }
+}
+
+void keepNewestOfFullest(Copies copies, std::set<QDate>& kept) {
+    const auto trips = [](const CopiaTrovata& copy) { return std::max(copy.mete, 0); };
+    if (const auto fullest = std::ranges::max_element(copies, {}, trips); fullest != copies.end())
+        kept.insert(fullest->day);
 }
 
 /// False if it was left.
 bool copyTo(Database& archive, const QString& path, const Database::CopyProgress& progress) {
+    copiaDiritti(archive.percorso(), path);
     const auto copy = Database::crea(path);
     if (!archive.copiaIn(*copy, progress))
         return false;
@@ -92,7 +142,7 @@ void copiaDelGiorno(Database& archive, const QDate& day, const Database::CopyPro
     const QString name = day.toString(nameOfDay);
     if (folder.exists(name))
         return;
-    if (!folder.mkpath(QStringLiteral(".")))
+    if (!cartellaPer(archive.percorso(), folder.path()))
         throw StoreError(StoreError::Kind::ReadOnly, folder.filePath(name));
     removeUnfinished(folder);
     const QString temporary = folder.filePath(name + unfinished);
@@ -107,17 +157,33 @@ void copiaDelGiorno(Database& archive, const QDate& day, const Database::CopyPro
         toglieFile(temporary);
         throw;
     }
-    removeOldest(folder, name);
+    removeTooMany(folder, day);
+}
+
+std::vector<CopiaTrovata> copieDaTogliere(const std::vector<CopiaTrovata>& copies, const QDate& today) {
+    const auto past = std::ranges::find_if(copies, [&today](const CopiaTrovata& copy) { return copy.day <= today; });
+    const Copies toCome(copies.begin(), past);
+    const Copies real(past, copies.end());
+    std::set<QDate> kept;
+    keepNewestOfEach(dayNumber, giorniTenuti, real, kept);
+    keepNewestOfEach(weekNumber, settimaneTenute, real, kept);
+    keepNewestOfEach(monthNumber, mesiTenuti, real, kept);
+    keepNewestOfFullest(real, kept);
+    std::set<QDate> keptToCome;
+    keepNewestOfFullest(toCome, keptToCome);
+    for (auto copy = toCome.begin(); copy != toCome.end() && keptToCome.size() < giorniTenuti; ++copy)
+        keptToCome.insert(copy->day);
+    kept.merge(keptToCome);
+    std::vector<CopiaTrovata> tooMany;
+    std::ranges::remove_copy_if(copies, std::back_inserter(tooMany),
+                                [&kept](const CopiaTrovata& copy) { return kept.contains(copy.day); });
+    return tooMany;
 }
 
 std::vector<CopiaTrovata> copieAccanto(const QString& archivePath) {
-    const QDir folder = folderOf(archivePath);
-    std::vector<CopiaTrovata> found;
-    for (const QString& name : copiesIn(folder)) {
-        const QString path = folder.filePath(name);
-        found.push_back({path, dayOf(name), tripsIn(path)});
-    }
-    return found;
+    std::vector<CopiaTrovata> copies = found(folderOf(archivePath));
+    countTrips(copies);
+    return copies;
 }
 
 QString ultimaCopia(const QString& archivePath) {

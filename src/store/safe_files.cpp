@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -78,6 +79,22 @@ void makeWithRights(const struct stat& from, const QByteArray& name, const QStri
     ::close(handle);
 }
 
+/// Who may read a file may look into its folder, who may write it may add to the folder.
+mode_t rightsOfFolder(const struct stat& file) {
+    const mode_t rights = rightsOf(file) & 0066U;
+    return 0700U | rights | (rights & 0044U) >> 2U;
+}
+
+/// An older folder loses the rights of those who may not read the file.
+void narrow(const QByteArray& folder, const struct stat& file) {
+    struct stat older {};
+    if (::lstat(folder.constData(), &older) != 0 || !S_ISDIR(older.st_mode))
+        return;
+    const mode_t shut = (rightsOf(file) & 0040U ? 0U : 0070U) | (rightsOf(file) & 0004U ? 0U : 0007U);
+    if ((older.st_mode & shut) != 0)
+        static_cast<void>(::chmod(folder.constData(), older.st_mode & 07777U & ~shut));
+}
+
 #endif
 
 } // namespace
@@ -113,6 +130,19 @@ void copiaDiritti(const QString& from, const QString& to) {
     if (!made.open(QIODevice::WriteOnly))
         failed(to, made.errorString());
 #endif
+}
+
+bool cartellaPer(const QString& file, const QString& folder) {
+#ifdef Q_OS_UNIX
+    struct stat source {};
+    const QByteArray name = QFile::encodeName(folder);
+    if (::stat(QFile::encodeName(file).constData(), &source) == 0 &&
+        ::mkdir(name.constData(), rightsOfFolder(source)) != 0)
+        narrow(name, source);
+#else
+    (void)file;
+#endif
+    return QDir().mkpath(folder);
 }
 
 void metteAlPosto(const QString& from, const QString& to) {

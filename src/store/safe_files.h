@@ -16,6 +16,10 @@ void toglieResti(const QString& path) noexcept;
 /// not have it open. Throws Io if it can't be made; a disk that keeps no rights is no failure.
 void copiaDiritti(const QString& from, const QString& to);
 
+/// Makes a folder for copies of a file, if it isn't there. Whoever may not read the file may not look into the folder,
+/// be it an older one. False if there is no such folder after all.
+[[nodiscard]] bool cartellaPer(const QString& file, const QString& folder);
+
 /// A whole file that is closed takes the place of another, in one step that outlives a loss of power. Where the name
 /// is a link the file behind it is replaced, on whatever disk that is. Throws Io; if it was the last step, making the
 /// folder safe, that failed, the new file is in its place.

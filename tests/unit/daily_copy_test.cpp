@@ -1,7 +1,13 @@
 // The copy of the day: which ones are kept, when there is none, and what the user is told of them.
 #include "store_fixture.h"
 
+#include <algorithm>
+
 #include <QDir>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 #include "batch/queue_ports.h"
 #include "batch/session.h"
@@ -37,34 +43,160 @@ class DailyCopy : public StoreTest {
     }
 };
 
-TEST_F(DailyCopy, TheTenNewestAreKept) {
+/// The day of a copy, and its trips.
+struct Copied {
+    const char* day;
+    int trips = 1;
+};
+
+TEST(CopiesKept, AreTheNewestOfDaysWeeksAndMonthsAndTheFullest) {
+    struct Case {
+        const char* name;
+        int days; ///< before them, a copy for each of so many days
+        int trips;
+        std::vector<Copied> others;
+        const char* kept; ///< besides the ten days of May
+    };
+    const QDate today(2026, 5, 10); // a Sunday
+    const Case cases[] = {
+        {"two years of days",
+         730,
+         1,
+         {},
+         "2026-04-30 2026-04-26 2026-04-19 2026-04-12 2026-04-05 2026-03-31 2026-03-29 2026-03-22 2026-02-28 "
+         "2026-01-31 "
+         "2025-12-31 2025-11-30 2025-10-31 2025-09-30 2025-08-31 2025-07-31 2025-06-30"},
+        {"rare starts", 0, 1, {{"2020-07-01"}, {"2019-02-03"}}, "2020-07-01 2019-02-03"},
+        {"emptied",
+         12,
+         1,
+         {{"2026-04-20", 7}, {"2026-04-19", 8}, {"2026-04-18", 9}, {"2026-04-17", 9}, {"2026-04-16", 8}},
+         "2026-04-30 2026-04-20 2026-04-19 2026-04-18"},
+        {"unreadable", 12, -1, {{"2026-04-19", -1}, {"2026-04-18", 0}}, "2026-04-30 2026-04-19"},
+        {"a wrong clock",
+         10,
+         1,
+         {{"2036-01-12"},
+          {"2036-01-11"},
+          {"2036-01-10"},
+          {"2036-01-09"},
+          {"2036-01-08"},
+          {"2036-01-07"},
+          {"2036-01-06"},
+          {"2036-01-05"},
+          {"2036-01-04"},
+          {"2036-01-03"},
+          {"2036-01-02", 2},
+          {"2036-01-01", 2}},
+         "2036-01-12 2036-01-11 2036-01-10 2036-01-09 2036-01-08 2036-01-07 2036-01-06 2036-01-05 2036-01-04 "
+         "2036-01-02"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        std::vector<CopiaTrovata> copies;
+        for (int i = 0; i < c.days; ++i)
+            copies.push_back({{}, today.addDays(-i), c.trips});
+        for (const Copied& other : c.others)
+            copies.push_back({{}, QDate::fromString(QString::fromLatin1(other.day), Qt::ISODate), other.trips});
+        std::ranges::sort(copies, std::greater(), &CopiaTrovata::day);
+        for (const CopiaTrovata& gone : copieDaTogliere(copies, today))
+            std::erase_if(copies, [&gone](const CopiaTrovata& copy) { return copy.day == gone.day; });
+        const auto isOfMay = [](const CopiaTrovata& copy) { return copy.day.year() == 2026 && copy.day.month() == 5; };
+        EXPECT_EQ(std::erase_if(copies, isOfMay), static_cast<std::size_t>(std::min(c.days, 10)));
+        QStringList kept;
+        for (const CopiaTrovata& copy : copies)
+            kept << copy.day.toString(Qt::ISODate);
+        EXPECT_EQ(kept.join(u' '), c.kept);
+    }
+}
+
+TEST_F(DailyCopy, OnesTooManyGoAndOthersFilesStay) {
     addLegs(3);
     const auto stored = archive.tabella("Itinerari").record;
     ASSERT_TRUE(QDir().mkpath(copies()));
-    const QStringList own{"Vanzer 2026-05-99.mdb", "Vanzer buono.mdb", "appunti.txt"};
+    const QStringList own{"Vanzer 2026-05-99.mdb", "Vanzer buono.mdb", "appunti.txt", "prima.parte",
+                          "vanzer 2026-05-01.mdb"};
     for (const QString& name : own)
         ASSERT_TRUE(QFile(copies() + u'/' + name).open(QIODevice::WriteOnly));
     ASSERT_TRUE(QFile(copies() + QStringLiteral("/Vanzer 2026-05-03.mdb.parte")).open(QIODevice::WriteOnly));
-    for (int day = 1; day <= 13; ++day)
+    for (int day = 5; day <= 17; ++day)
         copy(day);
     QStringList expected;
-    for (int day = 4; day <= 13; ++day)
+    for (int day = 8; day <= 17; ++day) // 10 May is a Sunday
         expected += nameOf(day);
     EXPECT_EQ(kept(), expected + own);
 
     addLegs(1);
-    copy(13); // the day has its copy
+    copy(17); // the day has its copy
     QDir restored(directory.filePath(QStringLiteral("altrove")));
     ASSERT_TRUE(restored.mkpath(QStringLiteral(".")));
-    ASSERT_TRUE(QFile::copy(copies() + u'/' + nameOf(13), restored.filePath(QStringLiteral("Vanzer.mdb"))));
+    ASSERT_TRUE(QFile::copy(copies() + u'/' + nameOf(17), restored.filePath(QStringLiteral("Vanzer.mdb"))));
     Archive other(restored.path());
     other.apriArchivio();
     EXPECT_EQ(other.tabella("Itinerari").record, stored);
+    other.chiudi();
 
     copy(2); // a clock that was put back
-    EXPECT_TRUE(kept().contains(nameOf(2)));
-    EXPECT_EQ(kept().size(), copieTenute + own.size());
+    EXPECT_EQ(kept(), QStringList{nameOf(2)} + expected + own);
 }
+
+TEST_F(DailyCopy, FullOnesOutliveEmptyOnesAndAllAreCountedWithoutATrace) {
+    const auto trips = [this](int count) {
+        open(QStringLiteral("SELECT * FROM MeteVanzer"));
+        Comando command(archive);
+        archive.CancellaTabella(MeteVanzer, {}, {});
+        Recordset rs(*archive.Db(0), {TabelleNomi(MeteVanzer), {}, {}});
+        for (int i = 0; i < count; ++i) {
+            rs.AddNew();
+            rs.scrive("CodiceMeta", QString::number(i));
+            rs.Update();
+        }
+        command.commit();
+    };
+    trips(3);
+    copy(4);
+    trips(0);
+    for (int day = 5; day <= 17; ++day)
+        copy(day);
+    writeOver(0, {});
+    ASSERT_TRUE(QFile::resize(copies() + u'/' + nameOf(17), 5000));
+    std::vector<std::pair<int, int>> found;
+    for (const CopiaTrovata& copy : copieAccanto(file())) {
+        EXPECT_EQ(copy.path, copies() + u'/' + nameOf(copy.day.day()));
+        found.emplace_back(copy.day.day(), copy.mete);
+    }
+    EXPECT_EQ(found.size(), 11U);
+    EXPECT_EQ(found.front(), std::pair(17, -1));
+    EXPECT_EQ(found[1], std::pair(16, 0));
+    EXPECT_EQ(found.back(), std::pair(4, 3));
+    EXPECT_EQ(kept().size(), 11);
+}
+
+#ifdef Q_OS_UNIX
+TEST_F(DailyCopy, HasTheRightsOfTheArchive) {
+    const auto rights = [](const QString& path) {
+        struct stat s {};
+        return ::stat(QFile::encodeName(path).constData(), &s) == 0 ? s.st_mode & 0777U : 0U;
+    };
+    addLegs(ample);
+    ASSERT_TRUE(QDir().mkpath(copies()));
+    ASSERT_EQ(::chmod(QFile::encodeName(copies()).constData(), 0755), 0);
+    ASSERT_EQ(::chmod(QFile::encodeName(file()).constData(), 0600), 0);
+    unsigned half = 0;
+    copy(1, [&](qint64 /*done*/, qint64 /*total*/) {
+        half = rights(copies() + u'/' + nameOf(1) + QStringLiteral(".parte"));
+        return true;
+    });
+    EXPECT_EQ(half, 0600U);
+    EXPECT_EQ(rights(copies() + u'/' + nameOf(1)), 0600U);
+    EXPECT_EQ(rights(copies()), 0700U);
+    ASSERT_TRUE(QDir(copies()).removeRecursively());
+    ASSERT_EQ(::chmod(QFile::encodeName(file()).constData(), 0640), 0);
+    copy(1);
+    EXPECT_EQ(rights(copies() + u'/' + nameOf(1)), 0640U);
+    EXPECT_EQ(rights(copies()), 0750U);
+}
+#endif
 
 TEST_F(DailyCopy, OneThatIsLeftOrFailsLeavesNothing) {
     addLegs(ample);
