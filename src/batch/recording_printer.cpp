@@ -5,7 +5,7 @@
 #include <QJsonArray>
 
 #include "batch/pdf_file.h"
-#include "core/disk.h"
+#include "store/outside_files.h"
 
 namespace vanzer::batch {
 
@@ -60,8 +60,9 @@ double RecordingPrinter::textHeight(const QString& /*text*/) const {
 void RecordingPrinter::openPage() {
     if (page_ == 0 && device_ == Device::Pdf) {
         pdfPath_ = files_.save(pdfFilter, Ricopertura::ChiedeIlDialogo);
-        if (stessoFile(pdfPath_, archive_))
-            throw PrinterError{QStringLiteral("Il file %1 è l'archivio: scegliere un altro nome.").arg(pdfPath_)};
+        const QString reserved = pdfPath_.isEmpty() ? QString() : store::motivoRiservato(pdfPath_, archive_);
+        if (!reserved.isEmpty())
+            throw PrinterError{QStringLiteral("Il file %1 %2").arg(pdfPath_, reserved)};
     }
     ++page_;
     pages().emplace_back();

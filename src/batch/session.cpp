@@ -3,13 +3,14 @@
 #include <cerrno>
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 
 #include "batch/answer.h"
 #include "batch/state_view.h"
 #include "core/code_page.h"
+#include "core/disk.h"
+#include "store/outside_files.h"
 #include "window/startup.h"
 
 namespace vanzer::batch {
@@ -29,6 +30,7 @@ struct FileCause {
 };
 constexpr FileCause notThere{ENOENT, "No such file or directory"};
 constexpr FileCause notReadable{EACCES, "Permission denied"};
+constexpr FileCause notPlain{EINVAL, "Invalid argument"};
 constexpr FileCause isDirectory{EISDIR, "Is a directory"};
 
 QJsonObject fileFailure(const FileCause& cause, const QString& path) {
@@ -69,14 +71,18 @@ QJsonObject Session::table(const QString& name) const {
 
 QJsonObject Session::textFile(const QString& name) const {
     const QString path = QDir(surroundings_.directory).filePath(name);
-    QFile file(path);
-    if (QFileInfo(path).isDir())
+    const QFileInfo file(path);
+    if (file.isDir())
         return fileFailure(isDirectory, path);
     if (!file.exists())
         return fileFailure(notThere, path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!fileNormale(path))
+        return fileFailure(notPlain, path);
+    const bool open = form_ && form_->archivio.Db(0) != nullptr;
+    const FileLetto read = store::leggeDaAltri(path, open ? form_->archivio.PercorsoDatabase : QString());
+    if (!read.errore.isEmpty())
         return fileFailure(notReadable, path);
-    return {{"lines", linesOf(file.readAll())}};
+    return {{"lines", linesOf(read.contenuto)}};
 }
 
 } // namespace vanzer::batch

@@ -1,5 +1,7 @@
 #include "core/disk.h"
 
+#include <algorithm>
+#include <array>
 #include <filesystem>
 #include <system_error>
 
@@ -9,7 +11,12 @@
 #ifdef Q_OS_UNIX
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
+#endif
+#ifdef Q_OS_LINUX
+#include <linux/magic.h>
+#include <sys/vfs.h>
 #endif
 
 namespace vanzer {
@@ -39,6 +46,36 @@ QString doveConduce(const QString& path) {
 bool stessoFile(const QString& path, const QString& other) {
     std::error_code error;
     return !path.isEmpty() && !other.isEmpty() && std::filesystem::equivalent(onDisk(path), onDisk(other), error);
+}
+
+bool apreInLettura(QFile& file) {
+#ifdef Q_OS_UNIX
+    if (!file.fileName().startsWith(u':')) {
+        const int flags = O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+        const int handle = ::open(QFile::encodeName(file.fileName()).constData(), flags);
+        struct stat opened {};
+        if (handle >= 0 && ::fstat(handle, &opened) == 0 && S_ISREG(opened.st_mode) &&
+            file.open(handle, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
+            return true;
+        if (handle >= 0)
+            ::close(handle);
+        return false;
+    }
+#endif
+    return file.open(QIODevice::ReadOnly);
+}
+
+bool fileNormale(const QString& path) {
+    if (!QFileInfo(path).isFile())
+        return false;
+#ifdef Q_OS_LINUX
+    // What the kernel shows of itself: such files are made while they are read, and some never end.
+    constexpr std::array views{PROC_SUPER_MAGIC, SYSFS_MAGIC, DEBUGFS_MAGIC, TRACEFS_MAGIC, CGROUP2_SUPER_MAGIC};
+    struct statfs disk {};
+    if (::statfs(QFile::encodeName(path).constData(), &disk) == 0 && std::ranges::count(views, disk.f_type) > 0)
+        return false;
+#endif
+    return true;
 }
 
 #ifdef Q_OS_UNIX

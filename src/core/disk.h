@@ -3,6 +3,8 @@
 
 #include <QString>
 
+class QFile;
+
 namespace vanzer {
 
 /// Where a name leads through links, whether something is there or not: a full path.
@@ -10,6 +12,13 @@ namespace vanzer {
 
 /// Both paths lead to one file that is there, be it by links or by two names of its own.
 [[nodiscard]] bool stessoFile(const QString& path, const QString& other);
+
+/// A plain file on a disk, or one of the program's own resources. Decided without opening it, which could wait without
+/// end or have effects.
+[[nodiscard]] bool fileNormale(const QString& path);
+
+/// Opens a file for reading that is plain, and still is when it's open; never waits for another program.
+[[nodiscard]] bool apreInLettura(QFile& file);
 
 /// Waits until a file, or a folder with the names in it, outlives a loss of power. The result is the system's reason of
 /// a failure, empty if there is none; where that can't be asked for, a file counts as safe.

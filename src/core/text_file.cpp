@@ -6,6 +6,7 @@
 #include <QStringConverter>
 
 #include "core/code_page.h"
+#include "core/disk.h"
 
 namespace vanzer {
 
@@ -34,24 +35,48 @@ QString scriveFile(const QString& path, const QByteArray& contents) {
     if (!file.open(QIODevice::WriteOnly))
         return motivoNonScritto(path);
     // Of a large file that fills the disk up a part is written, which is no error; of a small one the flush tells.
-    const bool whole = file.write(contents) == contents.size() && file.flush() && file.commit();
-    return whole ? QString() : motivoNonScritto(path);
+    return file.write(contents) == contents.size() ? mettePosto(file) : motivoNonScritto(path);
 }
 
-QString scriveFileTesto(const QString& path, const QStringList& lines) {
+// Putting it into place is no word on the disk: a failure of the last write comes up when that is waited for.
+QString mettePosto(QSaveFile& file) {
+    const QString unsafe = QStringLiteral("il disco non conferma la scrittura (%1).");
+    if (!file.flush() || file.error() != QFileDevice::NoError)
+        return motivoNonScritto(file.fileName());
+    if (const QString reason = alSicuro(file.handle()); !reason.isEmpty())
+        return unsafe.arg(reason);
+    if (!file.commit())
+        return motivoNonScritto(file.fileName());
+    const QString reason = alSicuro(QFileInfo(doveConduce(file.fileName())).path());
+    return reason.isEmpty() ? QString() : unsafe.arg(reason);
+}
+
+QByteArray contenutoTesto(const QStringList& lines) {
     QByteArray contents;
     for (const QString& line : lines)
         contents += toCodePage(line) + "\r\n";
-    return scriveFile(path, contents);
+    return contents;
+}
+
+QString motivoNonNormale() {
+    return QStringLiteral("non è un file normale.");
 }
 
 FileLetto leggeFile(const QString& path) {
-    QFile file(path);
-    if (!file.exists())
+    if (!QFileInfo::exists(path))
         return {};
-    if (!file.open(QIODevice::ReadOnly))
+    if (!fileNormale(path))
+        return {{}, motivoNonNormale()};
+    QFile file(path);
+    if (!apreInLettura(file))
         return {{}, QStringLiteral("non è permesso leggerlo.")};
-    FileLetto read{file.readAll(), {}};
+    constexpr qint64 piece = 1 << 20;
+    FileLetto read;
+    const bool fits = file.size() <= fileMassimo;
+    for (QByteArray bytes; fits && read.contenuto.size() <= fileMassimo && !(bytes = file.read(piece)).isEmpty();)
+        read.contenuto += bytes; // it may grow meanwhile
+    if (!fits || read.contenuto.size() > fileMassimo)
+        return {{}, QStringLiteral("supera %1 MB.").arg(fileMassimo >> 20)};
     if (file.error() != QFileDevice::NoError)
         read.errore = QStringLiteral("il disco non lo dà.");
     return read;

@@ -6,21 +6,35 @@
 #include <QString>
 #include <QStringList>
 
+class QSaveFile;
+
 namespace vanzer {
 
 /// Why a file could not be written, in Italian: found out from the path after the failure.
 [[nodiscard]] QString motivoNonScritto(const QString& path);
 
-/// Writes the file aside and puts it into place: what was there before stays until the new one is whole. The result is
-/// the reason of a failure, empty when all went well.
+/// Writes the file aside and puts it into place: what was there before stays until the new one is whole and safe on the
+/// disk. The result is the reason of a failure, empty when all went well.
 [[nodiscard]] QString scriveFile(const QString& path, const QByteArray& contents);
-[[nodiscard]] QString scriveFileTesto(const QString& path, const QStringList& lines);
+
+/// The last steps of that, for whoever writes the file piece by piece. If the file is closed afterwards without an
+/// error of its own, it is in its place and only the folder isn't safe.
+[[nodiscard]] QString mettePosto(QSaveFile& file);
+
+/// The bytes of a text file.
+[[nodiscard]] QByteArray contenutoTesto(const QStringList& lines);
+
+inline constexpr qint64 fileMassimo = 512LL * 1024 * 1024; ///< bytes that are read of a file at most
 
 struct FileLetto {
     QByteArray contenuto; ///< nothing of a file that isn't there
-    QString errore;       ///< why a file that is there can't be read
+    QString errore;       ///< why what is there can't be read, as the end of a sentence
 };
+
+/// Reads a plain file of at most `fileMassimo` bytes. What has no end or waits for others is left alone: pipes,
+/// devices, the system's own views that only look like files.
 [[nodiscard]] FileLetto leggeFile(const QString& path);
+[[nodiscard]] QString motivoNonNormale();
 
 /// The lines of a text: UTF-8 where the bytes are valid UTF-8, else the code page. A line ends with CR LF or LF; CR
 /// alone ends lines where there is no LF at all.

@@ -2,9 +2,11 @@
 
 #include <utility>
 
+#include <QDir>
 #include <QPrinterInfo>
 
 #include "desktop/print_preview.h"
+#include "store/outside_files.h"
 
 namespace vanzer::desktop {
 
@@ -26,7 +28,7 @@ bool isPdf(const QString& printer) {
 
 } // namespace
 
-DesktopPrinter::DesktopPrinter(FileDialogs& files) : files_(files) {
+DesktopPrinter::DesktopPrinter(FileDialogs& files, QString archive) : files_(files), archive_(std::move(archive)) {
     DesktopPrinter::setFontName(QStringLiteral("Times new roman"));
 }
 
@@ -115,6 +117,8 @@ void DesktopPrinter::begin() {
             return;
         if (!path.endsWith(pdfEnding, Qt::CaseInsensitive))
             path += pdfEnding;
+        if (const QString reserved = store::motivoRiservato(path, archive_); !reserved.isEmpty())
+            throw PrinterError{QStringLiteral("Il file %1 %2").arg(QDir::toNativeSeparators(path), reserved)};
         output_ = pdfOutput(path);
         file_ = path;
     } else if (!previewed_) {

@@ -16,8 +16,9 @@ namespace vanzer::desktop {
 
 class DesktopPrinter : public Printer, public BeforeWindow {
   public:
-    /// `files` is asked for the file of a PDF and outlives the printer.
-    explicit DesktopPrinter(FileDialogs& files);
+    /// `files` is asked for the file of a PDF and outlives the printer. No PDF takes the place of `archive` and its
+    /// files.
+    explicit DesktopPrinter(FileDialogs& files, QString archive = {});
     ~DesktopPrinter() override;
 
     [[nodiscard]] QStringList names() const override;
@@ -58,6 +59,7 @@ class DesktopPrinter : public Printer, public BeforeWindow {
     void drop();
 
     FileDialogs& files_;
+    QString archive_;
     QString chosen_; ///< empty: the platform's default
     std::map<QString, Typeface> typefaces_;
     PrintFont font_;

@@ -62,8 +62,10 @@ class PdfOutput : public PageOutput {
             resources += "/XObject<<" + PdfContent::pictureName.toByteArray() + ' ' + pdfReference(picture) + ">>";
         }
         structure_->finish(resources, about());
-        if (!arrives() || !file_.flush() || !arrives() || !file_.commit())
+        if (!arrives())
             throw error();
+        if (const QString reason = mettePosto(file_); !reason.isEmpty())
+            throw error(reason);
     }
 
   private:
@@ -75,9 +77,12 @@ class PdfOutput : public PageOutput {
                ')';
     }
 
-    [[nodiscard]] PrinterError error() const {
-        return {QStringLiteral("Il file %1 non si può scrivere: %2 Se ce n'era già uno, è rimasto com'era.")
-                    .arg(QDir::toNativeSeparators(file_.fileName()), motivoNonScritto(file_.fileName()))};
+    [[nodiscard]] PrinterError error() const { return error(motivoNonScritto(file_.fileName())); }
+    [[nodiscard]] PrinterError error(const QString& reason) const {
+        const bool inPlace = !file_.isOpen() && arrives();
+        return {QStringLiteral("Il file %1 non si può scrivere: %2")
+                    .arg(QDir::toNativeSeparators(file_.fileName()), reason) +
+                (inPlace ? QString() : QStringLiteral(" Se ce n'era già uno, è rimasto com'era."))};
     }
 
     QSaveFile file_;

@@ -1,5 +1,6 @@
 #include "desktop/program.h"
 
+#include <QDir>
 #include <QSettings>
 #include <QTimer>
 
@@ -17,8 +18,10 @@ const QString totalsKey = QStringLiteral("tappe/kmProgressivi");
 } // namespace
 
 Program::Program(const Ambiente& surroundings, Clock& clock, Pace pace, FileOpener* opener)
-    : boxes_(opener != nullptr ? *opener : opener_),
-      events_(pace), ports_{boxes_, dialogs_, clock, events_, programs_, &printer_},
+    : boxes_(opener != nullptr ? *opener : opener_), events_(pace),
+      printer_(dialogs_, QDir(surroundings.directory).filePath(store::nomeArchivio)), ports_{boxes_,    dialogs_,
+                                                                                             clock,     events_,
+                                                                                             programs_, &printer_},
       form_(nuovaFinestra(surroundings, ports_)), window_(std::make_unique<MainWindow>(*form_)),
       gate_(std::make_unique<InputGate>(*window_)) {
     form_->interattiva = true;

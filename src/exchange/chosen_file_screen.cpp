@@ -2,21 +2,17 @@
 
 #include <QDir>
 
-#include "core/disk.h"
-#include "core/text_file.h"
+#include "store/outside_files.h"
 
 namespace vanzer {
 
-bool sceltoLArchivio(const Form& form) {
-    return stessoFile(QDir(form.archivio.PercorsoProgramma).filePath(form.stato.NomeFileScambio),
-                      form.archivio.PercorsoDatabase);
+QString percorsoScelto(const Form& form) {
+    return QDir(form.archivio.PercorsoProgramma).filePath(form.stato.NomeFileScambio);
 }
 
 std::optional<QByteArray> leggeFileScambio(Form& form) {
     const QString& name = form.stato.NomeFileScambio;
-    // Whoever opens and closes the archive's file besides the archive lets go of its lock.
-    FileLetto file = sceltoLArchivio(form) ? FileLetto{{}, QStringLiteral("è l'archivio stesso.")}
-                                           : leggeFile(QDir(form.archivio.PercorsoProgramma).filePath(name));
+    FileLetto file = store::leggeDaAltri(percorsoScelto(form), form.archivio.PercorsoDatabase);
     if (file.errore.isEmpty())
         return std::move(file.contenuto);
     form.messaggio(

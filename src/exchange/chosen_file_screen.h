@@ -9,8 +9,8 @@
 
 namespace vanzer {
 
-/// Whether NomeFileScambio is the archive that is open.
-[[nodiscard]] bool sceltoLArchivio(const Form& form);
+/// Full path of NomeFileScambio.
+[[nodiscard]] QString percorsoScelto(const Form& form);
 
 /// The file at NomeFileScambio as it is on the disk; one that isn't there is empty. One that can't be read has been
 /// told to the user and gives nothing.

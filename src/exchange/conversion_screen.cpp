@@ -9,11 +9,11 @@
 
 #include "core/place_name.h"
 #include "core/text.h"
-#include "core/text_file.h"
 #include "exchange/choice_screen.h"
 #include "exchange/conversion.h"
 #include "guide/categories.h"
 #include "itinerary/leg_table_screen.h"
+#include "store/outside_files.h"
 #include "window/changes.h"
 #include "window/destination.h"
 #include "window/destination_screen.h"
@@ -108,7 +108,7 @@ class Conversione {
         const QString path = store::trovaVecchioFile(form_.archivio.PercorsoProgramma, name);
         if (path.isEmpty())
             return {{}, {format, {}}};
-        FileLetto file = leggeFile(path);
+        FileLetto file = store::leggeDaAltri(path, form_.archivio.PercorsoDatabase);
         if (!file.errore.isEmpty())
             throw Interruzione{QStringLiteral("Il file %1 non può essere letto:\n%2").arg(shown(path), file.errore)};
         return {path, {format, std::move(file.contenuto)}};
@@ -126,7 +126,7 @@ class Conversione {
                 old << codiceConvertito(*record);
         }
         codes_.emplace(codiciMemorizzati(form_), old);
-        codes_->legge(leggeFile(codesFile()).contenuto);
+        codes_->legge(store::leggeDaAltri(codesFile(), form_.archivio.PercorsoDatabase).contenuto);
         codes_->tiene([&](const CodiciConvertiti::Spostata& one) {
             const auto holder = nameOf(one.nuovo);
             return holder && (file.path.isEmpty() || *holder == one.nome);
@@ -136,7 +136,8 @@ class Conversione {
     void keepCodes() {
         if (codes_->spostate().empty())
             return;
-        if (const QString reason = scriveFile(codesFile(), codes_->contenuto()); !reason.isEmpty())
+        const QString& archive = form_.archivio.PercorsoDatabase;
+        if (const QString reason = store::scrivePerAltri(codesFile(), codes_->contenuto(), archive); !reason.isEmpty())
             throw Interruzione{
                 QStringLiteral("Il file %1 non può essere scritto:\n%2").arg(shown(codesFile()), reason)};
     }

@@ -8,6 +8,7 @@
 #include "exchange/chosen_file_screen.h"
 #include "exchange/export_screen.h"
 #include "exchange/import_screen.h"
+#include "store/outside_files.h"
 #include "window/changes.h"
 #include "window/confirmation.h"
 #include "window/destination_screen.h"
@@ -88,15 +89,14 @@ bool askForFile(Form& form) {
     const QString& name = form.stato.NomeFileScambio;
     if (name.isEmpty())
         return false;
-    const QFileInfo file(QDir(form.archivio.PercorsoProgramma).filePath(name));
+    const QString file = percorsoScelto(form);
     const QString shown = QDir::toNativeSeparators(name);
-    if (!file.exists())
-        return true;
-    if (sceltoLArchivio(form)) {
-        form.messaggio(QStringLiteral("Il file %1 è l'archivio: scegliere un altro nome.").arg(shown),
-                       QStringLiteral("Export"), Icona::Avviso);
+    if (const QString reserved = store::motivoRiservato(file, form.archivio.PercorsoDatabase); !reserved.isEmpty()) {
+        form.messaggio(QStringLiteral("Il file %1 %2").arg(shown, reserved), QStringLiteral("Export"), Icona::Avviso);
         return false;
     }
+    if (!QFileInfo::exists(file))
+        return true;
     return form.domandaPericolosa(QStringLiteral("Il file %1 esiste già: ricopro?").arg(shown),
                                   QStringLiteral("File %1 esistente").arg(shown)) == rispostaSi;
 }

@@ -2,9 +2,10 @@
 
 #include <QDir>
 
-#include "core/text_file.h"
 #include "exchange/choice_screen.h"
+#include "exchange/chosen_file_screen.h"
 #include "exchange/iei_file.h"
+#include "store/outside_files.h"
 #include "window/modes.h"
 
 namespace vanzer {
@@ -124,8 +125,8 @@ void scriveFileScambio(Form& form) {
         return;
     }
     tellReplaced(form, work.file().sostituiti());
-    const QString file = QDir(form.archivio.PercorsoProgramma).filePath(form.stato.NomeFileScambio);
-    const QString reason = scriveFile(file, work.file().contenuto());
+    const QString file = percorsoScelto(form);
+    const QString reason = store::scrivePerAltri(file, work.file().contenuto(), form.archivio.PercorsoDatabase);
     if (reason.isEmpty())
         form.messaggioFile(QStringLiteral("Le mète esportate si trovano sul file ") + path, {file});
     else

@@ -2,11 +2,10 @@
 
 #include <QDir>
 
-#include "core/disk.h"
-#include "core/text_file.h"
 #include "reports/calendar_file.h"
 #include "reports/csv_file.h"
 #include "schedule/time_line_screen.h"
+#include "store/outside_files.h"
 
 namespace vanzer {
 
@@ -53,10 +52,7 @@ void askAndWrite(Form& form, FormatoViandoria format) {
 } // namespace
 
 QString scriveViandoria(const Form& form, FormatoViandoria format, const QString& path) {
-    const QString file = fileAt(form, path);
-    if (stessoFile(file, form.archivio.PercorsoDatabase))
-        return QStringLiteral("è l'archivio: scegliere un altro nome.");
-    return scriveFile(file, contents(form, format));
+    return store::scrivePerAltri(fileAt(form, path), contents(form, format), form.archivio.PercorsoDatabase);
 }
 
 void cmdCalendario_Click(Form& form) {

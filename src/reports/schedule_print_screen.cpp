@@ -139,7 +139,9 @@ class StampaItinerario {
     }
 
     void writeFile(const QString& name, const QStringList& lines) {
-        if (const QString reason = scriveFileTesto(form_.archivio.PercorsoProgramma + name, lines); !reason.isEmpty())
+        const QString reason = store::scrivePerAltri(form_.archivio.PercorsoProgramma + name, contenutoTesto(lines),
+                                                     form_.archivio.PercorsoDatabase);
+        if (!reason.isEmpty())
             run_.manca(QStringLiteral("%1: %2").arg(percorsoMostrato(form_, name), reason));
     }
 

@@ -1,15 +1,17 @@
 // Scribolo: the blank pages of a trip's logbook, as a PDF.
 
+#include <algorithm>
 #include <cstdio>
 #include <optional>
 
 #include <QCommandLineParser>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QUrl>
 
+#include "core/text_file.h"
 #include "scribolo/pdf.h"
 
 namespace {
@@ -64,11 +66,13 @@ std::optional<Request> requested(const QStringList& arguments) {
 }
 
 QString wordOfFile(const QString& directory) {
-    constexpr qint64 enough = 65536; // bytes of one line
-    QFile file(QDir(directory).filePath(u"CommandLine.txt"_s));
-    if (!file.open(QIODevice::ReadOnly))
-        throw Problem(u"Il file %1 non può essere letto."_s.arg(QDir::toNativeSeparators(file.fileName())));
-    return wordOfCommand(file.read(enough));
+    constexpr qsizetype enough = 65536; // bytes of one line
+    const QString path = QDir(directory).filePath(u"CommandLine.txt"_s);
+    const vanzer::FileLetto file = vanzer::leggeFile(path);
+    const QString reason = QFileInfo::exists(path) ? file.errore : u"non c'è."_s;
+    if (!reason.isEmpty())
+        throw Problem(u"Il file %1 non può essere letto: %2"_s.arg(QDir::toNativeSeparators(path), reason));
+    return wordOfCommand(file.contenuto.first(std::min(file.contenuto.size(), enough)));
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <QPdfWriter>
 #include <QSaveFile>
 
+#include "core/text_file.h"
 #include "scribolo/logbook.h"
 
 namespace vanzer::scribolo {
@@ -40,9 +41,8 @@ QString writePdf(const Trip& trip, const QString& directory) {
     if (!file.open(QIODevice::WriteOnly))
         throw Problem(u"Il file %1 non può essere scritto: forse la cartella è protetta."_s.arg(shown));
     drawLogbook(trip, file);
-    // What still waits in the buffer is written here, so that a disk that fills up with it is noticed.
-    if (!file.flush() || file.error() != QFileDevice::NoError || !file.commit())
-        throw Problem(u"Il file %1 non può essere scritto: forse il disco è pieno."_s.arg(shown));
+    if (const QString reason = mettePosto(file); !reason.isEmpty())
+        throw Problem(u"Il file %1 non può essere scritto: %2"_s.arg(shown, reason));
     return path;
 }
 

@@ -22,10 +22,6 @@ namespace {
 constexpr QLatin1String folderName("Copie");
 constexpr QLatin1String unfinished(".parte");
 
-QDir folderOf(const QString& archivePath) {
-    return {QFileInfo(archivePath).absolutePath() + u'/' + folderName};
-}
-
 const QString nameOfDay = QStringLiteral("'Vanzer 'yyyy-MM-dd'.mdb'");
 
 /// No date for any other name, be it only by a capital.
@@ -137,8 +133,12 @@ bool copyTo(Database& archive, const QString& path, const Database::CopyProgress
 
 } // namespace
 
+QString cartellaCopie(const QString& archivePath) {
+    return QFileInfo(archivePath).absolutePath() + u'/' + folderName;
+}
+
 void copiaDelGiorno(Database& archive, const QDate& day, const Database::CopyProgress& progress) {
-    const QDir folder = folderOf(archive.percorso());
+    const QDir folder(cartellaCopie(archive.percorso()));
     const QString name = day.toString(nameOfDay);
     if (folder.exists(name))
         return;
@@ -181,13 +181,13 @@ std::vector<CopiaTrovata> copieDaTogliere(const std::vector<CopiaTrovata>& copie
 }
 
 std::vector<CopiaTrovata> copieAccanto(const QString& archivePath) {
-    std::vector<CopiaTrovata> copies = found(folderOf(archivePath));
+    std::vector<CopiaTrovata> copies = found(QDir(cartellaCopie(archivePath)));
     countTrips(copies);
     return copies;
 }
 
 QString ultimaCopia(const QString& archivePath) {
-    const QDir folder = folderOf(archivePath);
+    const QDir folder(cartellaCopie(archivePath));
     const QStringList copies = copiesIn(folder);
     return copies.isEmpty() ? QString() : folder.filePath(copies.first());
 }

@@ -21,6 +21,9 @@ inline constexpr int mesiTenuti = 12;
 /// if the archive is damaged inside: then the older copies stay, all of them.
 void copiaDelGiorno(Database& archive, const QDate& day, const Database::CopyProgress& progress);
 
+/// The folder of the copies beside an archive.
+[[nodiscard]] QString cartellaCopie(const QString& archivePath);
+
 struct CopiaTrovata {
     QString path; ///< full
     QDate day;

@@ -234,11 +234,11 @@ TEST(TextFile, IsWrittenWholeOrNotAtAll) {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "none";
     };
-    EXPECT_EQ(scriveFileTesto(path, {u"Città"_s, {}}), u"");
+    EXPECT_EQ(scriveFile(path, contenutoTesto({u"Città"_s, {}})), u"");
     EXPECT_EQ(content(), "Citt\xE0\r\n\r\n");
-    EXPECT_EQ(scriveFileTesto(path, {}), u"");
+    EXPECT_EQ(scriveFile(path, contenutoTesto({})), u"");
     EXPECT_EQ(content(), "");
-    ASSERT_EQ(scriveFileTesto(path, {u"di prima"_s}), u"");
+    ASSERT_EQ(scriveFile(path, contenutoTesto({u"di prima"_s})), u"");
     ASSERT_TRUE(QDir(directory.path()).mkdir(u"cartella"_s));
     const FullDisk full(4096);
     const struct {
@@ -250,7 +250,7 @@ TEST(TextFile, IsWrittenWholeOrNotAtAll) {
                  {u"lista.txt"_s, u"disco è pieno"_s}};
     for (const auto& c : cases) {
         for (const qsizetype size : {5'000, 500'000}) {
-            const QString reason = scriveFileTesto(directory.filePath(c.name), {QString(size, u'x')});
+            const QString reason = scriveFile(directory.filePath(c.name), QByteArray(size, 'x'));
             EXPECT_TRUE(reason.contains(c.reason)) << c.name.toStdString() << ": " << reason.toStdString();
         }
     }
