@@ -10,6 +10,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "faults/failing_sync.h"
+#include "store/safe_files.h"
 #include "support/desk.h"
 #include "support/full_disk.h"
 
@@ -130,6 +132,30 @@ TEST_F(FilesUnderFaults, AreTold) {
             return std::make_unique<NoRight>(QStringList{folder, folder + u"/uscita"_s});
         });
         check(output, u"la sua cartella non c'è"_s, [this] { return std::make_unique<Gone>(folder); });
+        check(output, u"il disco non conferma la scrittura"_s,
+              [] { return std::make_unique<FailingSync>(FailingSync::Of::Files); });
+        const FailingSync unsafe(FailingSync::Of::Folders);
+        const QString told = desk.run(output.lines).join(u'\n');
+        for (const QString& name : output.files)
+            EXPECT_TRUE(told.contains(name)) << told.toStdString();
+        EXPECT_TRUE(told.contains(u"il disco non conferma la scrittura"_s)) << told.toStdString();
+    }
+}
+
+TEST(FilesInPlace, AreToldWhereTheyArentSafe) {
+    const QTemporaryDir home;
+    const QString made = home.filePath(u"nuovo.mdb"_s);
+    const QString place = home.filePath(u"Vanzer.mdb"_s);
+    const auto write = [](const QString& path, const char* bytes) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) > 0);
+    };
+    for (const auto which : {FailingSync::Of::Files, FailingSync::Of::Folders}) {
+        write(made, "nuovo");
+        write(place, "quello di prima");
+        const FailingSync unsafe(which);
+        EXPECT_THROW(store::metteAlPosto(made, place), store::StoreError);
+        EXPECT_EQ(contents(place), which == FailingSync::Of::Files ? "quello di prima" : "nuovo");
     }
 }
 
