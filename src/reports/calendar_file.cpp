@@ -15,9 +15,23 @@ namespace {
 
 constexpr qsizetype longestLine = 75; // bytes, the fold's blank among them
 
+bool endsLine(QChar c) {
+    return QStringView(u"\n\v\f\r\u0085\u2028\u2029").contains(c);
+}
+
+/// A property's text on one line: whatever ends a line becomes the mark for that, other controls are left out.
 QString escaped(QString text) {
-    text.replace(u'\\', u"\\\\"_s).replace(u';', u"\\;"_s).replace(u',', u"\\,"_s);
-    return text.replace(u'\n', u"\\n"_s).remove(u'\r');
+    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\t', u' ');
+    QString result;
+    for (const QChar c : text) {
+        if (endsLine(c))
+            result += u"\\n"_s;
+        else if (c == u'\\' || c == u';' || c == u',')
+            (result += u'\\') += c;
+        else if (c.category() != QChar::Other_Control)
+            result += c;
+    }
+    return result;
 }
 
 /// A line is folded between characters.

@@ -1,11 +1,28 @@
 #include "reports/csv_file.h"
 
+#include <algorithm>
+
 namespace vanzer {
 
 namespace {
 
+bool isFigure(QChar c) {
+    return (c >= u'0' && c <= u'9') || c == u'.' || c == u',' || c == u':';
+}
+
+/// A calculating program takes it for a formula. Numbers and hours with a sign are what they look like.
+bool isFormula(QStringView text) {
+    while (!text.isEmpty() &&
+           (text.front() == u'\t' || text.front() == u'\r' || text.front() == u'\n' || text.front() == u' '))
+        text = text.sliced(1);
+    if (text.isEmpty() || !QStringView(u"=+-@").contains(text.front()))
+        return false;
+    const bool sign = text.front() == u'+' || text.front() == u'-';
+    return !sign || text.size() == 1 || !std::ranges::all_of(text.sliced(1), isFigure);
+}
+
 QByteArray field(const QString& text) {
-    QByteArray bytes = text.toUtf8();
+    QByteArray bytes = (isFormula(text) ? u'\'' + text : text).toUtf8();
     const bool quoted = text.contains(u',') || text.contains(u'"') || text.contains(u'\n') || text.contains(u'\r');
     return quoted ? '"' + bytes.replace('"', "\"\"") + '"' : bytes;
 }

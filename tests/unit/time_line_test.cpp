@@ -148,12 +148,46 @@ TEST(Calendar, EventsKeepTheirIdentifiers) {
 }
 
 TEST(Calendar, LongLinesAreFoldedBetweenCharacters) {
-    const QString name = u"Città è già più là "_s.repeated(12);
+    const QString name = u"Città è già più là 🚐"_s.repeated(12);
     const QByteArray file = calendario(name, lineOf({drive(u"ROMA", 0), drive(u"TERNI", 100)}, ordinaryDay()),
                                        QDateTime::currentDateTime());
     for (const QByteArray& line : file.split('\n'))
-        EXPECT_LE(line.size(), 76) << line.toStdString(); // 75 and the CR
+        EXPECT_TRUE(line.size() <= 76 && line.isValidUtf8()) << line.toStdString(); // 75 and the CR
     EXPECT_EQ(linesOf(file, u"X-WR-CALNAME").value(0), name);
+}
+
+TEST(Calendar, LinesEndWhereTheyAreWritten) {
+    using namespace Qt::StringLiterals;
+    const QString odd = u"A\u2028B\u2029C\u0085D\vE\fF\rG\r\nH"_s + QChar(u'\0') + u"\u001B[1mI\tJ;K"_s;
+    const QByteArray file = calendario(odd, lineOf({drive(u"ROMA", 0), drive(u"TERNI\u2028\fA", 100)}, ordinaryDay()),
+                                       QDateTime::currentDateTime());
+    for (const QChar c : QString::fromUtf8(file).remove(u"\r\n"_s))
+        EXPECT_FALSE(c.category() == QChar::Other_Control || c == u'\u2028' || c == u'\u2029') << int{c.unicode()};
+    EXPECT_EQ(linesOf(file, u"X-WR-CALNAME").value(0), u"A\\nB\\nC\\nD\\nE\\nF\\nG\\nH[1mI J\\;K"_s);
+}
+
+TEST(SeparatedValues, RunInNoCalculatingProgram) {
+    const struct {
+        QString text;
+        const char* written;
+    } cases[] = {
+        {u"=1+2"_s, "'=1+2"},
+        {u"+39 06 5555"_s, "'+39 06 5555"},
+        {u"-A1(3)"_s, "'-A1(3)"},
+        {u"@SUM(A1,2)"_s, "\"'@SUM(A1,2)\""},
+        {u"\t\t =1"_s, "'\t\t =1"},
+        {u"\r=1"_s, "\"'\r=1\""},
+        {u"-"_s, "'-"},
+        {u"-3"_s, "-3"},
+        {u"+1.234,5"_s, "\"+1.234,5\""},
+        {u"-01:30"_s, "-01:30"},
+        {u"\t\tKm. 841"_s, "\t\tKm. 841"},
+        {u"A=B"_s, "A=B"},
+    };
+    for (const auto& c : cases) {
+        const QByteArray file = valoriSeparati(1, 1, [&c](int, int) -> const QString& { return c.text; });
+        EXPECT_EQ(file.toStdString(), c.written + std::string("\r\n"));
+    }
 }
 
 TEST(SeparatedValues, QuotesWhatWouldSplit) {
