@@ -6,7 +6,6 @@
 #include <QPrinterInfo>
 
 #include "desktop/print_preview.h"
-#include "store/outside_files.h"
 
 namespace vanzer::desktop {
 
@@ -28,7 +27,7 @@ bool isPdf(const QString& printer) {
 
 } // namespace
 
-DesktopPrinter::DesktopPrinter(FileDialogs& files, QString archive) : files_(files), archive_(std::move(archive)) {
+DesktopPrinter::DesktopPrinter(FileDialogs& files) : files_(files) {
     DesktopPrinter::setFontName(QStringLiteral("Times new roman"));
 }
 
@@ -117,7 +116,7 @@ void DesktopPrinter::begin() {
             return;
         if (!path.endsWith(pdfEnding, Qt::CaseInsensitive))
             path += pdfEnding;
-        if (const QString reserved = store::motivoRiservato(path, archive_); !reserved.isEmpty())
+        if (const QString reserved = nomeRiservato ? nomeRiservato(path) : QString(); !reserved.isEmpty())
             throw PrinterError{QStringLiteral("Il file %1 %2").arg(QDir::toNativeSeparators(path), reserved)};
         output_ = pdfOutput(path);
         file_ = path;

@@ -2,6 +2,7 @@
 // begins and is forgotten then; with the preview a document waits whole for the user's word.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <tuple>
@@ -16,10 +17,12 @@ namespace vanzer::desktop {
 
 class DesktopPrinter : public Printer, public BeforeWindow {
   public:
-    /// `files` is asked for the file of a PDF and outlives the printer. No PDF takes the place of `archive` and its
-    /// files.
-    explicit DesktopPrinter(FileDialogs& files, QString archive = {});
+    /// `files` is asked for the file of a PDF and outlives the printer.
+    explicit DesktopPrinter(FileDialogs& files);
     ~DesktopPrinter() override;
+
+    /// Why no PDF may have a name, as the end of a sentence; empty if it is free. Without it every name is.
+    std::function<QString(const QString& path)> nomeRiservato;
 
     [[nodiscard]] QStringList names() const override;
     [[nodiscard]] QString current() const override;
@@ -59,7 +62,6 @@ class DesktopPrinter : public Printer, public BeforeWindow {
     void drop();
 
     FileDialogs& files_;
-    QString archive_;
     QString chosen_; ///< empty: the platform's default
     std::map<QString, Typeface> typefaces_;
     PrintFont font_;

@@ -6,10 +6,12 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QMessageBox>
 #include <QTranslator>
 
 #include "desktop/program.h"
 #include "desktop/program_directory.h"
+#include "desktop/settings_file.h"
 #include "window/startup.h"
 
 namespace {
@@ -57,6 +59,8 @@ int main(int argc, char** argv) {
         QApplication::installTranslator(&italian);
 
     const Request request = requested(application);
+    if (const QString warning = desktop::trascuraImpostazioniIllegibili(); !warning.isEmpty())
+        QMessageBox::warning(nullptr, QApplication::applicationName(), warning);
     // Relative paths are taken from the archive's directory. One that isn't there is told by the window.
     static_cast<void>(QDir::setCurrent(request.directory));
     desktop::SystemClock clock;

@@ -1,6 +1,5 @@
 #include "desktop/program.h"
 
-#include <QDir>
 #include <QSettings>
 #include <QTimer>
 
@@ -18,10 +17,8 @@ const QString totalsKey = QStringLiteral("tappe/kmProgressivi");
 } // namespace
 
 Program::Program(const Ambiente& surroundings, Clock& clock, Pace pace, FileOpener* opener)
-    : boxes_(opener != nullptr ? *opener : opener_), events_(pace),
-      printer_(dialogs_, QDir(surroundings.directory).filePath(store::nomeArchivio)), ports_{boxes_,    dialogs_,
-                                                                                             clock,     events_,
-                                                                                             programs_, &printer_},
+    : boxes_(opener != nullptr ? *opener : opener_),
+      events_(pace), ports_{boxes_, dialogs_, clock, events_, programs_, &printer_},
       form_(nuovaFinestra(surroundings, ports_)), window_(std::make_unique<MainWindow>(*form_)),
       gate_(std::make_unique<InputGate>(*window_)) {
     form_->interattiva = true;
@@ -29,6 +26,7 @@ Program::Program(const Ambiente& surroundings, Clock& clock, Pace pace, FileOpen
     dialogs_.setWindow(window_.get());
     printer_.setWindow(window_.get());
     boxes_.onOpen = dialogs_.onOpen = printer_.onOpen = [this] { window_->binder().flush(); };
+    printer_.nomeRiservato = [this](const QString& path) { return nomeRiservato(*form_, path); };
     QObject::connect(&window_->binder(), &Binder::inputBegins, [this] { events_.begin(); });
     form_->stato.KmProgressivi = QSettings().value(totalsKey, true).toBool();
     form_->onKmProgressivi = [this] { QSettings().setValue(totalsKey, form_->stato.KmProgressivi); };

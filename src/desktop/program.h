@@ -31,7 +31,7 @@ class Program {
     PlatformDialogs dialogs_;
     PacedYield events_;
     DetachedStarter programs_;
-    DesktopPrinter printer_;
+    DesktopPrinter printer_{dialogs_};
     Ports ports_;
     std::unique_ptr<Form> form_;
     std::unique_ptr<MainWindow> window_;

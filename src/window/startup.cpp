@@ -30,6 +30,7 @@
 #include "schedule/stops_screen.h"
 #include "schedule/time_line_screen.h"
 #include "store/daily_copy.h"
+#include "store/outside_files.h"
 #include "window/changes.h"
 #include "window/command.h"
 #include "window/destination_screen.h"
@@ -459,6 +460,10 @@ std::unique_ptr<Form> avvia(const Ambiente& surroundings, Ports& ports) {
 
 void apreViaggi(Form& form, const QString& path) {
     comando(form, [&form, &path] { apreFileDiViaggi(form, path); });
+}
+
+QString nomeRiservato(const Form& form, const QString& path) {
+    return store::motivoRiservato(path, form.archivio.PercorsoDatabase);
 }
 
 QString versioneProgramma() {

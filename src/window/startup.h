@@ -20,6 +20,10 @@ void caricaFinestra(Form& form);
 /// Offers the trips of a file that the program was opened with; a command of the user.
 void apreViaggi(Form& form, const QString& path);
 
+/// Why no file for other programs may have that name, as the end of a sentence that begins with "Il file …"; empty if
+/// it is free.
+[[nodiscard]] QString nomeRiservato(const Form& form, const QString& path);
+
 /// The version of this build, "1.0.0".
 [[nodiscard]] QString versioneProgramma();
 

@@ -11,6 +11,7 @@
 
 #include "desktop/desktop_printer.h"
 #include "desktop_fixture.h"
+#include "store/outside_files.h"
 
 namespace vanzer::desktop {
 
@@ -38,6 +39,9 @@ class PrintingTest : public DesktopTest {
   protected:
     void SetUp() override {
         DesktopTest::SetUp();
+        printer.nomeRiservato = [this](const QString& path) {
+            return store::motivoRiservato(path, inFolder("Vanzer.mdb"));
+        };
         printer.choose(QStringLiteral("pdf"));
         ASSERT_EQ(printer.current(), QStringLiteral("PDF"));
     }

@@ -230,7 +230,8 @@ TEST_F(Printing, AFileThatCannotBeWrittenIsToldAndTheOlderOneStays) {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(older);
     }
-    ASSERT_TRUE(QDir(directory.path()).mkdir(QStringLiteral("cartella.pdf")));
+    for (const QString& folder : {QStringLiteral("cartella.pdf"), QStringLiteral("Copie")})
+        ASSERT_TRUE(QDir(directory.path()).mkdir(folder));
     const auto failure = [this](const std::function<void()>& drawing) -> QString {
         try {
             drawing();
@@ -240,7 +241,7 @@ TEST_F(Printing, AFileThatCannotBeWrittenIsToldAndTheOlderOneStays) {
         }
         return {};
     };
-    for (const char* path : {"non c'è/a.pdf", "vecchio.pdf/a.pdf", "cartella.pdf"}) {
+    for (const char* path : {"non c'è/a.pdf", "vecchio.pdf/a.pdf", "cartella.pdf", "Copie/a.pdf"}) {
         files.answers << inFolder(path);
         const QString text = failure([this] { printer.text({20, 20}, QStringLiteral("x")); });
         EXPECT_TRUE(text.contains(QDir::toNativeSeparators(inFolder(path)))) << path << ": " << text.toStdString();
