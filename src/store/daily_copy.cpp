@@ -62,9 +62,10 @@ int tripsIn(const QString& path) {
 
 /// What was left by a program that was killed while it made a copy.
 void removeUnfinished(const QDir& folder) {
-    for (const QString& name : folder.entryList({QStringLiteral("Vanzer *") + unfinished}, QDir::Files)) {
-        if (dayOf(name.chopped(unfinished.size())).isValid())
-            toglieFile(folder.filePath(name));
+    for (QString name : folder.entryList({QStringLiteral("Vanzer *") + unfinished + u'*'}, QDir::Files)) {
+        name.truncate(name.lastIndexOf(unfinished));
+        if (dayOf(name).isValid())
+            toglieFile(folder.filePath(name + unfinished));
     }
 }
 
