@@ -40,12 +40,16 @@ constexpr std::array<Choice, 3> yesNoCancel{{{QMessageBox::Yes, u"&Sì", rispost
 constexpr std::array<Choice, 3> saveOrNot{{{QMessageBox::Yes, u"&Salva", rispostaSi},
                                            {QMessageBox::No, u"&Non salvare", rispostaNo},
                                            {QMessageBox::Cancel, u"&Annulla", rispostaAnnulla}}};
+constexpr std::array<Choice, 3> resumeOrBegin{{{QMessageBox::Yes, u"&Riprendi la copia", rispostaSi},
+                                               {QMessageBox::No, u"&Nuovo archivio", rispostaNo},
+                                               {QMessageBox::Cancel, u"&Annulla", rispostaAnnulla}}};
 
 std::span<const Choice> choices(Pulsanti buttons) {
     switch (buttons) {
     case Pulsanti::Ok: return okChoices;
     case Pulsanti::SiNo: return yesNo;
     case Pulsanti::SalvaNonSalvareAnnulla: return saveOrNot;
+    case Pulsanti::RiprendeCominciaAnnulla: return resumeOrBegin;
     default: return yesNoCancel;
     }
 }

@@ -12,6 +12,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "store/daily_copy.h"
 #include "store/database.h"
 #include "store/guide_reader.h"
 #include "store/query.h"
@@ -36,6 +37,15 @@ class Archive {
   public:
     using Progress = std::function<void(qint64 done, qint64 total)>;
     using PrimaDellUso = std::function<void(Database& archive)>;
+    /// What to do where there is no archive, but copies of one.
+    enum class SenzaArchivio { Riprende, Comincia, Rinuncia };
+    using SeManca = std::function<SenzaArchivio(const CopiaTrovata& copy)>;
+    /// What the user should know of an opening.
+    struct Apertura {
+        QString giornaleEstraneo;  ///< where another archive's journal lies now; empty if there was none
+        QString archivioDiPrima;   ///< where the file from before a rebuild lies; empty if there was none
+        qint64 valoriTagliati = 0; ///< in the rebuild: values too long for their fields
+    };
 
     static constexpr int numeroDatabase = 3;
     static constexpr int numeroSlot = 11;
@@ -58,9 +68,12 @@ class Archive {
     [[nodiscard]] Recordset& Rs(int slot) { return slots_.at(static_cast<std::size_t>(slot)); }
 
     /// Makes "Vanzer.mdb" if there is none, else opens it and rebuilds it where its tables aren't the declared ones,
-    /// then opens slots 1 to 6. A rebuild works in "DBTemp.mdb"; the old file stays until the new one is whole and safe
-    /// on the disk. `before` gets a file that was there already, locked, before anything in it is changed.
-    void apriArchivio(const PrimaDellUso& before = {});
+    /// then opens slots 1 to 6. A new file and a rebuild are made in "DBTemp.mdb", which takes the name when it is
+    /// whole and safe on the disk; the file from before a rebuild stays among the copies. `before` gets a file that was
+    /// there already, locked, before anything in it is changed. `missing` is asked where there are copies but no
+    /// archive, with the newest that has trips; without it, or if it gives up, the opening fails with NotFound. Throws
+    /// Unlike for a file to be rebuilt whose fields stand in another order.
+    Apertura apriArchivio(const PrimaDellUso& before = {}, const SeManca& missing = {});
     void chiudi();
 
     void DatabaseCrea(int db, bool& created);
@@ -120,8 +133,10 @@ class Archive {
     [[nodiscard]] Database& archive() const { return database(0); }
     [[nodiscard]] std::shared_ptr<const TableInfo> storedTable(int db, int table) const;
     void closeSlots();
-    void ricostruisce();
-    void copiaTabelle();
+    void makeFile(const std::function<void()>& fill);
+    void creaArchivio(const SeManca& missing);
+    void ricostruisce(Apertura& opening);
+    [[nodiscard]] qint64 copiaTabelle();
 
     std::array<std::unique_ptr<Database>, numeroDatabase> databases_;
     std::array<Recordset, numeroSlot> slots_;

@@ -1,14 +1,20 @@
-// Opening the archive, and the rebuild of a file whose tables aren't the declared ones any more.
+// Opening the archive, its making, and the rebuild of a file whose tables aren't the declared ones any more.
 //
-// The new file is filled beside the old one, which stays open, and so locked, from its check to the end, when the new
-// one is whole, closed and safe on the disk; then the new one takes its name in one step. A crash at any point leaves
-// the old file or the new one.
+// A new file is filled beside the old one, which stays open, and so locked, from its check to the end, when the new one
+// is whole, closed and safe on the disk; then the new one takes its name in one step. A crash at any point leaves the
+// old file or the new one.
 #include "store/archive.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
+#include <QFile>
+#include <QFileInfo>
+
 #include "store/field_values.h"
+#include "store/kept_archive.h"
 #include "store/query_sql.h"
 #include "store/safe_files.h"
 
@@ -31,65 +37,177 @@ bool fits(const Statement& old, int column, FieldKind from, const FieldDef& to) 
     return old.isText(column) && bytes > 0 && bytes <= to.size;
 }
 
-/// Field by field, by position: a descriptor only ever grows at its end.
-void copyTable(Database& from, const TableInfo& old, Database& to, const TableInfo& made) {
-    const StatementLease source = from.prepara(old.selezione + " ORDER BY rowid");
-    const StatementLease target = to.prepara(made.inserimento);
-    const std::size_t common = std::min(old.campi.size(), made.campi.size());
-    for (std::size_t field = common; field < made.campi.size(); ++field)
-        target->bind(static_cast<int>(field) + 1, valoreIniziale(made.campi[field]));
-    while (source->step()) {
-        for (std::size_t field = 0; field < common; ++field) {
-            const int column = static_cast<int>(field) + 1;
-            const FieldKind kind = old.campi[field].kind;
-            if (fits(*source, column, kind, made.campi[field]))
-                target->bindColumn(column, *source, column);
-            else
-                target->bind(column, adattato(source->value(column), kind, made.campi[field]));
-        }
-        to.scrive(made, *target);
+bool isCut(const Valore& value, const FieldDef& to) {
+    const auto* const text = std::get_if<QString>(&value);
+    return text != nullptr && to.kind == FieldKind::Text && to.size > 0 && text->size() > to.size;
+}
+
+/// The fields of one table that another has too, in the order in which they stand there.
+QStringList knownFields(const TableInfo& table, const TableInfo& other) {
+    QStringList names;
+    for (const FieldDef& field : table.campi) {
+        if (other.campo(field.name) >= 0)
+            names += field.name.toCaseFolded();
     }
+    return names;
+}
+
+/// For each field of the new table where its value stands in the old one, -1 for nowhere. A field that the old table
+/// hasn't under its name takes what stands in its place under a name that the new one doesn't know.
+std::vector<int> sources(const TableInfo& old, const TableInfo& made) {
+    std::vector<int> found;
+    for (std::size_t place = 0; place < made.campi.size(); ++place) {
+        int source = old.campo(made.campi[place].name);
+        if (source < 0 && place < old.campi.size() && made.campo(old.campi[place].name) < 0)
+            source = static_cast<int>(place);
+        found.push_back(source);
+    }
+    return found;
+}
+
+/// Fields that only the old table has come to the end of the new one.
+std::shared_ptr<const TableInfo> carryFields(Database& from, const TableInfo& old, Database& to,
+                                             const TableInfo& made) {
+    for (const FieldDef& field : old.campi) {
+        if (made.campo(field.name) < 0)
+            to.cambiaSchema("ALTER TABLE " + quotedName(made.nome) + " ADD COLUMN " + quotedName(field.name) + ' ' +
+                            from.tipo(old.nome, field.name));
+    }
+    return to.tabella(made.nome);
+}
+
+/// Returns how many values had to be cut.
+qint64 copyTable(Database& from, const TableInfo& old, Database& to, const TableInfo& declared) {
+    const std::vector<int> places = sources(old, declared);
+    const auto made = carryFields(from, old, to, declared);
+    qint64 cut = 0;
+    const StatementLease source = from.prepara(old.selezione + " ORDER BY rowid");
+    const StatementLease target = to.prepara(made->inserimento);
+    while (source->step()) {
+        for (std::size_t place = 0; place < made->campi.size(); ++place) {
+            const int parameter = static_cast<int>(place) + 1;
+            const FieldDef& field = made->campi[place];
+            const bool carried = place >= places.size();
+            const int column = (carried ? old.campo(field.name) : places[place]) + 1;
+            if (column == 0) {
+                target->bind(parameter, valoreIniziale(field));
+                continue;
+            }
+            const FieldKind kind = old.campi[static_cast<std::size_t>(column) - 1].kind;
+            if (carried || fits(*source, column, kind, field)) {
+                target->bindColumn(parameter, *source, column);
+                continue;
+            }
+            const Valore value = source->value(column);
+            cut += isCut(value, field) ? 1 : 0;
+            target->bind(parameter, adattato(value, kind, field));
+        }
+        to.scrive(*made, *target);
+    }
+    return cut;
+}
+
+/// A table that only the old file has.
+void carryTable(Database& from, const QString& name, Database& to) {
+    for (const QByteArray& statement : from.dichiarazioni(name))
+        to.cambiaSchema(statement);
+    const auto table = to.tabella(name);
+    QByteArray fields;
+    for (const FieldDef& field : table->campi)
+        fields += (fields.isEmpty() ? "" : ",") + quotedName(field.name);
+    const StatementLease source = from.prepara("SELECT " + fields + " FROM " + quotedName(name));
+    const StatementLease target = to.prepara(table->inserimento);
+    while (source->step()) {
+        for (int column = 0; column < static_cast<int>(table->campi.size()); ++column)
+            target->bindColumn(column + 1, *source, column);
+        to.scrive(*table, *target);
+    }
+}
+
+/// Throws Corrupt for a file that has tables, but none of ours; Unlike where a table has our fields in another order.
+void requireOurs(Database& file) {
+    bool any = file.tabelle().isEmpty();
+    for (int number = primaTabella; number <= ultimaTabella; ++number) {
+        const auto stored = file.tabella(TabelleNomi(number));
+        if (stored == nullptr)
+            continue;
+        any = true;
+        const TableInfo declared{TabelleNomi(number), campiDescritti(TabelleCampi(number)), {}, {}};
+        if (knownFields(*stored, declared) != knownFields(declared, *stored))
+            throw StoreError(StoreError::Kind::Unlike, file.percorso(), declared.nome);
+    }
+    if (!any)
+        throw StoreError(StoreError::Kind::Corrupt, file.percorso());
+}
+
+/// What an earlier attempt left goes. Throws Busy if another program is at work on it, ReadOnly if it can't go.
+void clearPlace(const QString& temporary) {
+    if (!QFileInfo::exists(temporary))
+        return;
+    try {
+        static_cast<void>(Database::crea(temporary));
+    } catch (const StoreError& error) {
+        if (error.kind() == StoreError::Kind::Busy)
+            throw;
+    }
+    toglieFile(temporary);
+    if (QFileInfo::exists(temporary))
+        throw StoreError(StoreError::Kind::ReadOnly, temporary);
+}
+
+/// The newest copy that has trips, or else the newest.
+std::optional<CopiaTrovata> copyToResume(const QString& archivePath) {
+    const std::vector<CopiaTrovata> copies = copieAccanto(archivePath);
+    const auto full = std::ranges::find_if(copies, [](const CopiaTrovata& copy) { return copy.mete > 0; });
+    if (copies.empty())
+        return std::nullopt;
+    return full == copies.end() ? copies.front() : *full;
 }
 
 } // namespace
 
-void Archive::apriArchivio(const PrimaDellUso& before) {
+Archive::Apertura Archive::apriArchivio(const PrimaDellUso& before, const SeManca& missing) {
     chiudi();
+    Apertura opening;
+    const QString archivePath = PercorsoProgramma + nomeArchivio;
     for (int round = 1;; ++round) {
-        PercorsoDatabase = PercorsoProgramma + nomeArchivio;
-        bool created = false;
-        DatabaseCrea(0, created);
+        PercorsoDatabase = archivePath;
+        const bool made = !QFileInfo::exists(archivePath);
+        if (made)
+            creaArchivio(missing);
         DatabaseApre(0);
-        if (created)
-            DatabaseTabelleCreazione(0);
-        else if (round == 1 && before)
+        if (!Db(0)->giornaleEstraneo().isEmpty())
+            opening.giornaleEstraneo = Db(0)->giornaleEstraneo();
+        if (!made && round == 1 && before)
             before(*Db(0));
         DataBaseTabelleAggiorna(0);
         if (!Rettifica)
             break;
         if (round == mostRounds)
             throw StoreError(StoreError::Kind::Corrupt, PercorsoDatabase);
-        ricostruisce();
+        ricostruisce(opening);
     }
+    if (!Db(0)->haFormato())
+        Db(0)->distingue();
     RecordSetImpostaDefault();
+    return opening;
 }
 
-void Archive::ricostruisce() {
-    closeSlots();
-    databases_[1] = std::move(databases_[0]);
+/// Fills a new file in slot 0 and gives it the archive's name.
+void Archive::makeFile(const std::function<void()>& fill) {
     const QString temporary = PercorsoProgramma + rebuildName;
     const QString archivePath = PercorsoProgramma + nomeArchivio;
     PercorsoDatabase = temporary;
+    bool ours = false;
     try {
-        toglieFile(temporary);
-        bool created = false;
-        DatabaseCrea(0, created);
-        if (!created) // what takes its place can't be taken away
-            throw StoreError(StoreError::Kind::ReadOnly, temporary);
-        DatabaseApre(0);
+        clearPlace(temporary);
+        ours = true;
+        if (databases_[1] != nullptr)
+            copiaDiritti(archivePath, temporary);
+        databases_[0] = Database::crea(temporary);
         DatabaseTabelleCreazione(0);
         PercorsoDatabase = archivePath;
-        copiaTabelle();
+        fill();
         databases_[0].reset();
         toglieResti(temporary);
 #ifdef Q_OS_WIN
@@ -100,19 +218,59 @@ void Archive::ricostruisce() {
     } catch (const StoreError&) {
         chiudi();
         PercorsoDatabase = archivePath;
-        toglieFile(temporary);
+        if (ours)
+            toglieFile(temporary);
         throw;
     }
 }
 
-void Archive::copiaTabelle() {
-    Transaction all(database(0));
-    for (int table = primaTabella; table <= ultimaTabella; ++table) {
-        const auto old = storedTable(1, table);
-        if (old != nullptr)
-            copyTable(database(1), *old, database(0), *storedTable(0, table));
+void Archive::creaArchivio(const SeManca& missing) {
+    const auto copy = copyToResume(PercorsoDatabase);
+    const SenzaArchivio choice = !copy ? SenzaArchivio::Comincia : missing ? missing(*copy) : SenzaArchivio::Rinuncia;
+    if (choice == SenzaArchivio::Rinuncia)
+        throw StoreError(StoreError::Kind::NotFound, PercorsoDatabase);
+    if (choice == SenzaArchivio::Comincia)
+        return makeFile([] {});
+    const QString temporary = PercorsoProgramma + rebuildName;
+    clearPlace(temporary);
+    copiaDiritti(copy->path, temporary);
+    if (std::error_code error; !std::filesystem::copy_file(QFileInfo(copy->path).filesystemFilePath(),
+                                                           QFileInfo(temporary).filesystemFilePath(),
+                                                           std::filesystem::copy_options::overwrite_existing, error))
+        throw StoreError(StoreError::Kind::Io, copy->path, QString::fromStdString(error.message()));
+    metteAlPosto(temporary, PercorsoDatabase);
+}
+
+void Archive::ricostruisce(Apertura& opening) {
+    closeSlots();
+    requireOurs(*Db(0));
+    const QString kept = tieneDaParte(*Db(0));
+    databases_[1] = std::move(databases_[0]);
+    try {
+        makeFile([&] { opening.valoriTagliati += copiaTabelle(); });
+    } catch (const StoreError&) {
+        toglieFile(kept);
+        throw;
+    }
+    opening.archivioDiPrima = kept;
+}
+
+/// Returns how many values had to be cut.
+qint64 Archive::copiaTabelle() {
+    Database& old = database(1);
+    Database& made = database(0);
+    Transaction all(made);
+    qint64 cut = 0;
+    for (const QString& name : old.tabelle()) {
+        const auto table = old.tabella(name);
+        const auto declared = made.tabella(name);
+        if (declared == nullptr)
+            carryTable(old, name, made);
+        else
+            cut += copyTable(old, *table, made, *declared);
     }
     all.commit();
+    return cut;
 }
 
 } // namespace vanzer::store

@@ -129,6 +129,7 @@ bool copyTo(Database& archive, const QString& path, const Database::CopyProgress
         return false;
     if (!copy->intatto())
         throw StoreError(StoreError::Kind::Corrupt, archive.percorso());
+    copy->distingue(); // put in the archive's place it must not be taken for it
     return true;
 }
 
@@ -138,27 +139,36 @@ QString cartellaCopie(const QString& archivePath) {
     return QFileInfo(archivePath).absolutePath() + u'/' + folderName;
 }
 
+bool copiaDovuta(const QString& archivePath, const QDate& day) {
+    return !QDir(cartellaCopie(archivePath)).exists(day.toString(nameOfDay));
+}
+
 void copiaDelGiorno(Database& archive, const QDate& day, const Database::CopyProgress& progress) {
-    const QDir folder(cartellaCopie(archive.percorso()));
-    const QString name = day.toString(nameOfDay);
-    if (folder.exists(name))
+    if (!copiaDovuta(archive.percorso(), day))
         return;
+    const QDir folder(cartellaCopie(archive.percorso()));
+    removeUnfinished(folder);
+    if (copiaIntera(archive, day.toString(nameOfDay), progress))
+        removeTooMany(folder, day);
+}
+
+bool copiaIntera(Database& archive, const QString& name, const Database::CopyProgress& progress) {
+    const QDir folder(cartellaCopie(archive.percorso()));
     if (!cartellaPer(archive.percorso(), folder.path()))
         throw StoreError(StoreError::Kind::ReadOnly, folder.filePath(name));
-    removeUnfinished(folder);
     const QString temporary = folder.filePath(name + unfinished);
     try {
         if (!copyTo(archive, temporary, progress)) {
             toglieFile(temporary);
-            return;
+            return false;
         }
         toglieResti(temporary);
         metteAlPosto(temporary, folder.filePath(name));
+        return true;
     } catch (const StoreError&) {
         toglieFile(temporary);
         throw;
     }
-    removeTooMany(folder, day);
 }
 
 std::vector<CopiaTrovata> copieDaTogliere(const std::vector<CopiaTrovata>& copies, const QDate& today) {

@@ -21,8 +21,16 @@ inline constexpr int mesiTenuti = 12;
 /// if the archive is damaged inside: then the older copies stay, all of them.
 void copiaDelGiorno(Database& archive, const QDate& day, const Database::CopyProgress& progress);
 
+/// Whether the day has no copy yet.
+[[nodiscard]] bool copiaDovuta(const QString& archivePath, const QDate& day);
+
 /// The folder of the copies beside an archive.
 [[nodiscard]] QString cartellaCopie(const QString& archivePath);
+
+/// Copies an open archive into that folder under the name, with the archive's rights: the copy has its name when it is
+/// whole, found sound and safe on the disk. False if `progress` left it; then, and when it throws, nothing is left of
+/// it.
+[[nodiscard]] bool copiaIntera(Database& archive, const QString& name, const Database::CopyProgress& progress);
 
 struct CopiaTrovata {
     QString path; ///< full

@@ -1,17 +1,23 @@
 #include "store/database.h"
 
 #include <algorithm>
+#include <chrono>
+#include <filesystem>
 #include <limits>
 #include <string_view>
+#include <system_error>
 #include <utility>
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRandomGenerator>
+#include <QRegularExpression>
 
 #include <sqlite3.h>
 
 #include "core/collation.h"
 #include "store/query_sql.h"
+#include "store/safe_files.h"
 
 namespace vanzer::store {
 
@@ -45,6 +51,32 @@ StoreError::Kind kindOfOpening(int resultCode, const QFileInfo& file) {
     return QFileInfo(file.path()).isWritable() ? StoreError::Kind::Io : StoreError::Kind::ReadOnly;
 }
 
+/// Two files have the same with a chance of one in two milliards.
+quint32 versionByChance() {
+    return QRandomGenerator::global()->bounded(1U, static_cast<quint32>(std::numeric_limits<qint32>::max()));
+}
+
+/// What a file's time of change has below the second when its version was left in order: whoever writes to the file
+/// afterwards, or a disk that lost such a write, leaves another one.
+std::chrono::microseconds sign(quint32 version) {
+    return std::chrono::microseconds(1 + version % 999'999);
+}
+
+bool endedInOrder(const QString& path, quint32 version) {
+    std::error_code error;
+    const auto changed = std::filesystem::last_write_time(QFileInfo(path).filesystemFilePath(), error);
+    return !error && changed - std::chrono::floor<std::chrono::seconds>(changed) == sign(version);
+}
+
+void signEnd(const QString& path, quint32 version) {
+    std::error_code error;
+    const auto file = QFileInfo(path).filesystemFilePath();
+    const auto changed = std::filesystem::last_write_time(file, error);
+    if (!error)
+        std::filesystem::last_write_time(file, std::chrono::floor<std::chrono::seconds>(changed) + sign(version),
+                                         error);
+}
+
 } // namespace
 
 void Database::Closer::operator()(sqlite3* connection) const {
@@ -62,7 +94,9 @@ std::unique_ptr<Database> Database::apre(const QString& path) {
 }
 
 std::unique_ptr<Database> Database::crea(const QString& path) {
-    return std::unique_ptr<Database>(new Database(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE));
+    std::unique_ptr<Database> made(new Database(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE));
+    made->sound_ = true;
+    return made;
 }
 
 // The lock is taken with the first transaction and, in exclusive mode, kept to the end. That transaction also rolls
@@ -75,9 +109,12 @@ Database::Database(const QString& path, int flags) : path_(path) {
     connection_.reset(connection);
     if (result != SQLITE_OK)
         throw StoreError(kindOfOpening(result, QFileInfo(path)), path_, lastError(result).what());
+    harden();
     sqlite3_create_collation_v2(connection, "VANZER", SQLITE_UTF8, nullptr, collate, nullptr);
     sqlite3_create_function_v2(connection, "somiglia", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, likeFunction,
                                nullptr, nullptr, nullptr);
+    if ((flags & SQLITE_OPEN_CREATE) == 0)
+        acceptFile();
     run("PRAGMA locking_mode=EXCLUSIVE");
     run("PRAGMA synchronous=FULL");
     run("PRAGMA temp_store=MEMORY");
@@ -87,6 +124,8 @@ Database::Database(const QString& path, int flags) : path_(path) {
     run("COMMIT");
     run("PRAGMA journal_mode=DELETE");
     version_ = storedVersion();
+    size_ = sizeOnDisk();
+    sound_ = endedInOrder(path_, version_);
 }
 
 Database::~Database() {
@@ -94,15 +133,100 @@ Database::~Database() {
         set->abbandona();
     rollbackNow();
     statements_.clear();
+    const bool asLeft = isAsLeft();
     // In exclusive mode an emptied journal stays beside the file; back in normal mode the engine takes it away when
     // its mode changes, also one that a killed program left there. Beside another file that has taken the place of
     // this one it may be another program's.
-    if (!inPlace() || !hasJournal())
+    if (asLeft && QFileInfo::exists(journal()))
+        sqlite3_exec(connection_.get(),
+                     "PRAGMA locking_mode=NORMAL; SELECT count(*) FROM sqlite_schema; "
+                     "PRAGMA journal_mode=PERSIST; PRAGMA journal_mode=DELETE",
+                     nullptr, nullptr, nullptr);
+    connection_.reset();
+    if (asLeft && sound_)
+        signEnd(path_, version_);
+}
+
+// What the file brings along is data, never a program: no triggers or views of it run, and its schema calls nothing.
+void Database::harden() {
+    sqlite3* const connection = connection_.get();
+    struct Switch {
+        int which;
+        int on;
+    };
+    for (const auto& [which, on] : {Switch{SQLITE_DBCONFIG_DEFENSIVE, 1},
+                                    {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
+                                    {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
+                                    {SQLITE_DBCONFIG_ENABLE_VIEW, 0},
+                                    {SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0}})
+        sqlite3_db_config(connection, which, on, nullptr);
+    constexpr int megabyte = 1 << 20;
+    for (const auto& [which, most] : {Switch{SQLITE_LIMIT_LENGTH, 64 * megabyte},
+                                      {SQLITE_LIMIT_SQL_LENGTH, megabyte},
+                                      {SQLITE_LIMIT_EXPR_DEPTH, 100},
+                                      {SQLITE_LIMIT_COMPOUND_SELECT, 10},
+                                      {SQLITE_LIMIT_ATTACHED, 0},
+                                      {SQLITE_LIMIT_TRIGGER_DEPTH, 1}})
+        sqlite3_limit(connection, which, most);
+    run("PRAGMA cell_size_check=ON");
+}
+
+sqlite3_file& Database::rawFile() const {
+    sqlite3_file* file = nullptr;
+    sqlite3_file_control(connection_.get(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
+    return *file;
+}
+
+std::optional<FileHead> Database::headOnDisk() const {
+    QByteArray bytes(dimensioneTesta, '\0');
+    sqlite3_file& file = rawFile();
+    const int result = file.pMethods->xRead(&file, bytes.data(), static_cast<int>(bytes.size()), 0);
+    if (result != SQLITE_OK && result != SQLITE_IOERR_SHORT_READ)
+        throw StoreError(kindOfResult(result), path_, QString::fromUtf8(sqlite3_errstr(result)));
+    return fileHead(bytes);
+}
+
+qint64 Database::sizeOnDisk() const {
+    sqlite3_int64 size = 0;
+    sqlite3_file& file = rawFile();
+    if (const int result = file.pMethods->xFileSize(&file, &size); result != SQLITE_OK)
+        throw StoreError(kindOfResult(result), path_, QString::fromUtf8(sqlite3_errstr(result)));
+    return size;
+}
+
+QString Database::journal() const {
+    return QString::fromUtf8(sqlite3_filename_journal(sqlite3_db_filename(connection_.get(), "main")));
+}
+
+void Database::acceptFile() {
+    const auto head = headOnDisk();
+    const auto format = head ? head->formato() : std::nullopt;
+    if (!format || sizeOnDisk() < leastFile)
+        throw StoreError(StoreError::Kind::Corrupt, path_);
+    if (*format > formatoAttuale)
+        throw StoreError(StoreError::Kind::Newer, path_, QString::number(*format));
+    if (const QFileInfo left(journal()); left.exists() || left.isSymLink())
+        putForeignJournalAside();
+}
+
+// Under the lock, as another program that has the archive may be writing its journal.
+void Database::putForeignJournalAside() {
+    struct Lock {
+        sqlite3_file& file;
+        ~Lock() { file.pMethods->xUnlock(&file, SQLITE_LOCK_NONE); }
+    };
+    const Lock lock{rawFile()};
+    for (const int level : {SQLITE_LOCK_SHARED, SQLITE_LOCK_RESERVED, SQLITE_LOCK_EXCLUSIVE}) {
+        if (const int result = lock.file.pMethods->xLock(&lock.file, level); result != SQLITE_OK)
+            throw StoreError(kindOfResult(result), path_, QString::fromUtf8(sqlite3_errstr(result)));
+    }
+    if (!isForeignJournal(journal(), headOnDisk().value_or(FileHead()), sizeOnDisk()))
         return;
-    sqlite3_exec(connection_.get(),
-                 "PRAGMA locking_mode=NORMAL; SELECT count(*) FROM sqlite_schema; "
-                 "PRAGMA journal_mode=PERSIST; PRAGMA journal_mode=DELETE",
-                 nullptr, nullptr, nullptr);
+    QString aside = journal() + QStringLiteral(".estraneo");
+    for (int n = 2; QFileInfo::exists(aside); ++n)
+        aside = journal() + QStringLiteral(".estraneo%1").arg(n);
+    metteAlPosto(journal(), aside);
+    strayJournal_ = aside;
 }
 
 StoreError Database::lastError(int resultCode) const {
@@ -117,7 +241,8 @@ void Database::run(const char* sql) {
 
 QStringList Database::tabelle() {
     QStringList names;
-    const StatementLease list = prepara("SELECT name FROM sqlite_schema WHERE type='table' ORDER BY rowid");
+    const StatementLease list =
+        prepara("SELECT name FROM sqlite_schema WHERE type='table' AND name NOT GLOB 'sqlite_*' ORDER BY rowid");
     while (list->step())
         names += list->text(0);
     return names;
@@ -189,7 +314,7 @@ void Database::beforeWrite(const TableInfo& table) {
     for (LiveSet* const set : sets_)
         set->primaDiScrivere(table);
     if (!inTransaction())
-        run("BEGIN");
+        beginTransaction();
 }
 
 qint64 Database::scrive(const TableInfo& table, Statement& statement) {
@@ -224,10 +349,10 @@ void Database::commitCommand() {
     storeSoFar();
 }
 
-int Database::storedVersion() {
+quint32 Database::storedVersion() {
     const StatementLease version = prepara("PRAGMA user_version");
     version->step();
-    return static_cast<int>(version->integer(0));
+    return static_cast<quint32>(version->integer(0));
 }
 
 // The system lets a program write on to a file that was taken away or put elsewhere; nobody would find it again.
@@ -237,28 +362,64 @@ bool Database::inPlace() const {
     return moved == 0;
 }
 
-bool Database::hasJournal() const {
-    return QFileInfo::exists(
-        QString::fromUtf8(sqlite3_filename_journal(sqlite3_db_filename(connection_.get(), "main"))));
+int Database::spills() const {
+    int spilled = 0;
+    int highest = 0;
+    sqlite3_db_status(connection_.get(), SQLITE_DBSTATUS_CACHE_SPILL, &spilled, &highest, 0);
+    return spilled;
+}
+
+// What another program wrote into the file isn't overwritten, nor is what we know of the old one stored into it.
+void Database::requireUnchanged() const {
+    if (!inPlace())
+        throw StoreError(StoreError::Kind::NotFound, path_);
+    const auto head = headOnDisk();
+    const qint64 size = sizeOnDisk();
+    const bool spilled = inTransaction() && spills() != spillsBefore_;
+    const bool same = size == size_ && (size == 0 || (head && head->version == version_));
+    const bool growing = spilled && size >= size_ && head && (head->version == version_ || head->version == next_);
+    if (!same && !growing)
+        throw StoreError(StoreError::Kind::Replaced, path_);
+}
+
+bool Database::isAsLeft() const {
+    try {
+        requireUnchanged();
+    } catch (const StoreError&) {
+        return false;
+    }
+    return true;
+}
+
+void Database::setVersion(quint32 version) {
+    run(("PRAGMA user_version=" + QByteArray::number(version)).constData());
+    next_ = version;
+}
+
+// With its version as the first thing that it writes, a transaction has the head of the file at the head of its
+// journal.
+void Database::beginTransaction() {
+    run("BEGIN IMMEDIATE");
+    spillsBefore_ = spills();
+    requireUnchanged();
+    setVersion(version_ == 0 ? versionByChance() : nextVersion(version_));
 }
 
 // A disk that fails at the very last step of a commit, when all is stored already, makes the engine call it failed. The
 // version that is stored tells what is true.
 void Database::commitTransaction() {
-    const int next = version_ == std::numeric_limits<int>::max() ? 1 : version_ + 1;
     std::optional<StoreError> failure;
     try {
-        run(("PRAGMA user_version=" + QByteArray::number(next)).constData());
-        if (!inPlace())
-            throw StoreError(StoreError::Kind::NotFound, path_);
+        requireUnchanged();
         run("COMMIT");
     } catch (const StoreError& error) {
         failure = error;
         rollbackNow();
     }
-    if (failure && storedVersion() != next)
+    if (failure && storedVersion() != next_)
         throw StoreError(*failure);
-    version_ = next;
+    version_ = next_;
+    size_ = sizeOnDisk();
 }
 
 void Database::storeSoFar() {
@@ -346,12 +507,68 @@ bool Database::copiaIn(Database& other, const CopyProgress& progress) {
     }
     if (const int result = sqlite3_backup_finish(backup.release()); result != SQLITE_OK)
         throw other.lastError(result);
+    other.version_ = other.storedVersion();
+    other.size_ = other.sizeOnDisk();
     return true;
 }
 
 bool Database::intatto() {
     const StatementLease check = prepara("PRAGMA quick_check(1)");
     return check->step() && check->text(0) == u"ok";
+}
+
+Database::Salute Database::verifica() {
+    const auto agrees = [this] {
+        const StatementLease check = prepara("PRAGMA integrity_check(1)");
+        return check->step() && check->text(0) == u"ok";
+    };
+    try {
+        Salute health = Salute::Sano;
+        if (!agrees()) {
+            Transaction indexes(*this);
+            cambiaSchema("REINDEX");
+            if (!agrees())
+                return Salute::Danneggiato;
+            indexes.commit();
+            health = Salute::IndiciRifatti;
+        }
+        sound_ = true;
+        return health;
+    } catch (const StoreError& error) {
+        if (error.kind() != StoreError::Kind::Corrupt)
+            throw;
+        return Salute::Danneggiato;
+    }
+}
+
+bool Database::haFormato() const {
+    const auto head = headOnDisk();
+    return head && head->formato().value_or(0) > 0;
+}
+
+void Database::distingue() {
+    Transaction all(*this);
+    cambiaSchema("PRAGMA application_id=" + QByteArray::number(applicazione));
+    setVersion(versionByChance());
+    all.commit();
+}
+
+QByteArray Database::tipo(const QString& table, const QString& field) {
+    const StatementLease declared = prepara("SELECT type FROM pragma_table_info(?) WHERE name=?");
+    declared->bindText(1, QStringView(table));
+    declared->bindText(2, QStringView(field));
+    static const QRegularExpression others(QStringLiteral("[^A-Za-z0-9 (),]"));
+    return declared->step() ? declared->text(0).remove(others).toUtf8() : QByteArray();
+}
+
+QByteArrayList Database::dichiarazioni(const QString& table) {
+    const StatementLease made = prepara("SELECT sql FROM sqlite_schema WHERE tbl_name=? AND type IN ('table','index') "
+                                        "AND sql IS NOT NULL ORDER BY type DESC, rowid");
+    made->bindText(1, QStringView(table));
+    QByteArrayList statements;
+    while (made->step())
+        statements += made->text(0).toUtf8();
+    return statements;
 }
 
 QStringList Database::piano(const QByteArray& sql) {

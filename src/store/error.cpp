@@ -28,6 +28,17 @@ QString StoreError::testo() const {
         return QStringLiteral("L'archivio %1 è in sola lettura: il file o la sua cartella non si può scrivere. Quanto "
                               "era memorizzato prima è rimasto com'era.")
             .arg(file);
+    case Kind::Replaced:
+        return QStringLiteral("L'archivio %1 è stato cambiato da un altro programma. Non è stato cambiato nulla.")
+            .arg(file);
+    case Kind::Newer:
+        return QStringLiteral("L'archivio %1 è di una versione più recente di Vanzer (formato %2): per aprirlo serve "
+                              "quella. È rimasto com'era.")
+            .arg(file, detail_);
+    case Kind::Unlike:
+        return QStringLiteral("L'archivio %1 ha i campi della tabella %2 in un altro ordine: non è di questo Vanzer. "
+                              "È rimasto com'era.")
+            .arg(file, detail_);
     case Kind::Io:
         return QStringLiteral("Errore di lettura o scrittura di %1 (%2). Quanto era memorizzato prima è rimasto "
                               "com'era.")
@@ -43,6 +54,8 @@ QString StoreError::testo() const {
 }
 
 StoreError::Kind kindOfResult(int resultCode) {
+    if (resultCode == SQLITE_READONLY_DBMOVED)
+        return StoreError::Kind::NotFound;
     switch (resultCode & 0xff) {
     case SQLITE_BUSY: return StoreError::Kind::Busy;
     case SQLITE_NOTADB:

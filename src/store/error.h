@@ -17,11 +17,14 @@ class StoreError : public std::exception {
         Busy,     ///< open in another program
         Full,     ///< no room left on the disk
         ReadOnly, ///< file or directory can't be written
+        Replaced, ///< another program has changed the file under this one
+        Newer,    ///< of a later format than this program knows
+        Unlike,   ///< its tables have the fields that we know in another order
         Io,       ///< the system failed to read or write
         Other     ///< a fault of the caller: unknown table or field, unreadable query, misused set
     };
 
-    /// `detail` is the technical cause; it is shown for Io and Other only.
+    /// `detail` is the technical cause, shown for Io and Other; the format's number for Newer, the table for Unlike.
     StoreError(Kind kind, QString path, QString detail = {});
 
     [[nodiscard]] Kind kind() const { return kind_; }

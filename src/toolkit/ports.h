@@ -10,8 +10,8 @@ namespace vanzer {
 
 class Printer;
 
-/// The buttons of a box. "Salva" is answered as yes, "Non salvare" as no.
-enum class Pulsanti { Ok, SiNo, SiNoAnnulla, SalvaNonSalvareAnnulla };
+/// The buttons of a box. "Salva" and "Riprendi la copia" are answered as yes, "Non salvare" and "Nuovo archivio" as no.
+enum class Pulsanti { Ok, SiNo, SiNoAnnulla, SalvaNonSalvareAnnulla, RiprendeCominciaAnnulla };
 enum class Icona { Nessuna, Informazione, Avviso };
 
 /// Answers of a message box.

@@ -30,6 +30,7 @@
 #include "schedule/stops_screen.h"
 #include "schedule/time_line_screen.h"
 #include "store/daily_copy.h"
+#include "store/kept_archive.h"
 #include "store/outside_files.h"
 #include "window/changes.h"
 #include "window/command.h"
@@ -269,14 +270,15 @@ QString copiesAre(const Form& form) {
         .arg(QDir::toNativeSeparators(newest.path()), newest.fileName());
 }
 
-QString copyFailed(const Form& form, const store::StoreError& error) {
-    QString text = QStringLiteral("La copia di oggi dell'archivio non è stata fatta.\n\n") + error.testo();
-    if (error.kind() == store::StoreError::Kind::Corrupt)
-        text = QStringLiteral("L'archivio %1 si apre, ma al suo interno è danneggiato. La copia di oggi non è stata "
-                              "fatta e nessuna delle altre è stata tolta.")
-                   .arg(QDir::toNativeSeparators(error.path()));
+QString withCopies(const Form& form, const QString& text) {
     const QString where = copiesAre(form);
     return where.isEmpty() ? text : text + QStringLiteral("\n\n") + where;
+}
+
+QString isDamaged(const Form& form) {
+    return withCopies(form, QStringLiteral("L'archivio %1 si apre, ma al suo interno è danneggiato. Nessuna copia ne è "
+                                           "stata fatta e nessuna di quelle che ci sono è stata tolta.")
+                                .arg(QDir::toNativeSeparators(form.archivio.PercorsoDatabase)));
 }
 
 /// The day's copy of the archive as the day before left it. One that lasts shows its progress and can be stopped. The
@@ -296,7 +298,10 @@ QStringList copyOfTheDay(Form& form, store::Database& archive) {
     try {
         store::copiaDelGiorno(archive, form.ports.clock.now().date(), progress);
     } catch (const store::StoreError& error) {
-        failure += copyFailed(form, error);
+        failure += error.kind() == store::StoreError::Kind::Corrupt
+                       ? isDamaged(form)
+                       : withCopies(form, QStringLiteral("La copia di oggi dell'archivio non è stata fatta.\n\n") +
+                                              error.testo());
     }
     if (shown) {
         AzzeraPercentuale(form);
@@ -305,13 +310,69 @@ QStringList copyOfTheDay(Form& form, store::Database& archive) {
     return failure;
 }
 
+/// An archive that is in order is looked at once a day; one that was left otherwise, or written by another program, at
+/// once. The result is what the user must be told.
+QStringList checkAndCopy(Form& form, store::Database& archive) {
+    using enum store::Database::Salute;
+    const bool due = store::copiaDovuta(archive.percorso(), form.ports.clock.now().date());
+    if (archive.chiusoInOrdine() && !due)
+        return {};
+    const auto health = archive.verifica();
+    if (health == Danneggiato)
+        return {isDamaged(form)};
+    QStringList told;
+    if (health == IndiciRifatti)
+        told +=
+            QStringLiteral("Gli indici dell'archivio %1 non corrispondevano ai dati: sono stati rifatti. I dati sono "
+                           "rimasti com'erano.")
+                .arg(QDir::toNativeSeparators(archive.percorso()));
+    return told + copyOfTheDay(form, archive);
+}
+
+store::Archive::SenzaArchivio askForCopy(Form& form, const store::CopiaTrovata& copy) {
+    using enum store::Archive::SenzaArchivio;
+    const QFileInfo file(copy.path);
+    const QString trips = copy.mete == 1 ? QStringLiteral("1 meta") : QStringLiteral("%1 mete").arg(copy.mete);
+    const int answer = form.chiede(
+        {.text =
+             QStringLiteral("L'archivio %1 non c'è, ma in %2 ci sono le sue copie. Riprendere la copia \"%3\" (%4)?")
+                 .arg(QDir::toNativeSeparators(form.archivio.PercorsoDatabase), QDir::toNativeSeparators(file.path()),
+                      file.fileName(), copy.mete < 0 ? QStringLiteral("non si legge") : trips),
+         .title = QStringLiteral("Archivio"),
+         .buttons = Pulsanti::RiprendeCominciaAnnulla,
+         .icon = Icona::Avviso,
+         .detail = QStringLiteral("Con un archivio nuovo le copie restano dove sono. Annulla lascia tutto com'è.")});
+    return answer == rispostaSi ? Riprende : answer == rispostaNo ? Comincia : Rinuncia;
+}
+
+QStringList told(const Form& form, const store::Archive::Apertura& opening) {
+    QStringList texts;
+    if (!opening.giornaleEstraneo.isEmpty())
+        texts +=
+            QStringLiteral("Accanto all'archivio c'era il giornale di un altro archivio, o di un altro suo stato: non "
+                           "è stato usato. È messo da parte come %1.")
+                .arg(QDir::toNativeSeparators(opening.giornaleEstraneo));
+    if (opening.valoriTagliati > 0)
+        texts +=
+            QStringLiteral("Le tabelle dell'archivio %1 sono state aggiornate. Testi troppo lunghi, accorciati: %2. "
+                           "Interi stanno ancora, per %3 avvii, in %4.")
+                .arg(QDir::toNativeSeparators(form.archivio.PercorsoDatabase))
+                .arg(opening.valoriTagliati)
+                .arg(store::avviiTenuti)
+                .arg(QDir::toNativeSeparators(opening.archivioDiPrima));
+    return texts;
+}
+
 /// The result is what the user must be told once the window stands.
 QStringList openArchive(Form& form) {
     QStringList warnings;
-    form.archivio.apriArchivio(
-        [&form, &warnings](store::Database& archive) { warnings = copyOfTheDay(form, archive); });
+    const store::Archive::Apertura opening = form.archivio.apriArchivio(
+        [&form, &warnings](store::Database& archive) { warnings = checkAndCopy(form, archive); },
+        [&form](const store::CopiaTrovata& copy) { return askForCopy(form, copy); });
     form.lblPath.setCaption(form.archivio.PercorsoDatabase);
-    return warnings;
+    if (opening.archivioDiPrima.isEmpty())
+        store::contaAvvio(form.archivio.PercorsoDatabase);
+    return told(form, opening) + warnings;
 }
 
 store::Recordset& openCategories(Form& form) {

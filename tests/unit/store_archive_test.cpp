@@ -9,6 +9,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "store/kept_archive.h"
+
 namespace vanzer::store {
 namespace {
 
@@ -23,6 +25,24 @@ TEST(Descriptor, IsRead) {
     EXPECT_EQ(campiDescritti(TabelleCampi(MeteVanzer)).size(), 28U);
     EXPECT_EQ(campiDescritti(TabelleCampi(Parametri)).size(), 21U);
 }
+
+/// A program that dies in mid-command, when a part of it is in the file already.
+struct Killed {
+    template<typename Work> Killed(const QString& folder, const Work& work) {
+        const pid_t child = fork();
+        if (child == 0) {
+            Archive dying(folder);
+            dying.apriArchivio();
+            dying.Db(0)->prepara("PRAGMA cache_size=5")->step();
+            dying.beginCommand();
+            work(dying);
+            ::raise(SIGKILL);
+        }
+        int status = 0;
+        EXPECT_EQ(waitpid(child, &status, 0), child);
+        EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+    }
+};
 
 class StoreArchive : public StoreTest {
   protected:
@@ -42,6 +62,11 @@ class StoreArchive : public StoreTest {
             Recordset rs(*old, {TabelleNomi(table), {}, {}});
             fill(rs);
         }
+    }
+
+    static void write(const QString& file, const QByteArray& bytes) {
+        QFile f(file);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size());
     }
 
     [[nodiscard]] QStringList filesLeft() const { return QDir(directory.path()).entryList(QDir::Files); }
@@ -151,10 +176,11 @@ TEST_F(StoreArchive, WhatIsNoArchiveIsLeftAsItIs) {
     archive.chiudi();
     QByteArray damaged = contents(file());
     damaged.replace(0, 16, "not what we want");
-    for (const QByteArray& bytes : {QByteArray("hello"), QByteArray(5000, 'x'), damaged}) {
-        QFile f(file());
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size());
-        f.close();
+    const QByteArray whole = contents(file());
+    QByteArray foreign = whole;
+    foreign.replace(68, 4, "Else");
+    for (const QByteArray& bytes : {QByteArray(), whole.left(511), QByteArray(5000, 'x'), damaged, foreign}) {
+        write(file(), bytes);
         EXPECT_EQ(failureOf([&] { archive.apriArchivio(); }), StoreError::Kind::Corrupt);
         EXPECT_EQ(archive.PercorsoDatabase, file());
         EXPECT_EQ(contents(file()), bytes);
@@ -175,36 +201,121 @@ TEST_F(StoreArchive, PlacesWhereNothingCanBeOpened) {
     QFile::setPermissions(directory.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-// The child dies in mid-command, after part of it has already gone to the file.
-TEST_F(StoreArchive, AKilledCommandLeavesNoTrace) {
+// A killed program's journal is rolled back into its own archive, and into no other that has taken the place.
+TEST_F(StoreArchive, OnlyItsOwnJournalIsRolledBack) {
     addLegs(2'000);
+    const QString copy = path(directory, "copia.mdb");
+    ASSERT_TRUE(copiaIntera(*archive.Db(0), copy, {}));
+    addLegs(1'000);
     archive.chiudi();
-    const pid_t child = fork();
-    if (child == 0) {
-        Archive killed(directory.path());
-        killed.apriArchivio();
-        killed.Db(0)->prepara("PRAGMA cache_size=5")->step();
-        killed.beginCommand();
-        killed.CancellaTabella(Itinerari, "CodiceMeta", "000001");
-        ::raise(SIGKILL);
-    }
-    int status = 0;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
-    ASSERT_GT(QFileInfo(file() + "-journal").size(), 10'000) << "nothing was half written";
+    Killed killed(directory.path(), [](Archive& dying) { dying.CancellaTabella(Itinerari, "CodiceMeta", "000001"); });
+    const QString journal = file() + "-journal";
+    const QByteArray left = contents(journal);
+    ASSERT_GT(left.size(), 10'000) << "nothing was half written";
     archive.apriArchivio();
-    EXPECT_EQ(open("SELECT * FROM Itinerari").RecordCount(), 2'000);
-    EXPECT_EQ(open("SELECT * FROM Itinerari WHERE CodiceMeta = '000001'").RecordCount(), 2'000);
+    EXPECT_EQ(open("SELECT * FROM Itinerari WHERE CodiceMeta = '000001'").RecordCount(), 3'000);
+    archive.chiudi();
+    EXPECT_EQ(filesLeft(), (QStringList{"copia.mdb", "Vanzer.mdb"}));
+    archive.apriArchivio();
+    addLegs(1);
+    addLegs(1);
+    archive.chiudi();
+    const QByteArray later = contents(file());
+    for (const QByteArray& other : {contents(copy), later}) {
+        write(file(), other);
+        write(journal, left);
+        EXPECT_EQ(archive.apriArchivio().giornaleEstraneo, journal + ".estraneo");
+        EXPECT_EQ(contents(journal + ".estraneo"), left);
+        EXPECT_EQ(open("SELECT * FROM Itinerari").RecordCount(), other == later ? 3'002 : 2'000);
+        EXPECT_EQ(archive.Db(0)->verifica(), Database::Salute::Sano);
+        archive.chiudi();
+        EXPECT_TRUE(QFile::remove(journal + ".estraneo"));
+    }
 }
 
-// The system would let the program write on to a file that nobody finds again.
-TEST_F(StoreArchive, AFileThatIsNotInItsPlaceAnyMoreIsTold) {
+// The system would let the program write on to a file that nobody finds again, or into another archive.
+TEST_F(StoreArchive, AFileThatIsAnotherNowIsToldAndLeft) {
     addLegs(2);
     ASSERT_TRUE(QFile::rename(file(), path(directory, "altrove.mdb")));
     EXPECT_EQ(failureOf([&] { addLegs(1); }), StoreError::Kind::NotFound);
     ASSERT_TRUE(QFile::rename(path(directory, "altrove.mdb"), file()));
     addLegs(1);
-    EXPECT_EQ(open("SELECT * FROM Itinerari").RecordCount(), 3);
+    QTemporaryDir elsewhere;
+    const QString other = path(elsewhere, "Vanzer.mdb");
+    Archive(elsewhere.path()).apriArchivio();
+    const QByteArray ours = contents(file());
+    QByteArray sameSize = contents(other);
+    sameSize.resize(ours.size());
+    for (const QByteArray& bytes :
+         {sameSize, ours.left(ours.size() - 4096), QByteArray(ours.size(), '\0'), QByteArray()}) {
+        write(file(), bytes);
+        for (int again = 0; again < 2; ++again)
+            EXPECT_EQ(failureOf([&] { addLegs(1); }), StoreError::Kind::Replaced);
+        EXPECT_EQ(contents(file()), bytes);
+        write(file(), ours);
+    }
+    addLegs(1);
+    EXPECT_EQ(open("SELECT * FROM Itinerari").RecordCount(), 4);
+}
+
+TEST_F(StoreArchive, AFileOfAnotherVersionIsRefusedOrCarriedOver) {
+    archive.chiudi();
+    QByteArray newer = contents(file());
+    newer[71] = 2;
+    write(file(), newer);
+    EXPECT_EQ(failureOf([&] { archive.apriArchivio(); }), StoreError::Kind::Newer);
+    EXPECT_EQ(contents(file()), newer);
+    makeOld(TipoGuida, "Descrizione[T=32],CodiceGuida[T=2]"); // would be rebuilt with codes as names
+    const QByteArray reordered = contents(file());
+    EXPECT_EQ(failureOf([&] { archive.apriArchivio(); }), StoreError::Kind::Unlike);
+    EXPECT_EQ(contents(file()), reordered);
+
+    makeOld(TipoGuida, "Nota[T=9],CodiceGuida[T=2],Descrizione[T=40]", [](Recordset& rs) {
+        rs.AddNew();
+        rs.scrive("Nota", "bella");
+        rs.scrive("CodiceGuida", "01");
+        rs.scrive("Descrizione", QString(40, u'x'));
+        rs.Update();
+    });
+    {
+        const auto old = Database::apre(file());
+        old->cambiaSchema("CREATE TABLE Extra(a TEXT, b INTEGER, c AS (b + 1))");
+        old->cambiaSchema("INSERT INTO Extra(a, b) VALUES('x', 7)");
+        old->cambiaSchema("CREATE TRIGGER t AFTER INSERT ON TipoGuida BEGIN DELETE FROM TipoGuida; END");
+    }
+    const auto opening = archive.apriArchivio();
+    EXPECT_EQ(opening.valoriTagliati, 1);
+    const auto record = archive.tabella("TipoGuida").record.at(0);
+    using Cell = TabellaLetta::Cella;
+    EXPECT_EQ(record, (std::vector<Cell>{"01", QString(32, u'x'), false, "bella"}));
+    EXPECT_EQ(archive.tabella("Extra").record.at(0), (std::vector<Cell>{"x", "7"}));
+    archive.chiudi();
+    EXPECT_TRUE(Database::apre(opening.archivioDiPrima)->intatto()); // for ten starts
+    for (int start = 1; start <= avviiTenuti; ++start) {
+        EXPECT_EQ(QDir(directory.path() + "/Copie").count(), 3U) << start;
+        contaAvvio(file());
+    }
+    EXPECT_EQ(QDir(directory.path() + "/Copie").count(), 2U);
+}
+
+TEST_F(StoreArchive, IndexesThatDontAgreeAreMadeAnew) {
+    addLegs(2);
+    archive.chiudi();
+    archive.apriArchivio();
+    EXPECT_TRUE(archive.Db(0)->chiusoInOrdine());
+    archive.chiudi();
+    QByteArray bytes = contents(file());
+    for (qsizetype page = 0; page < bytes.size(); page += 4096) {
+        if (const QByteArray here = bytes.mid(page, 4096); here.count("000001") == 2 && !here.contains("P1"))
+            bytes.replace(page, 4096, QByteArray(here).replace("000001", "000009"));
+    }
+    write(file(), bytes);
+    archive.apriArchivio();
+    const QString legs = "SELECT * FROM Itinerari WHERE CodiceMeta = '000001'";
+    EXPECT_EQ(open(legs).RecordCount(), 0) << "the index still agrees";
+    EXPECT_FALSE(archive.Db(0)->chiusoInOrdine());
+    EXPECT_EQ(archive.Db(0)->verifica(), Database::Salute::IndiciRifatti);
+    EXPECT_EQ(open(legs).RecordCount(), 2);
 }
 
 // A rebuild that can't be finished: the new file's place is taken by a directory.
