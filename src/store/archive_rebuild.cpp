@@ -140,6 +140,16 @@ void requireOurs(Database& file) {
         throw StoreError(StoreError::Kind::Corrupt, file.percorso());
 }
 
+/// On a disk that is full the next start does it.
+void givesFormat(Database& archive) {
+    try {
+        if (!archive.haFormato())
+            archive.distingue();
+    } catch (const StoreError&) {
+        return;
+    }
+}
+
 /// What an earlier attempt left goes. Throws Busy if another program is at work on it, ReadOnly if it can't go.
 void clearPlace(const QString& temporary) {
     if (!QFileInfo::exists(temporary))
@@ -187,8 +197,7 @@ Archive::Apertura Archive::apriArchivio(const PrimaDellUso& before, const SeManc
             throw StoreError(StoreError::Kind::Corrupt, PercorsoDatabase);
         ricostruisce(opening);
     }
-    if (!Db(0)->haFormato())
-        Db(0)->distingue();
+    givesFormat(*Db(0));
     RecordSetImpostaDefault();
     return opening;
 }

@@ -304,5 +304,34 @@ TEST_F(WindowOnCopies, AreNamedWhereTheyHelp) {
     EXPECT_TRUE(unreadable.contains(where) && unreadable.contains(nameOf(7))) << unreadable.toStdString();
 }
 
+// A damaged index isn't waited for until tomorrow, nor told as damage: what it leads to is whole.
+TEST_F(WindowOnCopies, AMissingArchiveIsAskedForAndABrokenIndexMended) {
+    addLegs(2);
+    start(7);
+    form->archivio.chiudi();
+    breakIndexOfLegs(file());
+    start(7);
+    EXPECT_TRUE(shown().contains(u"Gli indici"));
+    EXPECT_EQ(form->archivio.tabella("Itinerari").record.size(), 2U);
+    form->archivio.chiudi();
+
+    struct Choice {
+        int answer;
+        std::optional<std::size_t> legs; ///< of the archive that is there afterwards
+    };
+    for (const Choice& choice : {Choice{rispostaAnnulla, std::nullopt}, {rispostaSi, 2}, {rispostaNo, 0}}) {
+        ASSERT_TRUE(choice.answer == rispostaSi || !QFile::exists(file()) || QFile::remove(file()));
+        boxes.enqueue(choice.answer);
+        start(8);
+        EXPECT_TRUE(shown().contains(nameOf(7)));
+        EXPECT_EQ(form->chiusa, !choice.legs);
+        EXPECT_EQ(QFile::exists(file()), choice.legs.has_value());
+        if (choice.legs) {
+            EXPECT_EQ(form->archivio.tabella("Itinerari").record.size(), *choice.legs);
+        }
+        form->archivio.chiudi();
+    }
+}
+
 } // namespace
 } // namespace vanzer::store

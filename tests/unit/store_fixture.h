@@ -19,6 +19,22 @@ inline QByteArray contents(const QString& file) {
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
+inline void write(const QString& file, const QByteArray& bytes) {
+    QFile f(file);
+    EXPECT_TRUE(f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size());
+}
+
+/// The index that leads to the two legs of destination 000001, places P0 and P1, leads nowhere.
+inline void breakIndexOfLegs(const QString& file) {
+    constexpr qsizetype page = 4096;
+    QByteArray bytes = contents(file);
+    for (qsizetype at = 0; at < bytes.size(); at += page) {
+        if (const QByteArray here = bytes.mid(at, page); here.count("000001") == 2 && !here.contains("P1"))
+            bytes.replace(at, page, QByteArray(here).replace("000001", "000009"));
+    }
+    write(file, bytes);
+}
+
 /// The kind of failure of an action; nothing if it succeeds.
 template<typename Action> std::optional<StoreError::Kind> failureOf(Action action) {
     try {
