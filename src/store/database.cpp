@@ -17,7 +17,6 @@
 
 #include "core/collation.h"
 #include "store/query_sql.h"
-#include "store/safe_files.h"
 
 namespace vanzer::store {
 
@@ -108,7 +107,7 @@ Database::Database(const QString& path, int flags) : path_(path) {
                         flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
     connection_.reset(connection);
     if (result != SQLITE_OK)
-        throw StoreError(kindOfOpening(result, QFileInfo(path)), path_, lastError(result).what());
+        throw StoreError(kindOfOpening(result, QFileInfo(path)), path_, QString::fromUtf8(sqlite3_errmsg(connection)));
     harden();
     sqlite3_create_collation_v2(connection, "VANZER", SQLITE_UTF8, nullptr, collate, nullptr);
     sqlite3_create_function_v2(connection, "somiglia", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, likeFunction,
@@ -225,7 +224,10 @@ void Database::putForeignJournalAside() {
     QString aside = journal() + QStringLiteral(".estraneo");
     for (int n = 2; QFileInfo::exists(aside); ++n)
         aside = journal() + QStringLiteral(".estraneo%1").arg(n);
-    metteAlPosto(journal(), aside);
+    std::error_code error;
+    std::filesystem::rename(QFileInfo(journal()).filesystemFilePath(), QFileInfo(aside).filesystemFilePath(), error);
+    if (error)
+        throw StoreError(StoreError::Kind::Io, journal(), QString::fromStdString(error.message()));
     strayJournal_ = aside;
 }
 
