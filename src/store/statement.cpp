@@ -17,8 +17,12 @@ template<class... Cases> Match(Cases...) -> Match<Cases...>;
 /// A text may begin with the mark that stands for the order of bytes elsewhere: here it is a letter like others.
 QString decoded(QByteArrayView utf8) {
     constexpr QByteArrayView mark("\xEF\xBB\xBF");
-    return utf8.startsWith(mark) ? QChar(QChar::ByteOrderMark) + decoded(utf8.sliced(mark.size()))
-                                 : QString::fromUtf8(utf8);
+    if (!utf8.startsWith(mark))
+        return QString::fromUtf8(utf8);
+    qsizetype marks = 0;
+    while (utf8.sliced(marks * mark.size()).startsWith(mark))
+        ++marks;
+    return QString(marks, QChar(QChar::ByteOrderMark)) + QString::fromUtf8(utf8.sliced(marks * mark.size()));
 }
 
 /// Kinds of road, marks and blanks: the same text for each, which takes no memory of its own.

@@ -22,8 +22,26 @@ Database& Walk::database() const {
 }
 
 void Walk::abbandona() noexcept {
-    cursor_.giveBack();
+    end();
     database_ = nullptr;
+}
+
+void Walk::end() noexcept {
+    cursor_.giveBack();
+    onCursor_ = false;
+    interrupted_ = false;
+    rest_.clear();
+    restAt_ = 0;
+    place_ = Place::End;
+}
+
+template<typename Move> void Walk::orEnd(Move move) {
+    try {
+        move();
+    } catch (...) {
+        end();
+        throw;
+    }
 }
 
 bool Walk::atEnd() {
@@ -37,11 +55,13 @@ void Walk::start() {
 }
 
 void Walk::first() {
-    rest_.clear();
-    restAt_ = 0;
-    addedAt_ = 0;
-    openCursor(std::numeric_limits<qint64>::min());
-    advance();
+    orEnd([this] {
+        rest_.clear();
+        restAt_ = 0;
+        addedAt_ = 0;
+        openCursor(std::numeric_limits<qint64>::min());
+        advance();
+    });
 }
 
 void Walk::openCursor(qint64 behindRowid) {
@@ -57,7 +77,7 @@ void Walk::next() {
     if (place_ == Place::NotStarted)
         first();
     if (place_ != Place::End)
-        advance();
+        orEnd([this] { advance(); });
 }
 
 void Walk::advance() {
@@ -79,15 +99,9 @@ void Walk::advance() {
 
 /// Moves the cursor to the next record that isn't one of the added ones, which have their place at the end.
 bool Walk::stepCursor() {
-    try {
-        while (cursor_->step()) {
-            if (!std::binary_search(added_.begin(), added_.end(), cursor_->integer(0)))
-                return true;
-        }
-    } catch (const StoreError&) {
-        cursor_.giveBack();
-        place_ = Place::End;
-        throw;
+    while (cursor_->step()) {
+        if (!std::binary_search(added_.begin(), added_.end(), cursor_->integer(0)))
+            return true;
     }
     cursor_.giveBack();
     return false;
@@ -111,25 +125,28 @@ bool Walk::load(Statement& statement) {
 }
 
 void Walk::last() {
-    cursor_.giveBack();
-    interrupted_ = false;
-    rest_.clear();
-    restAt_ = 0;
-    onCursor_ = false;
-    place_ = Place::OnRecord;
+    end();
+    orEnd([this] {
+        if (lastAdded())
+            return;
+        const StatementLease record = database().prepara(form().last);
+        query_.bind(*record);
+        place_ = load(*record) ? Place::OnRecord : Place::End;
+        interrupted_ = form().wholeTable; // what is added from now on lies behind
+    });
+}
+
+bool Walk::lastAdded() {
     for (addedAt_ = added_.size(); addedAt_ > 0;) {
         const StatementLease record = database().prepara(form().byRowid);
         record->bind(1, added_[--addedAt_]);
-        if (load(*record)) {
-            addedAt_ = added_.size();
-            return;
-        }
+        if (!load(*record))
+            continue;
+        addedAt_ = added_.size();
+        place_ = Place::OnRecord;
+        return true;
     }
-    const StatementLease record = database().prepara(form().last);
-    query_.bind(*record);
-    if (!load(*record))
-        place_ = Place::End;
-    interrupted_ = form().wholeTable; // what is added from now on lies behind
+    return false;
 }
 
 qint64 Walk::count() {
@@ -206,18 +223,21 @@ void Walk::deleted() {
 // A statement that is still stepping would keep a file that has failed from being read again. Where the table is walked
 // as a whole, the walk may go on; the records of another query may be others now.
 void Walk::annullato() noexcept {
+    const bool goesOn = cursor_ && form().wholeTable;
+    const Place place = place_;
+    bool kept = true;
     try {
         if (onCursor_)
             current_ = rowOf(*cursor_);
     } catch (...) {
-        place_ = Place::End;
+        kept = false;
     }
-    if (cursor_)
-        interrupted_ = form().wholeTable;
-    cursor_.giveBack();
-    onCursor_ = false;
-    rest_.clear();
-    restAt_ = 0;
+    const bool before = interrupted_;
+    end();
+    if (kept) {
+        place_ = place;
+        interrupted_ = goesOn || before;
+    }
     added_.clear();
     addedAt_ = 0;
     count_.reset();
@@ -226,16 +246,18 @@ void Walk::annullato() noexcept {
 void Walk::primaDiScrivere(const TableInfo& table) {
     if (!cursor_ || (!table.nome.isEmpty() && table.nome != tabella().nome))
         return;
-    if (onCursor_)
-        current_ = rowOf(*cursor_);
-    onCursor_ = false;
-    if (form().wholeTable) {
-        interrupted_ = true;
-    } else {
-        while (stepCursor())
-            rest_.push_back(rowOf(*cursor_));
-    }
-    cursor_.giveBack();
+    orEnd([this] {
+        if (onCursor_)
+            current_ = rowOf(*cursor_);
+        onCursor_ = false;
+        if (form().wholeTable) {
+            interrupted_ = true;
+        } else {
+            while (stepCursor())
+                rest_.push_back(rowOf(*cursor_));
+        }
+        cursor_.giveBack();
+    });
 }
 
 Riga Walk::rowOf(const Statement& statement) const {

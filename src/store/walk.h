@@ -1,5 +1,6 @@
 // The way through the records of a query. Nothing is read before it is asked for, and no more than that, until the
 // table is written: then what is left of the set is read first, so that no write changes what the walk is going to see.
+// A walk that fails is at its end; it can be begun anew.
 #pragma once
 
 #include <cstddef>
@@ -52,6 +53,10 @@ class Walk final : public LiveSet {
     void openCursor(qint64 behindRowid);
     bool stepCursor();
     bool nextAdded();
+    bool lastAdded();
+    void end() noexcept;
+    /// Moves; a move that throws leaves the walk at its end.
+    template<typename Move> void orEnd(Move move);
     bool load(Statement& statement);
     void requireRecord();
     [[nodiscard]] Riga rowOf(const Statement& statement) const;

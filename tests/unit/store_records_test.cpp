@@ -159,6 +159,94 @@ TEST_F(StoreRecords, OtherSetsOfATableStepAside) {
     }
 }
 
+/// The archive's file with one page after the other damaged under the open archive, which has read nothing of it yet.
+class DamagedPages {
+  public:
+    DamagedPages(Database& database, const QString& path) : database_(database), file_(path) {
+        static_cast<void>(file_.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+        whole_ = file_.readAll();
+    }
+    [[nodiscard]] int pages() const { return static_cast<int>(whole_.size() / pageSize); }
+    void damage(int page) { put(page, QByteArray(pageSize, 0)); }
+    void mend(int page) { put(page, whole_.mid(qsizetype{page} * pageSize, pageSize)); }
+
+  private:
+    static constexpr int pageSize = 4096; // bytes
+
+    void put(int page, const QByteArray& bytes) {
+        file_.seek(qint64{page} * pageSize);
+        file_.write(bytes);
+        const StatementLease forget = database_.prepara("PRAGMA shrink_memory");
+        forget->step();
+    }
+
+    Database& database_;
+    QFile file_;
+    QByteArray whole_;
+};
+
+QStringList placesOf(Recordset& legs) {
+    QStringList places;
+    for (; !legs.EOF_(); legs.MoveNext())
+        places += legs.testo("Localita");
+    return places;
+}
+
+// Whatever a walk does when a page can't be read, it is at its end then, and can be begun anew.
+TEST_F(StoreRecords, AWalkThatFailsIsAtItsEnd) {
+    addLegs(400);
+    const auto write = [this](Recordset& legs) {
+        const Comando undone(archive);
+        Recordset other(*archive.Db(0), {TabelleNomi(Itinerari), {}, {}});
+        other.AddNew();
+        other.Update();
+        placesOf(legs);
+    };
+    const struct {
+        const char* name;
+        std::function<void(Recordset&)> work;
+        bool begun = true;
+        bool moves = true; ///< a failure is one of the walk itself
+    } works[] = {{"next", [](Recordset& legs) { placesOf(legs); }},
+                 {"first", [](Recordset& legs) { legs.MoveFirst(); }, false},
+                 {"last", [](Recordset& legs) { legs.MoveLast(); }},
+                 {"write", write, true, false}};
+    DamagedPages file(*archive.Db(0), path(directory, "Vanzer.mdb"));
+    for (const QString& way : waysToLegs) {
+        const QStringList all = placesOf(open(way, 2));
+        ASSERT_EQ(all.size(), 400);
+        for (const auto& [name, work, begun, moves] : works) {
+            int failures = 0;
+            for (int page = 1; page < file.pages(); ++page) {
+                SCOPED_TRACE(testing::Message() << way.toStdString() << ", " << name << ", page " << page);
+                Recordset& legs = open(way, 2);
+                if (begun)
+                    legs.MoveNext();
+                file.damage(page);
+                if (const auto failure = failureOf([&] { work(legs); })) {
+                    ++failures;
+                    EXPECT_EQ(failure, StoreError::Kind::Corrupt);
+                    EXPECT_TRUE(!moves || legs.EOF_());
+                    EXPECT_TRUE(!legs.EOF_() || failureOf([&] { (void)legs.testo("Localita"); }));
+                    (void)failureOf([&] { placesOf(legs); });
+                }
+                file.mend(page);
+                legs.MoveFirst();
+                EXPECT_EQ(placesOf(legs), all);
+            }
+            EXPECT_GT(failures, 0) << way.toStdString() << name;
+        }
+    }
+}
+
+TEST_F(StoreRecords, AMillionMarksOfTheByteOrderAreAText) {
+    const StatementLease echo = archive.Db(0)->prepara("SELECT ?1");
+    const QString text = QString(1'000'000, QChar(QChar::ByteOrderMark)) + QStringLiteral("Èze");
+    echo->bindText(1, QStringView(text));
+    ASSERT_TRUE(echo->step());
+    EXPECT_EQ(echo->text(0), text);
+}
+
 TEST_F(StoreRecords, OpeningReadsNothing) {
     addLegs(200'000);
     const QStringList ways{allLegs, "SELECT * FROM Itinerari ORDER BY Localita",
