@@ -2,7 +2,9 @@
 // folding: "ß" stays one letter, an accent counts).
 #pragma once
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 #include <QString>
 #include <QStringView>
@@ -36,6 +38,10 @@ namespace vanzer {
 }
 /// Rounding of a fraction that is assigned to a whole number: to the nearest, halves to the even one.
 [[nodiscard]] int arrotonda(double x);
+/// The sum of two whole numbers; beyond the greatest or the least one it stays there.
+[[nodiscard]] inline int somma(std::int64_t a, std::int64_t b) {
+    return static_cast<int>(std::clamp<std::int64_t>(a + b, INT32_MIN, INT32_MAX));
+}
 
 /// Shortest decimal form of a number, with the given decimal mark. A float keeps a float's digits.
 [[nodiscard]] QString testoNumero(double x, QChar decimalMark = u'.');

@@ -238,7 +238,7 @@ std::vector<RigaRimasta> piegaTappe(const std::vector<RigaPercorso>& legs, int n
         const RigaPercorso& leg = legs[i];
         if (!contiene(roads, leg.strade))
             roads += (roads.isEmpty() ? u""_s : u" "_s) + leg.strade;
-        km += leg.km;
+        km = somma(km, leg.km);
         if (!leg.luogo.contains(segno) && !isEntry(leg.luogo))
             continue;
         left.push_back({static_cast<int>(i) + 1, {shownName(leg.luogo, nameSize), roads, km}});

@@ -72,7 +72,7 @@ class Percorso {
   public:
     [[nodiscard]] int km() const { return km_; }
     void setKm(int km) { km_ = km; }
-    [[nodiscard]] int kmDallUltima() const { return km_ - kmLast_; }
+    [[nodiscard]] int kmDallUltima() const { return somma(km_, -std::int64_t{kmLast_}); }
 
     [[nodiscard]] bool senzaStrade() const { return roads_.size() <= 1; }
     [[nodiscard]] bool haStrada(const QString& road) const { return contiene(roads_, road); }
@@ -85,7 +85,7 @@ class Percorso {
         last_ = place;
         const QString roads = Mid(roads_, 2);
         legs_.push_back({maiuscolo(Trim(iniziaCon(place, u"vicino a") ? Mid(place, 10) : place)), Trim(roads),
-                         km_ - kmLast_, km_, iniziaCon(roads, u"A"), contiene(roads, traghetto)});
+                         kmDallUltima(), km_, iniziaCon(roads, u"A"), contiene(roads, traghetto)});
         roads_ = nessuna;
         kmLast_ = km_;
     }
@@ -348,9 +348,9 @@ class ListaLuoghi {
     /// A counter that starts again goes on from where it was.
     void conta(int raw) {
         if (raw < lastRaw_)
-            correction_ += lastRaw_;
+            correction_ = somma(correction_, lastRaw_);
         lastRaw_ = raw;
-        route_.setKm(raw + correction_);
+        route_.setKm(somma(raw, correction_));
     }
 
     /// Parts place and road, which share a column, and shortens the place.

@@ -12,7 +12,7 @@ QString luogoMemorizzato(const QString& place, int fieldSize) {
 }
 
 int numeroRecord(int km) {
-    return std::max(1, (km + massimoKmRecord - 1) / massimoKmRecord);
+    return km <= massimoKmRecord ? 1 : (km - 1) / massimoKmRecord + 1;
 }
 
 std::vector<RecordTappa> recordDellaRiga(const RigaTappa& row, const QString& guideStops, int placeSize) {

@@ -95,8 +95,8 @@ void markEndsOfDay(Grid& grid, int rows) {
     }
 }
 
-int recordsNeeded(const Form& form) {
-    int needed = 0;
+qint64 recordsNeeded(const Form& form) {
+    qint64 needed = 0;
     for (int r = 1; r < form.mfgTab.rows(); ++r) {
         if (!Trim(form.mfgTab.cell(r, 1)).isEmpty())
             needed += numeroRecord(chilometri(form.mfgTab.cell(r, 3)));

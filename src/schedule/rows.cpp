@@ -234,7 +234,7 @@ class TabellaViandoria::Chiusura {
     }
 
     static void adds(SommaViandoria& sum, int km, float time) {
-        sum.km += km;
+        sum.km = somma(sum.km, km);
         sum.guida += time;
     }
 
@@ -258,7 +258,8 @@ class TabellaViandoria::Chiusura {
         const auto line = [this](const SommaViandoria& sum) {
             return u"\t\tKm. "_s + migliaiaZero(sum.km) + u"  \tGuida "_s + inBothDays(sum.guida);
         };
-        const SommaViandoria rest{trip_.km - stretch_.km, trip_.guida - stretch_.guida, trip_.soste - stretch_.soste};
+        const SommaViandoria rest{somma(trip_.km, -std::int64_t{stretch_.km}), trip_.guida - stretch_.guida,
+                                  trip_.soste - stretch_.soste};
         return {titoloTotali.toString(),
                 QStringLiteral("Percorso specifico:\t"),
                 line(stretch_) + u"\t Sosta "_s + inBothDays(stretch_.soste),

@@ -145,8 +145,8 @@ class Prova {
             longRest();
             const float departure = ora_;
             ora_ = f(d(ora_) + d(tempoTratta_));
-            panel.kmTotali += km;
-            panel.km[road] += km;
+            panel.kmTotali = somma(panel.kmTotali, km);
+            panel.km[road] = somma(panel.km[road], km);
             RigaViandoria& row = aggiunge(RigaViandoria::Tipo::Tratto, index);
             row.km = km;
             row.kmTotali = panel.kmTotali;

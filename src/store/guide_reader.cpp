@@ -1,5 +1,6 @@
 #include "store/guide_reader.h"
 
+#include <cmath>
 #include <utility>
 
 #include "core/text.h"
@@ -35,7 +36,7 @@ VociGuida LettoreGuida::leggeLuogo(const QString& place) {
     while (found->step())
         entries.push_back({.rowid = found->integer(0),
                            .tempoSosta = texts_.comune(found->text(4)),
-                           .codice = static_cast<int>(Val(found->text(1))),
+                           .codice = arrotonda(std::trunc(Val(found->text(1)))),
                            .quadra = found->text(3).contains(u'['),
                            .gruppo = texts_.comune(found->text(2)),
                            .descrizione = found->text(3)});

@@ -412,8 +412,10 @@ void loadCategories(Form& form) {
         form.cmbGTipo.add(name);
     }
     store::Recordset& table = form.archivio.Rs(store::TipoGuida);
-    for (const QString& missing : wanted.split(u'^', Qt::SkipEmptyParts))
-        addCategory(table, ++last, missing, true);
+    for (const QString& missing : wanted.split(u'^', Qt::SkipEmptyParts)) {
+        last = somma(last, 1);
+        addCategory(table, last, missing, true);
+    }
     form.cmbGTipo.setText(form.TipiGuidaDescrizione[1]);
 }
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "core/text_file.h"
+#include "exchange/route_package.h"
 #include "support/memory_archive.h"
 
 namespace vanzer {
@@ -129,6 +130,18 @@ TEST(ExchangeLine, IsWrittenTrimmedInTheCodePage) {
                                 "dz\xff\r\n");
     ASSERT_EQ(file.sostituiti().size(), 1U);
     EXPECT_EQ(file.sostituiti()[0].testo, u"Łódź"_s);
+}
+
+TEST(RouteList, CountersBeyondAllNumbersStayAtTheGreatest) {
+    constexpr int most = 2'147'483'647;
+    const PercorsoImportato route =
+        leggePacchetto("Riepilogo\n. Località\tDirezione\tDistanza\tTempo\tPosizione opposta\n" + QByteArray(150, '-') +
+                       "\nASTI\t\t\t\t12 KM\nALBA\t\t\t\t99999999999 KM\n"
+                       "BRA\t\t\t\t5 KM\nACQUI\t\t\t\t4 KM\n");
+    std::vector<int> km;
+    for (const TappaImportata& leg : route.tappe)
+        km.insert(km.end(), {leg.km, leg.kmProgressivo});
+    EXPECT_EQ(km, (std::vector<int>{12, 12, most - 12, most}));
 }
 
 TEST(ExchangeCodes, AreKeptWhenFreeElseCountedOn) {

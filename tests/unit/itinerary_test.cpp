@@ -26,6 +26,7 @@ TEST(TabellaTappe, ALongLegIsSeveralRecords) {
             EXPECT_TRUE(records[i].fineGiorno);
         }
     }
+    EXPECT_EQ(numeroRecord(2'147'483'647), 2'149'634);
 }
 
 TEST(TabellaTappe, NoStoredTextIsEmptyOrTooLong) {
