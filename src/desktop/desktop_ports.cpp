@@ -141,9 +141,12 @@ int DialogBoxes::show(const MessageBox& told) {
         setInLines(box, plain);
     else
         box.setText(plain);
-    box.setInformativeText(told.detail);
+    // The label of the detail comes with its first text, and would read that as mark-up.
+    if (!told.detail.isEmpty())
+        box.setInformativeText(QStringLiteral(" "));
     for (auto* const label : box.findChildren<QLabel*>())
         label->setTextFormat(Qt::PlainText);
+    box.setInformativeText(told.detail);
     for (const Choice& choice : offered)
         box.addButton(choice.button)->setText(QString::fromUtf16(choice.text));
     const QFileInfo file(told.files.value(0));

@@ -76,7 +76,7 @@ MainWindow::MainWindow(Form& form)
     hints_ = std::make_unique<HintLine>(*this, *ui_->lblElaborazione);
     binder_.bind(*this);
     form_.onManuale = [this] { showManual(); };
-    watchLetters(*this);
+    takeIn(*this);
     connect(&binder_, &Binder::closed, this, &QWidget::close);
     connect(&binder_, &Binder::inputEnded, this, [this] {
         if (std::exchange(closeWaits_, false))
@@ -100,11 +100,13 @@ void MainWindow::showManual() {
     manual_->activateWindow();
 }
 
-void MainWindow::watchLetters(QWidget& form) {
+void MainWindow::takeIn(QWidget& form) {
     for (QAbstractButton* const button : form.findChildren<QAbstractButton*>())
         button->installEventFilter(this);
-    for (QLabel* const label : form.findChildren<QLabel*>())
+    for (QLabel* const label : form.findChildren<QLabel*>()) {
+        label->setTextFormat(Qt::PlainText);
         label->installEventFilter(this);
+    }
 }
 
 void MainWindow::addFrames() {
@@ -113,7 +115,7 @@ void MainWindow::addFrames() {
         frames_.push_back(nullptr);
         binder_.bindLater(*form_.find(QString::fromUtf16(design.control)), [this, at, &design]() -> QWidget& {
             QWidget& frame = *design.make(contents_);
-            watchLetters(frame);
+            takeIn(frame);
             if (auto* const picture = frame.findChild<TimeLineView*>())
                 connect(picture, &TimeLineView::dayTold, frame.findChild<QLabel*>(QStringLiteral("giornoLinea")),
                         &QLabel::setText);

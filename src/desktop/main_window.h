@@ -46,7 +46,8 @@ class MainWindow : public QWidget {
     void addFrames();
     [[nodiscard]] QWidget& arranged(QWidget& frame);
     [[nodiscard]] static bool isThere(const QWidget* frame);
-    void watchLetters(QWidget& form);
+    /// Watches the letters of a form, whose labels show their texts to the letter.
+    void takeIn(QWidget& form);
     void layOutFrames();
     [[nodiscard]] QSize neededSize() const;
     void fitScreen();

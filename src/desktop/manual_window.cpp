@@ -26,12 +26,13 @@ QString manualText() {
     return QString::fromUtf8(file.readAll()).remove(comment);
 }
 
-/// The manual with its pictures scaled to the width that the text has.
+/// The manual with its pictures scaled to the width that the text has. Nothing is loaded that doesn't come with it.
 class Pages : public QTextBrowser {
   public:
     using QTextBrowser::QTextBrowser;
     QVariant loadResource(int type, const QUrl& name) override {
-        QVariant found = QTextBrowser::loadResource(type, name);
+        const bool own = name.isRelative() || name.scheme() == u"qrc";
+        QVariant found = own ? QTextBrowser::loadResource(type, name) : QVariant();
         if (type != QTextDocument::ImageResource)
             return found;
         constexpr int widest = 680;

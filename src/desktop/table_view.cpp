@@ -9,6 +9,7 @@
 #include <QToolTip>
 
 #include "desktop/key_codes.h"
+#include "desktop/plain_text.h"
 #include "desktop/row_delegate.h"
 
 namespace vanzer::desktop {
@@ -276,7 +277,8 @@ void TableView::tellCell(const QPoint& at) {
     const QModelIndex index = indexAt(at);
     const QString text = index.data().toString();
     const bool cut = fontMetrics().horizontalAdvance(text) + cellPadding > columnWidth(index.column());
-    QToolTip::showText(viewport()->mapToGlobal(at), index.isValid() && cut ? text.trimmed() : QString(), viewport());
+    const QString told = index.isValid() && cut ? text.trimmed() : QString();
+    QToolTip::showText(viewport()->mapToGlobal(at), testoSemplice(told), viewport());
 }
 
 bool TableView::viewportEvent(QEvent* event) {

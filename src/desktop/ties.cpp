@@ -8,6 +8,7 @@
 #include <QRadioButton>
 
 #include "desktop/fields.h"
+#include "desktop/plain_text.h"
 #include "desktop/table_view.h"
 #include "desktop/text_ties.h"
 
@@ -190,8 +191,8 @@ void Tie::markChanged() {
 void Tie::show() {
     dirty_ = false;
     showOwn();
-    if (widget_.toolTip() != control_.tooltip())
-        widget_.setToolTip(control_.tooltip());
+    if (const QString told = testoSemplice(control_.tooltip()); widget_.toolTip() != told)
+        widget_.setToolTip(told);
     widget_.setEnabled(enabled());
     widget_.setVisible(visible());
 }

@@ -10,6 +10,7 @@
 #include <QToolTip>
 
 #include "core/time_values.h"
+#include "desktop/plain_text.h"
 #include "desktop/tints.h"
 
 namespace vanzer::desktop {
@@ -185,7 +186,8 @@ bool TimeLineView::viewportEvent(QEvent* event) {
         return QAbstractScrollArea::viewportEvent(event);
     const auto& help = *static_cast<const QHelpEvent*>(event);
     const Attivita* const activity = activityAt(help.pos());
-    QToolTip::showText(help.globalPos(), activity == nullptr ? QString() : descrizione(*line_, *activity), viewport());
+    const QString told = activity == nullptr ? QString() : descrizione(*line_, *activity);
+    QToolTip::showText(help.globalPos(), testoSemplice(told), viewport());
     return true;
 }
 

@@ -1,11 +1,14 @@
 // What the window has beside the table: the first steps, the picture of the trip, the manual.
 #include <array>
 
+#include <QHelpEvent>
 #include <QLabel>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 
 #include "desktop/manual_window.h"
 #include "desktop/time_line_view.h"
@@ -104,6 +107,47 @@ TEST_F(Companions, TheLineOfTimeIsWorkedByKeyboard) {
     QTest::mouseClick(find("cmdCalcola"), Qt::LeftButton); // the legs come back into the table
     EXPECT_FALSE(isSeen("frmLinea"));
     EXPECT_FALSE(find("cmdLinea")->isEnabled());
+}
+
+TEST_F(Companions, WhatLooksLikeMarkUpIsShownToTheLetter) {
+    const QString marked = QStringLiteral("<img src=\"file:///manca.png\"><b>x</b>");
+    storeTrip(6);
+    open();
+    form().cmdItinerario.click();
+    form().mfgTab.clickRow(3);
+    form().txtNumStrada.type(marked);
+    form().cmdInserisce.click();
+    const auto tip = [](QWidget& over, const QPoint& at) {
+        QHelpEvent asked(QEvent::ToolTip, at, over.mapToGlobal(at));
+        QApplication::sendEvent(&over, &asked);
+        return QToolTip::text();
+    };
+    const auto told = [](const QString& text) { return QTextDocumentFragment::fromHtml(text).toPlainText(); };
+    auto* const table = find<QTableView>("mfgTab");
+    window().binder().flush();
+    const QModelIndex road = table->model()->index(2, 2);
+    table->setColumnWidth(2, 40);
+    EXPECT_EQ(told(tip(*table->viewport(), table->visualRect(road).center())), marked);
+    boxes.expect(Qt::Key_Return);
+    form().cmdFine.click();
+    letter('c');
+    letter('p');
+    auto* const picture = find<QAbstractScrollArea>("vistaLinea");
+    bool seen = false;
+    for (int x = 0; x < picture->viewport()->width(); x += 4)
+        seen = seen || told(tip(*picture->viewport(), {x, picture->viewport()->height() / 4})).contains(marked);
+    EXPECT_TRUE(seen);
+    seeAllFrames();
+    form().cmdLinea.setTooltip(marked);
+    window().binder().flush();
+    EXPECT_EQ(told(find("cmdLinea")->toolTip()), marked);
+    for (const auto* const label : window().findChildren<QLabel*>())
+        EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString();
+    boxes.forget();
+    boxes.expect(Qt::Key_Return);
+    form().messaggioFile(marked, {marked});
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_TRUE(boxes.shown()[0].plain);
 }
 
 /// From an empty archive to the calendar of the trip, the mouse left alone.
