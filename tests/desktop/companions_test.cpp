@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QTableView>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextDocumentFragment>
@@ -130,8 +131,9 @@ TEST_F(Companions, WhatLooksLikeMarkUpIsShownToTheLetter) {
     EXPECT_EQ(told(tip(*table->viewport(), table->visualRect(road).center())), marked);
     boxes.expect(Qt::Key_Return);
     form().cmdFine.click();
-    letter('c');
-    letter('p');
+    form().cmdCalcola.click();
+    form().cmdLinea.click();
+    window().binder().flush();
     auto* const picture = find<QAbstractScrollArea>("vistaLinea");
     bool seen = false;
     for (int x = 0; x < picture->viewport()->width(); x += 4)
