@@ -25,4 +25,8 @@ QString RiPulisceNomeLocalita(const QString& name) {
     return PrimoMaiuscolo(Trim(taglia(name, u'[')), false);
 }
 
+QString chiaveMeta(const QString& name) {
+    return senzaMaiuscole(Trim(taglia(name, u'(')));
+}
+
 } // namespace vanzer

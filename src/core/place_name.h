@@ -17,4 +17,7 @@ inline constexpr QStringView marcaEnd = u"[End]";
 /// The form for a row of the schedule: cut at "[", trimmed, capitals normalised.
 [[nodiscard]] QString RiPulisceNomeLocalita(const QString& name);
 
+/// What tells a destination by its name: two names mean the same one exactly if these are equal.
+[[nodiscard]] QString chiaveMeta(const QString& name);
+
 } // namespace vanzer

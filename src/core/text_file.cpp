@@ -1,9 +1,10 @@
 #include "core/text_file.h"
 
+#include <numeric>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QStringConverter>
 
 #include "core/code_page.h"
 #include "core/disk.h"
@@ -12,10 +13,14 @@ namespace vanzer {
 
 namespace {
 
-QString decoded(const QByteArray& contents) {
-    QStringDecoder utf8(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
-    QString text = utf8(contents);
-    return utf8.hasError() ? fromCodePage(contents) : text;
+constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF");
+
+/// Of valid UTF-8: a character of four bytes is a pair.
+qsizetype charactersOf(QByteArrayView utf8) {
+    return std::accumulate(utf8.begin(), utf8.end(), qsizetype{0}, [](qsizetype sum, char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        return sum + ((byte & 0xC0U) != 0x80U ? 1 : 0) + (byte >= 0xF0U ? 1 : 0);
+    });
 }
 
 } // namespace
@@ -83,19 +88,35 @@ FileLetto leggeFile(const QString& path) {
 }
 
 RigheTesto::RigheTesto(const QByteArray& contents)
-    : text_(decoded(contents)), end_(text_.contains(u'\n') || !text_.contains(u'\r') ? u'\n' : u'\r') {}
+    : contents_(contents), utf8_(QByteArrayView(contents).isValidUtf8()),
+      end_(contents.contains('\n') || !contents.contains('\r') ? '\n' : '\r') {
+    if (utf8_ && contents.startsWith(byteOrderMark))
+        at_ = byteOrderMark.size();
+    length_ = utf8_ ? charactersOf(QByteArrayView(contents_).sliced(at_)) : contents_.size();
+}
 
 bool RigheTesto::prossima() {
-    if (at_ >= text_.size())
+    if (at_ >= contents_.size())
         return false;
-    const qsizetype found = text_.indexOf(end_, at_);
-    const qsizetype end = found < 0 ? text_.size() : found;
-    line_ = QStringView(text_).mid(at_, end - at_);
-    while (line_.endsWith(u'\r'))
-        line_.chop(1);
-    at_ = end + 1;
+    const qsizetype found = contents_.indexOf(end_, at_);
+    QByteArrayView bytes = QByteArrayView(contents_).sliced(at_, (found < 0 ? contents_.size() : found) - at_);
+    at_ += bytes.size() + 1;
+    while (bytes.endsWith('\r'))
+        bytes.chop(1);
+    decode(bytes);
     ++number_;
     return true;
+}
+
+void RigheTesto::decode(QByteArrayView bytes) {
+    if (!utf8_) {
+        text_ = fromCodePage(bytes);
+        line_ = text_;
+        return;
+    }
+    if (const qsizetype room = decoder_.requiredSpace(bytes.size()); text_.size() < room)
+        text_.resize(room);
+    line_ = QStringView(text_.constData(), decoder_.appendToBuffer(text_.data(), bytes));
 }
 
 } // namespace vanzer

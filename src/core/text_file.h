@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringDecoder>
 #include <QStringList>
 
 class QSaveFile;
@@ -38,22 +39,31 @@ struct FileLetto {
 
 /// The lines of a text: UTF-8 where the bytes are valid UTF-8, else the code page. A line ends with CR LF or LF; CR
 /// alone ends lines where there is no LF at all.
+///
+/// A line is decoded when its turn comes: the text takes no more memory than its bytes.
 class RigheTesto {
   public:
     explicit RigheTesto(const QByteArray& contents);
 
     /// Characters of the whole text; in the code page as many as bytes.
-    [[nodiscard]] qsizetype lunghezza() const { return text_.size(); }
+    [[nodiscard]] qsizetype lunghezza() const { return length_; }
     /// Moves to the next line; false if there is none.
     bool prossima();
-    /// The current line without its end, and its number from 1.
+    /// The current line without its end, which holds until the next one, and its number from 1.
     [[nodiscard]] QStringView riga() const { return line_; }
     [[nodiscard]] int numero() const { return number_; }
 
   private:
-    QString text_;
-    QChar end_;
+    void decode(QByteArrayView bytes);
+
+    QByteArray contents_;
+    bool utf8_;
+    char end_;
+    qsizetype length_;
     qsizetype at_ = 0;
+    QStringDecoder decoder_{QStringConverter::Utf8,
+                            QStringConverter::Flag::Stateless | QStringConverter::Flag::ConvertInitialBom};
+    QString text_; ///< the line, with room for longer ones
     QStringView line_;
     int number_ = 0;
 };

@@ -25,8 +25,8 @@ const QString metaCampo = QStringLiteral("Localita");
 const QString nazioneCampo = QStringLiteral("Nazione");
 const QString codiceCampo = QStringLiteral("CodiceMeta");
 
-int firstEmptyRow(const Grid& list) {
-    int row = 1;
+/// The first one from `row` on.
+int firstEmptyRow(const Grid& list, int row = 1) {
     while (row < list.rows() && !list.cell(row, scambioMeta).isEmpty())
         ++row;
     return row;
@@ -66,13 +66,13 @@ void numberRows(Grid& list) {
     }
 }
 
-/// False for a row without a destination.
-bool moveCurrentRow(Grid& from, Grid& to) {
+/// To the first empty row from `free` on, which it tells. False for a row without a destination.
+bool moveCurrentRow(Grid& from, Grid& to, int& free) {
     const int row = from.row();
     if (from.cell(row, scambioMeta).isEmpty())
         return false;
     to.setRows(to.rows() + 2);
-    const int free = firstEmptyRow(to);
+    free = firstEmptyRow(to, free);
     for (int c = scambioMeta; c < to.columns(); ++c)
         to.setCell(free, c, from.cell(row, c));
     from.removeRow(row);
@@ -223,7 +223,8 @@ bool CaricaListaMete(Form& form) {
 
 void TrasferisceMetaImportExport(Form& form, int n) {
     Grid& from = form.mfgImExp(n);
-    if (!moveCurrentRow(from, form.mfgImExp(1 - n)))
+    int free = 1;
+    if (!moveCurrentRow(from, form.mfgImExp(1 - n), free))
         return;
     AggiornaPulsantiImportExport(form);
     form.setFocus(from);
@@ -321,11 +322,11 @@ void cmdTutto_Click(Form& form, int n) {
     form.stato.PercentualeTotale = from.rows() - 1;
     form.stato.PercentualeCorrente = 0;
     form.lblElaborazione.setCaption(QStringLiteral("Lettura mète"));
-    while (!from.cell(1, scambioMeta).isEmpty()) {
+    for (int free = 1; !from.cell(1, scambioMeta).isEmpty();) {
         ++form.stato.PercentualeCorrente;
         AggiornaPercentuale(form);
         from.select(1, from.col(), 1, from.colSel());
-        if (!moveCurrentRow(from, form.mfgImExp(1 - n)))
+        if (!moveCurrentRow(from, form.mfgImExp(1 - n), free))
             break;
     }
     form.setFocus(from);

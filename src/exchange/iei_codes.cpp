@@ -1,5 +1,6 @@
 #include "exchange/iei_codes.h"
 
+#include <map>
 #include <vector>
 
 #include <QSet>
@@ -14,6 +15,25 @@ QString key(QStringView code) {
     return code.toString().toCaseFolded();
 }
 
+/// All texts that stand anywhere in a long one, those of a length at the first question for one.
+class Brani {
+  public:
+    explicit Brani(const QString& text) : text_(text) {}
+
+    [[nodiscard]] bool contiene(const QString& part) {
+        if (part.size() > text_.size())
+            return false;
+        const auto [of, fresh] = byLength_.try_emplace(part.size());
+        for (qsizetype at = 0; fresh && at + part.size() <= text_.size(); ++at)
+            of->second.insert(text_.mid(at, part.size()));
+        return of->second.contains(part);
+    }
+
+  private:
+    QStringView text_;
+    std::map<qsizetype, QSet<QStringView>> byLength_;
+};
+
 } // namespace
 
 CodiciMete::Esito CodiciMete::assegna(const QStringList& stored, const QStringList& chosen, int longest) {
@@ -24,12 +44,13 @@ CodiciMete::Esito CodiciMete::assegna(const QStringList& stored, const QStringLi
         all += key(code) + u'\\';
         taken.insert(key(code));
     }
+    Brani parts(all);
     std::vector<bool> inUse;
     for (const QString& code : chosen) {
         failed_ = code;
         if (code.size() > longest)
             return Esito::CodiceTroppoLungo;
-        inUse.push_back(all.contains(key(code)) || taken.contains(key(code)));
+        inUse.push_back(parts.contiene(key(code)) || taken.contains(key(code)));
         if (!inUse.back())
             taken.insert(key(code));
     }

@@ -1,6 +1,10 @@
 #include "exchange/iei_import.h"
 
+#include <algorithm>
+#include <functional>
+
 #include "core/collation.h"
+#include "core/place_name.h"
 #include "core/text.h"
 
 namespace vanzer {
@@ -11,24 +15,105 @@ const QString campoCodice = QStringLiteral("CodiceMeta");
 const QString campoLocalita = QStringLiteral("Localita");
 const QString campoDescrizione = QStringLiteral("Descrizione");
 
+/// Of UTF-8: where the next character begins.
+std::size_t dopoIlCarattere(const std::string& text, std::size_t at) {
+    do {
+        ++at;
+    } while (at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U);
+    return at;
+}
+
 } // namespace
+
+void MetePresenti::aggiunge(const QString& name) {
+    names_[chiaveMeta(name)].push_back(name.toStdString());
+}
+
+bool MetePresenti::trova(const QString& name) const {
+    const auto same = names_.constFind(chiaveMeta(name));
+    const std::string pattern = LikeTesto(name).toStdString();
+    return same != names_.cend() &&
+           std::ranges::any_of(*same, [&pattern](const std::string& known) { return somiglia(pattern, known); });
+}
+
+std::optional<std::size_t> Descrizioni::Forma::chiave(const std::string& text) const {
+    std::string own;
+    std::size_t at = 0;
+    for (const bool counts : proprie) {
+        if (at == text.size())
+            return {};
+        const std::size_t next = dopoIlCarattere(text, at);
+        own.append(counts ? text.substr(at, next - at) : "?");
+        at = next;
+    }
+    return intera && at < text.size() ? std::nullopt : std::optional(std::hash<std::string>()(own));
+}
+
+void Descrizioni::Forma::aggiunge(const std::string& text) {
+    if (const auto key = chiave(text))
+        testi.emplace(*key, &text);
+}
+
+void Descrizioni::aggiunge(const std::string& text) {
+    const auto [known, fresh] = texts_.insert(text);
+    for (Forma& form : forms_) {
+        if (fresh)
+            form.aggiunge(*known);
+    }
+}
+
+/// Only texts that begin as the pattern does are looked at, and of many only those that fit its form.
+bool Descrizioni::trova(const std::string& pattern) {
+    constexpr int many = 64;
+    const std::string beginning = pattern.substr(0, pattern.find_first_of("*?"));
+    int looks = 0;
+    for (auto d = texts_.lower_bound(beginning); d != texts_.end() && d->starts_with(beginning); ++d) {
+        if (somiglia(pattern, *d))
+            return true;
+        if (++looks != many)
+            continue;
+        if (const Forma* const form = forma(pattern)) {
+            const auto [first, last] = form->testi.equal_range(*form->chiave(pattern.substr(0, pattern.find('*'))));
+            return std::any_of(first, last, [&pattern](const auto& text) { return somiglia(pattern, *text.second); });
+        }
+    }
+    return false;
+}
+
+/// Null when there are so many forms already that one more costs more than it helps.
+Descrizioni::Forma* Descrizioni::forma(const std::string& pattern) {
+    constexpr std::size_t most = 128;
+    constexpr std::size_t mostTimes = 4; // that a text lies in forms, on average
+    const std::size_t star = pattern.find('*');
+    Forma wanted{.proprie = {}, .intera = star == std::string::npos, .testi = {}};
+    const std::string beginning = pattern.substr(0, star);
+    for (std::size_t at = 0; at < beginning.size(); at = dopoIlCarattere(beginning, at))
+        wanted.proprie.push_back(beginning[at] != '?');
+    std::size_t lying = 0;
+    for (Forma& known : forms_) {
+        if (known.intera == wanted.intera && known.proprie == wanted.proprie)
+            return &known;
+        lying += known.testi.size();
+    }
+    if (forms_.size() == most || lying > mostTimes * texts_.size())
+        return nullptr;
+    for (const std::string& text : texts_)
+        wanted.aggiunge(text);
+    return &forms_.emplace_back(std::move(wanted));
+}
 
 void VociPresenti::aggiunge(const QString& place, const QString& description) {
     const auto number = static_cast<std::size_t>(places_.aggiunge(place));
     if (number >= descriptions_.size())
         descriptions_.resize(number + 1);
-    descriptions_[number].insert(senzaMaiuscole(description).toStdString());
+    descriptions_[number].aggiunge(senzaMaiuscole(description).toStdString());
 }
 
-/// Only descriptions that begin as the pattern does are looked at.
-bool VociPresenti::trova(const QString& place, const QString& description) const {
+bool VociPresenti::trova(const QString& place, const QString& description) {
     const std::string pattern = senzaMaiuscole(LikeTesto(description)).toStdString();
-    const std::string beginning = pattern.substr(0, pattern.find_first_of("*?"));
     bool any = false;
     places_.cerca(place, [&](int number) {
-        const std::set<std::string>& known = descriptions_[static_cast<std::size_t>(number)];
-        for (auto d = known.lower_bound(beginning); !any && d != known.end() && d->starts_with(beginning); ++d)
-            any = somiglia(pattern, *d);
+        any = descriptions_[static_cast<std::size_t>(number)].trova(pattern);
         return !any;
     });
     return any;
@@ -60,12 +145,19 @@ void Importazione::meta() {
     const QString* const fresh = codes_.perMeta(old);
     if (fresh == nullptr)
         return;
-    if (archive_.haMeta(reader_.colonna(place_).toString())) {
+    if (!destinations_) {
+        destinations_.emplace();
+        for (const QString& name : archive_.nomiMete())
+            destinations_->aggiunge(name);
+    }
+    if (destinations_->trova(reader_.colonna(place_).toString())) {
         codes_.rifiuta(old);
         ++counters_.meteScartate;
         return;
     }
     aggiunge(fresh);
+    if (place_ >= 0)
+        destinations_->aggiunge(values_[static_cast<std::size_t>(place_)]);
     codes_.accetta(old);
     ++counters_.meteInserite;
 }

@@ -6,7 +6,10 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <unordered_map>
 #include <vector>
+
+#include <QHash>
 
 #include "exchange/iei_codes.h"
 #include "exchange/iei_file.h"
@@ -18,11 +21,11 @@ namespace vanzer {
 class ArchivioImport {
   public:
     virtual ~ArchivioImport() = default;
-    /// There is a destination of that name.
-    [[nodiscard]] virtual bool haMeta(const QString& localita) = 0;
     /// A record for the table of the section, a text for each of its fields; the texts become what is stored of them.
     virtual void aggiunge(int section, std::vector<QString>& values) = 0;
-    /// The places of all legs, and place and description of all entries of the guide that have both.
+    /// The names of all destinations, the places of all legs, and place and description of all entries of the guide
+    /// that have both.
+    [[nodiscard]] virtual std::vector<QString> nomiMete() = 0;
     [[nodiscard]] virtual std::vector<QString> luoghiTappe() = 0;
     struct Voce {
         QString localita;
@@ -39,16 +42,52 @@ struct ContatoriImport {
     int vociScartate = 0;
 };
 
+/// Which destinations there are.
+class MetePresenti {
+  public:
+    void aggiunge(const QString& name);
+    /// One of the same name: up to the bracket, and as a query for the name finds it.
+    [[nodiscard]] bool trova(const QString& name) const;
+
+  private:
+    QHash<QString, std::vector<std::string>> names_; ///< UTF-8, by what comes before the bracket
+};
+
+/// Descriptions of one place, UTF-8 with case put away, and whether a pattern fits one of them.
+class Descrizioni {
+  public:
+    void aggiunge(const std::string& text);
+    [[nodiscard]] bool trova(const std::string& pattern);
+
+  private:
+    /// The form of patterns such as "?ab" and "?ab*": where their own characters stand. Texts of the same characters
+    /// there lie together.
+    struct Forma {
+        std::vector<bool> proprie; ///< by character
+        bool intera = true;        ///< no text is longer
+        std::unordered_multimap<std::size_t, const std::string*> testi;
+
+        /// Of the text's characters there; nothing if it has fewer or, for a whole form, more.
+        [[nodiscard]] std::optional<std::size_t> chiave(const std::string& text) const;
+        void aggiunge(const std::string& text);
+    };
+
+    [[nodiscard]] Forma* forma(const std::string& pattern);
+
+    std::set<std::string> texts_;
+    std::vector<Forma> forms_; ///< those that were asked for where many texts begin alike
+};
+
 /// Which descriptions the guide has for which places.
 class VociPresenti {
   public:
     void aggiunge(const QString& place, const QString& description);
     /// An entry like the description at a place of the form of `place`.
-    [[nodiscard]] bool trova(const QString& place, const QString& description) const;
+    [[nodiscard]] bool trova(const QString& place, const QString& description);
 
   private:
     LuoghiPerModello places_;
-    std::vector<std::set<std::string>> descriptions_; ///< by place, UTF-8, with case put away
+    std::vector<Descrizioni> descriptions_; ///< by place
 };
 
 class Importazione {
@@ -76,6 +115,7 @@ class Importazione {
     int place_ = -1;
     int description_ = -1;
     std::vector<QString> values_;
+    std::optional<MetePresenti> destinations_;
     std::optional<LuoghiPerModello> legs_; ///< from the first line of the guide on
     std::optional<VociPresenti> guide_;
 };

@@ -7,7 +7,6 @@
 #include "exchange/choice_screen.h"
 #include "exchange/chosen_file_screen.h"
 #include "exchange/iei_import.h"
-#include "window/destination.h"
 #include "window/modes.h"
 
 namespace vanzer {
@@ -38,18 +37,6 @@ class ArchivioAperto final : public ArchivioImport {
             tables_[static_cast<std::size_t>(table)] = wholeTable(form, table);
     }
 
-    bool haMeta(const QString& localita) override {
-        using enum store::Condition::Test;
-        const QString field = QStringLiteral("Localita");
-        form_.archivio.RecordSetImposta(
-            0, store::Archive::slotAppoggio,
-            {store::TabelleNomi(store::MeteVanzer), {{field, Like, LikeTesto(localita)}}, {}});
-        store::Recordset& found = form_.archivio.Rs(store::Archive::slotAppoggio);
-        while (!found.EOF_() && !stessaMeta(found.testo(field), localita))
-            found.MoveNext();
-        return !found.EOF_();
-    }
-
     void aggiunge(int section, std::vector<QString>& values) override {
         store::Recordset& table = tables_[static_cast<std::size_t>(section)];
         table.AddNew();
@@ -65,17 +52,8 @@ class ArchivioAperto final : public ArchivioImport {
         table.Update();
     }
 
-    std::vector<QString> luoghiTappe() override {
-        std::vector<QString> places;
-        store::Recordset legs = wholeTable(form_, store::Itinerari);
-        const int place = legs.campo(u"Localita");
-        for (; !legs.EOF_(); legs.MoveNext()) {
-            form_.yield();
-            if (QString name = legs.testo(place); !name.isEmpty())
-                places.push_back(std::move(name));
-        }
-        return places;
-    }
+    std::vector<QString> nomiMete() override { return placesOf(store::MeteVanzer); }
+    std::vector<QString> luoghiTappe() override { return placesOf(store::Itinerari); }
 
     std::vector<Voce> vociGuida() override {
         std::vector<Voce> entries;
@@ -91,6 +69,18 @@ class ArchivioAperto final : public ArchivioImport {
     }
 
   private:
+    std::vector<QString> placesOf(int table) {
+        std::vector<QString> places;
+        store::Recordset records = wholeTable(form_, table);
+        const int place = records.campo(u"Localita");
+        for (; !records.EOF_(); records.MoveNext()) {
+            form_.yield();
+            if (QString name = records.testo(place); !name.isEmpty())
+                places.push_back(std::move(name));
+        }
+        return places;
+    }
+
     Form& form_;
     std::array<store::Recordset, ultimaSezione + 1> tables_;
 };

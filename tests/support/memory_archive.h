@@ -8,7 +8,6 @@
 #include "core/text.h"
 #include "exchange/iei_import.h"
 #include "store/schema.h"
-#include "window/destination.h"
 
 namespace vanzer {
 
@@ -53,13 +52,6 @@ class MemoryArchive final : public ArchivioImport {
         return texts;
     }
 
-    bool haMeta(const QString& localita) override {
-        for (const QString& name : column(store::MeteVanzer, u"Localita")) {
-            if (stessaMeta(name, localita) && like(LikeTesto(localita), name))
-                return true;
-        }
-        return false;
-    }
     void aggiunge(int section, std::vector<QString>& values) override {
         for (std::size_t i = 0; i < values.size(); ++i) {
             const store::FieldDef& field = fields(section)[i];
@@ -69,10 +61,8 @@ class MemoryArchive final : public ArchivioImport {
         table(section).push_back(values);
         ++added[static_cast<std::size_t>(section)];
     }
-    std::vector<QString> luoghiTappe() override {
-        const QStringList places = column(store::Itinerari, u"Localita");
-        return {places.begin(), places.end()};
-    }
+    std::vector<QString> nomiMete() override { return texts(store::MeteVanzer); }
+    std::vector<QString> luoghiTappe() override { return texts(store::Itinerari); }
     std::vector<Voce> vociGuida() override {
         std::vector<Voce> entries;
         for (const Record& record : table(store::GuidaCitta))
@@ -86,6 +76,10 @@ class MemoryArchive final : public ArchivioImport {
     }
 
   private:
+    [[nodiscard]] std::vector<QString> texts(int section) const {
+        const QStringList places = column(section, u"Localita");
+        return {places.begin(), places.end()};
+    }
     [[nodiscard]] static std::size_t position(int section, QStringView field) {
         std::size_t i = 0;
         while (!uguale(fields(section).at(i).name, field))
