@@ -67,6 +67,12 @@ void DesktopTest::open(Pace pace) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
 }
 
+void DesktopTest::forgetArchive() {
+    close();
+    QFile::remove(directory.filePath(QStringLiteral("Vanzer.mdb")));
+    QDir(directory.filePath(QStringLiteral("Copie"))).removeRecursively();
+}
+
 void DesktopTest::seeAllFrames() {
     std::vector<Frame*> hidden;
     for (const auto& control : form().controls()) {

@@ -69,6 +69,8 @@ class DesktopTest : public ::testing::Test {
     /// Starts the program on the test's archive; events run inside commands at the given pace.
     void open(Pace pace = {});
     void close() { program_.reset(); }
+    /// The window is left, and archive and copies are gone.
+    void forgetArchive();
     /// All frames come up and go again: their forms are made when they are first seen.
     void seeAllFrames();
 

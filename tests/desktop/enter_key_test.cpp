@@ -104,7 +104,7 @@ TEST_F(EnterKey, TakesATypedEntryElseLeavesTheGuide) {
         {"an entry's category", 2, "cmbGTipo", category, true},
     };
     for (const Case& c : cases) {
-        QFile::remove(directory.filePath(QStringLiteral("Vanzer.mdb")));
+        forgetArchive();
         storeTrip(2);
         open();
         letter('g');

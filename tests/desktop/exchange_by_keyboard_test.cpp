@@ -117,7 +117,7 @@ TEST_F(ExchangeByKeyboard, AnImportIsStoppedByEscAndLeavesNothing) {
     exportTo(path);
     boxes.forget();
     close();
-    QFile::remove(directory.filePath(QStringLiteral("Vanzer.mdb")));
+    forgetArchive();
     storeTrip(1);
     open({.patience = 0, .yields = 0, .frames = 0});
     typeDestination("aosta", "italia");
