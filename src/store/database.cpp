@@ -132,6 +132,14 @@ Database::~Database() {
         set->abbandona();
     rollbackNow();
     statements_.clear();
+    try {
+        leave();
+    } catch (...) {
+        sound_ = false; // the next start looks at everything
+    }
+}
+
+void Database::leave() {
     const bool asLeft = isAsLeft();
     // In exclusive mode an emptied journal stays beside the file; back in normal mode the engine takes it away when
     // its mode changes, also one that a killed program left there. Beside another file that has taken the place of

@@ -131,6 +131,7 @@ class Database {
     Database(const QString& path, int flags);
 
     void harden();
+    void leave();
     void run(const char* sql);
     [[nodiscard]] sqlite3_file& rawFile() const;
     [[nodiscard]] std::optional<FileHead> headOnDisk() const;

@@ -136,8 +136,10 @@ TEST_F(Companions, WhatLooksLikeMarkUpIsShownToTheLetter) {
     window().binder().flush();
     auto* const picture = find<QAbstractScrollArea>("vistaLinea");
     bool seen = false;
-    for (int x = 0; x < picture->viewport()->width(); x += 4)
-        seen = seen || told(tip(*picture->viewport(), {x, picture->viewport()->height() / 4})).contains(marked);
+    for (int y = 0; !seen && y < picture->viewport()->height(); y += 16) {
+        for (int x = 0; !seen && x < picture->viewport()->width(); x += 4)
+            seen = told(tip(*picture->viewport(), {x, y})).contains(marked);
+    }
     EXPECT_TRUE(seen);
     seeAllFrames();
     form().cmdLinea.setTooltip(marked);

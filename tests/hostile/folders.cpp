@@ -67,6 +67,7 @@ void Folders::makeOthers() const {
     for (const QString& name : {emptyFolder, oldFolder, brokenFolder}) {
         copyFolder(path(fullFolder), path(name));
         QFile::remove(path(name) + u"/Vanzer.mdb"_s);
+        QDir(path(name) + u"/Copie"_s).removeRecursively();
     }
     copyFolder(QStringLiteral(VANZER_SAMPLES "/vecchi"), path(oldFolder));
     put(path(brokenFolder) + u"/Vanzer.mdb"_s, damagedArchive());
