@@ -33,7 +33,7 @@ struct FileLetto {
 };
 
 /// Reads a plain file of at most `fileMassimo` bytes. What has no end or waits for others is left alone: pipes,
-/// devices, the system's own views that only look like files.
+/// devices, views of the kernel's that only look like files.
 [[nodiscard]] FileLetto leggeFile(const QString& path);
 [[nodiscard]] QString motivoNonNormale();
 

@@ -46,7 +46,7 @@ class MainWindow : public QWidget {
     void addFrames();
     [[nodiscard]] QWidget& arranged(QWidget& frame);
     [[nodiscard]] static bool isThere(const QWidget* frame);
-    /// Watches the letters of a form, whose labels show their texts to the letter.
+    /// Watches the letters of a form, whose labels show plain texts.
     void takeIn(QWidget& form);
     void layOutFrames();
     [[nodiscard]] QSize neededSize() const;

@@ -113,7 +113,7 @@ class Database {
     /// Gives the file the number of our format and a version of its own: what was copied from another file isn't taken
     /// for it any more.
     void distingue();
-    /// The declared type of a field, reduced to the letters of a type.
+    /// The declared type of a field, reduced to what a type may hold.
     [[nodiscard]] QByteArray tipo(const QString& table, const QString& field);
     /// The statements that made a table and its indexes.
     [[nodiscard]] QByteArrayList dichiarazioni(const QString& table);

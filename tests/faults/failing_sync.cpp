@@ -34,7 +34,7 @@ FailingSync::~FailingSync() {
 
 } // namespace vanzer::faults
 
-// In the place of the system's own, for all libraries of the program.
+// In the place of the C library's, for all libraries of the program.
 extern "C" int fsync(int handle) {
     return vanzer::faults::sync(SYS_fsync, handle);
 }
