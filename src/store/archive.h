@@ -24,6 +24,8 @@ namespace vanzer::store {
 
 /// The archive's file, beside the program.
 inline constexpr QLatin1String nomeArchivio("Vanzer.mdb");
+/// The file in which a new archive and a rebuilt one are made.
+inline constexpr QLatin1String nomeRicostruzione("DBTemp.mdb");
 
 /// One table as a whole, records in the order in which they were added: text, yes/no, or no value.
 struct TabellaLetta {
@@ -133,7 +135,7 @@ class Archive {
     [[nodiscard]] Database& archive() const { return database(0); }
     [[nodiscard]] std::shared_ptr<const TableInfo> storedTable(int db, int table) const;
     void closeSlots();
-    void makeFile(const std::function<void()>& fill);
+    void makeFile(const std::function<void()>& fill, const QString& kept = {});
     void creaArchivio(const SeManca& missing);
     void ricostruisce(Apertura& opening);
     [[nodiscard]] qint64 copiaTabelle();

@@ -22,8 +22,6 @@ namespace vanzer::store {
 
 namespace {
 
-constexpr QLatin1String rebuildName("DBTemp.mdb");
-
 /// A first round may make a rebuild necessary, the second passes. More means that the file can't be mended.
 constexpr int mostRounds = 3;
 
@@ -202,9 +200,10 @@ Archive::Apertura Archive::apriArchivio(const PrimaDellUso& before, const SeManc
     return opening;
 }
 
-/// Fills a new file in slot 0 and gives it the archive's name.
-void Archive::makeFile(const std::function<void()>& fill) {
-    const QString temporary = PercorsoProgramma + rebuildName;
+/// Fills a new file in slot 0 and gives it the archive's name. If it doesn't get there, `kept` goes: the old file, of
+/// which that is a copy, is still in its place.
+void Archive::makeFile(const std::function<void()>& fill, const QString& kept) {
+    const QString temporary = PercorsoProgramma + nomeRicostruzione;
     const QString archivePath = PercorsoProgramma + nomeArchivio;
     PercorsoDatabase = temporary;
     bool ours = false;
@@ -227,8 +226,11 @@ void Archive::makeFile(const std::function<void()>& fill) {
     } catch (const StoreError&) {
         chiudi();
         PercorsoDatabase = archivePath;
+        const bool inPlace = ours && !QFileInfo::exists(temporary);
         if (ours)
             toglieFile(temporary);
+        if (!inPlace && !kept.isEmpty())
+            toglieFile(kept);
         throw;
     }
 }
@@ -240,7 +242,7 @@ void Archive::creaArchivio(const SeManca& missing) {
         throw StoreError(StoreError::Kind::NotFound, PercorsoDatabase);
     if (choice == SenzaArchivio::Comincia)
         return makeFile([] {});
-    const QString temporary = PercorsoProgramma + rebuildName;
+    const QString temporary = PercorsoProgramma + nomeRicostruzione;
     clearPlace(temporary);
     copiaDiritti(copy->path, temporary);
     if (std::error_code error; !std::filesystem::copy_file(QFileInfo(copy->path).filesystemFilePath(),
@@ -255,12 +257,7 @@ void Archive::ricostruisce(Apertura& opening) {
     requireOurs(*Db(0));
     const QString kept = tieneDaParte(*Db(0));
     databases_[1] = std::move(databases_[0]);
-    try {
-        makeFile([&] { opening.valoriTagliati += copiaTabelle(); });
-    } catch (const StoreError&) {
-        toglieFile(kept);
-        throw;
-    }
+    makeFile([&] { opening.valoriTagliati += copiaTabelle(); }, kept);
     opening.archivioDiPrima = kept;
 }
 

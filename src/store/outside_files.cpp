@@ -6,13 +6,12 @@
 #include <QFileInfo>
 
 #include "core/disk.h"
+#include "store/archive.h"
 #include "store/daily_copy.h"
 
 namespace vanzer::store {
 
 namespace {
-
-constexpr QStringView rebuildFile = u"DBTemp.mdb";
 
 /// Some disks know no capitals.
 bool belongsTo(QStringView name, QStringView engineFile) {
@@ -29,7 +28,7 @@ bool isOneOf(const QString& file, const QFileInfoList& others) {
 /// The archive by its own name, what lies beside it, and what any of them is called elsewhere.
 bool isArchive(const QFileInfo& file, const QFileInfo& archive) {
     const auto isEngines = [&archive](const QFileInfo& f) {
-        return belongsTo(f.fileName(), archive.fileName()) || belongsTo(f.fileName(), rebuildFile);
+        return belongsTo(f.fileName(), archive.fileName()) || belongsTo(f.fileName(), QString(nomeRicostruzione));
     };
     if (isEngines(file) && stessoFile(file.path(), archive.path()))
         return true;
