@@ -40,7 +40,9 @@ QString doveConduce(const QString& path) {
         at = at.parent_path() / target;
     }
     const std::filesystem::path whole = std::filesystem::weakly_canonical(at, error);
-    return QFileInfo(error ? at : whole).filePath();
+    const QFileInfo found(error ? at : whole);
+    // A folder whose name is no text can't be told by it.
+    return found.filesystemFilePath() == whole ? found.filePath() : QFileInfo(at).filePath();
 }
 
 bool stessoFile(const QString& path, const QString& other) {

@@ -8,8 +8,10 @@
 #include "core/text.h"
 #include "core/time_values.h"
 #include "guide/marks.h"
+#include "itinerary/kept_legs.h"
 #include "itinerary/leg_table.h"
 #include "schedule/totals_screen.h"
+#include "window/destination_screen.h"
 #include "window/modes.h"
 #include "window/parameters.h"
 
@@ -213,6 +215,7 @@ void CaricaTappeItinerario(Form& form) {
         markEndsOfDay(form.mfgTab, legs);
     }
     CalcolaKmTempiItinerario(form);
+    ricordaTappe(form);
     form.frmframe(24).setVisible(false);
 }
 
@@ -228,12 +231,17 @@ bool MemorizzaTappeItinerario(Form& form) {
         return false;
     }
     const int stored = form.stato.NumeroTappe;
+    const bool withDestination = form.metaNuova;
+    if (withDestination && !inserisceMetaNuova(form))
+        return false;
     try {
         storeTable(form);
     } catch (const store::StoreError&) {
         form.stato.NumeroTappe = stored;
+        form.metaNuova = withDestination;
         throw;
     }
+    ricordaTappe(form);
     AzzeraPercentuale(form);
     return true;
 }

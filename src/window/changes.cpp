@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "window/destination_screen.h"
+#include "window/parameters.h"
 
 namespace vanzer {
 
@@ -68,6 +69,39 @@ QStringList campiCambiati(const Form& form) {
         }
     }
     return changed;
+}
+
+TestiDeiCampi testiDeiCampi(const Form& form) {
+    TestiDeiCampi all;
+    for (const Campi& some : storedFields(form)) {
+        for (const TextControl* const field : some.fields)
+            all.emplace(field->name(), field->text());
+    }
+    return all;
+}
+
+QStringList nomiDeiCambiati(const Form& form) {
+    QStringList changed;
+    qsizetype at = 0;
+    for (const Campi& some : storedFields(form)) {
+        for (const TextControl* const field : some.fields) {
+            if (field->text() != form.campiMemorizzati.value(at++))
+                changed << field->name();
+        }
+    }
+    return changed;
+}
+
+void rimetteCampi(Form& form, const TestiDeiCampi& typed) {
+    ricordaCampi(form);
+    for (const Campi& some : storedFields(form)) {
+        for (TextControl* const field : some.fields) {
+            if (const auto text = typed.find(field->name()); text != typed.end())
+                field->setText(text->second);
+        }
+    }
+    ImpostaGiorniMeseInizio(form);
+    form.campiDaRicordare = false;
 }
 
 bool lasciaTratto(Form& form) {

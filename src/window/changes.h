@@ -12,6 +12,12 @@ void ricordaCampi(Form& form);
 /// The kinds of fields that differ from what is stored, in words: "nazione", "partenza"; empty if none does.
 [[nodiscard]] QStringList campiCambiati(const Form& form);
 
+/// The texts of all of them, by the names of their controls; and the names of those that differ.
+[[nodiscard]] TestiDeiCampi testiDeiCampi(const Form& form);
+[[nodiscard]] QStringList nomiDeiCambiati(const Form& form);
+/// Puts texts back as typed and not stored, those of other controls aside; the rest counts as stored as it stands.
+void rimetteCampi(Form& form, const TestiDeiCampi& typed);
+
 /// Before fields or legs are cleared or reloaded: an open stretch is left by its own way, and changed fields are asked
 /// for, once. False if the user wants none of it, or what was to be stored can't be.
 [[nodiscard]] bool lasciaModifiche(Form& form);

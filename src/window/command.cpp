@@ -46,6 +46,8 @@ void memorizzaInsieme(Form& form, const std::function<void()>& handler) {
 void comando(Form& form, const std::function<void()>& handler) {
     if (form.chiusa || form.comandoInCorso)
         return;
+    if (form.primaDelComando)
+        form.primaDelComando();
     form.lblAvviso.setCaption({});
     const QString meta = form.stato.PulsantiMeta;
     const QString itinerario = form.stato.PulsantiItinerario;

@@ -1,8 +1,10 @@
 #include "window/destination_screen.h"
 
 #include <span>
+#include <utility>
 
 #include "core/text.h"
+#include "itinerary/kept_legs.h"
 #include "itinerary/leg_table_screen.h"
 #include "window/changes.h"
 #include "window/confirmation.h"
@@ -155,7 +157,8 @@ QString newCode(Form& form) {
     return codiceNuovaMeta(codes);
 }
 
-void saveRecord(Form& form, bool insertion) {
+/// Into the open slot of the destinations, as the current one.
+void storeRecord(Form& form, bool insertion) {
     if (contiene(form.txtLocalita.text(), u"AUTOSTRADA"))
         form.txtLocalita.setText(minuscolo(form.txtLocalita.text()));
     store::Recordset& record = form.archivio.Rs(store::MeteVanzer);
@@ -168,10 +171,26 @@ void saveRecord(Form& form, bool insertion) {
     }
     writeRecord(form, record);
     record.Update();
+    form.metaNuova = false;
     SalvaIlCodiceMetaCorrente(form);
+}
+
+void saveRecord(Form& form, bool insertion) {
+    storeRecord(form, insertion);
     form.archivio.storeSoFar();
     RicaricaItinerario(form);
     AbilitaPulsantiMeta(form, QStringLiteral("all"));
+}
+
+/// Tells which of the fields that a destination can't do without is empty; false if one is.
+bool hasNames(Form& form) {
+    const bool place = !Trim(form.txtLocalita.text()).isEmpty();
+    const bool nation = !Trim(form.txtNazione.text()).isEmpty();
+    if (!place)
+        form.rifiuta(QStringLiteral("Campo Località: obbligatorio!"));
+    else if (!nation)
+        form.rifiuta(QStringLiteral("Campo Nazione: obbligatorio!"));
+    return place && nation;
 }
 
 void reload(Form& form) {
@@ -201,6 +220,8 @@ void RicercaMetaCorrente(Form& form) {
 
 void CaricaDatiAnagraficiMeta(Form& form) {
     ImpostaGriglia(form, Disposizione::Tappe);
+    if (std::exchange(form.metaNuova, false))
+        form.stato.CodiceMeta.clear();
     if (form.stato.CodiceMeta.isEmpty())
         RicercaMetaCorrente(form);
     if (!form.stato.CodiceMeta.isEmpty()) {
@@ -247,6 +268,32 @@ void AzzeraSchermo(Form& form) {
         result->setText({});
     MetteAdesso(form);
     CancellaMatrice(form);
+    ricordaTappe(form);
+}
+
+bool caricaMeta(Form& form, const QString& code, const QString& localita) {
+    const store::Recordset& record = openDestination(form, code);
+    if (record.EOF_() || !stessaMeta(record.testo(QStringLiteral("Localita")), localita))
+        return false;
+    form.stato.CodiceMeta = code;
+    RicaricaItinerario(form);
+    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    return true;
+}
+
+void daCodiceNuovo(Form& form) {
+    form.stato.CodiceMeta = newCode(form);
+    form.txtCodice.setText(form.stato.CodiceMeta);
+    form.metaNuova = true;
+}
+
+bool inserisceMetaNuova(Form& form) {
+    if (!hasNames(form))
+        return false;
+    open(form, store::MeteVanzer, QStringLiteral("SELECT * FROM MeteVanzer"));
+    storeRecord(form, true);
+    ricordaCampi(form);
+    return true;
 }
 
 void cmdNuovo_Click(Form& form) {
@@ -266,15 +313,7 @@ void cmdNuovo_Click(Form& form) {
 
 bool salvaMeta(Form& form, bool asks) {
     AttivaFormMeta(form, true);
-    if (Trim(form.txtLocalita.text()).isEmpty()) {
-        form.rifiuta(QStringLiteral("Campo Località: obbligatorio!"));
-        return false;
-    }
-    if (Trim(form.txtNazione.text()).isEmpty()) {
-        form.rifiuta(QStringLiteral("Campo Nazione: obbligatorio!"));
-        return false;
-    }
-    if (!lasciaTratto(form))
+    if (!hasNames(form) || !lasciaTratto(form))
         return false;
     PulisciFinestre(form);
     const QString codeBefore = form.stato.CodiceMeta;

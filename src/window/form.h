@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/columns.h"
+#include "core/draft.h"
 #include "core/trip_state.h"
 #include "schedule/totals.h"
 #include "store/archive.h"
@@ -88,6 +89,7 @@ class Form {
     bool interattiva = false;                 ///< a user sits before the window, not a script
     QStringList campiMemorizzati;             ///< the fields of the destination as they count as stored
     bool campiDaRicordare = false;            ///< at the end of the command they count so as they stand then
+    std::function<void()> primaDelComando;    ///< raised before a command of the user begins
     std::function<bool()> chiudeTratto;       ///< leaves the editing of a stretch; false if the user stays
     std::function<bool(int& row)> lasciaRiga; ///< before the fields show another row: false if the user stays on his
     std::function<void()> guideRowShown;      ///< raised when the grid's current row changes while the guide is open
@@ -97,6 +99,10 @@ class Form {
 
     /// The legs as they stood before a calculation touched them.
     std::optional<TestiTabella> tappeConservate;
+    /// The legs that count as stored; nothing where nobody asks for them.
+    std::optional<TappeTenute> tappeMemorizzate;
+    /// CodiceMeta is that of a destination that isn't stored yet: its legs are stored with it.
+    bool metaNuova = false;
     /// Of the legs in the table, as they were last worked out.
     std::shared_ptr<TotaliTabella> totali = std::make_shared<TotaliTabella>();
     /// The schedule in the table, as numbers; null while it shows legs.
