@@ -7,16 +7,20 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QMessageBox>
+#include <QSocketNotifier>
 #include <QTranslator>
 
 #include "desktop/program.h"
 #include "desktop/program_directory.h"
 #include "desktop/settings_file.h"
+#include "toolkit/end_signals.h"
 #include "window/startup.h"
 
 namespace {
 
 using namespace vanzer;
+
+constexpr int failed = 1;
 
 /// What the arguments ask for.
 struct Request {
@@ -49,9 +53,7 @@ void nameApplication() {
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/vanzer.png")));
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv, const SegnaliDiFine& asked) {
     const QApplication application(argc, argv);
     nameApplication();
     QTranslator italian;
@@ -66,9 +68,24 @@ int main(int argc, char** argv) {
     desktop::SystemClock clock;
     desktop::Program program(
         {.directory = request.directory, .decimalMark = QLocale::system().decimalPoint().at(0), .versione = {}}, clock);
+    QSocketNotifier ends(asked.descrittore(), QSocketNotifier::Read);
+    QObject::connect(&ends, &QSocketNotifier::activated, [&] {
+        ends.setEnabled(false);
+        program.end();
+    });
     if (!program.start())
-        return 1;
+        return failed;
     if (!request.trips.isEmpty())
         program.openTrips(request.trips);
-    return QApplication::exec();
+    return program.form().chiusa ? failed : QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const SegnaliDiFine asked;
+    const int result = run(argc, argv, asked);
+    if (SegnaliDiFine::arrivato() != 0)
+        SegnaliDiFine::muore(SegnaliDiFine::arrivato());
+    return result;
 }

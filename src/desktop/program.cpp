@@ -1,15 +1,23 @@
 #include "desktop/program.h"
 
+#include <utility>
+
+#include <QApplication>
+#include <QDialog>
+#include <QMessageBox>
 #include <QSettings>
-#include <QTimer>
 
 #include "window/startup.h"
+#include "window/ways_out.h"
 
 namespace vanzer::desktop {
 
 namespace {
 
 constexpr int slowStart = 300; // ms; a start that takes longer shows its window before the end
+
+constexpr int draftDelay = 9000; // ms; with the time that a disk takes, a draft is ten seconds behind at most
+constexpr int endingStep = 20;   // ms, from one look to the next whether a command has ended
 
 /// The user's choice in the leg editor, which holds to the next start.
 const QString totalsKey = QStringLiteral("tappe/kmProgressivi");
@@ -20,7 +28,7 @@ Program::Program(const Ambiente& surroundings, Clock& clock, Pace pace, FileOpen
     : boxes_(opener != nullptr ? *opener : opener_),
       events_(pace), ports_{boxes_, dialogs_, clock, events_, programs_, &printer_},
       form_(nuovaFinestra(surroundings, ports_)), window_(std::make_unique<MainWindow>(*form_)),
-      gate_(std::make_unique<InputGate>(*window_)) {
+      gate_(std::make_unique<InputGate>(*window_)), draft_(*form_) {
     form_->interattiva = true;
     boxes_.setWindow(window_.get());
     dialogs_.setWindow(window_.get());
@@ -30,6 +38,31 @@ Program::Program(const Ambiente& surroundings, Clock& clock, Pace pace, FileOpen
     QObject::connect(&window_->binder(), &Binder::inputBegins, [this] { events_.begin(); });
     form_->stato.KmProgressivi = QSettings().value(totalsKey, true).toBool();
     form_->onKmProgressivi = [this] { QSettings().setValue(totalsKey, form_->stato.KmProgressivi); };
+    keepDrafts();
+    ending_.setInterval(endingStep);
+    QObject::connect(&ending_, &QTimer::timeout, [this] { goOnEnding(); });
+}
+
+void Program::keepDrafts() {
+    draftBehind_.setSingleShot(true);
+    draftBehind_.setInterval(draftDelay);
+    QObject::connect(&draftBehind_, &QTimer::timeout, [this] { draft_.tiene(); });
+    QObject::connect(&window_->binder(), &Binder::inputEnded, [this] {
+        draft_.guarda();
+        if (!draftBehind_.isActive())
+            draftBehind_.start();
+    });
+    QObject::connect(&window_->binder(), &Binder::closed, [this] {
+        draftBehind_.stop();
+        draft_.lasciata();
+    });
+    // A session that ends asks nothing: it may go on after all, and then so does the window.
+    const auto keepNow = [this] {
+        draft_.tiene();
+        draft_.aspetta();
+    };
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, window_.get(), keepNow, Qt::DirectConnection);
+    QObject::connect(qApp, &QGuiApplication::saveStateRequest, window_.get(), keepNow, Qt::DirectConnection);
 }
 
 bool Program::start() {
@@ -37,9 +70,45 @@ bool Program::start() {
     QTimer::singleShot(slowStart, window_.get(), &QWidget::show);
     caricaFinestra(*form_);
     window_->binder().flush();
-    if (!form_->chiusa)
-        window_->show();
+    if (form_->chiusa)
+        return false;
+    window_->show();
+    if (!ending_.isActive())
+        draft_.offre();
+    window_->binder().flush();
     return !form_->chiusa;
+}
+
+void Program::end() {
+    if (form_->chiusa || ending_.isActive())
+        return;
+    ending_.start();
+    goOnEnding();
+}
+
+/// One box at a time, since each has an event loop of its own; what is asked next is looked at in the next step.
+void Program::goOnEnding() {
+    const bool working = form_->comandoInCorso;
+    if (!working)
+        leaveNow();
+    if (QWidget* const modal = QApplication::activeModalWidget()) {
+        auto* const box = qobject_cast<QMessageBox*>(modal);
+        if (working && (box == nullptr || box->button(QMessageBox::Ok) == nullptr))
+            draft_.nonSceglieLui();
+        auto* const dialog = qobject_cast<QDialog*>(modal);
+        dialog != nullptr ? dialog->reject() : static_cast<void>(modal->close());
+    } else if (working && interrompeSenzaChiedere(*form_)) {
+        draft_.nonSceglieLui();
+    }
+}
+
+void Program::leaveNow() {
+    ending_.stop();
+    draftBehind_.stop();
+    draft_.finisce();
+    form_->archivio.chiudi();
+    form_->chiusa = true;
+    QCoreApplication::exit();
 }
 
 void Program::openTrips(const QString& path) {

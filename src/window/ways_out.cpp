@@ -52,6 +52,17 @@ bool asksToInterrupt(Form& form) {
 
 } // namespace
 
+bool interrompeSenzaChiedere(Form& form) {
+    StatoViaggio& s = form.stato;
+    if (s.StampaInCorso)
+        s.InterrompiStampa = true;
+    else if (form.comandoInCorso && (s.ScambioInCorso || interrompe(form, form.cmdEsce)))
+        s.InterrompiCalcolo = true;
+    else
+        return false;
+    return true;
+}
+
 bool chiedeDiChiudere(Form& form) {
     if (form.comandoInCorso)
         return asksToInterrupt(form);

@@ -11,6 +11,9 @@ namespace vanzer {
 /// the wish has to wait for its end.
 bool chiedeDiChiudere(Form& form);
 
+/// Stops the work that is running, as its own way to stop does after its question; false if it has none.
+bool interrompeSenzaChiedere(Form& form);
+
 /// Esc: leaves a list that was opened to pick from, with nothing picked, and the frames of a print, of a copy, of a
 /// stretch and of the exchange; a print, an import or an export that is running may be given up. Does nothing
 /// elsewhere.
