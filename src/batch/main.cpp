@@ -1,18 +1,21 @@
 // vanzer-batch: reads commands, one a line, and writes a JSON object a line for each.
 
 #include <cstdio>
-#include <fstream>
-#include <iostream>
-#include <string>
+#include <optional>
+
+#include <unistd.h>
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QJsonDocument>
 #include <QLocale>
 
+#include "batch/command_lines.h"
 #include "batch/interpreter.h"
 #include "batch/usage.h"
+#include "toolkit/end_signals.h"
 #include "window/startup.h"
 
 namespace {
@@ -80,12 +83,12 @@ void write(const QJsonObject& answer) {
     std::fflush(stdout);
 }
 
-void serve(batch::Interpreter& interpreter, std::istream& commands) {
-    std::string bytes;
-    while (!interpreter.finished() && std::getline(commands, bytes)) {
-        if (bytes.ends_with('\r'))
-            bytes.pop_back();
-        if (const auto answer = interpreter.run(QString::fromStdString(bytes)))
+void serve(batch::Interpreter& interpreter, batch::CommandLines commands) {
+    while (!interpreter.finished() && SegnaliDiFine::arrivato() == 0) {
+        const auto bytes = commands.next();
+        if (!bytes)
+            break;
+        if (const auto answer = interpreter.run(QString::fromStdString(*bytes)))
             write(*answer);
     }
 }
@@ -93,6 +96,7 @@ void serve(batch::Interpreter& interpreter, std::istream& commands) {
 } // namespace
 
 int main(int argc, char** argv) {
+    const SegnaliDiFine asked;
     const QCoreApplication application(argc, argv);
     const auto request = requested(QCoreApplication::arguments());
     if (!request)
@@ -101,21 +105,23 @@ int main(int argc, char** argv) {
         std::puts(request->told.toLocal8Bit().constData());
         return 0;
     }
-    std::ifstream script;
-    if (!request->script.isEmpty()) {
-        script.open(QFile::encodeName(request->script).toStdString());
-        if (!script.is_open()) {
-            say(QStringLiteral("can't read ") + request->script);
-            return badUsage;
-        }
+    QFile script(request->script);
+    if (!request->script.isEmpty() && !script.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        say(QStringLiteral("can't read ") + request->script);
+        return badUsage;
     }
     // Relative paths of file dialogs are taken from the program's directory. One that isn't there is told by the
     // window, which can't open its archive then.
     static_cast<void>(QDir::setCurrent(request->directory));
-    batch::Interpreter interpreter(
-        {.directory = request->directory, .decimalMark = QLocale::system().decimalPoint().at(0), .versione = {}});
-    if (request->now)
-        interpreter.setClock(*request->now);
-    serve(interpreter, request->script.isEmpty() ? std::cin : script);
+    {
+        batch::Interpreter interpreter(
+            {.directory = request->directory, .decimalMark = QLocale::system().decimalPoint().at(0), .versione = {}});
+        if (request->now)
+            interpreter.setClock(*request->now);
+        const int commands = script.isOpen() ? script.handle() : STDIN_FILENO;
+        serve(interpreter, batch::CommandLines(commands, asked.descrittore()));
+    }
+    if (SegnaliDiFine::arrivato() != 0)
+        SegnaliDiFine::muore(SegnaliDiFine::arrivato());
     return 0;
 }

@@ -9,6 +9,7 @@
 
 #include <QJsonArray>
 
+#include "toolkit/end_signals.h"
 #include "toolkit/ports.h"
 
 namespace vanzer::batch {
@@ -67,9 +68,13 @@ class VisitedYield : public EventYield {
     /// Takes the place of one that still waits; none sends that one away.
     void expect(Visitor visitor) { visitor_ = std::move(visitor); }
     void yield() override {
+        if (SegnaliDiFine::arrivato() != 0 && onEnd)
+            onEnd();
         if (visitor_)
             letIn();
     }
+    /// Runs at each yield once the program is to end.
+    std::function<void()> onEnd;
 
   private:
     void letIn();

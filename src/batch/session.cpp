@@ -12,6 +12,7 @@
 #include "core/disk.h"
 #include "store/outside_files.h"
 #include "window/startup.h"
+#include "window/ways_out.h"
 
 namespace vanzer::batch {
 
@@ -52,7 +53,12 @@ QJsonArray linesOf(const QByteArray& bytes) {
 
 Session::Session(Ambiente surroundings)
     : printer(dialogs, QDir(surroundings.directory).filePath(store::nomeArchivio)),
-      surroundings_(std::move(surroundings)) {}
+      surroundings_(std::move(surroundings)) {
+    events.onEnd = [this] {
+        if (form_ != nullptr)
+            interrompeSenzaChiedere(*form_);
+    };
+}
 
 void Session::start() {
     close();

@@ -7,7 +7,6 @@
 #ifdef Q_OS_UNIX
 #include <array>
 #include <cerrno>
-#include <csignal>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -21,35 +20,32 @@ namespace {
 
 constexpr std::array ends{SIGTERM, SIGINT, SIGHUP};
 
-volatile std::sig_atomic_t first = 0;
-volatile std::sig_atomic_t writingEnd = -1;
-
 void ignoreOrDie(int signal) {
     std::signal(signal, signal == SIGHUP ? SIG_IGN : SIG_DFL);
 }
 
-extern "C" void noteEnd(int signal) {
+} // namespace
+
+void SegnaliDiFine::note(int signal) {
     const int kept = errno;
-    first = signal;
+    first_ = signal;
     for (const int end : ends)
         ignoreOrDie(end);
     const char byte = 0;
-    [[maybe_unused]] const ssize_t written = ::write(writingEnd, &byte, 1);
+    [[maybe_unused]] const ssize_t written = ::write(writingEnd_, &byte, 1);
     errno = kept;
 }
-
-} // namespace
 
 SegnaliDiFine::SegnaliDiFine() {
     if (::pipe2(pipe_, O_CLOEXEC | O_NONBLOCK) != 0)
         return;
-    first = 0;
-    writingEnd = pipe_[1];
+    first_ = 0;
+    writingEnd_ = pipe_[1];
     for (const int end : ends) {
         struct sigaction before {};
         ::sigaction(end, nullptr, &before);
         if (before.sa_handler != SIG_IGN)
-            std::signal(end, noteEnd);
+            std::signal(end, note);
     }
 }
 
@@ -57,15 +53,11 @@ SegnaliDiFine::~SegnaliDiFine() {
     for (const int end : ends) {
         struct sigaction now {};
         ::sigaction(end, nullptr, &now);
-        if (now.sa_handler == noteEnd)
+        if (now.sa_handler == note)
             std::signal(end, SIG_DFL);
     }
     ::close(pipe_[0]);
     ::close(pipe_[1]);
-}
-
-int SegnaliDiFine::arrivato() {
-    return first;
 }
 
 void SegnaliDiFine::muore(int signal) {
@@ -78,10 +70,6 @@ void SegnaliDiFine::muore(int signal) {
 
 SegnaliDiFine::SegnaliDiFine() = default;
 SegnaliDiFine::~SegnaliDiFine() = default;
-
-int SegnaliDiFine::arrivato() {
-    return 0;
-}
 
 void SegnaliDiFine::muore(int /*signal*/) {
     std::abort();

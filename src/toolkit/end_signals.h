@@ -2,6 +2,8 @@
 // the program ends in its own time, with nothing half done.
 #pragma once
 
+#include <csignal>
+
 namespace vanzer {
 
 class SegnaliDiFine {
@@ -16,11 +18,15 @@ class SegnaliDiFine {
     [[nodiscard]] int descrittore() const { return pipe_[0]; }
     /// The first signal that has come, 0 for none. A second one ends the program at once, but for SIGHUP, which a
     /// terminal that goes sends twice.
-    [[nodiscard]] static int arrivato();
+    [[nodiscard]] static int arrivato() { return first_; }
     /// Ends the program by that signal.
     [[noreturn]] static void muore(int signal);
 
   private:
+    static void note(int signal);
+
+    static inline volatile std::sig_atomic_t first_ = 0;
+    static inline volatile std::sig_atomic_t writingEnd_ = -1;
     int pipe_[2] = {-1, -1};
 };
 

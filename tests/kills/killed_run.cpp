@@ -31,7 +31,7 @@ double secondsSince(Clock::time_point start) {
 
 } // namespace
 
-KilledRun runAndKill(const QString& folder, const QStringList& lines, const Moment& moment) {
+KilledRun runAndKill(const QString& folder, const QStringList& lines, const Moment& moment, int signal) {
     const QString script = folder + QStringLiteral(".script");
     QFile file(script);
     if (!file.open(QIODevice::WriteOnly) || file.write(lines.join(u'\n').toUtf8()) < 0)
@@ -64,14 +64,14 @@ KilledRun runAndKill(const QString& folder, const QStringList& lines, const Mome
         const double now = secondsSince(start);
         run.answers = static_cast<int>(run.answerAt.size());
         if (!run.killed && moment(run.answers, now, now - (run.answerAt.empty() ? 0 : run.answerAt.back()))) {
-            kill(child, SIGKILL);
+            kill(child, signal);
             run.killed = true;
         }
     }
     close(ends[0]);
     int status = 0;
     waitpid(child, &status, 0);
-    run.killed = WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
+    run.killed = WIFSIGNALED(status) && WTERMSIG(status) == signal;
     QFile::remove(script);
     return run;
 }

@@ -1,6 +1,7 @@
 // vanzer-batch as a process of its own, killed while it works.
 #pragma once
 
+#include <csignal>
 #include <functional>
 #include <vector>
 
@@ -20,7 +21,8 @@ struct KilledRun {
     QByteArray output;
 };
 
-/// Gives the program all lines at once and kills it (SIGKILL) when `moment` says so.
-[[nodiscard]] KilledRun runAndKill(const QString& folder, const QStringList& lines, const Moment& moment);
+/// Gives the program all lines at once and kills it when `moment` says so.
+[[nodiscard]] KilledRun runAndKill(const QString& folder, const QStringList& lines, const Moment& moment,
+                                   int signal = SIGKILL);
 
 } // namespace vanzer::kills

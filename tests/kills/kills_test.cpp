@@ -234,6 +234,41 @@ TEST_F(Kills, LeaveTheArchiveAsBeforeOrAsAfter) {
             c.between);
 }
 
+/// The command at hand is finished or undone, its answer still comes, and the program ends by the signal.
+TEST_F(Kills, ASignalLeavesNothingHalfMade) {
+    ASSERT_TRUE(folders.isValid());
+    int ended = 0;
+    int undone = 0;
+    for (const Workload& work : workloads()) {
+        const Known known = kills::known(work, folders.filePath(QString::fromLatin1(work.name)));
+        for (int i = 0; i < std::max(kills / 10, 4) && !HasFailure(); ++i) {
+            const QString folder = folders.filePath(u"ended"_s);
+            copyFolder(known.folder, folder);
+            const KilledRun run = runAndKill(folder, work.lines, drawMoment(known, folder), SIGTERM);
+            SCOPED_TRACE(testing::Message() << "seed " << seed << ", " << work.name << " behind " << run.answers);
+            EXPECT_TRUE(run.killed || run.answers == static_cast<int>(work.lines.size()));
+            for (const char* left : {"DBTemp", "-journal", ".parte"})
+                EXPECT_FALSE(contains(filesIn(folder) + filesIn(folder + u"/Copie"_s), left)) << filesIn(folder);
+            const auto at = static_cast<std::size_t>(run.answers);
+            QStringList found;
+            {
+                Desk reader(folder);
+                found = recordsIn(reader);
+            }
+            const bool before = at > 0 && found == known.states[at - 1];
+            EXPECT_TRUE(found == known.states[at] || before || work.inSteps)
+                << firstDifference(known.states[at], found);
+            ended += run.killed ? 1 : 0;
+            undone += before && found != known.states[at] ? 1 : 0;
+            if (QFile::exists(folder + u"/Vanzer.mdb"_s))
+                expectSound(folder);
+            QDir(folder).removeRecursively();
+        }
+    }
+    EXPECT_GT(ended, 0);
+    std::printf("%d ended by the signal, %d of them with a command undone\n", ended, undone);
+}
+
 TEST(TwoPrograms, TheSecondIsToldByNameAndChangesNothing) {
     const QTemporaryDir home;
     const QString folder = home.filePath(u"viaggi"_s);
