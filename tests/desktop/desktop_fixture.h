@@ -74,6 +74,7 @@ class DesktopTest : public ::testing::Test {
     /// All frames come up and go again: their forms are made when they are first seen.
     void seeAllFrames();
 
+    [[nodiscard]] Program& program() { return *program_; }
     [[nodiscard]] Form& form() { return program_->form(); }
     [[nodiscard]] MainWindow& window() { return program_->window(); }
     template<typename T = QWidget> T* find(const char* name) {
