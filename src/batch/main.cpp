@@ -15,6 +15,7 @@
 #include "batch/command_lines.h"
 #include "batch/interpreter.h"
 #include "batch/usage.h"
+#include "core/disk.h"
 #include "toolkit/end_signals.h"
 #include "window/startup.h"
 
@@ -59,7 +60,7 @@ std::optional<Request> requested(const QStringList& arguments) {
         return std::nullopt;
     }
     const QString directory =
-        parser.isSet(QStringLiteral("dir")) ? parser.value(QStringLiteral("dir")) : QStringLiteral(".");
+        parser.isSet(QStringLiteral("dir")) ? parser.value(QStringLiteral("dir")) : nomeComeTesto(".");
     request.directory = QDir::cleanPath(QDir(directory).absolutePath());
     if (directory.isEmpty()) {
         say(QStringLiteral("no directory"));
@@ -98,7 +99,7 @@ void serve(batch::Interpreter& interpreter, batch::CommandLines commands) {
 int main(int argc, char** argv) {
     const SegnaliDiFine asked;
     const QCoreApplication application(argc, argv);
-    const auto request = requested(QCoreApplication::arguments());
+    const auto request = requested(argomentiComeTesto(argc, argv));
     if (!request)
         return badUsage;
     if (!request->told.isEmpty()) {

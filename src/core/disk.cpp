@@ -45,6 +45,30 @@ QString doveConduce(const QString& path) {
     return found.filesystemFilePath() == whole ? found.filePath() : QFileInfo(at).filePath();
 }
 
+QString nomeComeTesto(const QByteArray& name) {
+    QString text = QFile::decodeName(name);
+#ifdef Q_OS_LINUX
+    std::error_code error;
+    const std::string whole = std::filesystem::absolute(name.toStdString(), error).string();
+    if (!error && QFile::encodeName(QFile::decodeName(whole.c_str())) != whole.c_str()) {
+        // Stays open for as long as the name is used: to the end.
+        if (const int there = ::open(name.constData(), O_PATH); there >= 0)
+            text = QStringLiteral("/proc/self/fd/%1").arg(there);
+    }
+#endif
+    return text;
+}
+
+QStringList argomentiComeTesto(int argc, const char* const* argv) {
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        const QByteArray argument(argv[i]);
+        const qsizetype value = argument.startsWith("--") ? argument.indexOf('=') + 1 : 0;
+        arguments << QFile::decodeName(argument.first(value)) + nomeComeTesto(argument.sliced(value));
+    }
+    return arguments;
+}
+
 bool stessoFile(const QString& path, const QString& other) {
     std::error_code error;
     return !path.isEmpty() && !other.isEmpty() && std::filesystem::equivalent(onDisk(path), onDisk(other), error);

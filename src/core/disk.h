@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class QFile;
 
@@ -9,6 +10,12 @@ namespace vanzer {
 
 /// Where a name leads through links, whether something is there or not: a full path.
 [[nodiscard]] QString doveConduce(const QString& path);
+
+/// A name by which a file or folder that is there can be used, given the bytes of its name: the same, unless they, or
+/// the folder that they begin in, are no text. Then it leads there while the program, or one that it starts, runs.
+[[nodiscard]] QString nomeComeTesto(const QByteArray& name);
+/// The same of all arguments of a program that name something, behind "--option=" too.
+[[nodiscard]] QStringList argomentiComeTesto(int argc, const char* const* argv);
 
 /// Both paths lead to one file that is there, be it by links or by two names of its own.
 [[nodiscard]] bool stessoFile(const QString& path, const QString& other);

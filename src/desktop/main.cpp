@@ -10,6 +10,7 @@
 #include <QSocketNotifier>
 #include <QTranslator>
 
+#include "core/disk.h"
 #include "desktop/program.h"
 #include "desktop/program_directory.h"
 #include "desktop/settings_file.h"
@@ -28,7 +29,7 @@ struct Request {
     QString trips;     ///< a file to import from; empty for none
 };
 
-Request requested(const QCoreApplication& application) {
+Request requested(const QStringList& arguments) {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Viaggi in camper, giorno per giorno"));
     parser.addHelpOption();
@@ -36,7 +37,7 @@ Request requested(const QCoreApplication& application) {
     parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Un file .iei: ne offre i viaggi."),
                                  QStringLiteral("[FILE]"));
-    parser.process(application);
+    parser.process(arguments);
     Request request;
     request.directory = parser.isSet(QStringLiteral("dir")) ? QDir(parser.value(QStringLiteral("dir"))).absolutePath()
                                                             : desktop::programDirectory();
@@ -60,7 +61,7 @@ int run(int argc, char** argv, const SegnaliDiFine& asked) {
     if (italian.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&italian);
 
-    const Request request = requested(application);
+    const Request request = requested(argomentiComeTesto(argc, argv));
     if (const QString warning = desktop::trascuraImpostazioniIllegibili(); !warning.isEmpty())
         QMessageBox::warning(nullptr, QApplication::applicationName(), warning);
     // Relative paths are taken from the archive's directory. One that isn't there is told by the window.

@@ -11,6 +11,7 @@
 #include <QGuiApplication>
 #include <QUrl>
 
+#include "core/disk.h"
 #include "core/text_file.h"
 #include "scribolo/pdf.h"
 
@@ -61,7 +62,7 @@ std::optional<Request> requested(const QStringList& arguments) {
     }
     if (parser.isSet(help))
         parser.showHelp();
-    const QString directory = parser.isSet(dir) ? parser.value(dir) : u"."_s;
+    const QString directory = parser.isSet(dir) ? parser.value(dir) : vanzer::nomeComeTesto(".");
     return Request{QDir::cleanPath(QDir(directory).absolutePath()), parser.positionalArguments().join(u' ')};
 }
 
@@ -78,9 +79,7 @@ QString wordOfFile(const QString& directory) {
 } // namespace
 
 int main(int argc, char** argv) {
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const QStringList arguments = vanzer::argomentiComeTesto(argc, argv);
     choosePlatform();
     // The platform would take words out of a trip's name that look like options of its own.
     int own = 1;

@@ -34,8 +34,8 @@ void scriveBozza(const QString& path, const QByteArray& bytes) {
     const QString aside = path + QStringLiteral(".parte");
     QFile::remove(aside); // of a program that was killed
     QFile file(aside);
-    const bool written =
-        file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.write(bytes) == bytes.size() && file.flush();
+    const bool written = file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner) &&
+                         file.write(bytes) == bytes.size() && file.flush();
     const StoreError failure(StoreError::Kind::Io, path, file.errorString());
     file.close();
     try {

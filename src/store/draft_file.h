@@ -18,7 +18,8 @@ inline constexpr QLatin1String bozzaDanneggiata(".danneggiata");
 /// Io for what can't be read.
 [[nodiscard]] std::optional<QByteArray> leggeBozza(const QString& path);
 
-/// Writes aside, and puts into place what is safe on the disk. Throws Io; the draft before is still there then.
+/// Writes aside, for its owner's eyes only, and puts into place what is safe on the disk. Throws Io; the draft before
+/// is still there then.
 void scriveBozza(const QString& path, const QByteArray& bytes);
 
 void toglieBozza(const QString& path) noexcept;

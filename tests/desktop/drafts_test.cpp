@@ -80,11 +80,16 @@ TEST_F(Drafts, ACalculationIsStoppedWithNoQuestion) {
     open({.patience = 0, .yields = 0, .frames = 0});
     form().cmbGiorni.setText(QStringLiteral("009"));
     bool stopped = false;
-    QTimer::singleShot(5, &window(), [&] {
-        stopped = form().comandoInCorso && form().cmdEsce.caption() == QStringLiteral("&Stop");
+    QTimer atWork;
+    atWork.callOnTimeout([&] {
+        if (!form().comandoInCorso || form().cmdEsce.caption() != QStringLiteral("&Stop"))
+            return;
+        atWork.stop();
+        stopped = true;
         program().end();
         EXPECT_FALSE(form().chiusa) << "the command comes first";
     });
+    atWork.start(0);
     boxes.forget();
     runToTheEnd([this] { letter('c'); });
     EXPECT_TRUE(stopped);

@@ -144,6 +144,22 @@ TEST_F(OutsideFiles, AreNoWayIntoTheArchiveForReaders) {
     EXPECT_TRUE(failure(u"cat tubo.txt"_s).startsWith(u"[Errno 22]")) << "and nobody waits for it";
 }
 
+TEST_F(OutsideFiles, AFolderWhoseNameIsNoTextIsWorkedIn) {
+    const QByteArray folder = QFile::encodeName(at("caff")) + "\xE8";
+    ASSERT_TRUE(std::filesystem::create_directory(folder.constData()));
+    const std::string option = "--dir=" + folder.toStdString();
+    const char* const arguments[] = {"vanzer", option.c_str(), "--now=x", "roma.iei"};
+    const QStringList asText = argomentiComeTesto(4, arguments);
+    EXPECT_EQ(asText[2] + asText[3], u"--now=xroma.iei");
+    const QString directory = asText[1].sliced(6);
+    for (const bool first : {true, false}) {
+        batch::Interpreter program({.directory = directory, .decimalMark = u'.', .versione = {}});
+        EXPECT_FALSE(program.run(u"start"_s)->contains(u"boxes"_s)) << first;
+    }
+    EXPECT_TRUE(std::filesystem::exists((folder + "/Vanzer.mdb").constData()));
+    EXPECT_EQ(nomeComeTesto(folder.chopped(1)), at("caff")) << "nothing is there";
+}
+
 TEST_F(OutsideFiles, TakeTheirPlaceBehindALinkOnAnyDisk) {
     QTemporaryDir otherDisk(u"/dev/shm/vanzer-XXXXXX"_s);
     const QString disks[] = {at("dati"), otherDisk.path()};
