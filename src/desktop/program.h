@@ -10,7 +10,7 @@
 #include "desktop/input_gate.h"
 #include "desktop/main_window.h"
 #include "toolkit/program_starter.h"
-#include "window/draft_screen.h"
+#include "window/unsaved_work.h"
 
 namespace vanzer::desktop {
 

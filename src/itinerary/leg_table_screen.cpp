@@ -8,7 +8,7 @@
 #include "core/text.h"
 #include "core/time_values.h"
 #include "guide/marks.h"
-#include "itinerary/kept_legs.h"
+#include "itinerary/kept_legs_screen.h"
 #include "itinerary/leg_table.h"
 #include "schedule/totals_screen.h"
 #include "window/destination_screen.h"

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "core/text.h"
-#include "itinerary/kept_legs.h"
+#include "itinerary/kept_legs_screen.h"
 #include "itinerary/leg_table_screen.h"
 #include "window/changes.h"
 #include "window/confirmation.h"

@@ -9,7 +9,7 @@
 
 #include "batch/session.h"
 #include "store/draft_file.h"
-#include "window/draft_screen.h"
+#include "window/unsaved_work.h"
 
 namespace vanzer {
 namespace {

@@ -158,6 +158,7 @@ TEST_F(OutsideFiles, AFolderWhoseNameIsNoTextIsWorkedIn) {
     }
     EXPECT_TRUE(std::filesystem::exists((folder + "/Vanzer.mdb").constData()));
     EXPECT_EQ(nomeComeTesto(folder.chopped(1)), at("caff")) << "nothing is there";
+    std::filesystem::remove_all(folder.constData());
 }
 
 TEST_F(OutsideFiles, TakeTheirPlaceBehindALinkOnAnyDisk) {

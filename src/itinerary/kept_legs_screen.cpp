@@ -1,4 +1,4 @@
-#include "itinerary/kept_legs.h"
+#include "itinerary/kept_legs_screen.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
-#include "window/draft_screen.h"
+#include "window/unsaved_work.h"
 
 #include <QDir>
 
 #include "core/text.h"
 #include "core/text_file.h"
-#include "itinerary/kept_legs.h"
+#include "itinerary/kept_legs_screen.h"
 #include "itinerary/leg_editor_screen.h"
 #include "itinerary/stretch_screen.h"
 #include "itinerary/typed_leg_screen.h"
@@ -66,18 +66,18 @@ void putLegBack(Form& form, const TestiDeiCampi& texts) {
 
 /// The legs, and what they were worked with. A destination that isn't stored any more has lost its legs too.
 void putLegsBack(Form& form, const Bozza& draft, bool lost) {
-    const bool legs = draft.tappeCambiate || (lost && !draft.tappe.empty());
+    const bool changed = draft.tappeCambiate || (lost && !draft.tappe.empty());
     const bool typed = !draft.digitata.empty();
-    if (lost && (legs || typed || draft.editor || draft.tratto))
+    if (lost && (changed || typed || draft.editor || draft.tratto))
         daCodiceNuovo(form);
-    if (legs)
+    if (changed)
         metteTappe(form, draft.tappe);
     if (draft.tratto) {
         cmdModStrada_Click(form);
         form.stato.MappaModifiche =
             draft.modifiche.isEmpty() ? QString() : draft.modifiche.leftJustified(form.mfgTab.rows(), u'0', true);
     }
-    if (!draft.editor && !typed && (!legs || draft.tratto))
+    if (!draft.editor && !typed && (!changed || draft.tratto))
         return;
     cmdItinerario_Click(form);
     form.stato.RigaCorrente = Maggiore(draft.riga, 1);
