@@ -158,6 +158,30 @@ QString MarkTaken::broken(const Form& window, Looks& looks) const {
     return {};
 }
 
+void ScheduleRows::see(const Form& window) {
+    if (!window.tappeConservate)
+        return;
+    std::set<QString> legs;
+    for (int r = 0; r < window.tappeConservate->rows(); ++r)
+        legs.insert(Trim(window.tappeConservate->text(r, 1)));
+    for (int r = 1; r < window.mfgTab.rows(); ++r) {
+        if (const QString place = Trim(window.mfgTab.cell(r, 1)); !legs.contains(place))
+            places_.insert(place);
+    }
+}
+
+QString ScheduleRows::storedIn(store::Archive& archive, Looks& looks) const {
+    const store::TabellaLetta legs = archive.tabella(store::TabelleNomi(store::Itinerari));
+    const auto place = static_cast<std::size_t>(legs.campi.indexOf(u"Localita"));
+    for (const auto& record : legs.record) {
+        const auto* const text = std::get_if<QString>(&record.at(place));
+        looks["legs that are no rows of a schedule"] += places_.empty() ? 0 : 1;
+        if (text != nullptr && places_.contains(Trim(*text)))
+            return u"a row of a schedule is stored as a leg: "_s + *text;
+    }
+    return {};
+}
+
 QString brokenInArchive(store::Archive& archive, Looks& looks) {
     for (int table = store::primaTabella; table <= store::ultimaTabella; ++table) {
         const store::TabellaLetta read = archive.tabella(store::TabelleNomi(table));

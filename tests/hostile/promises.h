@@ -3,6 +3,7 @@
 
 #include <array>
 #include <map>
+#include <set>
 #include <string>
 
 #include <QString>
@@ -28,6 +29,17 @@ class MarkTaken {
 
   private:
     std::array<bool, 2> wanted_;
+};
+
+/// The rows that schedules write between the legs: none of them ever becomes a leg.
+class ScheduleRows {
+  public:
+    void see(const Form& window);
+    /// One that is stored as a leg; empty if none is.
+    [[nodiscard]] QString storedIn(store::Archive& archive, Looks& looks) const;
+
+  private:
+    std::set<QString> places_;
 };
 
 /// What is broken in the open archive.

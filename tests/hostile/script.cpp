@@ -34,6 +34,7 @@ QString wrongAnswer(const QString& line, const std::optional<QJsonObject>& answe
     const bool notUnderstood = answer->contains(u"error"_s);
     totals.refused += refused ? 1 : 0;
     totals.notUnderstood += notUnderstood ? 1 : 0;
+    totals.looks["commands inside others"] += answer->contains(u"during"_s) ? 1 : 0;
     totals.boxes += answer->value(u"boxes"_s).toArray().size();
     return {};
 }
@@ -62,8 +63,11 @@ class Run {
     QString broken() {
         for (int i = 0; !program_.finished(); ++i) {
             QString line = script_.next(program_.window());
-            if (line.isNull())
+            if (line.isNull()) {
                 line = u"stop"_s;
+                if (const QString found = brokenInStore(); !found.isEmpty())
+                    return found;
+            }
             file_.add(line);
             if (const QString found = brokenBy(line, i); !found.isEmpty())
                 return found;
@@ -93,9 +97,18 @@ class Run {
         found = brokenInWindow(*window, marksRepeated_, totals_.looks);
         if (found.isEmpty() && taken)
             found = taken->broken(*window, totals_.looks);
-        if (found.isEmpty() && number % archiveEach == archiveEach - 1 && window->archivio.Db(0) != nullptr)
-            found = brokenInArchive(window->archivio, totals_.looks);
+        scheduleRows_.see(*window);
+        if (found.isEmpty() && number % archiveEach == archiveEach - 1)
+            found = brokenInStore();
         return found;
+    }
+
+    QString brokenInStore() {
+        Form* const window = program_.window();
+        if (window == nullptr || window->archivio.Db(0) == nullptr)
+            return {};
+        const QString found = brokenInArchive(window->archivio, totals_.looks);
+        return found.isEmpty() ? scheduleRows_.storedIn(window->archivio, totals_.looks) : found;
     }
 
     const Script& script_;
@@ -103,6 +116,7 @@ class Run {
     ScriptFile& file_;
     Totals& totals_;
     bool marksRepeated_;
+    ScheduleRows scheduleRows_;
     batch::Interpreter program_;
 };
 
