@@ -1,6 +1,8 @@
 // An archive of 100,000 legs that comes in from a file, beside the same records put in by bare calls.
 
+#include <map>
 #include <stdexcept>
+#include <string>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -8,7 +10,9 @@
 #include "bare_archive.h"
 #include "batch/session.h"
 #include "big_archive.h"
+#include "exchange/iei_file.h"
 #include "measure.h"
+#include "store/schema.h"
 
 namespace vanzer::bench {
 
@@ -77,5 +81,107 @@ void importing(benchmark::State& state) {
             ours, theirs);
 }
 BENCHMARK(importing)->Iterations(1)->UseManualTime();
+
+namespace {
+
+/// A file for an import, put together from records of which some fields are given.
+class Lines {
+  public:
+    void head(int section) {
+        names_.clear();
+        for (const store::FieldDef& field : store::campiDescritti(store::TabelleCampi(section)))
+            names_ += field.name;
+        section_ = section;
+        file_.testa(section, names_);
+    }
+    void record(const std::map<QString, QString>& texts) {
+        for (const QString& name : names_) {
+            const auto text = texts.find(name);
+            file_.testo(section_, text == texts.end() ? QStringLiteral("1") : text->second);
+        }
+        file_.fineRiga();
+    }
+    [[nodiscard]] const QByteArray& contents() const { return file_.contenuto(); }
+
+  private:
+    ScrittoreIei file_;
+    QStringList names_;
+    int section_ = 0;
+};
+
+const QString code = QStringLiteral("CodiceMeta");
+const QString place = QStringLiteral("Localita");
+
+void trip(Lines& lines) {
+    lines.head(sezioneMete);
+    lines.record({{code, QStringLiteral("000001")}, {place, QStringLiteral("GIRO")}});
+    lines.head(sezioneTappe);
+    lines.record({{code, QStringLiteral("000001")}, {place, QStringLiteral("ASTI")}});
+}
+
+QByteArray entriesOfAPlace(int count) {
+    Lines lines;
+    trip(lines);
+    lines.head(sezioneGuida);
+    for (int i = 0; i < count; ++i)
+        lines.record({{place, QStringLiteral("ASTI")}, {QStringLiteral("Descrizione"), QStringLiteral("?%1").arg(i)}});
+    return lines.contents();
+}
+
+QByteArray headLines(int count) {
+    Lines lines;
+    trip(lines);
+    for (int i = 0; i < count; ++i)
+        lines.head(i % 2 == 0 ? sezioneGuida : sezioneTappe);
+    return lines.contents();
+}
+
+QByteArray trips(int count) {
+    Lines lines;
+    lines.head(sezioneMete);
+    for (int i = 1; i <= count; ++i)
+        lines.record(
+            {{code, QStringLiteral("%1").arg(i, 6, 10, QChar(u'0'))}, {place, QStringLiteral("GIRO %1").arg(i)}});
+    return lines.contents();
+}
+
+struct Shape {
+    const char* name;
+    QByteArray (*file)(int count);
+    int many;
+};
+constexpr Shape shapes[] = {{"entries of one place that begin with \"?\"", entriesOfAPlace, 40'000},
+                            {"head lines", headLines, 80'000},
+                            {"trips", trips, 40'000}};
+
+/// What a file may hold more than is usual costs in proportion.
+void importGrows(benchmark::State& state, const Shape& shape) {
+    const auto takes = [&shape](int count) {
+        return [&shape, count, contents = shape.file(count)] {
+            Traveller traveller;
+            fillArchive(traveller.form(), {.destinations = 1, .legs = 1, .entries = 1});
+            const QString path = traveller.path("viaggi.iei");
+            QFile file(path);
+            if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+                throw std::runtime_error("no file to import");
+            file.close();
+            return traveller.exchange(1, path);
+        };
+    };
+    const std::string many = std::to_string(shape.many / 1000) + ",000 ";
+    const std::string few = std::to_string(shape.many / 10'000) + ",000 ";
+    measure(state, {.work = "import of " + many + shape.name, .against = few, .atMost = 11}, takes(shape.many),
+            takes(shape.many / 10));
+}
+
+[[maybe_unused]] const bool registered = [] {
+    for (std::size_t i = 0; i < std::size(shapes); ++i) {
+        const std::string name = "importGrows" + std::to_string(i + 1);
+        benchmark::RegisterBenchmark(name.c_str(), importGrows, shapes[i])->Iterations(1)->UseManualTime();
+    }
+    return true;
+}();
+
+} // namespace
 
 } // namespace vanzer::bench
