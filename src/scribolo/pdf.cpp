@@ -1,6 +1,7 @@
 #include "scribolo/pdf.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
@@ -37,6 +38,8 @@ QString writePdf(const Trip& trip, const QString& directory) {
         throw Problem(u"La cartella %1 non esiste."_s.arg(QDir::toNativeSeparators(directory)));
     QString path = QDir(directory).absoluteFilePath(fileName(trip.name));
     const QString shown = QDir::toNativeSeparators(path);
+    if (QFileInfo(path).isSymLink())
+        throw Problem(u"Il file %1 non può essere scritto: è un collegamento a un altro file."_s.arg(shown));
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         throw Problem(u"Il file %1 non può essere scritto: forse la cartella è protetta."_s.arg(shown));

@@ -77,6 +77,9 @@ refuses 1 'finisce prima di cominciare' Elba,02/06/2026,01/06/2026
 refuses 1 'non esiste' --dir "$scratch/nessuna" Elba,01/06/2026,02/06/2026
 touch file
 refuses 1 'non esiste' --dir file Elba,01/06/2026,02/06/2026
+ln -s Vanzer.mdb 'Diario di bordo - Lipari.pdf'
+refuses 1 'un collegamento a un altro file' Lipari,01/06/2026,02/06/2026
+[ ! -e Vanzer.mdb ] || complain 'a link led to the archive'
 mkdir 'Diario di bordo - Giglio.pdf'
 refuses 1 'non può essere scritto' Giglio,01/06/2026,02/06/2026
 refuses 2 CARTELLA --dir
