@@ -131,7 +131,7 @@ void Attacked::expectGroups(const QStringList& found, const std::vector<QStringL
     std::vector<std::map<QString, QStringList>> known;
     std::ranges::transform(states, std::back_inserter(known), groups);
     for (const auto& [name, records] : groups(found)) {
-        const bool asKnown = std::ranges::any_of(known, [&name, &records](const auto& state) {
+        const bool asKnown = std::ranges::any_of(known, [&name = name, &records = records](const auto& state) {
             const auto there = state.find(name);
             return there != state.end() && there->second == records;
         });

@@ -82,8 +82,8 @@ constexpr NamedFault faults[] = {
 TEST_P(Attacked, Faults) {
     int first = -together;
     int told = 0;
-    for (const auto& [name, fault] : faults) {
-        SCOPED_TRACE(name);
+    for (const NamedFault& named : faults) {
+        SCOPED_TRACE(named.name);
         first += together;
         eachNumber(first, [&](int n) {
             // What the child has seen of the fault, it leaves behind.
@@ -94,7 +94,7 @@ TEST_P(Attacked, Faults) {
                 Desk desk(folder, work().today);
                 desk.run(lines(work().before));
                 Watch watch(folder);
-                watch.arm(fault, n);
+                watch.arm(named.fault, n);
                 const QStringList boxes = troubles(desk, work().risky);
                 watch.disarm();
                 if (watch.hit())

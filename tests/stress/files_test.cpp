@@ -79,7 +79,7 @@ TEST(Files, ThatCannotBeWrittenAreToldByNameAndTheOlderOnesStay) {
         int sync = 0;
         desk.run(lines);
         const Disk before = Disk::of(folder);
-        const auto expectTold = [&](const QString& told, const QString& reason) {
+        const auto expectTold = [&files = files](const QString& told, const QString& reason) {
             EXPECT_TRUE(told.contains(reason)) << told.toStdString();
             for (const QString& file : files)
                 EXPECT_TRUE(told.contains(file)) << told.toStdString();
