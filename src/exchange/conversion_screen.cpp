@@ -64,7 +64,8 @@ class Conversione {
         }
     }
 
-    /// The guide's file goes last: with it the categories and the adjustment are stored.
+    /// The guide's file goes last: with it the categories and the adjustment are stored. A file that couldn't be taken
+    /// away comes in once more, under the same codes.
     void guidaEAdeguamento() {
         const OldFile file = openFile(store::vecchiaGuida(), store::fileVecchiaGuida.toString());
         const int left = readRecords(QStringLiteral("Conversione file guida città"), file.records,
@@ -72,7 +73,8 @@ class Conversione {
         rifaCategorie();
         adegua();
         finish(file, left);
-        QFile::remove(codesFile());
+        if (stuck_.isEmpty())
+            QFile::remove(codesFile());
     }
 
     [[nodiscard]] QString resoconto() const {

@@ -49,7 +49,20 @@ class Desk {
         return texts;
     }
 
+    /// The same of lines that may not be allowed, as for a hand that tries everything.
+    QStringList tries(const QStringList& lines) {
+        QStringList texts;
+        for (const QString& line : lines) {
+            for (const QJsonValue& box : program_.run(line)->value(u"boxes"_s).toArray())
+                texts += box[u"text"].toString();
+        }
+        return texts;
+    }
+
     [[nodiscard]] bool alive() { return !program_.run(u"get cmdEsce"_s)->contains(u"error"_s); }
+
+    /// Lets go of the archive.
+    void leave() { static_cast<void>(program_.run(u"stop"_s)); }
 
     /// All records of all tables, a line each. A program that was never started reads them from the file.
     [[nodiscard]] std::string records() {

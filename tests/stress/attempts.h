@@ -1,0 +1,44 @@
+// Tries, each in a process of its own, and the table of how they ended.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace vanzer::stress {
+
+/// What the command line asks for.
+struct Options {
+    std::uint64_t seed = 1;
+    int number = 0;    ///< of the one try to make; 0 for all
+    int tries = 30;    ///< of each attack that draws them
+    int step = 1;      ///< of the others, each so many'th is made, from one on that the seed says
+    std::string tally; ///< a file with the table of earlier runs, which these tries join
+};
+Options& options();
+
+enum class End { Held, Told, Killed, Lost, Crashed, Hung };
+
+/// Runs in a child; the result is whether the user was told something. What a test expects there in vain is lost.
+using Body = std::function<bool()>;
+
+/// A try that nobody counts. `muted` keeps quiet about what was lost.
+[[nodiscard]] End inChild(const Body& body, bool muted = false);
+
+/// The try of that number of the running test goes into the table. One that ends badly fails the test and is named so
+/// that it can be made again.
+End attempt(int number, const Body& body);
+
+/// Numbers of a test's tries from one on to the next thousands belong together.
+inline constexpr int together = 10'000;
+
+/// Gives 1, 2, 3 … to `once` until it answers false, or after five tries that ended badly; where one try is asked for,
+/// its number behind `first` alone.
+void eachNumber(int first, const std::function<bool(int n)>& once);
+/// Gives it the numbers of as many tries as are asked for, or so many times as many.
+void eachDrawn(const std::function<void(int number)>& once, int times = 1);
+
+/// Ends of tries, by test.
+void printTable();
+
+} // namespace vanzer::stress
