@@ -321,6 +321,9 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::restorePlace() {
     restoreGeometry(QSettings().value(placeKey).toByteArray());
+    // A place that was stored badly may be nowhere.
+    if (QApplication::screenAt(geometry().center()) == nullptr)
+        move(screen()->availableGeometry().topLeft());
     fitScreen();
 }
 

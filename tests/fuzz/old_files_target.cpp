@@ -1,5 +1,3 @@
-#include "old_files_target.h"
-
 #include <algorithm>
 
 #include "core/code_page.h"
@@ -19,29 +17,29 @@ void checkRecord(const store::FormatoVecchio& format, const QByteArray& bytes, c
         const int width = format.campi[i].larghezza;
         const QString there = fromCodePage(QByteArrayView(bytes).sliced(at, width));
         promise(record[i].leftJustified(width, u' ') == there || (format.campi[i].siNo && there == u" "),
-                u"a text is its bytes without the padding"_s);
-        promise(std::ranges::none_of(record[i], [](QChar c) { return c < u' '; }), u"a text holds no control"_s);
+                "a text is its bytes without the padding");
+        promise(std::ranges::none_of(record[i], [](QChar c) { return c < u' '; }), "a text holds no control");
         at += width;
     }
 }
 
 void checkLegs(const store::FileVecchio& file) {
     const TappeVecchie legs = tappeDaLeggere(file);
-    promise(legs.tappe >= 0 && legs.tappe <= std::max(0, file.numero() - 1), u"no more legs than there are"_s);
-    promise(legs.tappe + legs.tralasciati >= file.numero() - 1, u"every record is read or counted"_s);
+    promise(legs.tappe >= 0 && legs.tappe <= std::max(0, file.numero() - 1), "no more legs than there are");
+    promise(legs.tappe + legs.tralasciati >= file.numero() - 1, "every record is read or counted");
 }
 
 void checkConverted(const store::FormatoVecchio& format, const store::RecordVecchio& record) {
     if (&format == &store::vecchieMete() && metaDaConvertire(record))
-        promise(codiceConvertito(record).size() == 6, u"codes have six digits"_s);
+        promise(codiceConvertito(record).size() == 6, "codes have six digits");
     if (&format == &store::vecchieTappe()) {
         const auto leg = tappaConvertita(record);
         promise(!leg || (!leg->Localita.isEmpty() && !leg->NomeStrada.isEmpty() && !leg->TempoSosta.isEmpty()),
-                u"texts that are stored aren't empty"_s);
+                "texts that are stored aren't empty");
     }
     if (&format == &store::vecchiaGuida()) {
         const VoceConvertita entry = voceConvertita(record);
-        promise(entry.CodiceGuida.size() == 2 && entry.TempoSosta.size() == 5, u"codes and times fit"_s);
+        promise(entry.CodiceGuida.size() == 2 && entry.TempoSosta.size() == 5, "codes and times fit");
     }
 }
 

@@ -1,5 +1,3 @@
-#include "route_target.h"
-
 #include <algorithm>
 #include <numeric>
 
@@ -20,14 +18,14 @@ bool same(const TappaImportata& a, const TappaImportata& b) {
 }
 
 void checkLegs(const PercorsoImportato& route) {
-    promise(route.formato != Pacchetto::Sconosciuto || route.tappe.empty(), u"an unknown list gives no legs"_s);
+    promise(route.formato != Pacchetto::Sconosciuto || route.tappe.empty(), "an unknown list gives no legs");
     qint64 km = 0;
     for (const TappaImportata& leg : route.tappe) {
         km += leg.km;
-        promise(km == leg.kmProgressivo, u"kilometres add up"_s);
-        promise(leg.luogo == maiuscolo(Trim(leg.luogo)), u"places are trimmed and in capitals"_s);
-        promise(leg.strade == Trim(leg.strade), u"roads are trimmed"_s);
-        promise(leg.traghetto == contiene(leg.strade, u"TRAGH"), u"a ferry is known by its road"_s);
+        promise(km == leg.kmProgressivo, "kilometres add up");
+        promise(leg.luogo == maiuscolo(Trim(leg.luogo)), "places are trimmed and in capitals");
+        promise(leg.strade == Trim(leg.strade), "roads are trimmed");
+        promise(leg.traghetto == contiene(leg.strade, u"TRAGH"), "a ferry is known by its road");
     }
 }
 
@@ -77,15 +75,15 @@ void checkFolded(const std::vector<RigaPercorso>& legs, const std::vector<RigaRi
     int last = 0;
     int km = 0;
     for (const RigaRimasta& leg : left) {
-        promise(leg.riga > last && leg.riga <= static_cast<int>(legs.size()), u"legs stay in their order"_s);
+        promise(leg.riga > last && leg.riga <= static_cast<int>(legs.size()), "legs stay in their order");
         last = leg.riga;
         km += leg.cella.km;
         const qsizetype bracket = leg.cella.luogo.indexOf(u'[');
-        promise(bracket <= nameSize, u"a name keeps to its width"_s);
+        promise(bracket <= nameSize, "a name keeps to its width");
     }
     const int driven = std::accumulate(legs.begin(), legs.begin() + last, 0,
                                        [](int sum, const RigaPercorso& leg) { return sum + leg.km; });
-    promise(km == driven, u"no kilometre is lost before the last leg that stays"_s);
+    promise(km == driven, "no kilometre is lost before the last leg that stays");
 }
 
 } // namespace
@@ -96,7 +94,7 @@ void readRoutePackage(const QByteArray& input) {
     if (route.formato == Pacchetto::Sconosciuto || input.contains('\r'))
         return;
     const PercorsoImportato again = leggePacchetto(QByteArray(input).replace("\n", "\r\n"));
-    promise(std::ranges::equal(route.tappe, again.tappe, same), u"line ends don't matter"_s);
+    promise(std::ranges::equal(route.tappe, again.tappe, same), "line ends don't matter");
 }
 
 void readStopFile(const QByteArray& input) {
@@ -105,8 +103,7 @@ void readStopFile(const QByteArray& input) {
     const QStringList expected = markedOneByOne(legs, stops);
     segnaMete(legs, stops);
     for (std::size_t i = 0; i < legs.size(); ++i)
-        promise(legs[i].luogo == expected[static_cast<qsizetype>(i)],
-                u"every stop marks the leg that the rule names"_s);
+        promise(legs[i].luogo == expected[static_cast<qsizetype>(i)], "every stop marks the leg that the rule names");
     checkFolded(legs, piegaTappe(legs, nameSize));
 }
 

@@ -11,7 +11,7 @@ class Pairs {
   public:
     explicit Pairs(const Folders& folders);
 
-    [[nodiscard]] quint64 count() const { return doors_.size() * inside_.size(); }
+    [[nodiscard]] quint64 count() const { return doors_.size() * static_cast<quint64>(inside_.size()); }
     /// Neighbouring numbers, from 1 on, are of different windows and commands, so that some hundred of them are a fair
     /// choice.
     [[nodiscard]] Script script(quint64 number) const;

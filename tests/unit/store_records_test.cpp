@@ -223,7 +223,7 @@ TEST_F(StoreRecords, AWalkThatFailsIsAtItsEnd) {
                 if (begun)
                     legs.MoveNext();
                 file.damage(page);
-                if (const auto failure = failureOf([&] { work(legs); })) {
+                if (const auto failure = failureOf([&, &work = work] { work(legs); })) {
                     ++failures;
                     EXPECT_EQ(failure, StoreError::Kind::Corrupt);
                     EXPECT_TRUE(!moves || legs.EOF_());
