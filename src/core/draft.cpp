@@ -23,8 +23,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr int version = 1;
-constexpr qsizetype longestText = 255; // of a control
-constexpr std::array<qsizetype, colonneTenute.size()> longestCells{255, 255, 7, 16, 16, 16};
+constexpr qsizetype longestText = 1 << 16; // legs of a route list are longer than what is stored of them
 constexpr std::size_t mostLegs = 100000;
 constexpr qsizetype longestMap = 1 << 20; // rows of a table
 
@@ -46,7 +45,6 @@ QString textIn(const QJsonValue& value, qsizetype longest = longestText) {
     require(value.isString() || value.isUndefined());
     QString text = value.toString();
     require(text.size() <= longest);
-    require(std::ranges::none_of(text, [](QChar c) { return c.category() == QChar::Other_Control; }));
     return text;
 }
 
@@ -76,8 +74,8 @@ TappeTenute legsIn(const QJsonArray& cells) {
     TappeTenute legs(static_cast<std::size_t>(cells.size() / width));
     qsizetype at = 0;
     for (TappaTenuta& leg : legs) {
-        for (std::size_t cell = 0; cell < leg.size(); ++cell)
-            leg[cell] = textIn(cells.at(at++), longestCells[cell]);
+        for (QString& cell : leg)
+            cell = textIn(cells.at(at++));
     }
     return legs;
 }

@@ -38,8 +38,8 @@ struct Bozza {
     bool operator==(const Bozza& other) const = default;
 };
 
-/// The largest draft that is read. A table of 9,999 legs takes about a tenth of it.
-inline constexpr qint64 massimaBozza = 16 << 20; // bytes
+/// The largest draft that is read. A table of 9,999 legs takes about a sixtieth of it.
+inline constexpr qint64 massimaBozza = 64 << 20; // bytes
 
 [[nodiscard]] QByteArray byteDellaBozza(const Bozza& draft, const QDateTime& now);
 

@@ -1,5 +1,7 @@
 #include "window/unsaved_work.h"
 
+#include <algorithm>
+
 #include <QDir>
 
 #include "core/text.h"
@@ -80,7 +82,7 @@ void putLegsBack(Form& form, const Bozza& draft, bool lost) {
     if (!draft.editor && !typed && (!changed || draft.tratto))
         return;
     cmdItinerario_Click(form);
-    form.stato.RigaCorrente = Maggiore(draft.riga, 1);
+    form.stato.RigaCorrente = std::clamp(draft.riga, 1, Maggiore(form.mfgTab.rows() - 1, 1));
     AggiornaTabellaRigaCorrenteItinerario(form);
     putLegBack(form, draft.digitata);
 }

@@ -19,17 +19,17 @@ using namespace Qt::StringLiterals;
 const QDateTime now(QDate(2026, 11, 24), QTime(18, 5, 7));
 
 Bozza example() {
-    return {
-        .codice = u"000001"_s,
-        .nome = u"PROVA"_s,
-        .campi = {{u"txtLocalita"_s, u"PROVA \"Ü\""_s}, {u"cmbOra(3)"_s, u"08"_s}},
-        .cambiati = {u"cmbOra(3)"_s},
-        .tappe = {{u"ASTI"_s, u"A21"_s, {}, u"A"_s, {}, {}}, {u"ALBA"_s, {}, u"1.030"_s, u"S"_s, u"*00:01:30"_s, {}}},
-        .tappeCambiate = true,
-        .editor = true,
-        .riga = 2,
-        .modifiche = u"010"_s,
-        .digitata = {{u"txtTappa"_s, u"CUNEO"_s}}};
+    return {.codice = u"000001"_s,
+            .nome = u"PROVA"_s,
+            .campi = {{u"txtLocalita"_s, u"PROVA \"Ü\""_s}, {u"cmbOra(3)"_s, u"08"_s}},
+            .cambiati = {u"cmbOra(3)"_s},
+            .tappe = {{u"ASTI\t"_s + QString(300, u'x'), u"A21"_s, {}, u"A"_s, {}, {}},
+                      {u"ALBA"_s, {}, u"1.030"_s, u"S"_s, u"*00:01:30"_s, {}}},
+            .tappeCambiate = true,
+            .editor = true,
+            .riga = 2,
+            .modifiche = u"010"_s,
+            .digitata = {{u"txtTappa"_s, u"CUNEO"_s}}};
 }
 
 TEST(Draft, ItsBytesHoldIt) {
@@ -50,13 +50,11 @@ TEST(Draft, WhatNoWindowWroteIsNone) {
                                 R"({"bozza":1})",
                                 R"({"bozza":1,"scritta":"ieri"})",
                                 R"({"bozza":1,"scritta":"2026-11-24T18:05:00","tappe":["ASTI"]})",
-                                R"({"bozza":1,"scritta":"2026-11-24T18:05:00","tappe":["","","12345678","","",""]})",
                                 R"({"bozza":1,"scritta":"2026-11-24T18:05:00","tappe":{}})",
                                 R"({"bozza":1,"scritta":"2026-11-24T18:05:00","campi":{"txtNazione":7}})",
-                                R"({"bozza":1,"scritta":"2026-11-24T18:05:00","campi":{"txtNazione":"A\nB"}})",
                                 R"({"bozza":1,"scritta":"2026-11-24T18:05:00","modifiche":"0120"})",
                                 R"({"bozza":1,"scritta":"2026-11-24T18:05:00","editor":"yes"})",
-                                R"({"bozza":1,"scritta":"2026-11-24T18:05:00","codice":")" + QByteArray(256, 'x') +
+                                R"({"bozza":1,"scritta":"2026-11-24T18:05:00","codice":")" + QByteArray(70000, 'x') +
                                     "\"}",
                                 QByteArray(100000, '['),
                                 byteDellaBozza(example(), now).chopped(20),
@@ -335,7 +333,7 @@ TEST_F(DraftScreen, MeetsAnotherArchive) {
     form().txtTappa.type(u"NIZZA"_s);
     custodian->tiene();
     custodian->aspetta();
-    const QByteArray draft = *store::leggeBozza(path());
+    const QByteArray draft = store::leggeBozza(path())->replace("\"riga\":", "\"riga\":99999"); // no row is so far down
     for (const std::string other : {"", "ROMA"}) { // with an empty archive, and where the code is another trip's
         for (const bool store : {true, false}) {
             SCOPED_TRACE(other + (store ? " stored" : " given up"));
