@@ -176,6 +176,19 @@ void largeArchive(const QString& folder) {
     EXPECT_GT(QFileInfo(folder + u"/Vanzer.mdb"_s).size(), 20'000'000);
 }
 
+/// The exchange file without the guide's marks of use, which are no reason to tell a failure.
+std::string withoutMarks(const std::string& file) {
+    constexpr int markColumn = 5;
+    std::string kept;
+    int column = 0;
+    for (const char c : file) {
+        column = c == '\n' ? 0 : column + (c == '\xfd' ? 1 : 0);
+        if (column != markColumn)
+            kept += c;
+    }
+    return kept;
+}
+
 /// A read that fails in any room is told, and what comes out then is whole all the same.
 TEST(LargeArchive, Reads) {
     const QTemporaryDir folders;
@@ -187,6 +200,7 @@ TEST(LargeArchive, Reads) {
         std::map<QString, std::string> bytes;
         for (const auto& name : {u"giro.iei"_s, u"giro.pdf"_s, u"Vanztabl.txt"_s, u"ListaLocalita.txt"_s})
             bytes[name] = bytesOf(folder + u'/' + name);
+        bytes[u"giro.iei"_s] = withoutMarks(bytes[u"giro.iei"_s]);
         return bytes;
     };
     QStringList usual;
