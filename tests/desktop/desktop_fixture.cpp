@@ -1,5 +1,6 @@
 #include "desktop_fixture.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QFileDialog>
 #include <QLabel>
@@ -54,6 +55,7 @@ void DesktopTest::SetUp() {
 }
 
 void DesktopTest::TearDown() {
+    EXPECT_EQ(awaited_, 0) << "what was waited for never came";
     close();
 }
 
@@ -106,6 +108,11 @@ QString DesktopTest::textOf(const char* name) {
     return button == nullptr ? QString() : button->text();
 }
 
+QString DesktopTest::spokenName(QWidget& widget) {
+    QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(&widget);
+    return face == nullptr ? QString() : face->text(QAccessible::Name).trimmed();
+}
+
 void DesktopTest::key(int key, Qt::KeyboardModifiers modifiers) {
     QWidget* const focus = QApplication::focusWidget();
     QTest::keyClick(focus == nullptr ? &window() : focus, static_cast<Qt::Key>(key), modifiers);
@@ -129,6 +136,23 @@ void DesktopTest::tabTo(const char* name) {
     for (int i = 0; i < controls && focusName() != QLatin1StringView(name); ++i)
         key(Qt::Key_Tab);
     ASSERT_EQ(focusName().toStdString(), name);
+}
+
+void DesktopTest::once(const std::function<bool()>& holds, const std::function<void()>& hand) {
+    ++awaited_;
+    auto* const looks = new QTimer(&window());
+    looks->callOnTimeout([this, looks, holds, hand] {
+        if (!holds())
+            return;
+        looks->stop();
+        --awaited_;
+        hand();
+    });
+    looks->start(0);
+}
+
+void DesktopTest::inside(const std::function<void()>& hand) {
+    once([this] { return form().comandoInCorso; }, hand);
 }
 
 void DesktopTest::withFile(const QString& path, const std::function<void()>& work) {

@@ -63,15 +63,12 @@ TEST_F(PrintByKeyboard, APrintIsStoppedByEsc) {
         key(Qt::Key_Space);
     letter('s');
     const QString path = directory.filePath(QStringLiteral("prova.pdf"));
-    QTimer whileItRuns;
-    QObject::connect(&whileItRuns, &QTimer::timeout, [this, &whileItRuns] {
-        if (!form().stato.StampaInCorso || QApplication::activeModalWidget() != nullptr ||
-            form().stato.PercentualeCorrente < 3)
-            return;
-        whileItRuns.stop();
-        QTest::keyClick(&window(), Qt::Key_Escape);
-    });
-    whileItRuns.start(0);
+    once(
+        [this] {
+            return form().stato.StampaInCorso && QApplication::activeModalWidget() == nullptr &&
+                   form().stato.PercentualeCorrente >= 3;
+        },
+        [this] { QTest::keyClick(&window(), Qt::Key_Escape); });
     boxes.expect(Qt::Key_Return); // yes, stop
     boxes.expect(Qt::Key_Return);
     boxes.expect(Qt::Key_Return);
