@@ -9,8 +9,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QWheelEvent>
-#include <qtestspontaneevent.h>
 
 #include "desktop/text_ties.h"
 #include "desktop/tints.h"
@@ -39,14 +37,9 @@ class Controls : public DesktopTest {
     }
 
     [[nodiscard]] static QString captionShown(const QWidget& widget) {
-        if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget))
-            return button->text();
-        if (const auto* const box = qobject_cast<const QGroupBox*>(&widget))
-            return box->title();
         if (const auto* const giving = qobject_cast<const ShortenedLabel*>(&widget))
             return giving->text();
-        const auto* const label = qobject_cast<const QLabel*>(&widget);
-        return label == nullptr ? QString() : label->text();
+        return widget.property(qobject_cast<const QGroupBox*>(&widget) != nullptr ? "title" : "text").toString();
     }
 
     void checkGrounds() {
@@ -74,15 +67,6 @@ class Controls : public DesktopTest {
                 fields.emplace_back(model, line);
         }
         return fields;
-    }
-
-    /// As the mouse's own wheel, one step down.
-    static void turnWheel(QWidget& over) {
-        const QPointF middle(over.rect().center());
-        QWheelEvent wheel(middle, over.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
-        QSpontaneKeyEvent::setSpontaneous(&wheel);
-        qApp->notify(&over, &wheel);
     }
 };
 

@@ -8,6 +8,8 @@
 #include <QMessageBox>
 #include <QSettings>
 #include <QTimer>
+#include <QWheelEvent>
+#include <qtestspontaneevent.h>
 
 #include "desktop/fields.h"
 
@@ -100,12 +102,8 @@ QString DesktopTest::focusName() {
 
 QString DesktopTest::textOf(const char* name) {
     QWidget* const widget = find(name);
-    if (auto* const line = qobject_cast<QLineEdit*>(widget))
-        return line->text();
-    if (auto* const list = qobject_cast<DropDown*>(widget))
-        return list->shownText();
-    auto* const button = qobject_cast<QAbstractButton*>(widget);
-    return button == nullptr ? QString() : button->text();
+    auto* const list = qobject_cast<DropDown*>(widget);
+    return list != nullptr ? list->shownText() : widget->property("text").toString();
 }
 
 QString DesktopTest::spokenName(QWidget& widget) {
@@ -136,6 +134,23 @@ void DesktopTest::tabTo(const char* name) {
     for (int i = 0; i < controls && focusName() != QLatin1StringView(name); ++i)
         key(Qt::Key_Tab);
     ASSERT_EQ(focusName().toStdString(), name);
+}
+
+void DesktopTest::chooseRow(const char* table, int row, const char* button) {
+    tabTo(table);
+    const auto* const grid = dynamic_cast<Grid*>(form().find(QLatin1StringView(table)));
+    while (grid->rowAtHand() != row)
+        key(grid->rowAtHand() < row ? Qt::Key_Down : Qt::Key_Up);
+    tabTo(button);
+    key(Qt::Key_Space);
+}
+
+void DesktopTest::turnWheel(QWidget& over) {
+    const QPointF middle(over.rect().center());
+    QWheelEvent wheel(middle, over.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
+    QSpontaneKeyEvent::setSpontaneous(&wheel);
+    qApp->notify(&over, &wheel);
 }
 
 void DesktopTest::once(const std::function<bool()>& holds, const std::function<void()>& hand) {

@@ -99,6 +99,10 @@ class DesktopTest : public ::testing::Test {
     /// Tab until the widget of that name has the focus; a failure when it never gets it.
     void tabTo(const char* name);
 
+    /// In a table, and then the button of that name.
+    void chooseRow(const char* table, int row, const char* button);
+    /// As the mouse's own wheel, one step down.
+    static void turnWheel(QWidget& over);
     /// Does `hand` once, as soon as `holds` does: mostly inside what is at work then. A failure if that never comes.
     void once(const std::function<bool()>& holds, const std::function<void()>& hand);
     /// Does `hand` once, inside the next command.

@@ -23,13 +23,6 @@ class Drafts : public DesktopTest {
         QApplication::exec();
         EXPECT_TRUE(form().chiusa);
     }
-    void changeStretch() {
-        letter('t');
-        form().mfgTab.clickRow(1);
-        form().optTStrada(3).choose();
-        for (const int i : {0, 1, 2})
-            form().cmdTappaSEl(i).click();
-    }
 };
 
 TEST_F(Drafts, TypedLegsComeBackWithEnter) {
@@ -61,7 +54,11 @@ TEST_F(Drafts, TypedLegsComeBackWithEnter) {
 TEST_F(Drafts, AnOpenQuestionGoesAndTheWorkStays) {
     storeTrip(3);
     open();
-    changeStretch();
+    letter('t');
+    form().mfgTab.clickRow(1);
+    form().optTStrada(3).choose();
+    for (const int i : {0, 1, 2})
+        form().cmdTappaSEl(i).click();
     qApp->removeEventFilter(&boxes);
     QTimer::singleShot(100, &window(), [this] {
         EXPECT_NE(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()), nullptr);

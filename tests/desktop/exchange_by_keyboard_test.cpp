@@ -1,6 +1,5 @@
 // Destinations exported to a file and imported from it, by keys alone.
 #include "desktop_fixture.h"
-#include "support/old_files_writer.h"
 
 namespace vanzer::desktop {
 namespace {
@@ -144,24 +143,6 @@ TEST_F(ExchangeByKeyboard, AnImportIsStoppedByEscAndLeavesNothing) {
     EXPECT_TRUE(form().archivio.tabella(QStringLiteral("Itinerari")).record.empty());
     EXPECT_EQ(textOf("txtLocalita"), QStringLiteral("AOSTA"));
     EXPECT_EQ(textOf("cmdEsce"), QStringLiteral("&Esce"));
-}
-
-TEST_F(ExchangeByKeyboard, OldFilesAreConvertedWhileTheyAreThere) {
-    ASSERT_TRUE(writeOldFile(directory.filePath(QStringLiteral("VanzMete.dat")),
-                             oldFile(store::vecchieMete(), {{QStringLiteral("1"), QStringLiteral("ROMA")}})));
-    open();
-    ASSERT_TRUE(isSeen("cmdConverte"));
-    boxes.expect(Qt::Key_Escape);
-    letter('o');
-    EXPECT_TRUE(find("cmdConverte")->isEnabled());
-    boxes.expect(Qt::Key_Return);
-    boxes.expect(Qt::Key_Return);
-    letter('o');
-    ASSERT_EQ(boxes.shown().size(), 3U);
-    EXPECT_EQ(boxes.shown()[2].text, QStringLiteral("Conversione eseguita..."));
-    EXPECT_EQ(textOf("txtLocalita"), QStringLiteral("ROMA"));
-    EXPECT_FALSE(isSeen("cmdConverte"));
-    EXPECT_TRUE(find("cmdItinerario")->isEnabled());
 }
 
 } // namespace

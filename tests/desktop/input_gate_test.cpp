@@ -36,11 +36,7 @@ TEST_F(InputGateTest, AWheelInsideACommandIsGone) {
     auto* const month = find("cmbInizio_1");
     month->setFocus();
     const QString before = textOf("cmbInizio_1");
-    inside([&] {
-        QWheelEvent turn(QPointF(5, 5), month->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                         Qt::NoScrollPhase, false);
-        QApplication::sendEvent(month, &turn);
-    });
+    inside([month] { turnWheel(*month); });
     find<QAbstractButton>("cmdCalcola")->click();
     QTest::qWait(60);
     EXPECT_EQ(textOf("cmbInizio_1"), before);

@@ -1,13 +1,12 @@
 // A trip and its guide printed from the window by keys alone.
 #include <QListView>
-#include <QProcess>
 
-#include "desktop_fixture.h"
+#include "printing_fixture.h"
 
 namespace vanzer::desktop {
 namespace {
 
-class PrintByKeyboard : public DesktopTest {
+class PrintByKeyboard : public PrintingTest {
   protected:
     /// The trip's schedule, up to the choice of the printer.
     void openChoice(int legs) {
@@ -26,13 +25,6 @@ class PrintByKeyboard : public DesktopTest {
         find("lstStampanti")->setFocus();
         key(Qt::Key_End);
         withFile(path, [this] { letter('s'); });
-    }
-
-    [[nodiscard]] static QString textOfPdf(const QString& path) {
-        QProcess reader;
-        reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, QStringLiteral("-")});
-        EXPECT_TRUE(reader.waitForFinished());
-        return QString::fromUtf8(reader.readAllStandardOutput());
     }
 };
 

@@ -189,15 +189,8 @@ TEST_F(TripByKeyboard, AStretchGetsItsRoadTypeAndIsSavedOrGivenUp) {
     EXPECT_FALSE(find("cmdTappaSEl_2")->isEnabled());
     const auto* const table = find<TableView>("mfgTab");
     EXPECT_FALSE(find("frmframe_1")->geometry().intersects({table->mapTo(&window(), QPoint()), table->size()}));
-    const auto chooseRow = [this](int row, const char* end) {
-        tabTo("mfgTab");
-        while (form().mfgTab.row() != row)
-            key(form().mfgTab.row() < row ? Qt::Key_Down : Qt::Key_Up);
-        tabTo(end);
-        key(Qt::Key_Space);
-    };
-    chooseRow(3, "cmdTappaSEl_0");
-    chooseRow(5, "cmdTappaSEl_1");
+    chooseRow("mfgTab", 3, "cmdTappaSEl_0");
+    chooseRow("mfgTab", 5, "cmdTappaSEl_1");
     EXPECT_EQ(textOf("txttappasel_0").toStdString(), "0003 " + before.substr(2, 1) + " LUOGO 3");
     EXPECT_EQ(textOf("txttappasel_2").toStdString(), "3");
     letter('l');
@@ -228,16 +221,8 @@ TEST_F(TripByKeyboard, AStretchIsCopiedBackwardsBehindTheCurrentLeg) {
     EXPECT_FALSE(find("frmframe_12")->isEnabled());
     EXPECT_TRUE(find("frmframe_19")->geometry().contains(find("frmframe_12")->geometry()));
     EXPECT_FALSE(find("frmframe_19")->geometry().intersects(find("frmframe_17")->geometry()));
-    const auto chooseRow = [this](int row, const char* assign) {
-        tabTo("mfgCopia");
-        while (form().mfgCopia.rowAtHand() != row)
-            key(form().mfgCopia.rowAtHand() < row ? Qt::Key_Down : Qt::Key_Up);
-        for (int i = 0; i < 3 && focusName() != QLatin1StringView(assign); ++i)
-            letter('g');
-        key(Qt::Key_Space);
-    };
-    chooseRow(4, "cmdAssegna_0");
-    chooseRow(2, "cmdAssegna_1");
+    chooseRow("mfgCopia", 4, "cmdAssegna_0");
+    chooseRow("mfgCopia", 2, "cmdAssegna_1");
     EXPECT_EQ(textOf("txtInsLoc_0"), QStringLiteral("LUOGO 4"));
     EXPECT_EQ(textOf("txtInsLoc_1"), QStringLiteral("LUOGO 2"));
     boxes.expect(Qt::Key_Return);
