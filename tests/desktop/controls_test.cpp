@@ -235,7 +235,13 @@ TEST_F(Controls, PastedTextGoesThroughTheKeyHandlers) {
         EXPECT_EQ(field->text().toStdString(), c.shown) << c.field;
         EXPECT_EQ(dynamic_cast<TextControl*>(form().find(QLatin1StringView(c.field)))->text(), field->text());
     }
+    auto* const place = find<QLineEdit>("txtTappa");
+    place->setFocus();
+    place->end(false);
+    write("x");
+    EXPECT_TRUE(place->text().endsWith(QStringLiteral("0123"))) << "a full field takes no more";
     auto* const km = find<QLineEdit>("txtKm");
+    km->setFocus();
     km->selectAll();
     write("x");
     EXPECT_EQ(km->text().toStdString(), "1234") << "a dropped key leaves the selection";
