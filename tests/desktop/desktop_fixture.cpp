@@ -1,5 +1,6 @@
 #include "desktop_fixture.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QFileDialog>
 #include <QLabel>
@@ -7,6 +8,8 @@
 #include <QMessageBox>
 #include <QSettings>
 #include <QTimer>
+#include <QWheelEvent>
+#include <qtestspontaneevent.h>
 
 #include "desktop/fields.h"
 
@@ -54,6 +57,7 @@ void DesktopTest::SetUp() {
 }
 
 void DesktopTest::TearDown() {
+    EXPECT_EQ(awaited_, 0) << "what was waited for never came";
     close();
 }
 
@@ -98,12 +102,13 @@ QString DesktopTest::focusName() {
 
 QString DesktopTest::textOf(const char* name) {
     QWidget* const widget = find(name);
-    if (auto* const line = qobject_cast<QLineEdit*>(widget))
-        return line->text();
-    if (auto* const list = qobject_cast<DropDown*>(widget))
-        return list->shownText();
-    auto* const button = qobject_cast<QAbstractButton*>(widget);
-    return button == nullptr ? QString() : button->text();
+    auto* const list = qobject_cast<DropDown*>(widget);
+    return list != nullptr ? list->shownText() : widget->property("text").toString();
+}
+
+QString DesktopTest::spokenName(QWidget& widget) {
+    QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(&widget);
+    return face == nullptr ? QString() : face->text(QAccessible::Name).trimmed();
 }
 
 void DesktopTest::key(int key, Qt::KeyboardModifiers modifiers) {
@@ -129,6 +134,40 @@ void DesktopTest::tabTo(const char* name) {
     for (int i = 0; i < controls && focusName() != QLatin1StringView(name); ++i)
         key(Qt::Key_Tab);
     ASSERT_EQ(focusName().toStdString(), name);
+}
+
+void DesktopTest::chooseRow(const char* table, int row, const char* button) {
+    tabTo(table);
+    const auto* const grid = dynamic_cast<Grid*>(form().find(QLatin1StringView(table)));
+    while (grid->rowAtHand() != row)
+        key(grid->rowAtHand() < row ? Qt::Key_Down : Qt::Key_Up);
+    tabTo(button);
+    key(Qt::Key_Space);
+}
+
+void DesktopTest::turnWheel(QWidget& over) {
+    const QPointF middle(over.rect().center());
+    QWheelEvent wheel(middle, over.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
+    QSpontaneKeyEvent::setSpontaneous(&wheel);
+    qApp->notify(&over, &wheel);
+}
+
+void DesktopTest::once(const std::function<bool()>& holds, const std::function<void()>& hand) {
+    ++awaited_;
+    auto* const looks = new QTimer(&window());
+    looks->callOnTimeout([this, looks, holds, hand] {
+        if (!holds())
+            return;
+        looks->stop();
+        --awaited_;
+        hand();
+    });
+    looks->start(0);
+}
+
+void DesktopTest::inside(const std::function<void()>& hand) {
+    once([this] { return form().comandoInCorso; }, hand);
 }
 
 void DesktopTest::withFile(const QString& path, const std::function<void()>& work) {

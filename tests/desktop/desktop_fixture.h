@@ -86,6 +86,8 @@ class DesktopTest : public ::testing::Test {
     [[nodiscard]] bool isSeen(const char* name);
     [[nodiscard]] QString focusName();
     [[nodiscard]] QString textOf(const char* name);
+    /// By a screen reader.
+    [[nodiscard]] static QString spokenName(QWidget& widget);
 
     /// To whatever has the focus.
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
@@ -97,6 +99,14 @@ class DesktopTest : public ::testing::Test {
     /// Tab until the widget of that name has the focus; a failure when it never gets it.
     void tabTo(const char* name);
 
+    /// In a table, and then the button of that name.
+    void chooseRow(const char* table, int row, const char* button);
+    /// As the mouse's own wheel, one step down.
+    static void turnWheel(QWidget& over);
+    /// Does `hand` once, as soon as `holds` does: mostly inside what is at work then. A failure if that never comes.
+    void once(const std::function<bool()>& holds, const std::function<void()>& hand);
+    /// Does `hand` once, inside the next command.
+    void inside(const std::function<void()>& hand);
     /// Does `work`; the file dialog that it opens gets this path.
     void withFile(const QString& path, const std::function<void()>& work);
 
@@ -113,6 +123,7 @@ class DesktopTest : public ::testing::Test {
 
   private:
     FixedClock clock_;
+    int awaited_ = 0; ///< what is to be done once
     std::unique_ptr<Program> program_;
 };
 

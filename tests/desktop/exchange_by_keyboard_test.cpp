@@ -1,6 +1,5 @@
 // Destinations exported to a file and imported from it, by keys alone.
 #include "desktop_fixture.h"
-#include "support/old_files_writer.h"
 
 namespace vanzer::desktop {
 namespace {
@@ -118,34 +117,22 @@ TEST_F(ExchangeByKeyboard, AnImportIsStoppedByEscAndLeavesNothing) {
     boxes.forget();
     close();
     forgetArchive();
-    storeTrip(1);
     open({.patience = 0, .yields = 0, .frames = 0});
     typeDestination("aosta", "italia");
-    letter('r'); // the list of destinations, then the one to be deleted
-    find("cmbRicerca")->setFocus();
-    key(Qt::Key_End);
-    key(Qt::Key_Return);
-    ASSERT_EQ(textOf("txtLocalita"), QStringLiteral("PROVA"));
-    boxes.expect(Qt::Key_S);
-    letter('d');
     boxes.forget();
-    window().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
     letter('x');
     withFile(path, [this] { letter('i'); });
     key(Qt::Key_Return);
-    QTimer whileItRuns;
-    QObject::connect(&whileItRuns, &QTimer::timeout, [this, &whileItRuns] {
-        if (!form().stato.ScambioInCorso || QApplication::activeModalWidget() != nullptr ||
-            form().lblElaborazione.caption() != QStringLiteral("Importazione Itinerari"))
-            return;
-        whileItRuns.stop();
-        EXPECT_EQ(textOf("cmdEsce"), QStringLiteral("&Stop"));
-        QTest::keyClick(&window(), Qt::Key_Escape);
-    });
     tabTo("cmdImExp_0");
-    ASSERT_FALSE(HasFatalFailure());
-    whileItRuns.start(0);
+    once(
+        [this] {
+            return form().stato.ScambioInCorso && QApplication::activeModalWidget() == nullptr &&
+                   form().lblElaborazione.caption() == QStringLiteral("Importazione Itinerari");
+        },
+        [this] {
+            EXPECT_EQ(textOf("cmdEsce"), QStringLiteral("&Stop"));
+            QTest::keyClick(&window(), Qt::Key_Escape);
+        });
     for (int box = 0; box < 3; ++box)
         boxes.expect(Qt::Key_Return);
     key(Qt::Key_Return);
@@ -156,24 +143,6 @@ TEST_F(ExchangeByKeyboard, AnImportIsStoppedByEscAndLeavesNothing) {
     EXPECT_TRUE(form().archivio.tabella(QStringLiteral("Itinerari")).record.empty());
     EXPECT_EQ(textOf("txtLocalita"), QStringLiteral("AOSTA"));
     EXPECT_EQ(textOf("cmdEsce"), QStringLiteral("&Esce"));
-}
-
-TEST_F(ExchangeByKeyboard, OldFilesAreConvertedWhileTheyAreThere) {
-    ASSERT_TRUE(writeOldFile(directory.filePath(QStringLiteral("VanzMete.dat")),
-                             oldFile(store::vecchieMete(), {{QStringLiteral("1"), QStringLiteral("ROMA")}})));
-    open();
-    ASSERT_TRUE(isSeen("cmdConverte"));
-    boxes.expect(Qt::Key_Escape);
-    letter('o');
-    EXPECT_TRUE(find("cmdConverte")->isEnabled());
-    boxes.expect(Qt::Key_Return);
-    boxes.expect(Qt::Key_Return);
-    letter('o');
-    ASSERT_EQ(boxes.shown().size(), 3U);
-    EXPECT_EQ(boxes.shown()[2].text, QStringLiteral("Conversione eseguita..."));
-    EXPECT_EQ(textOf("txtLocalita"), QStringLiteral("ROMA"));
-    EXPECT_FALSE(isSeen("cmdConverte"));
-    EXPECT_TRUE(find("cmdItinerario")->isEnabled());
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 #include <QLineEdit>
 
 #include "desktop/table_view.h"
-#include "desktop/tints.h"
 #include "desktop_fixture.h"
 #include "guide/entries.h"
 
@@ -117,16 +116,6 @@ TEST_F(GuideByKeyboard, ALetterThatALabelSharesOnlyMovesTheFocus) {
         reached << focusName();
     }
     EXPECT_EQ(reached, QSet<QString>({QStringLiteral("cmbGTipo"), QStringLiteral("cmdStampaGuidaCitta")}));
-}
-
-TEST_F(GuideByKeyboard, WhiteIsLegibleOnEveryCategory) {
-    const auto luminance = [](const QColor& colour) {
-        const auto channel = [](float c) { return c <= 0.03928F ? c / 12.92F : std::pow((c + 0.055F) / 1.055F, 2.4F); };
-        return 0.2126F * channel(colour.redF()) + 0.7152F * channel(colour.greenF()) +
-               0.0722F * channel(colour.blueF());
-    };
-    for (int category = -1; category <= 21; ++category)
-        EXPECT_GE(1.05F / (luminance(coloreCategoria(category)) + 0.05F), 4.5F) << category;
 }
 
 } // namespace

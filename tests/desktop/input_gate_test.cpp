@@ -6,17 +6,7 @@
 namespace vanzer::desktop {
 namespace {
 
-class InputGateTest : public DesktopTest {
-  protected:
-    /// Does `hand` once, inside the next command.
-    void inside(const std::function<void()>& hand) {
-        QTimer::singleShot(0, &window(), [this, hand] {
-            worked_ = form().comandoInCorso;
-            hand();
-        });
-    }
-    bool worked_ = false;
-};
+using InputGateTest = DesktopTest;
 
 TEST_F(InputGateTest, KeysLettersAndClicksWaitInTheirOrder) {
     storeTrip(3);
@@ -34,7 +24,6 @@ TEST_F(InputGateTest, KeysLettersAndClicksWaitInTheirOrder) {
         EXPECT_FALSE(nation->hasFocus());
     });
     find<QAbstractButton>("cmdRicerca")->click();
-    EXPECT_TRUE(worked_);
     EXPECT_EQ(form().txtNazione.text(), QStringLiteral("Y"));
     EXPECT_EQ(form().txtLocalita.text(), QStringLiteral("X"));
     EXPECT_TRUE(nation->hasFocus());
@@ -47,33 +36,10 @@ TEST_F(InputGateTest, AWheelInsideACommandIsGone) {
     auto* const month = find("cmbInizio_1");
     month->setFocus();
     const QString before = textOf("cmbInizio_1");
-    inside([&] {
-        QWheelEvent turn(QPointF(5, 5), month->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                         Qt::NoScrollPhase, false);
-        QApplication::sendEvent(month, &turn);
-    });
+    inside([month] { turnWheel(*month); });
     find<QAbstractButton>("cmdCalcola")->click();
-    EXPECT_TRUE(worked_);
     QTest::qWait(60);
     EXPECT_EQ(textOf("cmbInizio_1"), before);
-}
-
-TEST_F(InputGateTest, StopGetsThrough) {
-    storeTrip(60);
-    open({.patience = 0, .yields = 0, .frames = 0});
-    QTimer looks;
-    QObject::connect(&looks, &QTimer::timeout, [&] {
-        if (textOf("cmdEsce") != QStringLiteral("&Stop"))
-            return;
-        looks.stop();
-        boxes.expect(Qt::Key_S);
-        QTest::mouseClick(find("cmdEsce"), Qt::LeftButton);
-    });
-    looks.start(0);
-    find<QAbstractButton>("cmdCalcola")->click();
-    ASSERT_EQ(boxes.shown().size(), 1U);
-    EXPECT_EQ(boxes.shown()[0].text, QStringLiteral("Vuoi interrompere l'elaborazione?"));
-    EXPECT_EQ(textOf("cmdCalcola"), QStringLiteral("&Calcola"));
 }
 
 } // namespace

@@ -68,8 +68,7 @@ TEST_F(Pdf, TextsAreFoundAgain) {
     for (qsizetype i = 0; i < texts.size(); ++i)
         printer.text({10, 10 + 10.0 * static_cast<double>(i)}, texts[i]);
     printer.endDoc();
-    const QStringList found =
-        output("pdftotext", {QStringLiteral("-layout"), inFolder("parole.pdf"), QStringLiteral("-")}).split(u'\n');
+    const QStringList found = textOfPdf(inFolder("parole.pdf")).split(u'\n');
     for (const QString& text : texts)
         EXPECT_TRUE(std::ranges::any_of(found, [&](const QString& line) { return line.trimmed() == text; }))
             << text.toStdString();
@@ -147,15 +146,11 @@ QByteArray composedGlyph(quint16 first, quint16 second) {
 
 /// A font of these glyphs.
 OutlineTables tablesOf(const std::vector<QByteArray>& glyphs, bool longOffsets) {
-    OutlineTables tables{.head = QByteArray(54, '\0'),
-                         .maxp = bytesOf<quint16>({0, 1, static_cast<quint16>(glyphs.size())}),
-                         .loca = {},
-                         .glyf = {},
-                         .hhea = QByteArray(36, '\0'),
-                         .hmtx = QByteArray(4, '\0'),
-                         .cvt = {},
-                         .fpgm = {},
-                         .prep = {}};
+    OutlineTables tables;
+    tables.head = QByteArray(54, '\0');
+    tables.maxp = bytesOf<quint16>({0, 1, static_cast<quint16>(glyphs.size())});
+    tables.hhea = QByteArray(36, '\0');
+    tables.hmtx = QByteArray(4, '\0');
     tables.head[51] = longOffsets ? 1 : 0;
     const auto offset = [&] {
         const auto at = static_cast<quint32>(tables.glyf.size());

@@ -1,13 +1,12 @@
 // A trip and its guide printed from the window by keys alone.
 #include <QListView>
-#include <QProcess>
 
-#include "desktop_fixture.h"
+#include "printing_fixture.h"
 
 namespace vanzer::desktop {
 namespace {
 
-class PrintByKeyboard : public DesktopTest {
+class PrintByKeyboard : public PrintingTest {
   protected:
     /// The trip's schedule, up to the choice of the printer.
     void openChoice(int legs) {
@@ -26,13 +25,6 @@ class PrintByKeyboard : public DesktopTest {
         find("lstStampanti")->setFocus();
         key(Qt::Key_End);
         withFile(path, [this] { letter('s'); });
-    }
-
-    [[nodiscard]] static QString textOfPdf(const QString& path) {
-        QProcess reader;
-        reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, QStringLiteral("-")});
-        EXPECT_TRUE(reader.waitForFinished());
-        return QString::fromUtf8(reader.readAllStandardOutput());
     }
 };
 
@@ -63,15 +55,12 @@ TEST_F(PrintByKeyboard, APrintIsStoppedByEsc) {
         key(Qt::Key_Space);
     letter('s');
     const QString path = directory.filePath(QStringLiteral("prova.pdf"));
-    QTimer whileItRuns;
-    QObject::connect(&whileItRuns, &QTimer::timeout, [this, &whileItRuns] {
-        if (!form().stato.StampaInCorso || QApplication::activeModalWidget() != nullptr ||
-            form().stato.PercentualeCorrente < 3)
-            return;
-        whileItRuns.stop();
-        QTest::keyClick(&window(), Qt::Key_Escape);
-    });
-    whileItRuns.start(0);
+    once(
+        [this] {
+            return form().stato.StampaInCorso && QApplication::activeModalWidget() == nullptr &&
+                   form().stato.PercentualeCorrente >= 3;
+        },
+        [this] { QTest::keyClick(&window(), Qt::Key_Escape); });
     boxes.expect(Qt::Key_Return); // yes, stop
     boxes.expect(Qt::Key_Return);
     boxes.expect(Qt::Key_Return);

@@ -55,6 +55,10 @@ class PrintingTest : public DesktopTest {
         return QString::fromUtf8(process.readAllStandardOutput());
     }
 
+    static QString textOfPdf(const QString& pdf) {
+        return output("pdftotext", {QStringLiteral("-layout"), pdf, QStringLiteral("-")});
+    }
+
     static int pageCount(const QString& pdf) {
         static const QRegularExpression pages(QStringLiteral("Pages: +(\\d+)"));
         return pages.match(output("pdfinfo", {pdf})).captured(1).toInt();

@@ -2,7 +2,6 @@
 // what becomes of it when letters are large.
 #include <cmath>
 
-#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -16,11 +15,6 @@
 
 namespace vanzer::desktop {
 namespace {
-
-QString nameOf(QWidget& widget) {
-    QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(&widget);
-    return face == nullptr ? QString() : face->text(QAccessible::Name).trimmed();
-}
 
 class Reach : public DesktopTest {
   protected:
@@ -60,7 +54,7 @@ TEST_F(Reach, WhatTakesTheFocusHasANameOfItsOwn) {
             if (const auto* const button = qobject_cast<QAbstractButton*>(widget);
                 button != nullptr && button->text().isEmpty())
                 continue;
-            const QString name = nameOf(*widget);
+            const QString name = spokenName(*widget);
             EXPECT_GT(name.size(), 1) << where << ": " << widget->objectName().toStdString();
             const auto [other, fresh] = met.try_emplace({widget->parentWidget(), name}, widget->objectName());
             EXPECT_TRUE(fresh) << where << ": " << name.toStdString() << " is " << other->second.toStdString()
@@ -100,12 +94,15 @@ TEST(Colours, TextsStandOutFromEveryGroundInTheLightAndInTheDark) {
         EXPECT_GE(contrast(tints.rule, base), 3) << "rule" << (palette == dark ? ", dark" : "");
         EXPECT_GE(contrast(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)), 3);
     }
+    for (int category = -1; category <= 21; ++category)
+        EXPECT_GE(contrast(Qt::white, coloreCategoria(category)), 4.5) << category;
 }
 
-/// Room that a text needs beyond what it has; 0 for none.
-QSize missing(QWidget& widget) {
-    const QSize wish = widget.sizeHint();
-    return {std::max(0, wish.width() - widget.width()), std::max(0, wish.height() - widget.height())};
+/// A text needs no more room than it has.
+void expectWhole(const QWidget& widget, const std::string& where) {
+    const QSize lacks = widget.sizeHint() - widget.size();
+    EXPECT_TRUE(lacks.width() <= 1 && lacks.height() <= 2)
+        << where << ": " << widget.objectName().toStdString() << " lacks " << lacks.width() << " x " << lacks.height();
 }
 
 TEST_F(Reach, LettersUpToTwiceAsLargeStayWhole) {
@@ -120,16 +117,11 @@ TEST_F(Reach, LettersUpToTwiceAsLargeStayWhole) {
         QCoreApplication::processEvents();
         withEachFrame([&](const std::string& where) {
             for (QWidget* const widget : window().findChildren<QWidget*>()) {
-                const bool shows = qobject_cast<QPushButton*>(widget) != nullptr ||
-                                   qobject_cast<QCheckBox*>(widget) != nullptr ||
-                                   qobject_cast<QRadioButton*>(widget) != nullptr;
                 const auto* const label = qobject_cast<QLabel*>(widget);
-                if (!widget->isVisible() || (!shows && (label == nullptr || label->wordWrap())))
-                    continue;
-                const QSize lacks = missing(*widget);
-                EXPECT_TRUE(lacks.width() <= 1 && lacks.height() <= 2)
-                    << "scale " << scale << ", " << where << ": " << widget->objectName().toStdString() << " lacks "
-                    << lacks.width() << " x " << lacks.height();
+                const bool shows =
+                    label != nullptr ? !label->wordWrap() : qobject_cast<QAbstractButton*>(widget) != nullptr;
+                if (widget->isVisible() && shows)
+                    expectWhole(*widget, where + ", scale " + std::to_string(scale));
             }
             EXPECT_LE(window().width(), 1920) << "scale " << scale << ", " << where;
             EXPECT_LE(window().height(), 1200) << "scale " << scale << ", " << where;
@@ -168,10 +160,8 @@ TEST_F(Reach, ASmallWindowShowsEverythingOrScrollsToIt) {
             for (QWidget* const widget : window().findChildren<QWidget*>()) {
                 if (!widget->isVisible() || (widget->focusPolicy() & Qt::TabFocus) == 0)
                     continue;
-                const QSize lacks = qobject_cast<QAbstractButton*>(widget) == nullptr ? QSize() : missing(*widget);
-                EXPECT_TRUE(lacks.width() <= 1 && lacks.height() <= 2)
-                    << size.width() << ", " << where << ": " << widget->objectName().toStdString() << " lacks "
-                    << lacks.width() << " x " << lacks.height();
+                if (qobject_cast<QAbstractButton*>(widget) != nullptr)
+                    expectWhole(*widget, where + ", width " + std::to_string(size.width()));
                 EXPECT_TRUE(isReached(*widget)) << size.width() << ", " << where << ": "
                                                 << widget->objectName().toStdString() << " is out of reach";
             }

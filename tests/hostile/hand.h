@@ -15,7 +15,7 @@ namespace vanzer::hostile {
 
 class Hand {
   public:
-    explicit Hand(std::uint64_t number) : chance_(number), typesMarks_(oneIn(8)) {}
+    explicit Hand(std::uint64_t number) : chance_(number), typesMarks_(oneIn(8)), route_(below(3)) {}
 
     /// The next command line for the window as it stands; null where there is none.
     [[nodiscard]] QString next(const Form* window);
@@ -25,43 +25,16 @@ class Hand {
     [[nodiscard]] bool typesMarks() const { return typesMarks_; }
 
   private:
-    /// Work that can be begun while its first control is there.
-    struct Work {
-        const Control& door;
-        void (Hand::*plan)(const Form& window);
-    };
-
     template<typename List> [[nodiscard]] auto& oneOf(List& list) {
         return list[static_cast<typename List::size_type>(below(static_cast<std::size_t>(list.size())))];
     }
     [[nodiscard]] bool oneIn(std::size_t cases) { return below(cases) == 0; }
 
-    void plan(const QStringList& lines);
-    void planAnswers();
-    void planClick(const QString& button);
+    /// Lines of the plan, in the language of work.cpp, for the window as it stands.
+    void plan(const QString& lines, const Form& window);
+    [[nodiscard]] QString filled(const QString& line, const Form& window);
+    [[nodiscard]] QString given(const QString& wanted, const Form& window);
     void planWork(const Form& window);
-    void planTrip(const Form& window);
-    void planLegs(const Form& window);
-    void planLeg();
-    void planRow(const Form& window);
-    void planWayBack(const Form& window);
-    void planLegSearch(const Form& window);
-    void planStops(const Form& window);
-    void planEndOfLegs(const Form& window);
-    void planGuide(const Form& window);
-    void planEntry(const Form& window);
-    void planGuidePrint(const Form& window);
-    void planExport(const Form& window);
-    void planImport(const Form& window);
-    void planStretch(const Form& window);
-    void planCopy(const Form& window);
-    void planRoute(const Form& window);
-    void planParameters(const Form& window);
-    void planCalculation(const Form& window);
-    void planPrint(const Form& window);
-    void planConversion(const Form& window);
-    void planSearch(const Form& window);
-    void planDeletion(const Form& window);
     void planWayOut(const Form& window);
 
     [[nodiscard]] QString onControl(const Control& control);
@@ -81,6 +54,7 @@ class Hand {
 
     std::mt19937_64 chance_;
     bool typesMarks_;
+    int route_; ///< of the planner's three the one that this user brings in
     std::deque<QString> planned_;
 };
 

@@ -96,9 +96,7 @@ Script Pairs::script(quint64 number) const {
               u"click cmdItinerario"_s,
               u"answer 6 6"_s,
               u"click cmdFine"_s};
-    return {number, door.folder, false, [lines, i = qsizetype(0)](const Form* /*window*/) mutable {
-                return i < lines.size() ? lines[i++] : QString();
-            }};
+    return {number, door.folder, false, linesOf(lines)};
 }
 
 } // namespace vanzer::hostile

@@ -128,6 +128,13 @@ QString brokenSingle(const store::TabellaLetta& table, int number, Looks& looks)
     return {};
 }
 
+/// As a schedule writes it: with no mark, which may be typed or taken away while it is at work.
+QString unmarked(QString place) {
+    for (const QString& mark : setMarks)
+        place.remove(mark, Qt::CaseInsensitive);
+    return Trim(place);
+}
+
 } // namespace
 
 QString brokenInWindow(const Form& window, bool marksRepeated, Looks& looks) {
@@ -163,9 +170,9 @@ void ScheduleRows::see(const Form& window) {
         return;
     std::set<QString> legs;
     for (int r = 0; r < window.tappeConservate->rows(); ++r)
-        legs.insert(Trim(window.tappeConservate->text(r, 1)));
+        legs.insert(unmarked(window.tappeConservate->text(r, 1)));
     for (int r = 1; r < window.mfgTab.rows(); ++r) {
-        if (const QString place = Trim(window.mfgTab.cell(r, 1)); !legs.contains(place))
+        if (const QString place = unmarked(window.mfgTab.cell(r, 1)); !legs.contains(place))
             places_.insert(place);
     }
 }
@@ -176,7 +183,7 @@ QString ScheduleRows::storedIn(store::Archive& archive, Looks& looks) const {
     for (const auto& record : legs.record) {
         const auto* const text = std::get_if<QString>(&record.at(place));
         looks["legs that are no rows of a schedule"] += places_.empty() ? 0 : 1;
-        if (text != nullptr && places_.contains(Trim(*text)))
+        if (text != nullptr && places_.contains(unmarked(*text)))
             return u"a row of a schedule is stored as a leg: "_s + *text;
     }
     return {};

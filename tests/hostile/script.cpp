@@ -131,6 +131,10 @@ void ScriptFile::begin() {
     file_.seek(0);
 }
 
+NextLine linesOf(const QStringList& lines) {
+    return [lines, i = qsizetype(0)](const Form* /*window*/) mutable { return lines.value(i++); };
+}
+
 QString run(const Script& script, const Folders& folders, ScriptFile& file, Totals& totals) {
     const QString folder = folders.lay(script.folder);
     QDir::setCurrent(folder);

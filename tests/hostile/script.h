@@ -36,13 +36,17 @@ class ScriptFile {
     QFile file_;
 };
 
+using NextLine = std::function<QString(const Form* window)>;
 struct Script {
     quint64 number = 0;
     int folder = 0;          ///< the one that it begins with
     bool typesMarks = false; ///< marks of the first and last destination may come in as texts
     /// The next line for the window as it stands; null behind the last one.
-    std::function<QString(const Form* window)> next;
+    NextLine next;
 };
+
+/// These lines, whatever the window is like.
+[[nodiscard]] NextLine linesOf(const QStringList& lines);
 
 /// What broke; empty if all held.
 [[nodiscard]] QString run(const Script& script, const Folders& folders, ScriptFile& file, Totals& totals);

@@ -22,12 +22,6 @@ bool breaks(const Script& script, const Folders& folders, ScriptFile& file) {
     return status != 0;
 }
 
-Script fixedScript(const Script& like, const QStringList& lines) {
-    return {like.number, like.folder, like.typesMarks, [lines, i = qsizetype(0)](const Form* /*window*/) mutable {
-                return i < lines.size() ? lines[i++] : QString();
-            }};
-}
-
 QStringList written(const ScriptFile& file) {
     QFile lines(file.path());
     static_cast<void>(lines.open(QIODevice::ReadOnly));
@@ -44,7 +38,7 @@ std::optional<QStringList> shrunk(const Script& script, const Folders& folders, 
         for (qsizetype at = 0; at < needed.size();) {
             QStringList fewer = needed;
             fewer.remove(at, std::min(part, fewer.size() - at));
-            if (breaks(fixedScript(script, fewer), folders, file))
+            if (breaks({script.number, script.folder, script.typesMarks, linesOf(fewer)}, folders, file))
                 needed = fewer;
             else
                 at += part;

@@ -5,163 +5,64 @@ namespace vanzer::hostile {
 using namespace Qt::StringLiterals;
 
 const QStringList& texts() {
-    static const QStringList all{u""_s,
-                                 u" "_s,
-                                 u"   "_s,
-                                 u"x"_s,
-                                 QString(300, u'l'),
-                                 QString(5000, u'à'),
-                                 u"'"_s,
-                                 u"''"_s,
-                                 u"\""_s,
-                                 u"`"_s,
-                                 u"L'AQUILA"_s,
-                                 u"O'; DROP TABLE Itinerari; --"_s,
-                                 u"*"_s,
-                                 u"?"_s,
-                                 u"#"_s,
-                                 u"%"_s,
-                                 u"_"_s,
-                                 u"[A-Z]*"_s,
-                                 u"[!a]"_s,
-                                 u"["_s,
-                                 u"]"_s,
-                                 u"("_s,
-                                 u")"_s,
-                                 u"ROMA (X)"_s,
-                                 u"ROMA (Y"_s,
-                                 u"(X)"_s,
-                                 u" (notte)"_s,
-                                 u"> a Roma"_s,
-                                 u"*VV"_s,
-                                 u"-5"_s,
-                                 u"-"_s,
-                                 u"+"_s,
-                                 u"0"_s,
-                                 u"00"_s,
-                                 u"000"_s,
-                                 u"007"_s,
-                                 u"1"_s,
-                                 u"9"_s,
-                                 u"24"_s,
-                                 u"25"_s,
-                                 u"59"_s,
-                                 u"60"_s,
-                                 u"99"_s,
-                                 u"999"_s,
-                                 u"9999"_s,
-                                 u"99999"_s,
-                                 u"999999"_s,
-                                 u"1.234"_s,
-                                 u"1,5"_s,
-                                 u"0.5"_s,
-                                 u"2147483647"_s,
-                                 u"-2147483648"_s,
-                                 u"99999999999999999999"_s,
-                                 u"1e999"_s,
-                                 u"1e5"_s,
-                                 u"1d3"_s,
-                                 u"&HFF"_s,
-                                 u"NaN"_s,
-                                 u"inf"_s,
-                                 u"24:00"_s,
-                                 u"99:99"_s,
-                                 u"00:00"_s,
-                                 u"12.30"_s,
-                                 u"2400"_s,
-                                 u"31/02/2003"_s,
-                                 u"29/02/2100"_s,
-                                 u"00/00/0000"_s,
-                                 u"G1"_s,
-                                 u"G8"_s,
-                                 u"G9"_s,
-                                 u"01:30"_s,
-                                 u"A-B"_s,
-                                 u"--"_s,
-                                 u"B-A-a"_s,
-                                 u"Città di Forlì è più là"_s,
-                                 u"ŁÓDŹ"_s,
-                                 u"Αθήνα"_s,
-                                 u"ß"_s,
-                                 u"İstanbul"_s,
-                                 u"e\u0301\u0300"_s,
-                                 u"😀🚐"_s,
-                                 u"\u202Eatrabla"_s,
-                                 u"ÿþý"_s,
-                                 u"aÿbþcýd"_s,
-                                 u"^"_s,
-                                 u"a^b"_s,
-                                 u"a\\\\b"_s,
-                                 u"\\n"_s,
-                                 u"riga\\nriga"_s,
-                                 u"\\t"_s,
-                                 u"a\\tb"_s,
-                                 u"\u0001\u0007"_s,
-                                 u"\u007F"_s,
-                                 u"\uFFFD"_s,
-                                 u"\uFEFF"_s,
-                                 u"Rif. 3, cs"_s,
-                                 u"db"_s,
-                                 u"DB12"_s,
-                                 u"TRAGH"_s,
-                                 u"A1"_s,
-                                 u"SS16"_s,
-                                 u"Autostrada"_s,
-                                 u"AUTOSTRADA DEL SOLE"_s,
-                                 u"True"_s,
-                                 u"Falso"_s,
-                                 QString::fromLatin1("a\0b", 3),
-                                 QString(QChar(0xD800)),
-                                 QString(64, u'*'),
-                                 QString(30, u'('),
-                                 u"[10-20]"_s,
-                                 u"[Park: 7]"_s,
-                                 u"Ottimo"_s,
-                                 u"Campeggio"_s,
-                                 u"#commento"_s,
-                                 u"29/02/2000"_s,
-                                 u"01012003"_s,
-                                 u"3,14159265358979"_s,
-                                 u"-0,5"_s,
-                                 u"4294967296"_s,
-                                 u"32768"_s,
-                                 u"00012"_s,
-                                 u"12,"_s,
-                                 u"000001"_s,
-                                 u"\u0661\u0662"_s,
-                                 u"\u05E9\u05DC\u05D5\u05DD"_s,
-                                 u"\u200D\u200B"_s,
-                                 u"\u2028"_s,
-                                 u"\u00A0"_s,
-                                 QString(30, QChar(0x301)),
-                                 QString::fromUcs4(U"\U0001F468\u200D\U0001F469\u200D\U0001F467", 5).repeated(12),
-                                 u"x"_s + QString::fromUcs4(U"\U0001F690", 1).repeated(60),
-                                 QString(96, u'\''),
-                                 QString(5000, u'9'),
-                                 u"TRAGH "_s.repeated(20),
-                                 u"DIARI DI BORDO"_s,
-                                 u"(svincolo) (2)"_s};
+    static const QStringList all =
+        // Blanks, quotes, patterns, brackets.
+        (u"| |   |x|'|''|\"|`|L'AQUILA|O'; DROP TABLE Itinerari; --|*|?|#|%|_|[A-Z]*|[!a]|[|]|(|)|ROMA (X)|ROMA (Y|(X)|"
+         u" (notte)|> a Roma|*VV|[10-20]|[Park: 7]|#commento|(svincolo) (2)|^|a^b|a\\\\b|\\n|riga\\nriga|\\t|a\\tb|"
+         // Numbers, hours, dates.
+         u"-5|-|+|0|00|000|007|1|9|24|25|59|60|99|999|9999|99999|999999|1.234|1,5|0.5|2147483647|-2147483648|32768|"
+         u"99999999999999999999|1e999|1e5|1d3|&HFF|NaN|inf|3,14159265358979|-0,5|4294967296|00012|12,|000001|24:00|99:"
+         u"99|"
+         u"00:00|12.30|2400|01:30|31/02/2003|29/02/2100|29/02/2000|01012003|00/00/0000|\u0661\u0662|"
+         // What means something somewhere.
+         u"G1|G8|G9|A-B|--|B-A-a|Rif. 3, cs|db|DB12|TRAGH|A1|SS16|Autostrada|AUTOSTRADA DEL SOLE|True|Falso|Ottimo|"
+         u"Campeggio|DIARI DI BORDO|"
+         // Letters of every kind.
+         u"Città di Forlì è più "
+         u"là|ŁÓDŹ|Αθήνα|ß|İstanbul|e\u0301\u0300|😀🚐|\u202Eatrabla|ÿþý|aÿbþcýd|\u0001\u0007|\u007F|"
+         u"\uFFFD|\uFEFF|\u05E9\u05DC\u05D5\u05DD|\u200D\u200B|\u2028|\u00A0"_s)
+            .split(u'|') +
+        QStringList{QString(300, u'l'),
+                    QString(5000, u'à'),
+                    QString(5000, u'9'),
+                    QString(96, u'\''),
+                    QString(64, u'*'),
+                    QString(30, u'('),
+                    QString(30, QChar(0x301)),
+                    QString(QChar(0xD800)),
+                    QString::fromLatin1("a\0b", 3),
+                    u"TRAGH "_s.repeated(20),
+                    u"👨\u200D👩\u200D👧"_s.repeated(12),
+                    u"x"_s + u"🚐"_s.repeated(60)};
     return all;
 }
 
 const QStringList& marks() {
-    static const QStringList all{u" [Start]"_s, u" [End]"_s,         u"ROMA [Start]"_s,     u"CASA [Start] [End]"_s,
-                                 u"[End]"_s,    u"[start][START]"_s, u"ROMA (X) [Start]"_s, u"BOLOGNA [End] [Start]"_s};
+    static const QStringList all =
+        u" [Start]| [End]|ROMA [Start]|CASA [Start] [End]|[End]|[start][START]|ROMA (X) [Start]|BOLOGNA [End] [Start]"_s
+            .split(u'|');
     return all;
 }
 
 const QStringList& places() {
-    static const QStringList all{u"ROMA"_s,       u"ROMA NORD"_s,  u"BOLOGNA"_s,   u"L'AQUILA"_s,    u"HELSINKI"_s,
-                                 u"LÜBECK"_s,     u"TRAVEMÜNDE"_s, u"CAPO NORD"_s, u"ROMA (PARK)"_s, u"CASA"_s,
-                                 u"San Marino"_s, u"ALTA"_s,       u"BOLOGNA"_s};
+    static const QStringList all = u"ROMA|ROMA NORD|BOLOGNA|L'AQUILA|HELSINKI|LÜBECK|TRAVEMÜNDE|CAPO NORD|ROMA (PARK)|"
+                                   u"CASA|San Marino|ALTA|BOLOGNA"_s.split(u'|');
     return all;
 }
 
 const QStringList& keyCodes() {
-    static const QStringList all{u"0"_s,     u"8"_s,       u"9"_s,       u"10"_s, u"13"_s, u"27"_s,  u"32"_s,
-                                 u"33"_s,    u"34"_s,      u"35"_s,      u"36"_s, u"37"_s, u"38"_s,  u"39"_s,
-                                 u"40"_s,    u"46"_s,      u"48"_s,      u"65"_s, u"97"_s, u"112"_s, u"8364"_s,
-                                 u"55296"_s, u"1114111"_s, u"1114112"_s, u"-1"_s};
+    static const QStringList all = u"0 8 9 10 13 27 32 33 34 35 36 37 38 39 40 46 48 65 97 112 8364 55296 1114111 "
+                                   u"1114112 -1"_s.split(u' ');
+    return all;
+}
+
+const QStringList& files() {
+    static const QStringList all =
+        u"giri.iei tronco.iei rotto.bin vuoto.txt nuovo.iei whole.iei quotes_and_breaks.iei odd_codes.iei twice.iei "
+        u"doppio.iei long_texts.iei wide.iei separators_in_names.iei no_heads.iei scozia.txt scozia.csv grecia.txt "
+        u"grecia.csv portogallo.txt portogallo.csv brackets.txt missing_columns.txt odd_numbers.csv parts.csv "
+        u"manca.txt "
+        u"cartella nuovo.pdf cartella/nuovo.iei manca/x.iei - Vanzer.mdb ./Vanzer.mdb nuovo.pdf"_s.split(u' ');
     return all;
 }
 

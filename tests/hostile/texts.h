@@ -1,4 +1,4 @@
-// What is typed: texts of every kind, places, character codes.
+// What is typed: texts of every kind, places, character codes, names of files.
 #pragma once
 
 #include <QStringList>
@@ -11,5 +11,7 @@ namespace vanzer::hostile {
 [[nodiscard]] const QStringList& marks();
 [[nodiscard]] const QStringList& places();
 [[nodiscard]] const QStringList& keyCodes();
+/// Most of them lie in the folders that scripts begin with.
+[[nodiscard]] const QStringList& files();
 
 } // namespace vanzer::hostile

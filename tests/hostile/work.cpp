@@ -1,282 +1,154 @@
 // Work that makes sense, so that users get deep into what the program does. Each piece is a few lines that are given
 // one after the other, whatever comes of them.
 
+#include <algorithm>
 #include <vector>
 
 #include "hostile/hand.h"
-#include "hostile/line.h"
 
 namespace vanzer::hostile {
 
 using namespace Qt::StringLiterals;
 
-void Hand::plan(const QStringList& lines) {
-    planned_.insert(planned_.end(), lines.begin(), lines.end());
-}
+namespace {
 
-void Hand::planAnswers() {
-    planned_.push_back(answers());
-}
+/// Work that can be begun while its door can be reached. Its lines are parted by "; ". A line behind "3? " is given one
+/// time in three; "+DOOR" stands for the lines of that door. Of what stands in braces, parted by "|", one is taken, and
+/// what is a word of chance gives a text of that kind; "<5" is a number from 0 to 4. No lines: the door itself is used.
+struct Work {
+    QLatin1StringView door;
+    QLatin1StringView lines;
+};
 
-/// A click on something that may take long; at times the user does another thing meanwhile.
-void Hand::planClick(const QString& button) {
-    static const QStringList meanwhile{u"during click cmdEsce"_s,
-                                       u"during click cmdCalcola"_s,
-                                       u"during vars"_s,
-                                       u"during start"_s,
-                                       u"during stop"_s,
-                                       u"during row mfgTab 2"_s,
-                                       u"during set txtLocalita X"_s,
-                                       u"during click cmdFine"_s};
-    if (oneIn(6))
-        plan({oneOf(meanwhile)});
-    plan({line({u"click"_s, button})});
-}
+constexpr Work works[] = {
+    {"cmdNuovo"_L1, "click cmdNuovo; set txtLocalita {place}; set txtNazione {text}; 2? set cmbGiorni {number}; "
+                    "4? set cmbInizio({<5}) {number}; {answers}; click cmdSalva; +cmdItinerario"_L1},
+    {"cmdItinerario"_L1, "click cmdItinerario; +txtTappa; 2? +txtTappa; 2? +txtTappa; 2? +txtTappa"_L1},
+    {"txtTappa"_L1,
+     "set txtTappa {place}; set txtNumStrada {text|A1|A1}; set txtKm {number}; option optStrada({<4}); "
+     "3? set cmbSosta({<3}) {number}; 4? check chkMeta({<2}) 1; 8? check chkEndDay 1; click cmdInserisce"_L1},
+    {"cmdAggiunge"_L1, "row mfgTab {row}; {click cmdAggiunge|click cmdCancella|click cmdInserisce|dblclick mfgTab}; "
+                       "2? {click cmdAggiunge|click cmdCancella|click cmdInserisce|dblclick mfgTab}"_L1},
+    {"cmdRitorno"_L1, "key mfgTab 34; set txtTappa {above}; set txtKm 12; click cmdInserisce; click cmdRitorno"_L1},
+    {"cmdCerca"_L1, "click cmdCerca"_L1},
+    {"cmdTrasferisce"_L1, "{answers}; click {cmdTrasferisce|cmdAzzeraSoste}; {answers}; click cmdRicalcola"_L1},
+    {"cmdMemorizza"_L1, "{answers}; click {cmdFine|cmdFine|cmdMemorizza}"_L1},
+    {"cmdGuidaCitta"_L1, "click cmdGuidaCitta; +txtGDescr"_L1},
+    {"txtGDescr"_L1, "row mfgTab {<10}; set txtGDescr {text}; set txtGGruppo {A-B|text}; set cmbGH {01|number}; "
+                     "set cmbGM {30|number}; click cmdSalvaRiga; 2? keydown {txtGDescr|txtGGruppo} {33|34|38|40}; "
+                     "3? +cmdCancellaRiga; 3? +cmdFind; 4? click cmdFineInserimento"_L1},
+    {"cmdCancellaRiga"_L1, "{answers}; row mfgTab {<12}; click cmdCancellaRiga"_L1},
+    {"cmdFind"_L1, "set txtGDescr {text}; click cmdFind"_L1},
+    {"cmdStampaGuidaCitta"_L1, "click cmdStampaGuidaCitta; option optGuidaListaStampa({<2}); "
+                               "option optGuidaDettaglioStampa({<2}); click cmdStampaGuida(0); +lstStampanti"_L1},
+    {"cmdExport"_L1, "click cmdExport; click cmdImportExport(0); row mfgImExp(0) {<6}; 2? click cmdTutto(0); {file}; "
+                     "{answers}; click cmdImExp(0)"_L1},
+    {"cmdExport"_L1, "click cmdExport; {file}; click cmdImportExport(1); row mfgImExp(1) {<5}; 2? click cmdTutto(1); "
+                     "{answers}; click cmdImExp(0)"_L1},
+    {"cmdModStrada"_L1, "click cmdModStrada; row mfgTab {<9}; click cmdTappaSEl(0); row mfgTab {<12}; "
+                        "click cmdTappaSEl(1); option optTStrada({<4}); click cmdTappaSEl(2); {answers}; "
+                        "click cmdTappaSEl({3|4})"_L1},
+    {"cmdDuplica"_L1, "click cmdDuplica; row mfgCopia {<5}; row mfgCopia {<10}; click cmdAssegna(0); "
+                      "row mfgCopia {<10}; click cmdAssegna(1); check chkInsSoste {<2}; {answers}; "
+                      "click cmdInsEsegui(0)"_L1},
+    // A planner's route into a trip that has no legs yet, and the stops that belong to it.
+    {"cmdNuovo"_L1, "click cmdNuovo; set txtLocalita GIRO {<1000}; set txtNazione ITALIA; answer 6; click cmdSalva; "
+                    "click cmdItinerario; +cmdMapPoint"_L1},
+    {"cmdMapPoint"_L1, "3? {file}; file {route}.txt; click cmdMapPoint; "
+                       "3? {file}; file {route}.csv; {answers}; click cmdSelezionaMete"_L1},
+    {"cmbGiorni"_L1, "+cmbMediaKm(0); 2? +cmbMediaKm(0); {answers}; "
+                     "click {cmdDefault(0)|cmdDefault(1)|cmdDefault(2)|cmdSalva|cmdSalva|cmdSalva}"_L1},
+    {"cmbMediaKm(0)"_L1, "set cmbOra({<7}) {number}; set cmbMin({<7}) {number}; set cmbMediaKm({<4}) {number}; "
+                         "2? set {cmbRipM|cmbRipH|cmbRipG|cmbRipGG|cmbRange|cmbSoste} {number}"_L1},
+    {"cmdCalcola"_L1, "set cmbGiorni {number}; {answers}; click cmdCalcola; 2? click cmdCalcola"_L1},
+    {"cmdStampa"_L1, "click cmdStampa; check chkTabella {<2}; check chkModuli {0|0|0|0|0|1}; "
+                     "check chkFrontespizio {<2}; check chkVociFrontespizio({<4}) {<2}; click cmdEsegui(0); "
+                     "+lstStampanti"_L1},
+    {"lstStampanti"_L1, "2? pick lstStampanti PDF; {file}; {answers}; click cmdSelStampante(0)"_L1},
+    {"cmdConverte"_L1, "{answers}; click cmdConverte"_L1},
+    {"cmdRicerca"_L1, "click cmdRicerca"_L1},
+    {"cmbRicercaTappa"_L1, {}},
+    {"cmbRicerca"_L1, {}},
+    {"cmdCancItin"_L1, "{answers}; click {cmdCancItin|cmdCancMeta}"_L1},
+};
 
-void Hand::planTrip(const Form& window) {
-    plan({u"click cmdNuovo"_s, line({u"set txtLocalita"_s, place()}), line({u"set txtNazione"_s, text()})});
-    if (oneIn(2))
-        plan({line({u"set cmbGiorni"_s, number()})});
-    if (oneIn(4))
-        plan({line({u"set cmbInizio(%1)"_s.arg(below(5)), number()})});
-    planAnswers();
-    planClick(u"cmdSalva"_s);
-    if (oneIn(4))
-        return;
-    planClick(u"cmdItinerario"_s);
-    planLegs(window);
-}
+} // namespace
 
-void Hand::planLegs(const Form& /*window*/) {
-    if (oneIn(5))
-        plan({u"click cmdItinerario"_s});
-    for (int legs = 1 + below(5); legs > 0; --legs)
-        planLeg();
-}
-
-void Hand::planLeg() {
-    plan({line({u"set txtTappa"_s, place()}), line({u"set txtNumStrada"_s, oneIn(3) ? text() : u"A1"_s}),
-          line({u"set txtKm"_s, number()}), u"option optStrada(%1)"_s.arg(below(4))});
-    if (oneIn(3))
-        plan({line({u"set cmbSosta(%1)"_s.arg(below(3)), number()})});
-    if (oneIn(4))
-        plan({u"check chkMeta(%1) 1"_s.arg(below(2))});
-    if (oneIn(8))
-        plan({u"check chkEndDay 1"_s});
-    plan({u"click cmdInserisce"_s});
-}
-
-/// A row of the table, and what can be done with it.
-void Hand::planRow(const Form& window) {
-    static const QStringList buttons{u"click cmdAggiunge"_s, u"click cmdCancella"_s, u"click cmdInserisce"_s,
-                                     u"dblclick mfgTab"_s};
-    plan({line({u"row mfgTab"_s, count(static_cast<std::size_t>(window.mfgTab.rows()))})});
-    for (int times = 1 + below(3); times > 0; --times)
-        plan({oneOf(buttons)});
-}
-
-void Hand::planWayBack(const Form& window) {
-    const Grid& legs = window.mfgTab;
-    const QString before = legs.cell(1 + below(static_cast<std::size_t>(legs.rows())), 1);
-    plan({u"key mfgTab 34"_s, line({u"set txtTappa"_s, before}), u"set txtKm 12"_s, u"click cmdInserisce"_s,
-          u"click cmdRitorno"_s});
-}
-
-void Hand::planLegSearch(const Form& window) {
-    const ListControl& found = window.cmbRicercaTappa;
-    if (found.reachable() && found.count() > 0)
-        plan({line({u"pick cmbRicercaTappa"_s, oneOf(found.entries())})});
-    else
-        plan({u"click cmdCerca"_s});
-}
-
-void Hand::planStops(const Form& /*window*/) {
-    planAnswers();
-    planClick(oneIn(2) ? u"cmdTrasferisce"_s : u"cmdAzzeraSoste"_s);
-    planAnswers();
-    planClick(u"cmdRicalcola"_s);
-}
-
-void Hand::planEndOfLegs(const Form& /*window*/) {
-    planAnswers();
-    planClick(oneIn(3) ? u"cmdMemorizza"_s : u"cmdFine"_s);
-}
-
-void Hand::planGuide(const Form& window) {
-    plan({u"click cmdGuidaCitta"_s});
-    planEntry(window);
-}
-
-void Hand::planEntry(const Form& /*window*/) {
-    plan({line({u"row mfgTab"_s, count(10)}), line({u"set txtGDescr"_s, text()}),
-          line({u"set txtGGruppo"_s, oneIn(2) ? u"A-B"_s : text()}),
-          line({u"set cmbGH"_s, oneIn(2) ? u"01"_s : number()}), line({u"set cmbGM"_s, oneIn(2) ? u"30"_s : number()}),
-          u"click cmdSalvaRiga"_s});
-    if (oneIn(2)) {
-        static const QStringList keys{u"33"_s, u"34"_s, u"38"_s, u"40"_s};
-        plan({line({u"keydown"_s, oneIn(2) ? u"txtGDescr"_s : u"txtGGruppo"_s, oneOf(keys)})});
+QString Hand::given(const QString& wanted, const Form& window) {
+    static const struct {
+        QLatin1StringView word;
+        QString (Hand::*give)();
+    } kinds[] = {{"text"_L1, &Hand::text},
+                 {"place"_L1, &Hand::place},
+                 {"number"_L1, &Hand::number},
+                 {"file"_L1, &Hand::file},
+                 {"answers"_L1, &Hand::answers}};
+    for (const auto& kind : kinds) {
+        if (wanted == kind.word)
+            return (this->*kind.give)();
     }
-    if (oneIn(3)) {
-        planAnswers();
-        plan({line({u"row mfgTab"_s, count(12)}), u"click cmdCancellaRiga"_s});
+    const auto rows = static_cast<std::size_t>(window.mfgTab.rows());
+    if (wanted == u"row"_s)
+        return count(rows);
+    if (wanted == u"above"_s)
+        return window.mfgTab.cell(1 + below(rows), 1);
+    if (wanted == u"route"_s)
+        return QStringList{u"scozia"_s, u"grecia"_s, u"portogallo"_s}[route_];
+    return wanted.startsWith(u'<') ? count(wanted.sliced(1).toUInt()) : wanted;
+}
+
+QString Hand::filled(const QString& line, const Form& window) {
+    QStringList parts = line.split(u'{');
+    QString full = parts.takeFirst();
+    for (const QString& part : parts) {
+        const auto close = part.indexOf(u'}');
+        const QStringList choice = part.first(close).split(u'|');
+        full += given(oneOf(choice), window) + part.sliced(close + 1);
     }
-    if (oneIn(3))
-        plan({line({u"set txtGDescr"_s, text()}), u"click cmdFind"_s});
-    if (oneIn(4))
-        plan({u"click cmdFineInserimento"_s});
+    return full;
 }
 
-void Hand::planGuidePrint(const Form& /*window*/) {
-    plan({u"click cmdStampaGuidaCitta"_s, u"option optGuidaListaStampa(%1)"_s.arg(below(2)),
-          u"option optGuidaDettaglioStampa(%1)"_s.arg(below(2)), u"click cmdStampaGuida(0)"_s});
-    if (oneIn(2))
-        plan({u"pick lstStampanti PDF"_s, file()});
-    planClick(u"cmdSelStampante(0)"_s);
-}
-
-void Hand::planExport(const Form& /*window*/) {
-    plan({u"click cmdExport"_s, u"click cmdImportExport(0)"_s,
-          oneIn(2) ? u"click cmdTutto(0)"_s : u"row mfgImExp(0) %1"_s.arg(1 + below(5)), file()});
-    planAnswers();
-    planClick(u"cmdImExp(0)"_s);
-}
-
-void Hand::planImport(const Form& /*window*/) {
-    plan({u"click cmdExport"_s, file()});
-    planClick(u"cmdImportExport(1)"_s);
-    plan({oneIn(2) ? u"click cmdTutto(1)"_s : u"row mfgImExp(1) %1"_s.arg(1 + below(4))});
-    planAnswers();
-    planClick(u"cmdImExp(0)"_s);
-}
-
-void Hand::planStretch(const Form& /*window*/) {
-    plan({u"click cmdModStrada"_s, u"row mfgTab %1"_s.arg(below(9)), u"click cmdTappaSEl(0)"_s,
-          u"row mfgTab %1"_s.arg(below(12)), u"click cmdTappaSEl(1)"_s, u"option optTStrada(%1)"_s.arg(below(4)),
-          u"click cmdTappaSEl(2)"_s});
-    planAnswers();
-    plan({u"click cmdTappaSEl(%1)"_s.arg(3 + below(2))});
-}
-
-void Hand::planCopy(const Form& /*window*/) {
-    plan({u"click cmdDuplica"_s, u"row mfgCopia %1"_s.arg(1 + below(4)), u"row mfgCopia %1"_s.arg(1 + below(9)),
-          u"click cmdAssegna(0)"_s, u"row mfgCopia %1"_s.arg(1 + below(9)), u"click cmdAssegna(1)"_s,
-          u"check chkInsSoste %1"_s.arg(below(2))});
-    planAnswers();
-    planClick(u"cmdInsEsegui(0)"_s);
-}
-
-/// A planner's route into a trip that has no legs yet, and the stops that belong to it.
-void Hand::planRoute(const Form& window) {
-    static const QStringList routes{u"scozia"_s, u"grecia"_s, u"portogallo"_s};
-    const QString route = oneOf(routes);
-    if (!window.cmdMapPoint.reachable()) {
-        plan({u"click cmdNuovo"_s, line({u"set txtLocalita GIRO"_s, count(1000)}), u"set txtNazione ITALIA"_s,
-              u"answer 6"_s, u"click cmdSalva"_s, u"click cmdItinerario"_s});
+/// Before some clicks the user thinks of something to do meanwhile.
+void Hand::plan(const QString& lines, const Form& window) {
+    static const QStringList meanwhile = u"click cmdEsce|click cmdCalcola|vars|start|stop|row mfgTab 2|"
+                                         u"set txtLocalita X|click cmdFine"_s.split(u'|');
+    for (QString line : lines.split(u"; "_s)) {
+        if (line[1] == u'?') {
+            if (!oneIn(static_cast<std::size_t>(line[0].digitValue())))
+                continue;
+            line.remove(0, 3);
+        }
+        if (line.startsWith(u'+')) {
+            plan(std::ranges::find(works, line.sliced(1), &Work::door)->lines, window);
+            continue;
+        }
+        if (line.startsWith(u"click "_s) && oneIn(10))
+            planned_.push_back(u"during "_s + oneOf(meanwhile));
+        planned_.push_back(filled(line, window));
     }
-    plan({oneIn(3) ? file() : u"file %1.txt"_s.arg(route)});
-    planClick(u"cmdMapPoint"_s);
-    plan({oneIn(3) ? file() : u"file %1.csv"_s.arg(route)});
-    planAnswers();
-    planClick(u"cmdSelezionaMete"_s);
-}
-
-void Hand::planParameters(const Form& /*window*/) {
-    for (int times = 1 + below(4); times > 0; --times) {
-        const QString index = count(7);
-        plan({line({u"set cmbOra(%1)"_s.arg(index), number()}), line({u"set cmbMin(%1)"_s.arg(index), number()}),
-              line({u"set cmbMediaKm(%1)"_s.arg(below(4)), number()})});
-    }
-    static const QStringList others{u"cmbRipM"_s,  u"cmbRipH"_s,  u"cmbRipG"_s,
-                                    u"cmbRipGG"_s, u"cmbRange"_s, u"cmbSoste"_s};
-    plan({line({u"set"_s, oneOf(others), number()})});
-    planAnswers();
-    plan({oneIn(2) ? u"click cmdDefault(%1)"_s.arg(below(3)) : u"click cmdSalva"_s});
-}
-
-void Hand::planCalculation(const Form& /*window*/) {
-    plan({line({u"set cmbGiorni"_s, number()})});
-    planAnswers();
-    planClick(u"cmdCalcola"_s);
-    if (oneIn(2))
-        planClick(u"cmdCalcola"_s);
-}
-
-void Hand::planPrint(const Form& /*window*/) {
-    planClick(u"cmdStampa"_s);
-    plan({u"check chkTabella %1"_s.arg(below(2)), u"check chkModuli %1"_s.arg(oneIn(6) ? 1 : 0),
-          u"check chkFrontespizio %1"_s.arg(below(2)),
-          u"check chkVociFrontespizio(%1) %2"_s.arg(below(4)).arg(below(2)), u"click cmdEsegui(0)"_s});
-    if (oneIn(2))
-        plan({u"pick lstStampanti PDF"_s, file()});
-    planAnswers();
-    planClick(u"cmdSelStampante(0)"_s);
-}
-
-void Hand::planConversion(const Form& /*window*/) {
-    planAnswers();
-    planClick(u"cmdConverte"_s);
-}
-
-void Hand::planSearch(const Form& window) {
-    const ListControl& found = window.cmbRicerca;
-    if (found.reachable() && found.count() > 0)
-        plan({line({u"pick cmbRicerca"_s, oneOf(found.entries())})});
-    else
-        plan({u"click cmdRicerca"_s});
-}
-
-void Hand::planDeletion(const Form& /*window*/) {
-    planAnswers();
-    planClick(oneIn(2) ? u"cmdCancItin"_s : u"cmdCancMeta"_s);
 }
 
 /// Out of wherever the user is.
 void Hand::planWayOut(const Form& window) {
-    const Button* const waysOut[] = {&window.cmdFine,         &window.cmdSelStampante(1), &window.cmdFineInserimento,
-                                     &window.cmdInsEsegui(1), &window.cmdEsegui(1),       &window.cmdImExp(1),
-                                     &window.cmdTappaSEl(3),  &window.cmdStampaGuida(1)};
-    planAnswers();
-    for (const Button* const button : waysOut) {
+    planned_.push_back(answers());
+    for (const Button* const button :
+         {&window.cmdFine, &window.cmdSelStampante(1), &window.cmdFineInserimento, &window.cmdInsEsegui(1),
+          &window.cmdEsegui(1), &window.cmdImExp(1), &window.cmdTappaSEl(3), &window.cmdStampaGuida(1)}) {
         if (button->reachable())
-            plan({line({u"click"_s, button->name()})});
+            planned_.push_back(u"click "_s + button->name());
     }
 }
 
 void Hand::planWork(const Form& window) {
-    const Work all[] = {{window.cmdNuovo, &Hand::planTrip},
-                        {window.cmdItinerario, &Hand::planLegs},
-                        {window.txtTappa, &Hand::planLegs},
-                        {window.cmdAggiunge, &Hand::planRow},
-                        {window.cmdRitorno, &Hand::planWayBack},
-                        {window.cmdCerca, &Hand::planLegSearch},
-                        {window.cmdTrasferisce, &Hand::planStops},
-                        {window.cmdMemorizza, &Hand::planEndOfLegs},
-                        {window.cmdGuidaCitta, &Hand::planGuide},
-                        {window.txtGDescr, &Hand::planEntry},
-                        {window.cmdStampaGuidaCitta, &Hand::planGuidePrint},
-                        {window.cmdExport, &Hand::planExport},
-                        {window.cmdExport, &Hand::planImport},
-                        {window.cmdModStrada, &Hand::planStretch},
-                        {window.cmdDuplica, &Hand::planCopy},
-                        {window.cmdNuovo, &Hand::planRoute},
-                        {window.cmdMapPoint, &Hand::planRoute},
-                        {window.cmbGiorni, &Hand::planParameters},
-                        {window.cmdCalcola, &Hand::planCalculation},
-                        {window.cmdStampa, &Hand::planPrint},
-                        {window.cmdConverte, &Hand::planConversion},
-                        {window.cmdRicerca, &Hand::planSearch},
-                        {window.cmbRicercaTappa, &Hand::planLegSearch},
-                        {window.cmbRicerca, &Hand::planSearch},
-                        {window.cmdCancItin, &Hand::planDeletion}};
     std::vector<const Work*> possible;
-    for (const Work& work : all) {
-        if (work.door.reachable())
+    for (const Work& work : works) {
+        if (window.find(work.door)->reachable())
             possible.push_back(&work);
     }
     if (possible.empty() || oneIn(10))
-        planWayOut(window);
-    else
-        (this->*oneOf(possible)->plan)(window);
+        return planWayOut(window);
+    const Work& work = *oneOf(possible);
+    work.lines.isEmpty() ? planned_.push_back(onControl(*window.find(work.door))) : plan(work.lines, window);
 }
 
 } // namespace vanzer::hostile

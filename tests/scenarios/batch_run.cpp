@@ -33,12 +33,6 @@ bool writeScript(const QString& path, const QList<Step>& steps) {
     return true;
 }
 
-QProcessEnvironment environmentFor(const QString& locale) {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("LC_ALL"), locale);
-    return environment;
-}
-
 QString faultOf(const QProcess& process) {
     if (process.state() != QProcess::NotRunning)
         return QStringLiteral("still running after %1 s").arg(longestRun / 1000);
@@ -62,7 +56,9 @@ BatchRun runBatch(const QString& program, const Scenario& scenario) {
         return run;
     }
     QProcess process;
-    process.setProcessEnvironment(environmentFor(scenario.locale));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), scenario.locale);
+    process.setProcessEnvironment(environment);
     process.start(program, {QStringLiteral("--dir"), directory, QStringLiteral("--script"), script});
     process.waitForFinished(longestRun);
     run.fault = faultOf(process);

@@ -14,16 +14,13 @@
 #include "batch_run.h"
 #include "scenario_file.h"
 
-// Runs every scenario through vanzer-batch: vanzer_scenarios [--batch=PROGRAM] [--scenarios=FOLDER].
+// Runs every scenario through vanzer-batch.
 // VANZER_SCENARIOS_PENDING=1 runs the pending ones too; VANZER_SCENARIOS_REWRITE=1 writes the answers that differ into
 // the scenario files.
 
 namespace scenarios {
 
 namespace {
-
-QString batchProgram = QStringLiteral(VANZER_BATCH_PROGRAM);  // NOLINT(cert-err58-cpp)
-QString scenarioFolder = QStringLiteral(VANZER_SCENARIO_DIR); // NOLINT(cert-err58-cpp)
 
 constexpr int differencesShown = 12;
 
@@ -94,7 +91,7 @@ class ScenarioTest : public testing::Test {
             GTEST_SKIP() << plain(m_scenario.name() + QStringLiteral(", pending: ") + m_scenario.pending);
         ASSERT_NE(std::setlocale(LC_ALL, plain(m_scenario.locale).c_str()), nullptr)
             << "locale not installed: " << plain(m_scenario.locale);
-        const BatchRun run = runBatch(batchProgram, m_scenario);
+        const BatchRun run = runBatch(QStringLiteral(VANZER_BATCH_PROGRAM), m_scenario);
         if (isWanted("VANZER_SCENARIOS_REWRITE") && !m_scenario.steps.front().example)
             rewrite(run);
         else
@@ -146,22 +143,13 @@ void registerScenario(const char* suite, const Scenario& scenario) {
 
 // Registers one test per scenario file and one per page with examples, and returns the number of the former.
 qsizetype registerScenarios() {
-    const QDir folder(scenarioFolder);
+    const QDir folder(QStringLiteral(VANZER_SCENARIO_DIR));
     const QStringList files = folder.entryList({QStringLiteral("*.txt")}, QDir::Files, QDir::Name);
     for (const QString& file : files)
         registerScenario("Scenarios", readScenario(folder.filePath(file)));
     for (const char* const page : {"batch.md", "manuale.md"})
         registerScenario("Examples", readExamples(QDir(QStringLiteral(VANZER_DOCS)).filePath(QLatin1StringView(page))));
     return files.size();
-}
-
-void readArguments(const QStringList& arguments) {
-    for (const QString& argument : arguments) {
-        if (argument.startsWith(QStringLiteral("--batch=")))
-            batchProgram = argument.mid(8);
-        if (argument.startsWith(QStringLiteral("--scenarios=")))
-            scenarioFolder = argument.mid(12);
-    }
 }
 
 } // namespace
@@ -171,7 +159,6 @@ void readArguments(const QStringList& arguments) {
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     const QCoreApplication application(argc, argv);
-    scenarios::readArguments(QCoreApplication::arguments());
     if (scenarios::registerScenarios() == 0) {
         std::fputs("vanzer_scenarios: no scenarios found\n", stderr);
         return 1;
