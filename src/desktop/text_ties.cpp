@@ -40,7 +40,8 @@ qsizetype commonStart(const QString& a, const QString& b) {
 QString filteredEdit(const TextControl& model, const QString& old, const QString& edited, int& cursor) {
     const qsizetype start = std::min<qsizetype>(commonStart(old, edited), cursor);
     const qsizetype tail = edited.size() - cursor;
-    if (cursor <= start || tail > old.size() || !old.endsWith(QStringView(edited).right(tail)))
+    // A null text ends with no empty one.
+    if (cursor <= start || tail > old.size() || QStringView(old).last(tail) != QStringView(edited).last(tail))
         return edited;
     QString brought;
     for (const char32_t c : edited.mid(start, cursor - start).toUcs4()) {

@@ -228,7 +228,6 @@ TEST_F(Controls, PastedTextGoesThroughTheKeyHandlers) {
     for (const auto& c : cases) {
         auto* const field = find<QLineEdit>(c.field);
         field->setFocus();
-        write("1");
         field->selectAll();
         QApplication::clipboard()->setText(QString::fromUtf8(c.pasted));
         key(Qt::Key_V, Qt::ControlModifier);
