@@ -27,8 +27,8 @@ const QString totalsKey = QStringLiteral("tappe/kmProgressivi");
 Program::Program(const Ambiente& surroundings, Clock& clock, Pace pace, FileOpener* opener)
     : boxes_(opener != nullptr ? *opener : opener_),
       events_(pace), ports_{boxes_, dialogs_, clock, events_, programs_, &printer_},
-      form_(nuovaFinestra(surroundings, ports_)), window_(std::make_unique<MainWindow>(*form_)),
-      gate_(std::make_unique<InputGate>(*window_)), draft_(*form_) {
+      form_(nuovaFinestra(surroundings, ports_)), draft_(*form_), window_(std::make_unique<MainWindow>(*form_)),
+      gate_(std::make_unique<InputGate>(*window_)) {
     form_->interattiva = true;
     boxes_.setWindow(window_.get());
     dialogs_.setWindow(window_.get());

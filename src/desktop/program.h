@@ -46,11 +46,12 @@ class Program {
     DesktopPrinter printer_{dialogs_};
     Ports ports_;
     std::unique_ptr<Form> form_;
-    std::unique_ptr<MainWindow> window_;
-    std::unique_ptr<InputGate> gate_;
+    // Told by widgets also while they go.
     CustodeBozza draft_;
     QTimer draftBehind_; ///< runs from the first input that the draft doesn't know
     QTimer ending_;
+    std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<InputGate> gate_;
 };
 
 } // namespace vanzer::desktop
