@@ -1,22 +1,16 @@
 // The draft of unsaved work: what it keeps, how it comes back, and what lies in its place.
-#include <gtest/gtest.h>
-
 #include <sys/stat.h>
 
 #include <QFile>
-#include <QJsonArray>
-#include <QTemporaryDir>
 
-#include "batch/session.h"
 #include "store/draft_file.h"
+#include "support/window_test.h"
 #include "window/unsaved_work.h"
 
 namespace vanzer {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-const QDateTime now(QDate(2026, 11, 24), QTime(18, 5, 7));
+const QDateTime written(QDate(2026, 11, 24), QTime(18, 5, 7));
 
 Bozza example() {
     return {.codice = u"000001"_s,
@@ -34,206 +28,90 @@ Bozza example() {
 
 TEST(Draft, ItsBytesHoldIt) {
     Bozza kept = example();
-    kept.scritta = now;
-    EXPECT_EQ(bozzaDaiByte(byteDellaBozza(example(), now)), kept);
+    kept.scritta = written;
+    EXPECT_EQ(bozzaDaiByte(byteDellaBozza(example(), written)), kept);
 }
 
 TEST(Draft, WhatNoWindowWroteIsNone) {
-    QByteArray huge = R"({"bozza":1,"scritta":"2026-11-24T18:05:00","tappe":[)";
-    for (int i = 0; i < 700000; ++i)
-        huge += "\"\",";
-    huge.back() = ']';
-    const QByteArray bytes[] = {"",
-                                "bozza",
-                                "[1]",
+    const QByteArray whole = R"({"bozza":1,"scritta":"2026-11-24T18:05:00"})";
+    const auto with = [&whole](const QByteArray& more) { return whole.chopped(1) + ',' + more + '}'; };
+    const QByteArray bytes[] = {"[1]",
                                 R"({"bozza":2,"scritta":"2026-11-24T18:05:00"})",
-                                R"({"bozza":1})",
                                 R"({"bozza":1,"scritta":"ieri"})",
-                                R"({"bozza":1,"scritta":"2026-11-24T18:05:00","tappe":["ASTI"]})",
-                                R"({"bozza":1,"scritta":"2026-11-24T18:05:00","tappe":{}})",
-                                R"({"bozza":1,"scritta":"2026-11-24T18:05:00","campi":{"txtNazione":7}})",
-                                R"({"bozza":1,"scritta":"2026-11-24T18:05:00","modifiche":"0120"})",
-                                R"({"bozza":1,"scritta":"2026-11-24T18:05:00","editor":"yes"})",
-                                R"({"bozza":1,"scritta":"2026-11-24T18:05:00","codice":")" + QByteArray(70000, 'x') +
-                                    "\"}",
-                                QByteArray(100000, '['),
-                                byteDellaBozza(example(), now).chopped(20),
-                                huge + '}'};
+                                with(R"("tappe":["ASTI"])"),
+                                with(R"("campi":{"txtNazione":7})"),
+                                with(R"("modifiche":"0120")"),
+                                with(R"("editor":"yes")"),
+                                with(R"("codice":")" + QByteArray(70'000, 'x') + '"'),
+                                with(R"("tappe":[)" + QByteArray("\"\",").repeated(700'000).chopped(1) + ']'),
+                                byteDellaBozza(example(), written).chopped(20)};
     for (const QByteArray& some : bytes)
         EXPECT_FALSE(bozzaDaiByte(some)) << some.left(120).toStdString();
-    EXPECT_TRUE(bozzaDaiByte(R"({"bozza":1,"scritta":"2026-11-24T18:05:00"})"));
+    EXPECT_TRUE(bozzaDaiByte(whole));
 }
 
-/// A window before a user, on an archive with a trip PROVA of two legs; another start is another window.
-class DraftScreen : public testing::Test {
+/// A window on an archive with a trip PROVA of two legs; another start is another window.
+class DraftScreen : public WindowTest {
   protected:
     void begin() {
         custodian.reset();
-        session.reset();
-        folder_.emplace();
-        start();
+        startAnew();
+        custodian.emplace(form());
         storeTrip(u"PROVA"_s);
     }
-    void start() {
+    void restart() {
         custodian.reset();
-        session.reset();
-        session.emplace(Ambiente{.directory = folder_->path(), .decimalMark = u'.', .versione = {}});
-        session->clock.set(now);
-        session->start();
-        form().interattiva = true;
+        start();
         form().cmdRicerca.click();
-        if (!form().cmbRicerca.List(0).isEmpty())
-            form().cmbRicerca.pick(form().cmbRicerca.List(0)); // a load, as of a start before a user
+        form().cmbRicerca.pick(form().cmbRicerca.List(0)); // a load, as of a start before a user
         custodian.emplace(form());
         asked();
     }
-    void storeTrip(const QString& name) {
-        form().cmdNuovo.click();
-        form().txtLocalita.type(name);
-        form().txtNazione.type(u"ITALIA"_s);
-        answer({rispostaSi});
-        form().cmdSalva.click();
-        form().cmdItinerario.click();
-        for (const QString& place : {u"ASTI"_s, u"ALBA"_s})
-            addLeg(form(), place);
-        answer({rispostaSi});
-        form().cmdFine.click();
-        asked();
-    }
-    static void addLeg(Form& f, const QString& place) {
-        f.mfgTab.clickRow(f.stato.NumeroTappe + 1);
-        f.txtTappa.type(place);
-        f.txtKm.type(u"30"_s);
-        f.cmdInserisce.click();
+    /// What is unsaved is written, if it is due.
+    void keep() {
+        custodian->tiene();
+        custodian->aspetta();
     }
     /// The program goes without a word of the user's, and starts again.
     void cut() {
-        custodian->tiene();
-        custodian->aspetta();
-        ASSERT_TRUE(QFile::exists(path()));
+        keep();
+        ASSERT_TRUE(isThere());
         session->window()->archivio.chiudi();
-        start();
-        asked();
+        restart();
     }
-    Form& form() { return *session->window(); }
-    void answer(const std::vector<int>& answers) {
-        for (const int one : answers)
-            session->boxes.enqueue(one);
+    void look() {
+        custodian->guarda();
+        custodian->aspetta();
     }
-    std::string asked() {
-        QStringList texts;
-        for (const QJsonValue box : session->boxes.exchange({}))
-            texts << box[u"text"].toString();
-        return texts.join(u'|').toStdString();
-    }
-    QString path() const { return folder_->filePath(store::nomeBozza); }
-    QString path(QLatin1String ending) const { return path() + ending; }
-    std::string stored(const QString& table, int field) {
-        QStringList texts;
-        for (const auto& record : form().archivio.tabella(table).record)
-            texts << std::get<QString>(record[static_cast<std::size_t>(field)]).trimmed();
-        return texts.join(u'|').toStdString();
-    }
+    bool isThere() const { return QFile::exists(path()); }
+    QString path() const { return inFolder(store::nomeBozza); }
+    QString legs() { return stored(u"Itinerari"_s, u"Localita"_s); }
+    QString trips() { return stored(u"MeteVanzer"_s, u"Localita"_s); }
 
-    std::optional<QTemporaryDir> folder_;
-    std::optional<batch::Session> session;
     std::optional<CustodeBozza> custodian;
 };
 
+void changeStretch(Form& f) {
+    f.cmdModStrada.click();
+    f.mfgTab.clickRow(1);
+    f.optTStrada(3).choose();
+    for (const int i : {0, 1, 2})
+        f.cmdTappaSEl(i).click();
+}
+
 /// Whatever is unsaved comes back as it stood, with a yes; and the archive doesn't change by it.
 TEST_F(DraftScreen, UnsavedWorkComesBackAsItStood) {
-    struct Case {
-        const char* what;
-        void (*work)(Form&);
-        const char16_t* question;
-    };
-    const Case cases[] = {
-        {"fields",
-         [](Form& f) {
-             f.txtNazione.type(u"FRANCIA"_s);
-             f.cmbMediaKm(1).setText(u"66"_s);
-             f.cmbOra(0).pick(u"08"_s);
-         },
-         u"«PROVA» (2 tappe, 18:05)"},
-        {"a new trip",
-         [](Form& f) {
-             f.cmdNuovo.click();
-             f.txtLocalita.type(u"OSLO"_s);
-             f.cmbInizio(2).setText(u"2031"_s);
-         },
-         u"«OSLO» (nessuna tappa, 18:05)"},
-        {"a new trip without a name",
-         [](Form& f) {
-             f.cmdNuovo.click();
-             f.txtNazione.type(u"SVEZIA"_s);
-         },
-         u"un nuovo viaggio (nessuna tappa, 18:05)"},
-        {"legs",
-         [](Form& f) {
-             f.cmdItinerario.click();
-             addLeg(f, u"CUNEO"_s);
-             f.mfgTab.clickRow(2);
-         },
-         u"«PROVA» (3 tappe, 18:05)"},
-        {"a typed leg",
-         [](Form& f) {
-             f.cmdItinerario.click();
-             f.mfgTab.clickRow(3);
-             f.txtTappa.type(u"CUNEO"_s);
-             f.txtKm.type(u"70"_s);
-             f.cmbSosta(1).pick(u"03"_s);
-             f.optStrada(2).choose();
-             f.chkEndDay.choose(true);
-         },
-         u"«PROVA» (2 tappe, 18:05)"},
-        {"a stretch",
-         [](Form& f) {
-             f.cmdModStrada.click();
-             f.mfgTab.clickRow(1);
-             f.optTStrada(3).choose();
-             for (const int i : {0, 1, 2})
-                 f.cmdTappaSEl(i).click();
-         },
-         u"«PROVA» (2 tappe, 18:05)"},
-        {"a stretch beside a schedule",
-         [](Form& f) {
-             f.cmdModStrada.click();
-             f.mfgTab.clickRow(1);
-             f.optTStrada(3).choose();
-             for (const int i : {0, 1, 2})
-                 f.cmdTappaSEl(i).click();
-             f.cmdCalcola.click();
-         },
-         u"«PROVA» (2 tappe, 18:05)"},
-        {"legs behind their schedule",
-         [](Form& f) {
-             f.cmdItinerario.click();
-             addLeg(f, u"CUNEO"_s);
-             f.cmdRicalcola.click();
-         },
-         u"«PROVA» (3 tappe, 18:05)"},
-        {"all at once",
-         [](Form& f) {
-             f.cmbRange.pick(u"45"_s);
-             f.cmdItinerario.click();
-             addLeg(f, u"CUNEO"_s);
-             f.txtTappa.type(u"NIZZA"_s);
-         },
-         u"«PROVA» (3 tappe, 18:05)"},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+    const auto comesBack = [this](const QString& question, void (*work)(Form&)) {
+        SCOPED_TRACE(question.toStdString());
         begin();
-        c.work(form());
+        work(form());
         std::optional<Bozza> kept = lavoroNonSalvato(form());
         ASSERT_TRUE(kept);
-        const std::string before = stored(u"Itinerari"_s, 2) + stored(u"MeteVanzer"_s, 2);
-        asked();
+        const QString before = legs() + trips();
         ASSERT_NO_FATAL_FAILURE(cut());
         answer({rispostaSi});
         custodian->offre();
-        EXPECT_EQ(asked(),
-                  (u"Riprendere il lavoro non salvato a "_s + QString::fromUtf16(c.question) + u'?').toStdString());
+        EXPECT_EQ(asked(), QStringList(u"Riprendere il lavoro non salvato a "_s + question + u'?'));
         std::optional<Bozza> back = lavoroNonSalvato(form());
         ASSERT_TRUE(back);
         // The schedule is not made again: its legs are in the editor instead.
@@ -242,46 +120,70 @@ TEST_F(DraftScreen, UnsavedWorkComesBackAsItStood) {
         for (Bozza* const one : {&*kept, &*back}) // of a table that is longer by some blank rows
             one->modifiche = one->modifiche.left(2);
         kept->riga = back->riga = kept->editor ? back->riga : 0;
-        EXPECT_EQ(*back, *kept) << byteDellaBozza(*back, now).toStdString() << byteDellaBozza(*kept, now).toStdString();
-        EXPECT_EQ(stored(u"Itinerari"_s, 2) + stored(u"MeteVanzer"_s, 2), before);
-        EXPECT_TRUE(QFile::exists(path())) << "unsaved still";
-    }
+        EXPECT_EQ(*back, *kept) << byteDellaBozza(*back, written).toStdString()
+                                << byteDellaBozza(*kept, written).toStdString();
+        EXPECT_EQ(legs() + trips(), before);
+        EXPECT_TRUE(isThere()) << "unsaved still";
+    };
+    comesBack(u"«OSLO» (nessuna tappa, 18:05)"_s, [](Form& f) {
+        f.cmdNuovo.click();
+        f.txtLocalita.type(u"OSLO"_s);
+        f.cmbInizio(2).setText(u"2031"_s);
+    });
+    comesBack(u"un nuovo viaggio (nessuna tappa, 18:05)"_s, [](Form& f) {
+        f.cmdNuovo.click();
+        f.txtNazione.type(u"SVEZIA"_s);
+    });
+    comesBack(u"«PROVA» (2 tappe, 18:05)"_s, [](Form& f) {
+        f.cmdItinerario.click();
+        f.mfgTab.clickRow(3);
+        f.txtTappa.type(u"CUNEO"_s);
+        f.txtKm.type(u"70"_s);
+        f.cmbSosta(1).pick(u"03"_s);
+        f.optStrada(2).choose();
+        f.chkEndDay.choose(true);
+    });
+    comesBack(u"«PROVA» (2 tappe, 18:05)"_s, changeStretch);
+    comesBack(u"«PROVA» (2 tappe, 18:05)"_s, [](Form& f) {
+        changeStretch(f);
+        f.cmdCalcola.click();
+    });
+    comesBack(u"«PROVA» (3 tappe, 18:05)"_s, [](Form& f) {
+        f.cmdItinerario.click();
+        addLeg(f, u"CUNEO"_s);
+        f.cmdRicalcola.click();
+    });
+    comesBack(u"«PROVA» (3 tappe, 18:05)"_s, [](Form& f) {
+        f.cmbRange.pick(u"45"_s);
+        f.cmbMediaKm(1).setText(u"66"_s);
+        f.cmdItinerario.click();
+        addLeg(f, u"CUNEO"_s);
+        f.txtTappa.type(u"NIZZA"_s);
+    });
 }
 
 TEST_F(DraftScreen, GoesWhenAllIsStoredOrGivenUp) {
-    struct Way {
-        const char* what;
-        int answer;
-        void (*go)(Form&);
-    };
-    const Way ways[] = {{"stored", rispostaSi, [](Form& f) { f.cmdSalva.click(); }},
-                        {"given up", rispostaNo, [](Form& f) { f.cmdNuovo.click(); }},
-                        {"typed back", rispostaNo, [](Form& f) { f.txtNazione.type(u"ITALIA "_s); }}};
-    for (const Way& way : ways) {
-        SCOPED_TRACE(way.what);
+    const std::pair<int, void (*)(Form&)> ways[] = {
+        {rispostaSi, [](Form& f) { f.cmdSalva.click(); }},
+        {rispostaNo, [](Form& f) { f.cmdNuovo.click(); }},
+        {rispostaNo, [](Form& f) { f.txtNazione.type(u"ITALIA "_s); }}}; // typed back
+    for (const auto& [wish, go] : ways) {
         begin();
-        custodian->tiene();
-        custodian->aspetta();
-        EXPECT_FALSE(QFile::exists(path())) << "nothing is unsaved";
+        keep();
+        EXPECT_FALSE(isThere()) << "nothing is unsaved";
         form().txtNazione.type(u"FRANCIA"_s);
-        custodian->guarda();
-        custodian->aspetta();
-        EXPECT_FALSE(QFile::exists(path())) << "not yet";
-        custodian->tiene();
-        custodian->aspetta();
-        ASSERT_TRUE(QFile::exists(path()));
-        ASSERT_TRUE(QFile::remove(path()));
-        custodian->tiene();
-        custodian->aspetta();
-        EXPECT_FALSE(QFile::exists(path())) << "written only when something has changed";
+        look();
+        EXPECT_FALSE(isThere()) << "not yet";
+        keep();
+        ASSERT_TRUE(isThere() && QFile::remove(path()));
+        keep();
+        EXPECT_FALSE(isThere()) << "written only when something has changed";
         form().txtNazione.type(u"SPAGNA"_s);
         custodian->tiene();
-        answer({way.answer});
-        way.go(form());
-        custodian->guarda();
-        custodian->aspetta();
-        EXPECT_FALSE(QFile::exists(path()));
-        EXPECT_FALSE(QFile::exists(path() + u".parte"_s));
+        answer({wish});
+        go(form());
+        look();
+        EXPECT_FALSE(isThere() || QFile::exists(path() + u".parte"_s));
     }
 }
 
@@ -289,12 +191,11 @@ TEST_F(DraftScreen, IsNeverAScriptsOwn) {
     begin();
     form().interattiva = false;
     form().txtNazione.type(u"FRANCIA"_s);
-    custodian->tiene();
-    custodian->aspetta();
-    EXPECT_FALSE(QFile::exists(path()));
-    store::scriveBozza(path(), byteDellaBozza(example(), now));
+    keep();
+    EXPECT_FALSE(isThere());
+    store::scriveBozza(path(), byteDellaBozza(example(), written));
     custodian->offre();
-    EXPECT_EQ(asked(), "");
+    EXPECT_EQ(asked(), QStringList());
 }
 
 TEST_F(DraftScreen, ARefusedOneStaysUnderAnotherName) {
@@ -305,13 +206,11 @@ TEST_F(DraftScreen, ARefusedOneStaysUnderAnotherName) {
         ASSERT_NO_FATAL_FAILURE(cut());
         session->clock.set(now.addDays(1));
         custodian->offre(); // unasked is no
-        EXPECT_EQ(asked(),
-                  (u"Riprendere il lavoro non salvato a «PROVA» (2 tappe, 24/11/2026 18:05)?"_s).toStdString());
+        EXPECT_EQ(asked(), QStringList(u"Riprendere il lavoro non salvato a «PROVA» (2 tappe, 24/11/2026 18:05)?"_s));
         EXPECT_EQ(form().txtNazione.text(), u"ITALIA "_s);
-        EXPECT_FALSE(QFile::exists(path()));
-        QFile refused(path(store::bozzaRifiutata));
-        ASSERT_TRUE(refused.open(QIODevice::ReadOnly));
-        EXPECT_EQ(bozzaDaiByte(refused.readAll())->campi.at(u"txtNazione"_s), nation);
+        EXPECT_FALSE(isThere());
+        const QByteArray refused = store::leggeBozza(path() + store::bozzaRifiutata).value();
+        EXPECT_EQ(bozzaDaiByte(refused)->campi.at(u"txtNazione"_s), nation);
     }
 }
 
@@ -322,7 +221,7 @@ TEST_F(DraftScreen, StaysUntilItIsAnswered) {
     ASSERT_NO_FATAL_FAILURE(cut());
     custodian->guarda();
     custodian->finisce();
-    EXPECT_TRUE(QFile::exists(path()));
+    EXPECT_TRUE(isThere());
 }
 
 /// A trip that another program has changed, taken away, or put under another code.
@@ -331,37 +230,32 @@ TEST_F(DraftScreen, MeetsAnotherArchive) {
     form().cmdItinerario.click();
     addLeg(form(), u"CUNEO"_s);
     form().txtTappa.type(u"NIZZA"_s);
-    custodian->tiene();
-    custodian->aspetta();
+    keep();
     const QByteArray draft = store::leggeBozza(path())->replace("\"riga\":", "\"riga\":99999"); // no row is so far down
-    for (const std::string other : {"", "ROMA"}) { // with an empty archive, and where the code is another trip's
+    for (const QString& other : {u""_s, u"ROMA"_s}) { // with an empty archive, and where the code is another trip's
+        const bool empty = other.isEmpty();
         for (const bool store : {true, false}) {
-            SCOPED_TRACE(other + (store ? " stored" : " given up"));
+            SCOPED_TRACE(other.toStdString() + (store ? " stored" : " given up"));
             custodian.reset();
-            session.reset();
-            folder_.emplace();
-            start();
-            if (!other.empty())
-                storeTrip(QString::fromStdString(other));
+            startAnew();
+            if (!empty)
+                storeTrip(other);
             store::scriveBozza(path(), draft);
+            custodian.emplace(form());
             answer({rispostaSi});
             custodian->offre();
-            asked();
-            EXPECT_EQ(form().txtLocalita.text(), u"PROVA"_s);
-            EXPECT_EQ(form().mfgTab.cell(3, 1), u"CUNEO"_s);
-            EXPECT_EQ(form().txtTappa.text(), u"NIZZA"_s);
+            EXPECT_EQ(form().txtLocalita.text() + form().mfgTab.cell(3, 1) + form().txtTappa.text(),
+                      u"PROVACUNEONIZZA");
             EXPECT_TRUE(form().frmframe(12).visible());
-            const std::string legs = other.empty() ? "" : "ASTI|ALBA";
-            EXPECT_EQ(stored(u"MeteVanzer"_s, 1), other);
-            EXPECT_EQ(stored(u"Itinerari"_s, 2), legs);
+            const QString before = empty ? QString() : u"ASTI|ALBA"_s;
+            EXPECT_EQ(trips(), other);
+            EXPECT_EQ(legs(), before);
             answer({rispostaNo}); // the leg that isn't in the table
             answer(store ? std::vector{rispostaSi} : std::vector{rispostaNo, rispostaNo});
             form().cmdFine.click();
-            const std::string wanted = (other.empty() ? "ASTI|ALBA|CUNEO" : "ASTI|ALBA|ASTI|ALBA|CUNEO");
-            EXPECT_EQ(stored(u"MeteVanzer"_s, 1), !store ? other : other.empty() ? "PROVA" : other + "|PROVA");
-            EXPECT_EQ(stored(u"Itinerari"_s, 2), store ? wanted : legs);
-            EXPECT_EQ(form().stato.CodiceMeta.toStdString(),
-                      store ? (other.empty() ? "000001" : "000002") : (other.empty() ? "" : "000001"));
+            EXPECT_EQ(trips(), !store ? other : empty ? u"PROVA"_s : other + u"|PROVA"_s);
+            EXPECT_EQ(legs(), !store ? before : (empty ? QString() : before + u'|') + u"ASTI|ALBA|CUNEO"_s);
+            EXPECT_EQ(form().stato.CodiceMeta, !store && empty ? u""_s : store && !empty ? u"000002"_s : u"000001"_s);
         }
     }
 }
@@ -387,9 +281,9 @@ TEST_F(DraftScreen, WhatIsNoDraftIsPutAside) {
         SCOPED_TRACE(what);
         put(path());
         custodian->offre();
-        EXPECT_EQ(asked(), (u"La bozza del lavoro non salvato non si può leggere. È stata messa da parte: "_s +
-                            path(store::bozzaDanneggiata))
-                               .toStdString());
+        EXPECT_EQ(asked(),
+                  QStringList(u"La bozza del lavoro non salvato non si può leggere. È stata messa da parte: "_s +
+                              path() + store::bozzaDanneggiata));
         EXPECT_FALSE(QFileInfo(path()).exists() || QFileInfo(path()).isSymLink());
     }
 }
@@ -398,44 +292,37 @@ TEST_F(DraftScreen, AFailureToWriteIsTold) {
     begin();
     ASSERT_TRUE(QDir().mkdir(path()));
     form().txtNazione.type(u"FRANCIA"_s);
-    custodian->tiene();
-    custodian->aspetta();
+    keep();
     custodian->tiene();
     EXPECT_TRUE(form().lblAvviso.caption().startsWith(u"La bozza del lavoro non salvato non è scritta: "_s));
     custodian->aspetta();
     ASSERT_TRUE(QDir().rmdir(path()));
-    custodian->tiene();
-    custodian->aspetta();
-    EXPECT_TRUE(QFile::exists(path())) << "tried again";
+    keep();
+    EXPECT_TRUE(isThere()) << "tried again";
 }
 
 /// The work of a command that is running, or that was ended in the user's place, counts as it stood before it.
 TEST_F(DraftScreen, ACommandAtWorkDoesNotCount) {
     begin();
-    form().cmdModStrada.click();
-    form().mfgTab.clickRow(1);
-    form().optTStrada(3).choose();
-    for (const int i : {0, 1, 2})
-        form().cmdTappaSEl(i).click();
+    changeStretch(form());
     const std::optional<Bozza> kept = lavoroNonSalvato(form());
-    std::optional<QByteArray> written;
+    std::optional<QByteArray> draft;
     session->events.expect([&] {
         if (!form().comandoInCorso || form().cmdEsce.caption() != u"&Stop"_s)
             return false;
-        custodian->tiene();
-        custodian->aspetta();
-        written = store::leggeBozza(path());
+        keep();
+        draft = store::leggeBozza(path());
         custodian->nonSceglieLui();
         form().stato.InterrompiCalcolo = true; // which loads the stored legs
         return true;
     });
     form().cmdCalcola.click();
-    ASSERT_TRUE(written);
-    std::optional<Bozza> back = bozzaDaiByte(*written);
+    ASSERT_TRUE(draft);
+    std::optional<Bozza> back = bozzaDaiByte(*draft);
     back->scritta = {};
     EXPECT_EQ(back, kept);
     custodian->finisce();
-    EXPECT_EQ(store::leggeBozza(path()), written);
+    EXPECT_EQ(store::leggeBozza(path()), draft);
 }
 
 } // namespace
