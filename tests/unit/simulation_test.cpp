@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "core/text.h"
-#include "schedule/simulation.h"
+#include "support/plain_day.h"
 
 namespace vanzer {
 
@@ -11,45 +11,14 @@ namespace {
 using namespace Qt::StringLiterals;
 using Fine = RigaViandoria::Fine;
 
-/// A plain day at 100 km/h: a kilometre is one hundredth of an hour.
-ParametriSimulazione plainDay() {
-    ParametriSimulazione p;
-    p.oraColazione = 900;
-    p.oraPranzo = 1250;
-    p.durataPranzo = 250;
-    p.oraCena = 2000;
-    p.durataCena = 175;
-    p.oraNotte = 2250;
-    p.inizioVisita = 900;
-    p.fineVisita = 1900;
-    p.oreVisitaGiorno = 1000;
-    p.oreGuidaGiorno = 925;
-    p.oraInizioViaggio = 900;
-    p.giulianoInizio = 731416;
-    p.range = 25;
-    p.medie = {100, 100, 100, 100};
-    return p;
-}
-
 RigaDiLavoro leg(int km, bool endOfDay = false) {
-    RigaDiLavoro row;
-    row.km = km;
-    row.fineGiorno = endOfDay;
-    row.nome = u"X"_s;
-    return row;
+    return drive(u"X"_s, km, endOfDay);
 }
 
 RigaDiLavoro itineraryStop(float length) {
     RigaDiLavoro row;
     row.tipo = RigaDiLavoro::Tipo::SostaItinerario;
     row.sostaFissa = length;
-    return row;
-}
-
-RigaDiLavoro guideStop(float length) {
-    RigaDiLavoro row;
-    row.tipo = RigaDiLavoro::Tipo::SostaGuida;
-    row.sostaGuida = length;
     return row;
 }
 
@@ -74,14 +43,18 @@ std::string told(const RigaViandoria& row, float start) {
     return text;
 }
 
-std::vector<std::string> walk(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& p, float k = 1) {
-    std::vector<std::string> told_;
-    for (const RigaViandoria& row : simula(rows, p, k).righe)
-        told_.push_back(told(row, p.giulianoInizio));
-    return told_;
+using RowTexts = std::vector<std::string>;
+
+RowTexts told(const Viandoria& trip) {
+    RowTexts rows;
+    for (const RigaViandoria& row : trip.righe)
+        rows.push_back(told(row, plainDay().giulianoInizio));
+    return rows;
 }
 
-using RowTexts = std::vector<std::string>;
+RowTexts walk(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& p, float k = 1) {
+    return told(simula(rows, p, k));
+}
 
 } // namespace
 
@@ -121,10 +94,7 @@ TEST(Simulazione, BandOfLunch) {
 
 TEST(Simulazione, ALongLegGoesThroughLunchDinnerAndNight) {
     const Viandoria v = simula({leg(1500)}, plainDay(), 1);
-    RowTexts rows;
-    for (const RigaViandoria& row : v.righe)
-        rows.push_back(told(row, plainDay().giulianoInizio));
-    EXPECT_EQ(rows,
+    EXPECT_EQ(told(v),
               (RowTexts{"tratto 350 verso g0 1250 pranzo", "tratto 500 verso g0 2000 cena",
                         "tratto 75 verso g0 2250 notte", "tratto 350 verso g1 1250 pranzo", "tratto 225 g1 1725"}));
     EXPECT_EQ(v.righe[0].fine, Fine::Pranzo);
@@ -148,11 +118,8 @@ TEST(Simulazione, Breaks) {
     p.riposoMinuti = 25;
     p.oraPranzo = 1500;
     const Viandoria v = simula({leg(250)}, p, 1);
-    RowTexts rows;
-    for (const RigaViandoria& row : v.righe)
-        rows.push_back(told(row, p.giulianoInizio));
-    EXPECT_EQ(rows, (RowTexts{"tratto 100 verso g0 1000 pausa", "tratto 100 verso g0 1125 pausa",
-                              "tratto 50 g0 1200 pausa"}));
+    EXPECT_EQ(told(v), (RowTexts{"tratto 100 verso g0 1000 pausa", "tratto 100 verso g0 1125 pausa",
+                                 "tratto 50 g0 1200 pausa"}));
     EXPECT_EQ(v.righe[0].fine, Fine::Pausa);
     // At a crawl the piece before a break still moves on.
     p.medie = {0.5, 0.5, 0.5, 0.5};
