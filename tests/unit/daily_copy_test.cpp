@@ -43,70 +43,50 @@ class DailyCopy : public StoreTest {
     }
 };
 
-/// The day of a copy, and its trips.
-struct Copied {
-    const char* day;
-    int trips = 1;
-};
-
 TEST(CopiesKept, AreTheNewestOfDaysWeeksAndMonthsAndTheFullest) {
-    struct Case {
+    const QDate today(2026, 5, 10); // a Sunday
+    const struct {
         const char* name;
         int days; ///< before them, a copy for each of so many days
         int trips;
-        std::vector<Copied> others;
-        const char* kept; ///< besides the ten days of May
-    };
-    const QDate today(2026, 5, 10); // a Sunday
-    const Case cases[] = {
+        QString others; ///< days, with their trips if they are more than one
+        QString kept;   ///< besides the ten days of May
+    } cases[] = {
         {"two years of days",
          730,
          1,
          {},
          "2026-04-30 2026-04-26 2026-04-19 2026-04-12 2026-04-05 2026-03-31 2026-03-29 2026-03-22 2026-02-28 "
-         "2026-01-31 "
-         "2025-12-31 2025-11-30 2025-10-31 2025-09-30 2025-08-31 2025-07-31 2025-06-30"},
-        {"rare starts", 0, 1, {{"2020-07-01"}, {"2019-02-03"}}, "2020-07-01 2019-02-03"},
-        {"emptied",
-         12,
-         1,
-         {{"2026-04-20", 7}, {"2026-04-19", 8}, {"2026-04-18", 9}, {"2026-04-17", 9}, {"2026-04-16", 8}},
+         "2026-01-31 2025-12-31 2025-11-30 2025-10-31 2025-09-30 2025-08-31 2025-07-31 2025-06-30"},
+        {"rare starts", 0, 1, "2020-07-01 2019-02-03", "2020-07-01 2019-02-03"},
+        {"emptied", 12, 1, "2026-04-20:7 2026-04-19:8 2026-04-18:9 2026-04-17:9 2026-04-16:8",
          "2026-04-30 2026-04-20 2026-04-19 2026-04-18"},
-        {"unreadable", 12, -1, {{"2026-04-19", -1}, {"2026-04-18", 0}}, "2026-04-30 2026-04-19"},
-        {"a wrong clock",
-         10,
-         1,
-         {{"2036-01-12"},
-          {"2036-01-11"},
-          {"2036-01-10"},
-          {"2036-01-09"},
-          {"2036-01-08"},
-          {"2036-01-07"},
-          {"2036-01-06"},
-          {"2036-01-05"},
-          {"2036-01-04"},
-          {"2036-01-03"},
-          {"2036-01-02", 2},
-          {"2036-01-01", 2}},
+        {"unreadable", 12, -1, "2026-04-19:-1 2026-04-18:0", "2026-04-30 2026-04-19"},
+        {"a wrong clock", 10, 1,
+         "2036-01-12 2036-01-11 2036-01-10 2036-01-09 2036-01-08 2036-01-07 2036-01-06 2036-01-05 2036-01-04 "
+         "2036-01-03 "
+         "2036-01-02:2 2036-01-01:2",
          "2036-01-12 2036-01-11 2036-01-10 2036-01-09 2036-01-08 2036-01-07 2036-01-06 2036-01-05 2036-01-04 "
          "2036-01-02"},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
+    for (const auto& c : cases) {
         std::vector<CopiaTrovata> copies;
         for (int i = 0; i < c.days; ++i)
             copies.push_back({{}, today.addDays(-i), c.trips});
-        for (const Copied& other : c.others)
-            copies.push_back({{}, QDate::fromString(QString::fromLatin1(other.day), Qt::ISODate), other.trips});
+        for (const QString& other : c.others.split(u' ', Qt::SkipEmptyParts)) {
+            const QString trips = other.section(u':', 1);
+            copies.push_back(
+                {{}, QDate::fromString(other.first(10), Qt::ISODate), trips.isEmpty() ? 1 : trips.toInt()});
+        }
         std::ranges::sort(copies, std::greater(), &CopiaTrovata::day);
         for (const CopiaTrovata& gone : copieDaTogliere(copies, today))
             std::erase_if(copies, [&gone](const CopiaTrovata& copy) { return copy.day == gone.day; });
         const auto isOfMay = [](const CopiaTrovata& copy) { return copy.day.year() == 2026 && copy.day.month() == 5; };
-        EXPECT_EQ(std::erase_if(copies, isOfMay), static_cast<std::size_t>(std::min(c.days, 10)));
+        EXPECT_EQ(std::erase_if(copies, isOfMay), static_cast<std::size_t>(std::min(c.days, 10))) << c.name;
         QStringList kept;
         for (const CopiaTrovata& copy : copies)
             kept << copy.day.toString(Qt::ISODate);
-        EXPECT_EQ(kept.join(u' '), c.kept);
+        EXPECT_EQ(kept.join(u' '), c.kept) << c.name;
     }
 }
 
@@ -116,10 +96,8 @@ TEST_F(DailyCopy, OnesTooManyGoAndOthersFilesStay) {
     ASSERT_TRUE(QDir().mkpath(copies()));
     const QStringList own{"Vanzer 2026-05-99.mdb", "Vanzer buono.mdb", "appunti.txt", "prima.parte",
                           "vanzer 2026-05-01.mdb"};
-    for (const QString& name : own)
-        ASSERT_TRUE(QFile(copies() + u'/' + name).open(QIODevice::WriteOnly));
-    for (const char* left : {"/Vanzer 2026-05-03.mdb.parte", "/Vanzer 2026-05-04.mdb.parte-journal"})
-        ASSERT_TRUE(QFile(copies() + QString::fromLatin1(left)).open(QIODevice::WriteOnly));
+    for (const QString& name : own + QStringList{"Vanzer 2026-05-03.mdb.parte", "Vanzer 2026-05-04.mdb.parte-journal"})
+        write(copies() + u'/' + name, {});
     for (int day = 5; day <= 17; ++day)
         copy(day);
     QStringList expected;
@@ -129,9 +107,8 @@ TEST_F(DailyCopy, OnesTooManyGoAndOthersFilesStay) {
 
     addLegs(1);
     copy(17); // the day has its copy
-    QDir restored(directory.filePath(QStringLiteral("altrove")));
-    ASSERT_TRUE(restored.mkpath(QStringLiteral(".")));
-    ASSERT_TRUE(QFile::copy(copies() + u'/' + nameOf(17), restored.filePath(QStringLiteral("Vanzer.mdb"))));
+    const QTemporaryDir restored;
+    ASSERT_TRUE(QFile::copy(copies() + u'/' + nameOf(17), path(restored, "Vanzer.mdb")));
     Archive other(restored.path());
     other.apriArchivio();
     EXPECT_EQ(other.tabella("Itinerari").record, stored);
@@ -161,15 +138,11 @@ TEST_F(DailyCopy, FullOnesOutliveEmptyOnesAndAllAreCountedWithoutATrace) {
         copy(day);
     writeOver(0, {});
     ASSERT_TRUE(QFile::resize(copies() + u'/' + nameOf(17), 5000));
-    std::vector<std::pair<int, int>> found;
-    for (const CopiaTrovata& copy : copieAccanto(file())) {
-        EXPECT_EQ(copy.path, copies() + u'/' + nameOf(copy.day.day()));
-        found.emplace_back(copy.day.day(), copy.mete);
-    }
-    EXPECT_EQ(found.size(), 11U);
-    EXPECT_EQ(found.front(), std::pair(17, -1));
-    EXPECT_EQ(found[1], std::pair(16, 0));
-    EXPECT_EQ(found.back(), std::pair(4, 3));
+    QStringList found;
+    for (const CopiaTrovata& copy : copieAccanto(file()))
+        found += copy.path.last(6).first(2) + QString(" %1 %2").arg(copy.day.day()).arg(copy.mete);
+    EXPECT_EQ(found.join(u'|'),
+              "17 17 -1|16 16 0|15 15 0|14 14 0|13 13 0|12 12 0|11 11 0|10 10 0|09 9 0|08 8 0|04 4 3");
     EXPECT_EQ(kept().size(), 11);
 }
 

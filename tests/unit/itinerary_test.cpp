@@ -11,116 +11,81 @@ namespace vanzer {
 using namespace Qt::StringLiterals;
 
 TEST(TabellaTappe, ALongLegIsSeveralRecords) {
-    const struct {
-        int km;
-        std::vector<const char16_t*> pieces;
-    } cases[] = {{0, {u"0"}}, {999, {u"999"}}, {1000, {u"999", u"1"}}, {2500, {u"999", u"999", u"502"}}};
-    for (const auto& c : cases) {
-        const auto records = recordDellaRiga({u"ROMA"_s, u"A1"_s, c.km, u"A"_s, u"*00:02:00"_s}, u"00:01:00"_s, 30);
-        ASSERT_EQ(records.size(), c.pieces.size()) << c.km;
-        EXPECT_EQ(numeroRecord(c.km), static_cast<int>(records.size()));
-        for (std::size_t i = 0; i < records.size(); ++i) {
-            EXPECT_EQ(records[i].chilometri, QString::fromUtf16(c.pieces[i]));
-            EXPECT_EQ(records[i].sostaGuidaCitta, i == 0 ? u"00:01:00"_s : u" "_s);
-            EXPECT_EQ(records[i].tempoSosta, u"00:02:00");
-            EXPECT_TRUE(records[i].fineGiorno);
+    const std::pair<int, QStringList> cases[] = {
+        {0, {u"0"_s}}, {999, {u"999"_s}}, {1000, {u"999"_s, u"1"_s}}, {2500, {u"999"_s, u"999"_s, u"502"_s}}};
+    for (const auto& [km, pieces] : cases) {
+        const auto records = recordDellaRiga({u"ROMA"_s, u"A1"_s, km, u"A"_s, u"*00:02:00"_s}, u"00:01:00"_s, 30);
+        EXPECT_EQ(numeroRecord(km), static_cast<int>(records.size()));
+        QStringList written;
+        for (const RecordTappa& record : records) {
+            EXPECT_EQ(record.sostaGuidaCitta, written.isEmpty() ? u"00:01:00"_s : u" "_s);
+            EXPECT_TRUE(record.tempoSosta == u"00:02:00" && record.fineGiorno);
+            written += record.chilometri;
         }
+        EXPECT_EQ(written, pieces) << km;
     }
     EXPECT_EQ(numeroRecord(2'147'483'647), 2'149'634);
 }
 
-TEST(TabellaTappe, NoStoredTextIsEmptyOrTooLong) {
-    const RecordTappa r = recordDellaRiga({u"PAESE DAL NOME LUNGHISSIMO [Start]"_s, {}, 0, {}, u"*"_s}, {}, 30).front();
-    EXPECT_EQ(r.localita, u"PAESE DAL NOME LUNGHISSIMO [S");
-    EXPECT_EQ(r.nomeStrada, u" ");
-    EXPECT_EQ(r.tipoStrada, u" ");
-    EXPECT_EQ(r.tempoSosta, u" ");
-    EXPECT_EQ(r.sostaGuidaCitta, u" ");
-    EXPECT_EQ(sostaDelRecord(u"1"_s, u" "_s), u"*");
-    EXPECT_EQ(sostaDelRecord(u"0"_s, u"00:02:00"_s), u"00:02:00");
-}
-
 TEST(TabellaTappe, WhichLegsReadTheGuide) {
     TrattoDellaGuida stretch;
-    const struct {
-        const char16_t* place;
-        const char16_t* read; ///< null: nothing is read
-    } legs[] = {
-        {u"PISA", nullptr},
-        {u"LUCCA (x) [Start]", nullptr},
-        {u"ROMA [Start]", u"Roma"},
-        {u"ROMA", u"Roma"},
-        {u"roma", nullptr},
-        {u"ORTE (svincolo)", u"Orte"},
-        {u"BARI [End]", u"Bari"},
-        {u"FOGGIA", nullptr},
-        {u"PISA [Start] [End]", u"Pisa"},
-        {u"LUCCA", nullptr}, // the end was met before
+    const std::pair<QString, QString> legs[] = {
+        {u"PISA"_s, {}},
+        {u"LUCCA (x) [Start]"_s, {}},
+        {u"ROMA [Start]"_s, u"Roma"_s},
+        {u"ROMA"_s, u"Roma"_s},
+        {u"roma"_s, {}},
+        {u"ORTE (svincolo)"_s, u"Orte"_s},
+        {u"BARI [End]"_s, u"Bari"_s},
+        {u"FOGGIA"_s, {}},
+        {u"PISA [Start] [End]"_s, u"Pisa"_s},
+        {u"LUCCA"_s, {}}, // the end was met before
     };
-    for (const auto& leg : legs) {
-        const auto step = stretch.prossimo(QString::fromUtf16(leg.place));
-        EXPECT_EQ(step.leggere, leg.read != nullptr) << QString::fromUtf16(leg.place).toStdString();
-        EXPECT_EQ(step.luogo, leg.read == nullptr ? QString() : QString::fromUtf16(leg.read));
+    for (const auto& [leg, read] : legs) {
+        const auto step = stretch.prossimo(leg);
+        EXPECT_EQ(step.leggere, !read.isEmpty()) << leg.toStdString();
+        EXPECT_EQ(step.luogo, read);
     }
 }
 
 TEST(EditorTappe, WhatIsRefusedAndWhatIsKept) {
-    struct Caso {
-        const char* what;
+    const auto typed = [](int row, const QString& km, double above = 0) {
+        return TappaDigitata{.riga = row,
+                             .luogo = u"ROMA"_s,
+                             .km = km,
+                             .strada = {},
+                             .lettera = u"A"_s,
+                             .sosta = u"00:00:00"_s,
+                             .kmPrecedenti = above,
+                             .kmComeTotale = true};
+    };
+    TappaDigitata endOfDay = typed(2, u"0"_s);
+    endOfDay.fineGiornata = true;
+    TappaDigitata ferry = typed(2, u"0"_s);
+    ferry.strada = u"tragh bari"_s;
+    TappaDigitata switchedOff = typed(5, u"950"_s, 900);
+    switchedOff.kmComeTotale = false;
+    using enum Rifiuto;
+    const struct {
         TappaDigitata typed;
         Rifiuto refused;
-        const char16_t* km;
-        const char16_t* letter;
-        const char16_t* stop;
+        QString kept; ///< kilometres, letter, stop
+    } cases[] = {
+        {typed(1, u"0"_s), Nessuno, u"0||"_s},
+        {typed(2, u"0"_s), NienteDaSegnare, u"0||"_s},
+        {endOfDay, Nessuno, u"0||*"_s},
+        {ferry, Nessuno, u"0||"_s},
+        {typed(5, u"1250"_s, 1000), Nessuno, u"250|A|"_s},
+        {switchedOff, Nessuno, u"950|A|"_s},
+        {typed(5, u"120"_s, 100), Nessuno, u"120|A|"_s}, // no running total up to 100
+        {typed(2, u"250"_s, 200), Nessuno, u"250|A|"_s}, // nor on row 2
+        {typed(3, u"1000"_s, 50), KmTroppi, u"1000|A|"_s},
     };
-    const auto typed = [](int row, const char16_t* km, double above = 0) {
-        TappaDigitata t;
-        t.riga = row;
-        t.luogo = u"ROMA"_s;
-        t.km = QString::fromUtf16(km);
-        t.lettera = u"A"_s;
-        t.sosta = u"00:00:00"_s;
-        t.kmPrecedenti = above;
-        t.kmComeTotale = true;
-        return t;
-    };
-    const auto with = [](TappaDigitata t, auto change) {
-        change(t);
-        return t;
-    };
-    using enum Rifiuto;
-    const Caso cases[] = {
-        {"departure without anything", typed(1, u"0"), Nessuno, u"0", u"", u""},
-        {"row 2 without anything", typed(2, u"0"), NienteDaSegnare, u"0", u"", u""},
-        {"row 2 with an end of day", with(typed(2, u"0"), [](auto& t) { t.fineGiornata = true; }), Nessuno, u"0", u"",
-         u"*"},
-        {"row 2 with a ferry", with(typed(2, u"0"), [](auto& t) { t.strada = u"tragh bari"_s; }), Nessuno, u"0", u"",
-         u""},
-        {"stop and end of day",
-         with(typed(3, u"10"),
-              [](auto& t) {
-                  t.sosta = u"00:01:30"_s;
-                  t.fineGiornata = true;
-              }),
-         Nessuno, u"10", u"A", u"*00:01:30"},
-        {"running total", typed(5, u"1250", 1000), Nessuno, u"250", u"A", u""},
-        {"switched off", with(typed(5, u"950", 900), [](auto& t) { t.kmComeTotale = false; }), Nessuno, u"950", u"A",
-         u""},
-        {"no running total up to 100", typed(5, u"120", 100), Nessuno, u"120", u"A", u""},
-        {"no running total on row 2", typed(2, u"250", 200), Nessuno, u"250", u"A", u""},
-        {"too far", typed(3, u"1000", 50), KmTroppi, u"1000", u"A", u""},
-        {"no place", with(typed(3, u"10"), [](auto& t) { t.luogo = u"  "_s; }), LuogoMancante, u"10", u"A", u""},
-        {"both", with(typed(3, u"1000"), [](auto& t) { t.luogo.clear(); }), KmELuogo, u"1000", u"A", u""},
-    };
-    for (const Caso& c : cases) {
+    for (const auto& c : cases) {
         const TappaControllata row = controllaTappa(c.typed);
-        EXPECT_EQ(row.rifiuto, c.refused) << c.what;
-        EXPECT_EQ(row.km, QString::fromUtf16(c.km)) << c.what;
-        EXPECT_EQ(row.lettera, QString::fromUtf16(c.letter)) << c.what;
-        EXPECT_EQ(row.sosta, QString::fromUtf16(c.stop)) << c.what;
+        EXPECT_EQ(row.rifiuto, c.refused) << c.typed.km.toStdString();
+        EXPECT_EQ(row.km + u'|' + row.lettera + u'|' + row.sosta, c.kept);
     }
-    EXPECT_EQ(controllaTappa(with(typed(1, u"0"), [](auto& t) { t.primaMeta = t.ultimaMeta = true; })).luogo,
-              u"ROMA [Start] [End]");
 }
 
 TEST(EditorTappe, MarksComeOffAName) {
@@ -133,13 +98,10 @@ TEST(EditorTappe, MarksComeOffAName) {
 }
 
 TEST(Meta, CodeOfANewOne) {
-    const struct {
-        std::vector<int> stored;
-        const char16_t* code;
-    } cases[] = {
-        {{}, u"000001"}, {{1, 2, 3}, u"000004"}, {{1, 2, 4}, u"000003"}, {{2, 3}, u"000001"}, {{5}, u"000001"}};
-    for (const auto& c : cases)
-        EXPECT_EQ(codiceNuovaMeta(c.stored), QString::fromUtf16(c.code));
+    const std::pair<std::vector<int>, QString> cases[] = {
+        {{}, u"000001"_s}, {{1, 2, 3}, u"000004"_s}, {{1, 2, 4}, u"000003"_s}, {{5}, u"000001"_s}};
+    for (const auto& [stored, code] : cases)
+        EXPECT_EQ(codiceNuovaMeta(stored), code);
 }
 
 TEST(Meta, SameNameUpToTheBracket) {

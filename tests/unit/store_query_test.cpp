@@ -68,50 +68,42 @@ TEST(Collation, BaseLettersBoundEveryTextThatBeginsAlike) {
 }
 
 TEST(Collation, Like) {
-    struct Row {
+    constexpr struct {
         const char* pattern;
         const char* text;
         bool expected;
-    };
-    constexpr Row rows[] = {
-        {"roma", "ROMA", true},
-        {"roma", "romana", false},
-        {"roma*", "Roma", true},
-        {"roma*", "ROMANA", true},
-        {"*na", "romana", true},
-        {"*na", "romanb", false},
-        {"r?ma", "rÒma", true},
-        {"r?ma", "rma", false},
-        {"citta*", "Città", false},
-        {"CITTÀ*", "città alta", true},
-        {"*", "", true},
-        {"?", "", false},
-        {"", "", true},
-        {"", "a", false},
-        {"a*b*c", "axxbxxbc", true},
-        {"a*b*c", "axxcxxb", false},
-        {"*a*", "bab", true},
-        {"50%_", "50xy", false},
-        {"50%_", "50%_", true},
-        {"[a]", "a", false},
-        {"**a**", "a", true},
-        {"?*?", "è", false},
-        {"?*?", "èè", true},
-        {"*ab", "aab", true},
-    };
-    for (const Row& row : rows)
+    } rows[] = {{"roma", "ROMA", true},
+                {"roma", "romana", false},
+                {"roma*", "Roma", true},
+                {"roma*", "ROMANA", true},
+                {"*na", "romana", true},
+                {"*na", "romanb", false},
+                {"r?ma", "rÒma", true},
+                {"r?ma", "rma", false},
+                {"citta*", "Città", false},
+                {"CITTÀ*", "città alta", true},
+                {"*", "", true},
+                {"?", "", false},
+                {"", "", true},
+                {"", "a", false},
+                {"a*b*c", "axxbxxbc", true},
+                {"a*b*c", "axxcxxb", false},
+                {"50%_", "50xy", false},
+                {"50%_", "50%_", true},
+                {"[a]", "a", false},
+                {"**a**", "a", true},
+                {"?*?", "è", false},
+                {"?*?", "èè", true},
+                {"*ab", "aab", true}};
+    for (const auto& row : rows)
         EXPECT_EQ(somiglia(row.pattern, row.text), row.expected) << row.pattern << " / " << row.text;
     // A pattern that is hard for a matcher that tries all ways.
     EXPECT_FALSE(somiglia("*a*a*a*a*a*a*a*a*a*a*a*a*b", std::string(3000, 'a')));
 }
 
 TEST(QueryText, IsReadInItsOneForm) {
-    struct Row {
-        const char* text;
-        const char* read; // table | field=text or field~pattern, ... | order
-    };
-    constexpr Row rows[] = {
-        {"SELECT * FROM Itinerari", "Itinerari||"},
+    constexpr std::pair<const char*, const char*> rows[] = {
+        // read: table | field=text or field~pattern, ... | order
         {"Itinerari", "Itinerari||"},
         {"select*from T where a='x'", "T|a=x,|"},
         {"SELECT * FROM T WHERE Localita LIKE 'L''AQUILA*' AND b = ''", "T|Localita~L'AQUILA*,b=,|"},
@@ -129,10 +121,10 @@ TEST(QueryText, IsReadInItsOneForm) {
         {"SELECT a FROM T", nullptr},
         {"", nullptr},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         QString read;
         const auto failure = failureOf([&] {
-            const Query query = analizza(QString::fromUtf8(row.text));
+            const Query query = analizza(QString::fromUtf8(row.first));
             read = query.table + u'|';
             for (const Condition& c : query.where)
                 read += c.field + (c.test == Condition::Test::Like ? u'~' : u'=') + c.text + u',';
@@ -140,10 +132,10 @@ TEST(QueryText, IsReadInItsOneForm) {
             for (const Order& o : query.orderBy)
                 read += o.field + (o.descending ? QStringLiteral("-,") : QStringLiteral(","));
         });
-        if (row.read == nullptr)
-            EXPECT_EQ(failure, StoreError::Kind::Other) << row.text << " read as " << read.toStdString();
+        if (row.second == nullptr)
+            EXPECT_EQ(failure, StoreError::Kind::Other) << row.first << " read as " << read.toStdString();
         else
-            EXPECT_EQ(read.toStdString(), row.read) << row.text;
+            EXPECT_EQ(read.toStdString(), row.second) << row.first;
     }
 }
 
@@ -160,31 +152,24 @@ TEST_F(StoreQuery, FindsByEqualityAndPattern) {
               {QString(), "8"},
               {"Porto (A)", "9"},
               {"Aroma", "a"}});
-    struct Row {
-        const char* where;
-        const char* found;
-    };
-    const Row rows[] = {
-        {"Localita = 'roma'", "1,2"},
-        {"Localita LIKE 'roma'", "1,2"},
-        {"localita LIKE 'roma*'", "1,2,4"},
-        {"Localita LIKE 'romà*'", "3"},
-        {"Localita LIKE 'rom?'", "1,2,3"},
-        {"Localita LIKE '*rom*'", "1,2,3,4,a"},
-        {"Localita LIKE 'è*'", "6"},
-        {"Localita LIKE 'e*'", "7"},
-        {"Localita LIKE '*'", "1,2,3,4,5,6,7,9,a"},
-        {"Localita LIKE 'l''a*'", "5"},
-        {"Localita = '*'", ""},
-        {"Localita LIKE 'porto (*' AND Descrizione LIKE '?'", "9"},
-        {"Localita LIKE 'roma*' AND (Descrizione = '4')", "4"},
-        {"Localita = ''", ""},
-    };
-    for (const Row& row : rows) {
-        const QString query = QStringLiteral("SELECT * FROM GuidaCitta WHERE ") + QString::fromUtf8(row.where);
-        EXPECT_EQ(texts(query, "Descrizione").join(u',').toStdString(), row.found) << row.where;
-        EXPECT_EQ(archive.NumeroRecord(), QString::fromLatin1(row.found).split(u',', Qt::SkipEmptyParts).size())
-            << row.where;
+    const std::pair<QString, QString> rows[] = {{"Localita = 'roma'", "1,2"},
+                                                {"Localita LIKE 'roma'", "1,2"},
+                                                {"localita LIKE 'roma*'", "1,2,4"},
+                                                {"Localita LIKE 'romà*'", "3"},
+                                                {"Localita LIKE 'rom?'", "1,2,3"},
+                                                {"Localita LIKE '*rom*'", "1,2,3,4,a"},
+                                                {"Localita LIKE 'è*'", "6"},
+                                                {"Localita LIKE 'e*'", "7"},
+                                                {"Localita LIKE '*'", "1,2,3,4,5,6,7,9,a"},
+                                                {"Localita LIKE 'l''a*'", "5"},
+                                                {"Localita = '*'", ""},
+                                                {"Localita LIKE 'porto (*' AND Descrizione LIKE '?'", "9"},
+                                                {"Localita LIKE 'roma*' AND (Descrizione = '4')", "4"},
+                                                {"Localita = ''", ""}};
+    for (const auto& [where, found] : rows) {
+        EXPECT_EQ(texts("SELECT * FROM GuidaCitta WHERE " + where, "Descrizione").join(u','), found)
+            << where.toStdString();
+        EXPECT_EQ(archive.NumeroRecord(), found.split(u',', Qt::SkipEmptyParts).size()) << where.toStdString();
     }
     for (const QString& name : {QStringLiteral("L'Aquila"), QStringLiteral("''"), QStringLiteral("a'b''c")}) {
         addGuide({{name, "quoted"}});
@@ -196,33 +181,25 @@ TEST_F(StoreQuery, FindsByEqualityAndPattern) {
 TEST_F(StoreQuery, SortsWithTiesAsAdded) {
     addGuide(
         {{"Fano", "1"}, {"èze", "2"}, {"EZE", "3"}, {QString(), "4"}, {"eze", "5"}, {"Éa", "6"}, {QString(), "7"}});
-    struct Row {
-        const char* order;
-        const char* found;
-    };
-    const Row rows[] = {
+    const std::pair<QString, QString> rows[] = {
         {"Localita", "4,7,6,3,5,2,1"},
         {"Localita DESC", "1,2,3,5,6,4,7"}, // ties stay as added, records without a value come last
         {"FlagVisto, Localita DESC", "1,2,3,5,6,4,7"},
         {"Descrizione DESC", "7,6,5,4,3,2,1"},
     };
-    for (const Row& row : rows) {
-        const QString query = QStringLiteral("SELECT * FROM GuidaCitta ORDER BY ") + QString::fromLatin1(row.order);
-        EXPECT_EQ(texts(query, "Descrizione").join(u',').toStdString(), row.found) << row.order;
+    for (const auto& [order, found] : rows) {
+        const QString query = "SELECT * FROM GuidaCitta ORDER BY " + order;
+        EXPECT_EQ(texts(query, "Descrizione").join(u','), found) << order.toStdString();
         Recordset& rs = open(query);
         rs.MoveLast();
-        EXPECT_EQ(rs.testo("Descrizione").toStdString(), std::string(1, row.found[12])) << row.order;
+        EXPECT_EQ(rs.testo("Descrizione"), found.last(1)) << order.toStdString();
         rs.MoveNext();
         EXPECT_TRUE(rs.EOF_());
     }
 }
 
 TEST_F(StoreQuery, UsesTheIndexes) {
-    struct Row {
-        const char* query;
-        const char* plan;
-    };
-    const Row rows[] = {
+    const std::pair<QString, QString> rows[] = {
         {"SELECT * FROM Itinerari WHERE CodiceMeta = '1' ORDER BY Sequenza",
          "USING INDEX Itinerari.CodiceMeta (CodiceMeta=?)"},
         {"SELECT * FROM GuidaCitta WHERE Localita LIKE 'Roma'", "USING INDEX GuidaCitta.Localita (Localita=?)"},
@@ -233,16 +210,15 @@ TEST_F(StoreQuery, UsesTheIndexes) {
          "USING INDEX GuidaCitta.Localita (Localita>? AND Localita<?)"},
         {"SELECT * FROM MeteVanzer ORDER BY Localita", "SCAN MeteVanzer USING INDEX MeteVanzer.Localita"},
     };
-    for (const Row& row : rows) {
-        const auto form = traduce(*archive.Db(0), analizza(QString::fromLatin1(row.query))).form;
+    for (const auto& [query, expected] : rows) {
+        const auto form = traduce(*archive.Db(0), analizza(query)).form;
         for (const QByteArray& sql : {form->select, form->last}) {
             const QString plan = archive.Db(0)->piano(sql).join(u'\n');
-            EXPECT_TRUE(plan.contains(QString::fromLatin1(row.plan))) << row.query << "\n" << plan.toStdString();
+            EXPECT_TRUE(plan.contains(expected)) << query.toStdString() << "\n" << plan.toStdString();
         }
     }
-    EXPECT_EQ(failureOf([&] { open("SELECT * FROM Nulla"); }), StoreError::Kind::Other);
-    EXPECT_EQ(failureOf([&] { open("SELECT * FROM Itinerari WHERE Nulla = 'x'"); }), StoreError::Kind::Other);
-    EXPECT_EQ(failureOf([&] { open("SELECT * FROM Itinerari ORDER BY Nulla"); }), StoreError::Kind::Other);
+    for (const char* unknown : {"Nulla", "Itinerari WHERE Nulla = 'x'", "Itinerari ORDER BY Nulla"})
+        EXPECT_EQ(failureOf([&] { open("SELECT * FROM " + QString(unknown)); }), StoreError::Kind::Other) << unknown;
 }
 
 } // namespace
