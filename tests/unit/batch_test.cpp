@@ -1,7 +1,4 @@
-#include <QFile>
-#include <QJsonArray>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
+#include "store_fixture.h"
 
 #include "batch/interpreter.h"
 #include "batch/line.h"
@@ -19,56 +16,20 @@ TEST(BatchLine, SkipsCommentsAndEmptyLines) {
         EXPECT_FALSE(saysNothing(QString::fromUtf8(line))) << line;
 }
 
-TEST(BatchYield, LetsAVisitorInOnceAndNotIntoItself) {
-    VisitedYield events;
-    int asked = 0;
-    events.expect([&] {
-        events.yield();
-        return ++asked == 2;
-    });
-    for (int i = 0; i < 5; ++i)
-        events.yield();
-    EXPECT_EQ(asked, 2);
-    events.expect([&] { return ++asked > 0; });
-    events.expect({});
-    events.yield();
-    EXPECT_EQ(asked, 2);
-}
-
-class BatchPrinter : public testing::Test {
-  protected:
-    QueuedDialogs dialogs;
-    RecordingPrinter printer{dialogs};
-};
-
-TEST_F(BatchPrinter, GoesOnWithAPageThatWasTakenHalfDrawn) {
-    EXPECT_EQ(printer.fontName(), QStringLiteral("Times new roman"));
-    printer.line({1, 1}, {2, 2}, 1);
-    EXPECT_EQ(printer.take()["pages"].toArray().size(), 1);
-    printer.line({1, 1}, {2, 2}, 1);
-    EXPECT_EQ(printer.page(), 1);
-    printer.endDoc();
-    const QJsonObject rest = printer.take();
-    EXPECT_EQ(rest["pages"].toArray().size(), 1);
-    EXPECT_EQ(rest["documents"].toInt(), 1);
-}
-
-TEST_F(BatchPrinter, DrawsNoPdfInPlaceOfTheArchive) {
+TEST(BatchPrinter, DrawsNoPdfInPlaceOfTheArchive) {
     const QTemporaryDir scratch;
     const QString archive = scratch.filePath(QStringLiteral("Vanzer.mdb"));
-    QFile file(archive);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("legs") == 4);
-    file.close();
+    store::write(archive, "legs");
     ASSERT_TRUE(QFile::link(archive, scratch.filePath(QStringLiteral("giro.pdf"))));
+    QueuedDialogs dialogs;
     RecordingPrinter careful(dialogs, archive);
     careful.choose(QStringLiteral("PDF"));
     for (const char* name : {"Vanzer.mdb", "./Vanzer.mdb", "giro.pdf"}) {
-        dialogs.enqueue(scratch.filePath(QString::fromLatin1(name)));
+        dialogs.enqueue(store::path(scratch, name));
         EXPECT_THROW(careful.text({10, 10}, QStringLiteral("Roma")), PrinterError) << name;
         EXPECT_TRUE(careful.endDoc());
     }
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), "legs");
+    EXPECT_EQ(store::contents(archive), "legs");
 }
 
 TEST(BatchInterpreter, KnowsAllThatTheHelpLists) {

@@ -10,6 +10,11 @@ class Changes : public WindowTest {
         startAnew();
         storeTrip(u"PROVA"_s);
     }
+    void typeLeg() {
+        form().cmdItinerario.click();
+        form().mfgTab.clickRow(3);
+        form().txtTappa.type(u"CUNEO"_s);
+    }
 };
 
 TEST_F(Changes, EachWayThatTakesThemAsksFirst) {
@@ -115,9 +120,7 @@ TEST_F(Changes, ATypedLegIsAskedForBeforeItsFieldsGo) {
         for (const int wish : {rispostaAnnulla, rispostaNo, rispostaSi}) {
             SCOPED_TRACE(what + std::string(" ") + std::to_string(wish));
             begin();
-            form().cmdItinerario.click();
-            form().mfgTab.clickRow(3);
-            form().txtTappa.type(u"CUNEO"_s);
+            typeLeg();
             form().txtKm.type(u"70"_s);
             EXPECT_EQ(asked(), QStringList());
             answer({wish});
@@ -134,9 +137,7 @@ TEST_F(Changes, ATypedLegIsAskedForBeforeItsFieldsGo) {
         }
     }
     begin();
-    form().cmdItinerario.click();
-    form().mfgTab.clickRow(3);
-    form().txtTappa.type(u"CUNEO"_s);
+    typeLeg();
     answer({rispostaSi});
     form().cmdFine.click();
     EXPECT_EQ(asked(), (QStringList{u"La tappa «CUNEO» è scritta ma non inserita.\n\nInserirla?"_s,

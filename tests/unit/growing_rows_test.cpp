@@ -47,11 +47,6 @@ class Onlooker : public EventYield {
     bool due_ = false;
 };
 
-class NoPrograms : public ProgramStarter {
-  public:
-    bool start(const QString& /*program*/, const QStringList& /*arguments*/) override { return false; }
-};
-
 /// What the rows take from the window while its legs are kept.
 TestiViandoria texts(const Form& form) {
     const TestiTabella& legs = *form.tappeConservate;
@@ -116,7 +111,7 @@ class Trip {
     QTemporaryDir directory_;
     batch::QueuedDialogs dialogs_;
     batch::SetClock clock_;
-    NoPrograms programs_;
+    DetachedStarter programs_;
     Ports ports_{boxes, dialogs_, clock_, events, programs_};
     std::unique_ptr<Form> form_;
 };

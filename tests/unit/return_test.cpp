@@ -14,31 +14,30 @@ Ritorno homeFrom(const QStringList& out) {
 }
 
 TEST(ReturnToStart, JoinsAtTheNearestEarlierPassage) {
-    struct Row {
-        QStringList out;
+    const struct {
+        QString out;
         int join;
-        QStringList home;
+        QString home;
+    } rows[] = {
+        {u"A|B|C|D|B"_s, 2, u"A"_s},
+        {u"A|B|C|B|D|B"_s, 4, u"C|B|A"_s}, // the nearest, not the first
+        {u"A|B|A"_s, 1, {}},               // home already
+        {u"A|B|C"_s, 0, {}},
+        {u"Roma|Bari|BARILE|Lecce|bari"_s, 3, u"Bari|Roma"_s}, // a beginning matches
+        {u"X [Start]|Roma (Est)|Y|ROMA (Nord) [End]"_s, 2, u"X [Start]"_s},
+        {u"X|Roma (Est)|Y|Roma [End] (x)"_s, 2, u"X"_s},
+        {u"A"_s, 0, {}},
     };
-    const std::vector<Row> rows{
-        {{u"A"_s, u"B"_s, u"C"_s, u"D"_s, u"B"_s}, 2, {u"A"_s}},
-        {{u"A"_s, u"B"_s, u"C"_s, u"B"_s}, 2, {u"A"_s}},
-        {{u"A"_s, u"B"_s, u"C"_s, u"B"_s, u"D"_s, u"B"_s}, 4, {u"C"_s, u"B"_s, u"A"_s}}, // the nearest, not the first
-        {{u"A"_s, u"B"_s, u"A"_s}, 1, {}},                                               // home already
-        {{u"A"_s, u"B"_s, u"C"_s}, 0, {}},
-        {{u"Roma"_s, u"Bari"_s, u"BARILE"_s, u"Lecce"_s, u"bari"_s}, 3, {u"Bari"_s, u"Roma"_s}}, // a beginning matches
-        {{u"X [Start]"_s, u"Roma (Est)"_s, u"Y"_s, u"ROMA (Nord) [End]"_s}, 2, {u"X [Start]"_s}},
-        {{u"X"_s, u"Roma (Est)"_s, u"Y"_s, u"Roma [End] (x)"_s}, 2, {u"X"_s}},
-        {{u"A"_s}, 0, {}},
-        {{}, 0, {}},
-    };
-    for (const Row& row : rows) {
-        const Ritorno result = homeFrom(row.out);
+    for (const auto& row : rows) {
+        const QStringList out = row.out.split(u'|');
+        const Ritorno result = homeFrom(out);
         QStringList home;
         for (const PassoRitorno& leg : result.passi)
-            home << row.out[leg.luogo - 1];
-        EXPECT_EQ(result.riga, row.join) << row.out.join(u' ').toStdString();
-        EXPECT_EQ(home, row.home) << row.out.join(u' ').toStdString();
+            home << out[leg.luogo - 1];
+        EXPECT_EQ(result.riga, row.join) << row.out.toStdString();
+        EXPECT_EQ(home.join(u'|'), row.home) << row.out.toStdString();
     }
+    EXPECT_EQ(homeFrom({}).riga, 0);
 }
 
 TEST(ReturnToStart, DrivesTheSameRoads) {

@@ -14,6 +14,13 @@
 namespace vanzer::store {
 namespace {
 
+TEST(Descriptor, IsRead) {
+    using enum FieldKind;
+    const std::vector<FieldDef> expected{{"A", Text, 6},      {"b", YesNo, 0},  {"C", Binary, 0}, {"D", DateTime, 0},
+                                         {"E", Integer16, 0}, {"F", Single, 0}, {"G", Double, 0}};
+    EXPECT_EQ(campiDescritti("A[T=6],b[y],C[B],D[D],E[I],F[S],G[L],xyz"), expected);
+}
+
 /// A program that dies in mid-command, when a part of it is in the file already.
 struct Killed {
     template<typename Work> Killed(const QString& folder, const Work& work) {

@@ -242,6 +242,7 @@ TEST(Griglia, ManyChangesAreOneForAView) {
     QObject::connect(&grid.model(), &QAbstractItemModel::modelReset, [&resets] { ++resets; });
     for (const int rows : {40, 3, 1, 17})
         grid.setRows(rows);
+    grid.setCell(0, 1, u"Tappa"_s);
     EXPECT_EQ(resets, 0);
     {
         const SenzaRidisegno outer(grid);
@@ -256,6 +257,7 @@ TEST(Griglia, ManyChangesAreOneForAView) {
     EXPECT_EQ(resets, 1);
     EXPECT_EQ(std::pair(grid.model().rowCount(), grid.model().columnCount()), std::pair(2, 12));
     EXPECT_EQ(grid.model().index(0, 1).data().toString(), u"Pisa");
+    EXPECT_EQ(grid.model().headerData(1, Qt::Horizontal).toString(), u"Tappa");
 }
 
 } // namespace vanzer
