@@ -147,6 +147,7 @@ TEST_F(StoreArchive, PlacesWhereNothingCanBeOpened) {
     EXPECT_EQ(failureOf([&] { nowhere.apriArchivio(); }), StoreError::Kind::NotFound);
     EXPECT_EQ(failureOf([&] { (void)Database::apre(path(directory, "none.mdb")); }), StoreError::Kind::NotFound);
     EXPECT_FALSE(QFileInfo::exists(path(directory, "none.mdb"))); // opening never makes a file
+    EXPECT_EQ(failureOf([&] { (void)Database::apre(directory.path()); }), StoreError::Kind::Io);
     archive.chiudi();
     QFile::setPermissions(directory.path(), QFile::ReadOwner | QFile::ExeOwner);
     if (!QFileInfo(directory.path()).isWritable()) { // the administrator may write anywhere
@@ -230,6 +231,8 @@ TEST_F(StoreArchive, AFileOfAnotherVersionIsRefusedOrCarriedOver) {
         rs.scrive("CodiceGuida", "01");
         rs.scrive("Descrizione", QString(40, u'x'));
         rs.Update();
+        rs.AddNew(); // without values
+        rs.Update();
     });
     {
         const auto old = Database::apre(file());
@@ -242,6 +245,7 @@ TEST_F(StoreArchive, AFileOfAnotherVersionIsRefusedOrCarriedOver) {
     const auto record = archive.tabella("TipoGuida").record.at(0);
     using Cell = TabellaLetta::Cella;
     EXPECT_EQ(record, (std::vector<Cell>{"01", QString(32, u'x'), false, "bella"}));
+    EXPECT_EQ(archive.tabella("TipoGuida").record.at(1), (std::vector<Cell>{Cell(), Cell(), false, Cell()}));
     EXPECT_EQ(archive.tabella("Extra").record.at(0), (std::vector<Cell>{"x", "7"}));
     archive.chiudi();
     EXPECT_TRUE(Database::apre(opening.archivioDiPrima)->intatto()); // for ten starts

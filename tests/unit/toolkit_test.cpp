@@ -4,7 +4,10 @@
 #include <algorithm>
 #include <random>
 
+#include <QAbstractItemModelTester>
+
 #include "toolkit/grid.h"
+#include "toolkit/pdf_structure.h"
 
 namespace vanzer {
 
@@ -238,6 +241,7 @@ TEST(Griglia, TellsTheRowsThatHaveChanged) {
 
 TEST(Griglia, ManyChangesAreOneForAView) {
     Grid grid(u"mfgTab"_s, -1, nullptr, 30, 20);
+    const QAbstractItemModelTester rules(&grid.model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
     int resets = 0;
     QObject::connect(&grid.model(), &QAbstractItemModel::modelReset, [&resets] { ++resets; });
     for (const int rows : {40, 3, 1, 17})
@@ -258,6 +262,16 @@ TEST(Griglia, ManyChangesAreOneForAView) {
     EXPECT_EQ(std::pair(grid.model().rowCount(), grid.model().columnCount()), std::pair(2, 12));
     EXPECT_EQ(grid.model().index(0, 1).data().toString(), u"Pisa");
     EXPECT_EQ(grid.model().headerData(1, Qt::Horizontal).toString(), u"Tappa");
+}
+
+TEST(PdfStructure, PackedDataIsWhatReadersUnpack) {
+    const QByteArray data = QByteArray("10 20 m 30 40 l S\n").repeated(1000);
+    const PdfStream stream = packed(data, "/Length1 5");
+    EXPECT_EQ(stream.entries, "/Length1 5/Filter/FlateDecode");
+    EXPECT_LT(stream.data.size(), data.size() / 20);
+    const char size[] = {0, 0, static_cast<char>(data.size() >> 8), static_cast<char>(data.size())};
+    EXPECT_EQ(qUncompress(QByteArray(size, 4) + stream.data), data);
+    EXPECT_EQ(pdfText(u"Città €"_s), "<FEFF004300690074007400e0002020ac>");
 }
 
 } // namespace vanzer
