@@ -13,6 +13,7 @@
 #include "schedule/calculation_screen.h"
 #include "schedule/growing_rows.h"
 #include "schedule/preparation_screen.h"
+#include "toolkit/program_starter.h"
 #include "window/command.h"
 #include "window/startup.h"
 

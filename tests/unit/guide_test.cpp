@@ -41,6 +41,13 @@ TEST(GuideTime, ShowsInItsBoxesWhatTheyOffer) {
         EXPECT_EQ(oreMostrate(time) + u':' + minutiMostrati(time), hours + u':' + minutes) << time.toStdString();
 }
 
+TEST(GuideEntry, RowKeysStayInsideTheGrid) {
+    constexpr int keys[][3] = {{5, 38, 4}, {1, 38, 1},  {5, 40, 6},  {17, 40, 17}, {14, 33, 2},
+                               {5, 33, 1}, {3, 34, 15}, {9, 34, 17}, {5, 13, 5}};
+    for (const auto& [row, key, next] : keys)
+        EXPECT_EQ(rigaDopoTasto(row, key, 18), next) << row << ' ' << key;
+}
+
 TEST(GuideStops, AreAddedToTheLegsStop) {
     const struct {
         QString stop;

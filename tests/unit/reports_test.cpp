@@ -1,4 +1,6 @@
 // Where reports begin another page, told by the recording printer.
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include <QJsonArray>
