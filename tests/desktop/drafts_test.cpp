@@ -98,6 +98,8 @@ TEST_F(Drafts, ASignalEndsTheProgramInOrder) {
         QFile::remove(directory.filePath(QStringLiteral("Vanzer.mdb")));
         QProcess program;
         program.setProcessChannelMode(QProcess::ForwardedChannels);
+        // Whoever started the tests may have chosen to ignore some, which the program would respect.
+        program.setChildProcessModifier([signal] { std::signal(signal, SIG_DFL); });
         program.start(QStringLiteral(VANZER_PROGRAM), {QStringLiteral("--dir"), directory.path()});
         ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(journal); }, 20000));
         ASSERT_EQ(::kill(static_cast<pid_t>(program.processId()), signal), 0);
