@@ -99,6 +99,12 @@ void damage(std::string& bytes, std::mt19937_64& chance) {
     }
 }
 
+/// The head tells of a write-ahead log: the engine sets that right before it looks any further.
+bool speaksOfLog(const std::string& archive) {
+    constexpr std::size_t versions = 18;
+    return archive.size() > versions + 1 && (archive[versions] != 1 || archive[versions + 1] != 1);
+}
+
 /// No damage crashes the program or makes it hang, whatever is done then; the copies stay, and so does a file that is
 /// refused.
 TEST(Damaged, ArchivesAndJournals) {
@@ -132,8 +138,9 @@ TEST(Damaged, ArchivesAndJournals) {
                 const QStringList boxes = desk.tries({u"start"_s});
                 if (desk.alive())
                     desk.tries(roomsFrom(folder) + changesOfTrips + QStringList{u"start"_s});
-                else if (!hot) {
-                    EXPECT_EQ(bytesOf(folder + u"/Vanzer.mdb"_s) == disk.contents[disk.names[archiveName]], true);
+                else if (const std::string& given = disk.contents[disk.names[archiveName]];
+                         !hot && !speaksOfLog(given)) {
+                    EXPECT_TRUE(bytesOf(folder + u"/Vanzer.mdb"_s) == given);
                 }
                 for (const auto& [name, file] : disk.names) {
                     if (name.starts_with("Copie/")) {
