@@ -130,7 +130,7 @@ TEST(Damaged, ArchivesAndJournals) {
             const QDate today(2026, 5, chance() % 3 == 0 ? 20 : 4);
             disk.lay(folder);
             attempt(number, [&] {
-#ifndef __SANITIZE_ADDRESS__
+#ifdef VANZER_LIMITED_MEMORY
                 const rlimit room{rlim_t{4} << 30, rlim_t{4} << 30};
                 setrlimit(RLIMIT_AS, &room);
 #endif
