@@ -29,7 +29,8 @@ inline double printsSchedule(BigTrip& trip) {
     const QString pdf = trip.file("viandoria.pdf");
     QFile::remove(pdf);
     OneFile file(pdf);
-    desktop::DesktopPrinter printer(file);
+    const desktop::SystemClock clock;
+    desktop::DesktopPrinter printer(file, clock);
     Printer* const before = std::exchange(form.ports.printer, &printer);
     form.cmdStampa.click();
     form.chkTabella.setValue(true);

@@ -52,7 +52,7 @@ QJsonArray linesOf(const QByteArray& bytes) {
 } // namespace
 
 Session::Session(Ambiente surroundings)
-    : printer(dialogs, QDir(surroundings.directory).filePath(store::nomeArchivio)),
+    : printer(dialogs, clock, QDir(surroundings.directory).filePath(store::nomeArchivio)),
       surroundings_(std::move(surroundings)) {
     events.onEnd = [this] {
         if (form_ != nullptr)

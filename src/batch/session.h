@@ -6,8 +6,8 @@
 
 #include <QJsonObject>
 
+#include "batch/batch_printer.h"
 #include "batch/queue_ports.h"
-#include "batch/recording_printer.h"
 #include "toolkit/program_starter.h"
 #include "window/form.h"
 
@@ -23,7 +23,7 @@ class Session {
     QueuedDialogs dialogs;
     SetClock clock;
     VisitedYield events;
-    RecordingPrinter printer;
+    BatchPrinter printer;
 
     /// Leaves the window if there is one, and starts. Must not be called while a handler of the window runs.
     void start();

@@ -1,10 +1,12 @@
 #include "desktop/desktop_printer.h"
 
 #include <utility>
+#include <vector>
 
 #include <QDir>
 #include <QPrinterInfo>
 
+#include "desktop/paper_output.h"
 #include "desktop/print_preview.h"
 
 namespace vanzer::desktop {
@@ -15,8 +17,6 @@ const QString pdfName = QStringLiteral("PDF");
 const QString pdfFilter = QStringLiteral("PDF (*.pdf)|*.pdf");
 const QString pdfEnding = QStringLiteral(".pdf");
 
-constexpr double penStep = 0.1; // mm
-
 bool same(const QString& a, const QString& b) {
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
@@ -25,13 +25,32 @@ bool isPdf(const QString& printer) {
     return same(printer, pdfName);
 }
 
+/// Keeps the pages until the user has seen them.
+class PreviewedOutput : public PageOutput {
+  public:
+    using Approval = std::function<bool(const std::vector<paper::Page>& pages)>;
+    PreviewedOutput(std::unique_ptr<PageOutput> output, Approval approved)
+        : output_(std::move(output)), approved_(std::move(approved)) {}
+
+    void write(paper::Page page) override { pages_.push_back(std::move(page)); }
+
+    bool finish() override {
+        if (!approved_(pages_))
+            return false;
+        for (paper::Page& page : pages_)
+            output_->write(std::move(page));
+        return output_->finish();
+    }
+
+    [[nodiscard]] QStringList files() const override { return output_->files(); }
+
+  private:
+    std::unique_ptr<PageOutput> output_;
+    Approval approved_;
+    std::vector<paper::Page> pages_;
+};
+
 } // namespace
-
-DesktopPrinter::DesktopPrinter(FileDialogs& files) : files_(files) {
-    DesktopPrinter::setFontName(QStringLiteral("Times new roman"));
-}
-
-DesktopPrinter::~DesktopPrinter() = default;
 
 /// A printer of the platform that is called "PDF" does no more than ours.
 QStringList DesktopPrinter::names() const {
@@ -58,154 +77,26 @@ void DesktopPrinter::choose(const QString& name) {
     }
 }
 
-void DesktopPrinter::setFontName(const QString& name) {
-    if (name == font_.face.name)
-        return;
-    auto known = typefaces_.find(name);
-    if (known == typefaces_.end())
-        known = typefaces_.emplace(name, typefaceFor(name)).first;
-    font_.face = known->second;
-    face_ = nullptr;
+/// Null if no file is wanted.
+std::unique_ptr<PageOutput> DesktopPrinter::toPdf() {
+    QString path = files_.save(pdfFilter, Ricopertura::ChiedeIlDialogo);
+    if (path.isEmpty())
+        return nullptr;
+    if (!path.endsWith(pdfEnding, Qt::CaseInsensitive))
+        path += pdfEnding;
+    if (const QString reserved = nomeRiservato ? nomeRiservato(path) : QString(); !reserved.isEmpty())
+        throw PrinterError{QStringLiteral("Il file %1 %2").arg(QDir::toNativeSeparators(path), reserved)};
+    return pdfOutput(path, fonts(), clock_.now());
 }
 
-void DesktopPrinter::setBold(bool on) {
-    if (std::exchange(font_.bold, on) != on)
-        face_ = nullptr;
-}
-
-void DesktopPrinter::setItalic(bool on) {
-    if (std::exchange(font_.italic, on) != on)
-        face_ = nullptr;
-}
-
-/// Made when a text is measured or drawn with it. Faces stay: what was drawn knows them.
-PrintFace& DesktopPrinter::face() const {
-    if (face_ == nullptr) {
-        std::unique_ptr<PrintFace>& face = faces_[{font_.face.family, font_.bold, font_.italic}];
-        if (face == nullptr)
-            face = std::make_unique<PrintFace>(largeFont(font_));
-        face_ = face.get();
-    }
-    return *face_;
-}
-
-double DesktopPrinter::textWidth(const QString& text) const {
-    return face().width(text) * mmPerPixel(font_.points);
-}
-
-double DesktopPrinter::textHeight(const QString& /*text*/) const {
-    return face().height() * mmPerPixel(font_.points);
-}
-
-template<typename Step> void DesktopPrinter::orDrop(Step step) {
-    try {
-        step();
-    } catch (const PrinterError&) {
-        drop();
-        throw;
-    }
-}
-
-void DesktopPrinter::begin() {
-    target_ = current();
-    previewed_ = previewWanted();
-    if (isPdf(target_)) {
-        QString path = files_.save(pdfFilter, Ricopertura::ChiedeIlDialogo);
-        unwanted_ = path.isEmpty();
-        if (unwanted_)
-            return;
-        if (!path.endsWith(pdfEnding, Qt::CaseInsensitive))
-            path += pdfEnding;
-        if (const QString reserved = nomeRiservato ? nomeRiservato(path) : QString(); !reserved.isEmpty())
-            throw PrinterError{QStringLiteral("Il file %1 %2").arg(QDir::toNativeSeparators(path), reserved)};
-        output_ = pdfOutput(path);
-        file_ = path;
-    } else if (!previewed_) {
-        output_ = paperOutput(target_);
-    }
-}
-
-template<typename Drawn> void DesktopPrinter::draw(Drawn&& drawing) {
-    if (page_ == 0) {
-        orDrop([this] { begin(); });
-        page_ = 1;
-    }
-    if (!unwanted_)
-        drawn_.emplace_back(std::forward<Drawn>(drawing));
-}
-
-void DesktopPrinter::text(Punto at, const QString& text) {
-    draw(DrawnText{at, text, &face(), mmPerPixel(font_.points)});
-}
-
-void DesktopPrinter::line(Punto from, Punto to, int width) {
-    draw(DrawnLine{from, to, width * penStep});
-}
-
-void DesktopPrinter::box(Punto from, Punto to, int width, std::optional<quint32> fill) {
-    draw(DrawnBox{from, to, width * penStep, fill});
-}
-
-void DesktopPrinter::picture(Immagine picture, Punto at, Punto size) {
-    draw(DrawnPicture{picture, at, size});
-}
-
-void DesktopPrinter::pageDone() {
-    if (previewed_)
-        waiting_.push_back(std::exchange(drawn_, {}));
-    else
-        output_->write(drawn_);
-    drawn_.clear();
-}
-
-void DesktopPrinter::newPage() {
-    orDrop([this] {
-        if (page_ == 0) {
-            begin();
-            page_ = 1;
-        }
-        if (!unwanted_)
-            pageDone();
-        ++page_;
+std::unique_ptr<PageOutput> DesktopPrinter::begin() {
+    const QString printer = current();
+    std::unique_ptr<PageOutput> output = isPdf(printer) ? toPdf() : paperOutput(printer);
+    if (output == nullptr || !previewWanted())
+        return output;
+    return std::make_unique<PreviewedOutput>(std::move(output), [this, printer](const auto& pages) {
+        return PrintPreview(pages, fonts(), printer, opening()).exec() == QDialog::Accepted;
     });
-}
-
-bool DesktopPrinter::approved() {
-    return PrintPreview(waiting_, target_, opening()).exec() == QDialog::Accepted;
-}
-
-bool DesktopPrinter::endDoc() {
-    madeFiles_.clear();
-    if (page_ == 0)
-        return true;
-    bool sent = false;
-    orDrop([this, &sent] {
-        if (unwanted_)
-            return;
-        if (!drawn_.empty() || page_ == 1) // no blank sheet at the end
-            pageDone();
-        if (previewed_ && !approved())
-            return;
-        if (output_ == nullptr)
-            output_ = paperOutput(target_);
-        for (const DrawnPage& page : waiting_)
-            output_->write(page);
-        output_->finish();
-        if (!file_.isEmpty())
-            madeFiles_ << file_;
-        sent = true;
-    });
-    drop();
-    return sent;
-}
-
-void DesktopPrinter::drop() {
-    page_ = 0;
-    unwanted_ = false;
-    file_.clear();
-    output_.reset();
-    drawn_.clear();
-    waiting_.clear();
 }
 
 } // namespace vanzer::desktop

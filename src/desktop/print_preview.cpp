@@ -5,13 +5,15 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
-#include "desktop/print_font.h"
+#include "paper/picture.h"
 
 namespace vanzer::desktop {
 
@@ -19,7 +21,8 @@ namespace {
 
 const QString wishKey = QStringLiteral("stampa/anteprima");
 
-constexpr int around = 12; // px of ground around the sheet
+constexpr QSizeF sheetSize(paper::sheetSize.x, paper::sheetSize.y); // mm
+constexpr int around = 12;                                          // px of ground around the sheet
 constexpr double zoomStep = 1.25;
 constexpr double smallest = 0.25; // zooms, 1 is the size of the paper
 constexpr double largest = 4;
@@ -35,27 +38,36 @@ PreviewCheck::PreviewCheck(QWidget* parent) : QCheckBox(parent) {
     connect(this, &QCheckBox::toggled, this, [](bool on) { QSettings().setValue(wishKey, on); });
 }
 
-void PageView::show(const DrawnPage& page, double pixelsPerMm) {
+void PageView::show(const paper::Page& page, double pixelsPerMm) {
     page_ = &page;
     pixelsPerMm_ = pixelsPerMm;
     setFixedSize((sheetSize * pixelsPerMm).toSize() + QSize(2 * around, 2 * around));
     update();
 }
 
-void PageView::paintEvent(QPaintEvent* /*event*/) {
+void PageView::paintEvent(QPaintEvent* event) {
+    const QRect sheet(QPoint(around, around), size() - QSize(2 * around, 2 * around));
+    const QRect seen = sheet & event->rect();
     QPainter painter(this);
-    const QRectF sheet(QPointF(around, around), sheetSize * pixelsPerMm_);
     painter.fillRect(sheet.translated(2, 2), QColor(0, 0, 0, 60));
-    painter.fillRect(sheet, Qt::white);
-    painter.setClipRect(sheet);
-    painter.translate(sheet.topLeft());
-    if (page_ != nullptr)
-        replay(*page_, painter, pixelsPerMm_);
+    if (page_ == nullptr || seen.isEmpty())
+        return;
+    const double ratio = devicePixelRatioF();
+    QImage image((QSizeF(seen.size()) * ratio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::white);
+    const QPointF corner = QPointF(seen.topLeft() - sheet.topLeft()) * ratio;
+    paper::drawPage(*page_, fonts_,
+                    {image.bits(), image.width(), image.height(), static_cast<int>(image.bytesPerLine())},
+                    {corner.x(), corner.y()}, pixelsPerMm_ * ratio);
+    painter.drawImage(seen.topLeft(), image);
 }
 
-PrintPreview::PrintPreview(const std::vector<DrawnPage>& pages, const QString& printer, QWidget* parent)
-    : QDialog(parent), pages_(pages), area_(new QScrollArea(this)), view_(new PageView), number_(new QLabel(this)),
-      zoom_(new QLabel(this)), previous_(addButton(QStringLiteral("&Indietro"), &PrintPreview::previous)),
+PrintPreview::PrintPreview(const std::vector<paper::Page>& pages, paper::Fonts& fonts, const QString& printer,
+                           QWidget* parent)
+    : QDialog(parent), pages_(pages), area_(new QScrollArea(this)), view_(new PageView(fonts)),
+      number_(new QLabel(this)), zoom_(new QLabel(this)),
+      previous_(addButton(QStringLiteral("&Indietro"), &PrintPreview::previous)),
       next_(addButton(QStringLiteral("&Avanti"), &PrintPreview::next)) {
     setWindowTitle(QStringLiteral("Anteprima di stampa: ") + printer);
     number_->setObjectName(QStringLiteral("pagina"));
@@ -149,7 +161,7 @@ void PrintPreview::turn(int steps) {
 }
 
 void PrintPreview::zoomTo(double pixelsPerMm) {
-    const double paper = logicalDpiX() / mmPerInch;
+    const double paper = logicalDpiX() / paper::mmPerInch;
     pixelsPerMm_ = std::clamp(pixelsPerMm, smallest * paper, largest * paper);
     zoom_->setText(QStringLiteral("%1 %").arg(std::lround(pixelsPerMm_ / paper * 100)));
     showPage();

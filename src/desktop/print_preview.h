@@ -9,7 +9,8 @@
 #include <QPushButton>
 #include <QScrollArea>
 
-#include "desktop/drawn_page.h"
+#include "paper/fonts.h"
+#include "paper/page.h"
 
 namespace vanzer::desktop {
 
@@ -27,15 +28,17 @@ class PreviewCheck : public QCheckBox {
 class PageView : public QWidget {
     Q_OBJECT
   public:
-    explicit PageView(QWidget* parent = nullptr) : QWidget(parent) {}
+    /// `fonts` lives longer.
+    explicit PageView(paper::Fonts& fonts, QWidget* parent = nullptr) : QWidget(parent), fonts_(fonts) {}
     /// `page` stays where it is while it is shown.
-    void show(const DrawnPage& page, double pixelsPerMm);
+    void show(const paper::Page& page, double pixelsPerMm);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    const DrawnPage* page_ = nullptr;
+    paper::Fonts& fonts_;
+    const paper::Page* page_ = nullptr;
     double pixelsPerMm_ = 1;
 };
 
@@ -43,8 +46,8 @@ class PageView : public QWidget {
 class PrintPreview : public QDialog {
     Q_OBJECT
   public:
-    /// `pages`, at least one, live longer than the dialog. `printer` is named in the title.
-    PrintPreview(const std::vector<DrawnPage>& pages, const QString& printer, QWidget* parent);
+    /// `pages`, at least one, and `fonts` live longer than the dialog. `printer` is named in the title.
+    PrintPreview(const std::vector<paper::Page>& pages, paper::Fonts& fonts, const QString& printer, QWidget* parent);
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -68,7 +71,7 @@ class PrintPreview : public QDialog {
     /// What the zoom follows when the dialog changes its size.
     enum class Fit { Page, Width, Free };
 
-    const std::vector<DrawnPage>& pages_;
+    const std::vector<paper::Page>& pages_;
     int page_ = 0;
     Fit fit_ = Fit::Page;
     double pixelsPerMm_ = 1;

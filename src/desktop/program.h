@@ -43,7 +43,7 @@ class Program {
     PlatformDialogs dialogs_;
     PacedYield events_;
     DetachedStarter programs_;
-    DesktopPrinter printer_{dialogs_};
+    DesktopPrinter printer_;
     Ports ports_;
     std::unique_ptr<Form> form_;
     // Told by widgets also while they go.

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "core/punto.h"
+
 namespace vanzer {
 
 /// The pictures of the window that go to the paper.
@@ -17,12 +19,6 @@ enum class Immagine {
 /// An operation of the printer that failed; the text says why, in Italian.
 struct PrinterError {
     QString testo;
-};
-
-/// Position or size on the sheet, mm.
-struct Punto {
-    double x = 0;
-    double y = 0;
 };
 
 /// Whatever draws, opens a page or ends a document throws PrinterError when it fails; the document is dropped then, and

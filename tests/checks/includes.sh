@@ -28,18 +28,23 @@ screen_classes+='|TableView|LineEdit|ComboBox|PushButton|[A-Za-z]*Event[A-Z][A-Z
 mapfile -t files < <(sources -not -path 'src/store/*')
 forbid 'Only the store knows SQLite' 'sqlite3' "${files[@]}"
 
+mapfile -t files < <(sources -not -path 'src/paper/*')
+forbid 'Only the paper knows fonts and surfaces' 'cairo|hb[.-]|fontconfig/|ft2build|freetype|paper/(face|painter)\.h' "${files[@]}"
+
 mapfile -t files < <(sources -not -path 'src/desktop/*' -not -path 'src/scribolo/*')
 forbid 'Only the desktop and the logbook draw' "(QtGui|QtWidgets|QtPrintSupport|QtUiTools)[/>]|Q($screen_classes)>" "${files[@]}"
 
 mapfile -t files < <(sources -path 'src/core/*')
-forbid 'core stands on nothing' "($upper|toolkit|store)/" "${files[@]}"
+forbid 'core stands on nothing' "($upper|toolkit|store|paper)/" "${files[@]}"
 mapfile -t files < <(sources -path 'src/toolkit/*')
-forbid 'toolkit stands on core alone' "($upper|store)/" "${files[@]}"
+forbid 'toolkit stands on core alone' "($upper|store|paper)/" "${files[@]}"
 mapfile -t files < <(sources -path 'src/store/*')
-forbid 'store stands on core alone' "($upper|toolkit)/" "${files[@]}"
+forbid 'store stands on core alone' "($upper|toolkit|paper)/" "${files[@]}"
+mapfile -t files < <(sources -path 'src/paper/*')
+forbid 'paper stands on core alone' "($upper|toolkit|store)/" "${files[@]}"
 
 mapfile -t files < <(sources -path 'src/scribolo/*')
-forbid 'The logbook stands on core alone' "(${upper%|scribolo}|toolkit|store)/|Q[A-Za-z]*Widget" "${files[@]}"
+forbid 'The logbook stands on paper and core' "(${upper%|scribolo}|toolkit|store)/" "${files[@]}"
 
 mapfile -t files < <(sources -not -path 'src/desktop/*' -not -path 'src/batch/*' -not -path 'src/scribolo/*')
 forbid 'No room knows the programs on top of it' '(desktop|batch|scribolo)/' "${files[@]}"

@@ -15,8 +15,6 @@
 
 namespace vanzer::desktop {
 
-inline constexpr double mmPerPoint = 25.4 / 72;
-
 class QueuedFiles : public FileDialogs {
   public:
     QString open(const QString& /*filter*/) override { return {}; }
@@ -76,7 +74,7 @@ class PrintingTest : public DesktopTest {
                 ++page;
                 continue;
             }
-            const auto mm = [&one](int i) { return one.captured(i).toDouble() * mmPerPoint; };
+            const auto mm = [&one](int i) { return one.captured(i).toDouble() * paper::mmPerPoint; };
             words[one.captured(5)] = {page, QRectF(QPointF(mm(1), mm(2)), QPointF(mm(3), mm(4)))};
         }
         return words;
@@ -104,7 +102,8 @@ class PrintingTest : public DesktopTest {
     }
 
     QueuedFiles files;
-    DesktopPrinter printer{files};
+    SystemClock clock;
+    DesktopPrinter printer{files, clock};
 };
 
 } // namespace vanzer::desktop

@@ -1,9 +1,9 @@
 #include "store_fixture.h"
 
+#include "batch/batch_printer.h"
 #include "batch/interpreter.h"
 #include "batch/line.h"
 #include "batch/queue_ports.h"
-#include "batch/recording_printer.h"
 #include "batch/usage.h"
 
 namespace vanzer::batch {
@@ -22,7 +22,8 @@ TEST(BatchPrinter, DrawsNoPdfInPlaceOfTheArchive) {
     store::write(archive, "legs");
     ASSERT_TRUE(QFile::link(archive, scratch.filePath(QStringLiteral("giro.pdf"))));
     QueuedDialogs dialogs;
-    RecordingPrinter careful(dialogs, archive);
+    const SetClock clock;
+    BatchPrinter careful(dialogs, clock, archive);
     careful.choose(QStringLiteral("PDF"));
     for (const char* name : {"Vanzer.mdb", "./Vanzer.mdb", "giro.pdf"}) {
         dialogs.enqueue(store::path(scratch, name));

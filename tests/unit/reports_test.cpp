@@ -5,7 +5,6 @@
 
 #include <QJsonArray>
 
-#include "batch/queue_ports.h"
 #include "batch/recording_printer.h"
 #include "guide/entries.h"
 #include "reports/guide_report.h"
@@ -19,7 +18,7 @@ namespace {
 
 class Reports : public testing::Test {
   protected:
-    [[nodiscard]] QJsonArray pages() { return printer.take()["pages"].toArray(); }
+    [[nodiscard]] QJsonArray pages() { return printer.takePages(); }
 
     /// Something on the page has all these values.
     static bool holds(const QJsonValue& page, const QJsonObject& part) {
@@ -28,8 +27,7 @@ class Reports : public testing::Test {
         });
     }
 
-    batch::QueuedDialogs dialogs;
-    batch::RecordingPrinter printer{dialogs};
+    batch::RecordingPrinter printer;
     Foglio sheet{printer};
     const Piede foot{u"05/07/2003"_s, u"Vanzer"_s};
 };

@@ -7,7 +7,6 @@
 #include <QAbstractItemModelTester>
 
 #include "toolkit/grid.h"
-#include "toolkit/pdf_structure.h"
 
 namespace vanzer {
 
@@ -262,16 +261,6 @@ TEST(Griglia, ManyChangesAreOneForAView) {
     EXPECT_EQ(std::pair(grid.model().rowCount(), grid.model().columnCount()), std::pair(2, 12));
     EXPECT_EQ(grid.model().index(0, 1).data().toString(), u"Pisa");
     EXPECT_EQ(grid.model().headerData(1, Qt::Horizontal).toString(), u"Tappa");
-}
-
-TEST(PdfStructure, PackedDataIsWhatReadersUnpack) {
-    const QByteArray data = QByteArray("10 20 m 30 40 l S\n").repeated(1000);
-    const PdfStream stream = packed(data, "/Length1 5");
-    EXPECT_EQ(stream.entries, "/Length1 5/Filter/FlateDecode");
-    EXPECT_LT(stream.data.size(), data.size() / 20);
-    const char size[] = {0, 0, static_cast<char>(data.size() >> 8), static_cast<char>(data.size())};
-    EXPECT_EQ(qUncompress(QByteArray(size, 4) + stream.data), data);
-    EXPECT_EQ(pdfText(u"Città €"_s), "<FEFF004300690074007400e0002020ac>");
 }
 
 } // namespace vanzer

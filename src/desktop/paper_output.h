@@ -1,0 +1,13 @@
+// The platform's printers.
+#pragma once
+
+#include <memory>
+
+#include "reports/page_printer.h"
+
+namespace vanzer::desktop {
+
+/// The printer of that name.
+[[nodiscard]] std::unique_ptr<PageOutput> paperOutput(const QString& printer);
+
+} // namespace vanzer::desktop
