@@ -5,58 +5,46 @@ namespace vanzer::scribolo {
 namespace {
 
 using namespace Qt::StringLiterals;
+using paper::Path;
 
-constexpr QRgb sky = 0xFFEEF4F5;
-constexpr QRgb hills = 0xFFCFE0E3;
-constexpr QRgb asphalt = 0xFF8A9396;
-constexpr QRgb white = 0xFFFFFFFF;
+constexpr Colour sky = 0xEEF4F5;
+constexpr Colour hills = 0xCFE0E3;
+constexpr Colour asphalt = 0x8A9396;
+constexpr Colour white = 0xFFFFFF;
 
 /// A motorhome that drives to the right, 32 mm long; `wheels` is where it stands, below its middle.
-void drawCamper(Sheet& sheet, QPointF wheels) {
+void drawCamper(Sheet& sheet, Punto wheels) {
     constexpr double scale = 1.6;
-    const auto draw = [&](const QPainterPath& path, QRgb colour) {
-        sheet.shape(QTransform().translate(wheels.x(), wheels.y()).scale(scale, scale).map(path), colour);
-    };
-    const auto box = [&](const QRectF& place, double radius, QRgb colour) {
-        QPainterPath path;
-        path.addRoundedRect(place, radius, radius);
-        draw(path, colour);
-    };
-    box({-10, -10, 14.5, 8.6}, 1.2, white);
-    box({2, -10, 6, 3.2}, 1.2, white); // the bed above the cab
-    QPainterPath cab;
-    cab.addPolygon({{{4, -1.4}, {4, -7}, {6.6, -7}, {8.2, -4.3}, {10, -3.7}, {10, -1.4}}});
-    draw(cab, white);
-    QPainterPath pane;
-    pane.addPolygon({{{5, -4.2}, {5, -6.2}, {6.3, -6.2}, {7.4, -4.2}}});
-    draw(pane, accent);
-    box({-8, -8.2, 4, 2.6}, 0.5, accent);
-    box({-1.6, -8.2, 2.6, 5.8}, 0.5, hills); // the door
+    const auto draw = [&](const Path& path, Colour colour) { sheet.shape(path.placed(scale, wheels), colour); };
+    draw(Path::rounded({-10, -10}, {14.5, 8.6}, 1.2), white);
+    draw(Path::rounded({2, -10}, {6, 3.2}, 1.2), white); // the bed above the cab
+    draw(Path::polygon({{{4, -1.4}, {4, -7}, {6.6, -7}, {8.2, -4.3}, {10, -3.7}, {10, -1.4}}}), white);
+    draw(Path::polygon({{{5, -4.2}, {5, -6.2}, {6.3, -6.2}, {7.4, -4.2}}}), accent); // a pane
+    draw(Path::rounded({-8, -8.2}, {4, 2.6}, 0.5), accent);
+    draw(Path::rounded({-1.6, -8.2}, {2.6, 5.8}, 0.5), hills); // the door
     for (const double axle : {-6.5, 6.0}) {
-        box({axle - 1.6, -3, 3.2, 3.2}, 1.6, ink);
-        box({axle - 0.6, -2, 1.2, 1.2}, 0.6, white);
+        draw(Path::circle({axle, -1.4}, 1.6), ink);
+        draw(Path::circle({axle, -1.4}, 0.6), white);
     }
 }
 
 void drawPicture(Sheet& sheet, const QRectF& box) {
-    const auto at = [&box](double x, double above) { return QPointF(box.left() + x, box.bottom() - above); };
+    const auto at = [&box](double x, double above) { return Punto{box.left() + x, box.bottom() - above}; };
+    const auto ground = [&](Path path, Colour colour) {
+        sheet.shape(path.lineTo(at(fullWidth, 0)).lineTo(at(0, 0)).close(), colour);
+    };
     sheet.fill(box, sky);
-    QPainterPath distance(at(0, 36));
-    distance.cubicTo(at(30, 60), at(55, 58), at(85, 42));
-    distance.cubicTo(at(105, 31), at(120, 66), at(fullWidth, 44));
-    distance.lineTo(box.bottomRight());
-    distance.lineTo(box.bottomLeft());
-    sheet.shape(distance, hills);
-    QPainterPath meadow(at(0, 20));
-    meadow.cubicTo(at(50, 38), at(110, 36), at(fullWidth, 22));
-    meadow.lineTo(box.bottomRight());
-    meadow.lineTo(box.bottomLeft());
-    sheet.shape(meadow, accent);
-    const QRectF road(box.left(), box.bottom() - 14, box.width(), 9);
-    sheet.fill(road, asphalt);
-    QPainterPath middle(QPointF(road.left(), road.center().y()));
-    middle.lineTo(road.right(), road.center().y());
-    sheet.curve(middle, white, 0.6, {6, 4.5});
+    Path distance;
+    distance.moveTo(at(0, 36)).curveTo(at(30, 60), at(55, 58), at(85, 42));
+    distance.curveTo(at(105, 31), at(120, 66), at(fullWidth, 44));
+    ground(distance, hills);
+    Path meadow;
+    meadow.moveTo(at(0, 20)).curveTo(at(50, 38), at(110, 36), at(fullWidth, 22));
+    ground(meadow, accent);
+    sheet.fill({box.left(), box.bottom() - 14, box.width(), 9}, asphalt);
+    Path middle;
+    middle.moveTo(at(0, 9.5)).lineTo(at(fullWidth, 9.5));
+    sheet.curve(middle, white, {.width = 0.6, .dashes = {6, 4.5}});
     drawCamper(sheet, at(70, 12.5));
 }
 

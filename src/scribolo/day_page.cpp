@@ -54,9 +54,7 @@ void drawMarks(Sheet& sheet, const QRectF& box) {
     const double step = box.width() / best;
     for (int mark = 1; mark <= best; ++mark) {
         const QRectF around(box.left() + (mark - 0.5) * step - side / 2, box.center().y() - side / 2, side, side);
-        QPainterPath circle;
-        circle.addEllipse(around);
-        sheet.curve(circle, rule, 0.25);
+        sheet.curve(paper::Path::circle({around.center().x(), around.center().y()}, side / 2), rule, {.width = 0.25});
         sheet.text(around, QString::number(mark), {.where = Qt::AlignHCenter});
     }
 }

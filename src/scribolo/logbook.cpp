@@ -48,12 +48,13 @@ void drawNotes(Sheet& sheet, double top, const QString& title) {
     sheet.ruledLines({leftEdge, below, fullWidth, footLine - below});
 }
 
-void drawPage(QPainter& painter, const Trip& trip, const std::vector<Page>& pages, std::size_t index) {
-    Sheet sheet(painter);
+paper::Page drawnPage(const Trip& trip, const std::vector<Page>& pages, std::size_t index, paper::Fonts& fonts) {
+    paper::Page drawn;
+    Sheet sheet(drawn, fonts);
     const Page& page = pages.at(index);
     if (page.kind == Page::Kind::Cover) {
         drawCover(sheet, trip);
-        return;
+        return drawn;
     }
     drawHead(sheet, trip, page);
     if (page.kind == Page::Kind::Day)
@@ -61,6 +62,7 @@ void drawPage(QPainter& painter, const Trip& trip, const std::vector<Page>& page
     else
         drawSummary(sheet, trip, page);
     drawFoot(sheet, trip.name, index + 1, pages.size());
+    return drawn;
 }
 
 } // namespace vanzer::scribolo

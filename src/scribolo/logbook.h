@@ -1,13 +1,14 @@
 // The pages of the logbook, drawn. Nothing here knows a file or a printer.
 #pragma once
 
+#include "paper/fonts.h"
+#include "paper/page.h"
 #include "scribolo/plan.h"
-
-class QPainter;
 
 namespace vanzer::scribolo {
 
-/// Draws the page at `index` (from 0) of the trip's plan on a painter whose viewport is the whole A4 sheet.
-void drawPage(QPainter& painter, const Trip& trip, const std::vector<Page>& pages, std::size_t index);
+/// The page at `index` (from 0) of the trip's plan.
+[[nodiscard]] paper::Page drawnPage(const Trip& trip, const std::vector<Page>& pages, std::size_t index,
+                                    paper::Fonts& fonts);
 
 } // namespace vanzer::scribolo

@@ -5,10 +5,10 @@
 #include <optional>
 
 #include <QCommandLineParser>
-#include <QDesktopServices>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QGuiApplication>
+#include <QProcess>
 #include <QUrl>
 
 #include "core/disk.h"
@@ -27,16 +27,13 @@ void say(FILE* where, const QString& text) {
     std::fputs((text + u'\n').toLocal8Bit().constData(), where);
 }
 
-/// With no display, or one that doesn't answer, pages are drawn all the same. What the user has chosen stays.
-void choosePlatform() {
-    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        return;
-    const bool display = !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-    qputenv("QT_QPA_PLATFORM", display ? "xcb;wayland;offscreen" : "offscreen");
+bool hasDisplay() {
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-bool hasDisplay() {
-    return QGuiApplication::platformName() != u"offscreen"_s && QGuiApplication::platformName() != u"minimal"_s;
+/// In the viewer that the desktop has for PDFs; false if nothing can be started.
+bool show(const QString& path) {
+    return QProcess::startDetached(u"xdg-open"_s, {QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded())});
 }
 
 /// What the arguments ask for.
@@ -80,10 +77,7 @@ QString wordOfFile(const QString& directory) {
 
 int main(int argc, char** argv) {
     const QStringList arguments = vanzer::argomentiComeTesto(argc, argv);
-    choosePlatform();
-    // The platform would take words out of a trip's name that look like options of its own.
-    int own = 1;
-    const QGuiApplication application(own, argv);
+    const QCoreApplication application(argc, argv);
 
     const auto request = requested(arguments);
     if (!request)
@@ -92,7 +86,7 @@ int main(int argc, char** argv) {
         const Trip trip = tripOf(request->word.isEmpty() ? wordOfFile(request->directory) : request->word);
         const QString path = writePdf(trip, request->directory);
         say(stdout, QDir::toNativeSeparators(path));
-        if (hasDisplay() && !QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+        if (hasDisplay() && !show(path))
             say(stderr, u"Nessun programma apre il PDF."_s);
     } catch (const Problem& problem) {
         say(stderr, QString::fromUtf8(problem.what()));

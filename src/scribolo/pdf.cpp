@@ -2,12 +2,10 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QPageSize>
-#include <QPainter>
-#include <QPdfWriter>
 #include <QSaveFile>
 
 #include "core/text_file.h"
+#include "paper/pdf.h"
 #include "scribolo/logbook.h"
 
 namespace vanzer::scribolo {
@@ -16,19 +14,18 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-void drawLogbook(const Trip& trip, QIODevice& device) {
-    QPdfWriter pdf(&device);
-    pdf.setPageSize(QPageSize(QPageSize::A4));
-    pdf.setPageMargins({});
-    pdf.setTitle(u"Diario di bordo - "_s + trip.name);
-    pdf.setCreator(u"Scribolo"_s);
-    QPainter painter(&pdf);
+/// False if the device did not take all of it.
+bool drawLogbook(const Trip& trip, QIODevice& device) {
+    paper::Fonts fonts;
+    paper::Pdf pdf(
+        device, fonts,
+        {.title = u"Diario di bordo - "_s + trip.name, .creator = u"Scribolo"_s, .made = QDateTime::currentDateTime()});
     const std::vector<Page> pages = plan(trip);
     for (std::size_t i = 0; i < pages.size(); ++i) {
-        if (i > 0)
-            pdf.newPage();
-        drawPage(painter, trip, pages, i);
+        if (!pdf.add(drawnPage(trip, pages, i, fonts)))
+            return false;
     }
+    return pdf.finish();
 }
 
 } // namespace
@@ -43,8 +40,8 @@ QString writePdf(const Trip& trip, const QString& directory) {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         throw Problem(u"Il file %1 non può essere scritto: forse la cartella è protetta."_s.arg(shown));
-    drawLogbook(trip, file);
-    if (const QString reason = mettePosto(file); !reason.isEmpty())
+    const QString reason = drawLogbook(trip, file) ? mettePosto(file) : motivoNonScritto(path);
+    if (!reason.isEmpty())
         throw Problem(u"Il file %1 non può essere scritto: %2"_s.arg(shown, reason));
     return path;
 }

@@ -8,7 +8,7 @@
 namespace vanzer::scribolo {
 
 /// Writes the trip's logbook into the directory, aside and then into place: an older file of that name stays as it was
-/// when this fails, with a Problem. Needs a QGuiApplication for its fonts. Returns the file's absolute path.
+/// when this fails, with a Problem. Returns the file's absolute path.
 QString writePdf(const Trip& trip, const QString& directory);
 
 } // namespace vanzer::scribolo

@@ -1,25 +1,23 @@
 #include "scribolo/sheet.h"
 
 #include <algorithm>
-#include <cmath>
-
-#include <QFontMetricsF>
-
 namespace vanzer::scribolo {
 
 namespace {
 
 using namespace Qt::StringLiterals;
 
-/// The painter's own unit is this part of a millimetre: sizes of fonts are whole numbers of it.
-constexpr double units = 100;
 constexpr double smallestShare = 0.8; // of its size, that a text is shrunk to
 constexpr double tick = 3.6;          // mm, the side of a box to tick
 constexpr double headingHeight = 5.5; // mm
 constexpr Style label{};
 
-QRectF scaled(const QRectF& box) {
-    return {box.topLeft() * units, box.size() * units};
+Punto at(QPointF place) {
+    return {place.x(), place.y()};
+}
+
+paper::Path outlineOf(const QRectF& box) {
+    return paper::Path::rectangle(at(box.topLeft()), {box.width(), box.height()});
 }
 
 QRectF inner(const QRectF& box) {
@@ -28,31 +26,38 @@ QRectF inner(const QRectF& box) {
 
 } // namespace
 
-Sheet::Sheet(QPainter& painter) : painter_(painter) {
-    painter_.setWindow(0, 0, static_cast<int>(sheetWidth * units), static_cast<int>(sheetHeight * units));
-    painter_.setRenderHint(QPainter::Antialiasing);
+Sheet::Sheet(paper::Page& page, paper::Fonts& fonts) : page_(page), fonts_(fonts) {}
+
+paper::Font Sheet::font(const Style& style, double size) const {
+    return {.family = u"Liberation Sans"_s, .bold = style.bold, .points = size / paper::mmPerPoint};
 }
 
-QFont Sheet::font(const Style& style, double size) const {
-    QFont font;
-    font.setFamilies({u"Liberation Sans"_s, u"DejaVu Sans"_s});
-    font.setStyleHint(QFont::SansSerif);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    font.setBold(style.bold);
-    font.setPixelSize(static_cast<int>(std::lround(size * units)));
-    return font;
+double Sheet::width(const QString& text, const paper::Font& font) const {
+    return fonts_.width(text, font);
 }
 
-double Sheet::width(const QString& text, const QFont& font) const {
-    return QFontMetricsF(font, painter_.device()).horizontalAdvance(text) / units;
+/// As much of a text as fits, and dots where that isn't all.
+QString Sheet::elided(const QString& text, const paper::Font& font, double width) const {
+    constexpr double tolerance = 0.01; // mm
+    const double most = width + tolerance;
+    if (this->width(text, font) <= most)
+        return text;
+    QList<uint> letters = text.toUcs4();
+    QString part;
+    do {
+        letters.removeLast();
+        part = QString::fromUcs4(reinterpret_cast<const char32_t*>(letters.constData()), letters.size()) + u'…';
+    } while (!letters.isEmpty() && this->width(part, font) > most);
+    return part;
 }
 
-void Sheet::drawLine(const QRectF& box, const QString& text, const QFont& font, const Style& style) {
-    const QFontMetricsF metrics(font, painter_.device());
-    painter_.setFont(font);
-    painter_.setPen(QColor::fromRgb(style.colour));
-    painter_.drawText(scaled(box), static_cast<int>(style.where | Qt::AlignVCenter) | Qt::TextSingleLine,
-                      metrics.elidedText(text, Qt::ElideRight, box.width() * units + 1));
+void Sheet::drawLine(const QRectF& box, const QString& text, const paper::Font& font, const Style& style) {
+    const QString shown = elided(text, font, box.width());
+    const double free = box.width() - width(shown, font);
+    const double share = style.where == Qt::AlignRight ? 1 : style.where == Qt::AlignHCenter ? 0.5 : 0;
+    const double top = box.center().y() - fonts_.height(font) / 2;
+    page_.emplace_back(
+        paper::DrawnText{{box.left() + free * share, top + fonts_.ascent(font)}, shown, font, style.colour});
 }
 
 void Sheet::text(const QRectF& box, const QString& text, const Style& style) {
@@ -62,7 +67,7 @@ void Sheet::text(const QRectF& box, const QString& text, const Style& style) {
     drawLine(box, text, font(style, style.size * share), style);
 }
 
-QStringList Sheet::wrapped(const QString& text, const QFont& font, double width, int lines) const {
+QStringList Sheet::wrapped(const QString& text, const paper::Font& font, double width, int lines) const {
     QStringList result{{}};
     for (const QString& word : text.split(u' ')) {
         const QString longer = result.last().isEmpty() ? word : result.last() + u' ' + word;
@@ -75,7 +80,7 @@ QStringList Sheet::wrapped(const QString& text, const QFont& font, double width,
 }
 
 /// As many lines as wrapping needs, in the narrowest column that needs no more.
-QStringList Sheet::balanced(const QString& text, const QFont& font, double width, int lines) const {
+QStringList Sheet::balanced(const QString& text, const paper::Font& font, double width, int lines) const {
     constexpr int steps = 60;
     QStringList best = wrapped(text, font, width, lines);
     const auto longest = [&](const QStringList& rows) {
@@ -96,7 +101,7 @@ double Sheet::paragraph(const QRectF& box, const QString& text, const Style& sty
     constexpr double step = 0.5; // mm
     constexpr double leading = 1.25;
     double size = style.size;
-    QFont chosen = font(style, size);
+    paper::Font chosen = font(style, size);
     QStringList rows = wrapped(text, chosen, box.width(), lines);
     const auto fits = [&](const QString& row) { return width(row, chosen) <= box.width(); };
     while (size - step >= smallest && !std::all_of(rows.begin(), rows.end(), fits)) {
@@ -113,38 +118,24 @@ double Sheet::paragraph(const QRectF& box, const QString& text, const Style& sty
     return row.top() - box.top();
 }
 
-void Sheet::line(QPointF from, QPointF to, QRgb colour, double width) {
-    painter_.setPen(QPen(QColor::fromRgb(colour), width * units, Qt::SolidLine, Qt::FlatCap));
-    painter_.drawLine(from * units, to * units);
+void Sheet::line(QPointF from, QPointF to, Colour colour, double width) {
+    page_.emplace_back(paper::DrawnLine{at(from), at(to), width, colour});
 }
 
-void Sheet::fill(const QRectF& box, QRgb colour) {
-    painter_.fillRect(scaled(box), QColor::fromRgb(colour));
-}
-
-void Sheet::outline(const QRectF& box, QRgb colour, double width) {
-    painter_.setPen(QPen(QColor::fromRgb(colour), width * units, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter_.setBrush(Qt::NoBrush);
-    painter_.drawRect(scaled(box));
+void Sheet::fill(const QRectF& box, Colour colour) {
+    shape(outlineOf(box), colour);
 }
 
 void Sheet::frame(const QRectF& box) {
-    outline(box, rule, 0.2);
+    curve(outlineOf(box), rule, {.width = 0.2});
 }
 
-void Sheet::shape(const QPainterPath& path, QRgb colour) {
-    painter_.fillPath(QTransform::fromScale(units, units).map(path), QColor::fromRgb(colour));
+void Sheet::shape(const paper::Path& path, Colour colour) {
+    page_.emplace_back(paper::DrawnPath{path, colour});
 }
 
-void Sheet::curve(const QPainterPath& path, QRgb colour, double width, const QList<double>& dashes) {
-    QPen pen(QColor::fromRgb(colour), width * units, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
-    if (!dashes.isEmpty()) {
-        QList<qreal> inWidths; // how a pen counts them
-        for (const double dash : dashes)
-            inWidths.append(dash / width);
-        pen.setDashPattern(inWidths);
-    }
-    painter_.strokePath(QTransform::fromScale(units, units).map(path), pen);
+void Sheet::curve(const paper::Path& path, Colour colour, const paper::Stroke& stroke) {
+    page_.emplace_back(paper::DrawnPath{path, colour, stroke});
 }
 
 double Sheet::title(QPointF topLeft, double width, const QString& text) {
@@ -168,7 +159,7 @@ void Sheet::tickBoxes(const QRectF& box, const QStringList& labels) {
     double x = box.left();
     for (const QString& label : labels) {
         const QRectF square(x, box.center().y() - tick / 2, tick, tick);
-        outline(square, faintInk, 0.25);
+        curve(outlineOf(square), faintInk, {.width = 0.25});
         const QRectF place(square.right() + gap, box.top(), width(label, font(style, style.size)), box.height());
         text(place, label, style);
         x = place.right() + apart;

@@ -3,18 +3,17 @@
 
 #include <vector>
 
-#include <QColor>
-#include <QFont>
-#include <QPainter>
-#include <QPainterPath>
 #include <QRectF>
 #include <QString>
 
+#include "paper/fonts.h"
+#include "paper/page.h"
+
 namespace vanzer::scribolo {
 
-inline constexpr double sheetWidth = 210; // mm
-inline constexpr double sheetHeight = 297;
-/// What pages may fill. The left edge leaves room for the holes of a binder.
+using paper::Colour;
+
+/// What pages may fill, mm. The left edge leaves room for the holes of a binder.
 inline constexpr double leftEdge = 21;
 inline constexpr double rightEdge = 196;
 inline constexpr double topEdge = 14;
@@ -27,15 +26,15 @@ inline constexpr double inset = 1.6;
 inline constexpr double writingRow = 8;
 inline constexpr double titleHeight = 6;
 
-inline constexpr QRgb ink = 0xFF202020;
-inline constexpr QRgb faintInk = 0xFF6A6A6A; ///< labels: must not shout down the handwriting
-inline constexpr QRgb rule = 0xFFB4B4B4;
-inline constexpr QRgb ground = 0xFFF1F2F2; ///< behind headings of tables
-inline constexpr QRgb accent = 0xFF3D7A87;
+inline constexpr Colour ink = 0x202020;
+inline constexpr Colour faintInk = 0x6A6A6A; ///< labels: must not shout down the handwriting
+inline constexpr Colour rule = 0xB4B4B4;
+inline constexpr Colour ground = 0xF1F2F2; ///< behind headings of tables
+inline constexpr Colour accent = 0x3D7A87;
 
 struct Style {
     double size = 2.9; ///< height of the letters with their ascents and descents, about, in mm
-    QRgb colour = faintInk;
+    Colour colour = faintInk;
     bool bold = false;
     Qt::Alignment where = Qt::AlignLeft;
 };
@@ -46,10 +45,11 @@ struct Column {
     double width = 0;
 };
 
-/// Draws on a painter whose viewport is the whole sheet. All measures are millimetres from its top left corner.
+/// Draws on a page. All measures are millimetres from its top left corner.
 class Sheet {
   public:
-    explicit Sheet(QPainter& painter);
+    /// `page` and `fonts` live as long.
+    Sheet(paper::Page& page, paper::Fonts& fonts);
 
     /// One line, in the middle of the box's height. A text too long for the box gets smaller, down to four fifths, and
     /// then loses its end.
@@ -59,13 +59,13 @@ class Sheet {
     /// height used.
     double paragraph(const QRectF& box, const QString& text, const Style& style, double smallest, int lines);
 
-    void line(QPointF from, QPointF to, QRgb colour = rule, double width = 0.2);
-    void fill(const QRectF& box, QRgb colour);
+    void line(QPointF from, QPointF to, Colour colour = rule, double width = 0.2);
+    void fill(const QRectF& box, Colour colour);
     void frame(const QRectF& box);
-    /// A shape in mm, filled.
-    void shape(const QPainterPath& path, QRgb colour);
-    /// An open curve in mm; dashes and gaps in mm, none for a line without breaks.
-    void curve(const QPainterPath& path, QRgb colour, double width, const QList<double>& dashes = {});
+    /// A shape, filled.
+    void shape(const paper::Path& path, Colour colour);
+    /// The edge of a shape, or an open line.
+    void curve(const paper::Path& path, Colour colour, const paper::Stroke& stroke);
 
     /// The name of a group of fields. Returns where the group begins, down from the top of the sheet.
     double title(QPointF topLeft, double width, const QString& text);
@@ -80,14 +80,15 @@ class Sheet {
     double table(QPointF topLeft, const std::vector<Column>& columns, int rows, double rowHeight = writingRow);
 
   private:
-    [[nodiscard]] QFont font(const Style& style, double size) const;
-    [[nodiscard]] double width(const QString& text, const QFont& font) const;
-    [[nodiscard]] QStringList wrapped(const QString& text, const QFont& font, double width, int lines) const;
-    [[nodiscard]] QStringList balanced(const QString& text, const QFont& font, double width, int lines) const;
-    void outline(const QRectF& box, QRgb colour, double width);
-    void drawLine(const QRectF& box, const QString& text, const QFont& font, const Style& style);
+    [[nodiscard]] double width(const QString& text, const paper::Font& font) const;
+    [[nodiscard]] QString elided(const QString& text, const paper::Font& font, double width) const;
+    [[nodiscard]] paper::Font font(const Style& style, double size) const;
+    [[nodiscard]] QStringList wrapped(const QString& text, const paper::Font& font, double width, int lines) const;
+    [[nodiscard]] QStringList balanced(const QString& text, const paper::Font& font, double width, int lines) const;
+    void drawLine(const QRectF& box, const QString& text, const paper::Font& font, const Style& style);
 
-    QPainter& painter_;
+    paper::Page& page_;
+    paper::Fonts& fonts_;
 };
 
 } // namespace vanzer::scribolo

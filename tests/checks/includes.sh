@@ -31,8 +31,8 @@ forbid 'Only the store knows SQLite' 'sqlite3' "${files[@]}"
 mapfile -t files < <(sources -not -path 'src/paper/*')
 forbid 'Only the paper knows fonts and surfaces' 'cairo|hb[.-]|fontconfig/|ft2build|freetype|paper/(face|painter)\.h' "${files[@]}"
 
-mapfile -t files < <(sources -not -path 'src/desktop/*' -not -path 'src/scribolo/*')
-forbid 'Only the desktop and the logbook draw' "(QtGui|QtWidgets|QtPrintSupport|QtUiTools)[/>]|Q($screen_classes)>" "${files[@]}"
+mapfile -t files < <(sources -not -path 'src/desktop/*')
+forbid 'Only the desktop draws on the screen' "(QtGui|QtWidgets|QtPrintSupport|QtUiTools)[/>]|Q($screen_classes)>" "${files[@]}"
 
 mapfile -t files < <(sources -path 'src/core/*')
 forbid 'core stands on nothing' "($upper|toolkit|store|paper)/" "${files[@]}"
