@@ -145,10 +145,10 @@ QString matchingFamily(const QString& family) {
 OpenFont::OpenFont(FcPattern& found) : drawn_(cairo_ft_font_face_create_for_pattern(&found)) {
     FcChar8* path = nullptr;
     int index = 0;
-    FcPatternGetString(&found, FC_FILE, 0, &path);
     FcPatternGetInteger(&found, FC_INDEX, 0, &index);
-    // Of a file that can't be read nothing is left but boxes.
-    const Owned<hb_blob_t, hb_blob_destroy> bytes(hb_blob_create_from_file(reinterpret_cast<const char*>(path)));
+    const bool named = FcPatternGetString(&found, FC_FILE, 0, &path) == FcResultMatch;
+    const Owned<hb_blob_t, hb_blob_destroy> bytes(named ? hb_blob_create_from_file(reinterpret_cast<const char*>(path))
+                                                        : hb_blob_get_empty());
     const Owned<hb_face_t, hb_face_destroy> face(hb_face_create(bytes.get(), static_cast<unsigned>(index) & 0xFFFFU));
     measured_.reset(hb_font_create(face.get()));
     em_ = hb_face_get_upem(face.get());

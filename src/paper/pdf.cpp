@@ -52,7 +52,7 @@ class PdfSurface {
         cairo_scale(context.get(), points(1), points(1));
         painter_.draw(*context, page);
         cairo_show_page(context.get());
-        return whole_;
+        return whole_ && cairo_status(context.get()) == CAIRO_STATUS_SUCCESS;
     }
 
     bool finish() {

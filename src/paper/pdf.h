@@ -32,7 +32,7 @@ class Pdf {
     Pdf(const Pdf&) = delete;
     Pdf& operator=(const Pdf&) = delete;
 
-    /// False if the device did not take all of it.
+    /// False if the device did not take all of it, or it can't be drawn.
     [[nodiscard]] bool add(const Page& page);
     /// After the last page; false in the same case.
     [[nodiscard]] bool finish();

@@ -31,6 +31,8 @@ void PagePrinter::setFontName(const QString& name) {
 const paper::Font& PagePrinter::font() const {
     if (font_.family.isEmpty())
         font_.family = fonts_.typefaceFor(wantedFont_).family;
+    if (font_.family.isEmpty())
+        throw PrinterError{QStringLiteral("Non è installato nessun carattere di stampa.")};
     return font_;
 }
 

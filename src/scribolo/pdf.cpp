@@ -17,6 +17,8 @@ using namespace Qt::StringLiterals;
 /// False if the device did not take all of it.
 bool drawLogbook(const Trip& trip, QIODevice& device) {
     paper::Fonts fonts;
+    if (fonts.typefaceFor(u"Liberation Sans"_s).family.isEmpty())
+        throw Problem(u"Non è installato nessun carattere di stampa."_s);
     paper::Pdf pdf(
         device, fonts,
         {.title = u"Diario di bordo - "_s + trip.name, .creator = u"Scribolo"_s, .made = QDateTime::currentDateTime()});
