@@ -9,6 +9,7 @@ log=build/long.log
 tables=$(mktemp -d)
 trap 'rm -rf "$tables"' EXIT
 export LC_ALL=C.UTF-8 TZ=UTC QT_QPA_PLATFORM=offscreen
+export LSAN_OPTIONS=suppressions=$PWD/tests/checks/leaks.txt:print_suppressions=0
 if [ -w /dev/shm ]; then export TMPDIR=/dev/shm; fi
 : >"$log"
 
