@@ -63,7 +63,7 @@ std::u32string lineOf(const QString& text) {
         if (letter < U' ' || letter == QChar::LineSeparator || letter == QChar::ParagraphSeparator)
             letters += U' ';
         else if (QChar::isSurrogate(letter) || QChar::isNonCharacter(letter))
-            letters += QChar::ReplacementCharacter;
+            letters += U'\uFFFD';
         else if (letter != QChar::SoftHyphen)
             letters += letter;
     }
