@@ -25,8 +25,8 @@ const QString totalsKey = QStringLiteral("tappe/kmProgressivi");
 } // namespace
 
 Program::Program(const Ambiente& surroundings, Clock& clock, Pace pace, FileOpener* opener)
-    : boxes_(opener != nullptr ? *opener : opener_),
-      events_(pace), printer_(dialogs_, clock), ports_{boxes_, dialogs_, clock, events_, programs_, &printer_},
+    : boxes_(opener != nullptr ? *opener : opener_), events_(pace),
+      printer_(dialogs_, clock), ports_{boxes_, dialogs_, clock, events_, programs_, &printer_},
       form_(nuovaFinestra(surroundings, ports_)), draft_(*form_), window_(std::make_unique<MainWindow>(*form_)),
       gate_(std::make_unique<InputGate>(*window_)) {
     form_->interattiva = true;
