@@ -4,6 +4,8 @@
 
 #include <memory>
 
+#include <QDateTime>
+
 #include "paper/fonts.h"
 #include "paper/page.h"
 #include "toolkit/printer.h"
