@@ -12,6 +12,7 @@
 #include "reports/time_line_report.h"
 #include "schedule/rows.h"
 #include "schedule/time_line_screen.h"
+#include "store/outside_files.h"
 #include "window/modes.h"
 
 namespace vanzer {
