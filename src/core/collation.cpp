@@ -190,19 +190,6 @@ int confronta(std::string_view textA, std::string_view textB) {
     return compareLetters(a, aEnd, b, bEnd);
 }
 
-std::uint64_t primeLettere(std::string_view text) {
-    constexpr int bytes = 8;
-    constexpr std::int32_t beyondAscii = 0x80; // stands for all such letters, so that nothing counts behind one
-    BaseLetters letters(text.data(), text.data() + text.size());
-    std::uint64_t number = 0;
-    std::int32_t letter = 0;
-    for (int i = 0; i < bytes; ++i) {
-        letter = letter < 0 || letter >= beyondAscii ? -1 : letters.next();
-        number = number << 8 | static_cast<std::uint64_t>(std::clamp(letter, 0, beyondAscii));
-    }
-    return number;
-}
-
 int confrontaTesti(const QString& a, const QString& b) {
     return confronta(a.toStdString(), b.toStdString());
 }
