@@ -4,7 +4,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <vector>
 
 #include <QList>
 
@@ -124,30 +123,8 @@ QString testoNumero(float x, QChar decimalMark) {
     return shortest(x, decimalMark);
 }
 
-namespace {
-
-constexpr int numbersKept = 10'000;
-
-/// The text kept for a number from 0 to below `numbersKept`.
-const QString& numberKept(int x) {
-    static std::vector<QString> known(numbersKept);
-    QString& text = known[static_cast<std::size_t>(x)];
-    if (text.isNull())
-        text = QString::number(x);
-    return text;
-}
-
-} // namespace
-
 QString testoNumero(int x) {
-    return x < 0 || x >= numbersKept ? QString::number(x) : numberKept(x);
-}
-
-bool eNumero(const QString& s, int x) {
-    if (x < 0 || x >= numbersKept)
-        return s == QString::number(x);
-    const QString& text = numberKept(x);
-    return s.constData() == text.constData() || s == text;
+    return QString::number(x);
 }
 
 QString migliaia(double x) {
