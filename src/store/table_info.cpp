@@ -78,13 +78,8 @@ QByteArray selectSql(const TableInfo& table) {
 }
 
 QByteArray insertSql(const TableInfo& table) {
-    QByteArray names;
-    QByteArray places;
-    for (const FieldDef& field : table.campi) {
-        names += (names.isEmpty() ? "" : ",") + quotedName(field.name);
-        places += places.isEmpty() ? "?" : ",?";
-    }
-    return "INSERT INTO " + quotedName(table.nome) + '(' + names + ") VALUES(" + places + ')';
+    return "INSERT INTO " + quotedName(table.nome) + " VALUES(?" +
+           QByteArray(",?").repeated(static_cast<qsizetype>(table.campi.size()) - 1) + ')';
 }
 
 QString indexName(const QString& table, const QString& field) {
