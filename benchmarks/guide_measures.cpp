@@ -6,12 +6,9 @@
 #include <QTemporaryDir>
 
 #include "big_trip.h"
-#include "core/place_name.h"
 #include "guide/entries.h"
-#include "itinerary/leg_editor_screen.h"
 #include "itinerary/leg_table_screen.h"
 #include "measure.h"
-#include "schedule/preparation_screen.h"
 #include "window/command.h"
 
 namespace vanzer::bench {
@@ -75,11 +72,11 @@ int rowOf(const Form& form, const QString& description) {
     return row;
 }
 
-void stores(BigTrip& trip, int row, const QString& description) {
+void storesOwn(BigTrip& trip, int row) {
     Form& form = trip.form();
     form.mfgTab.clickRow(row);
     form.txtGGruppo.setText(QStringLiteral("Z"));
-    form.txtGDescr.setText(description);
+    form.txtGDescr.setText(own);
     form.cmbGH.setText(QStringLiteral("01"));
     form.cmbGM.setText(QStringLiteral("00"));
     form.cmdSalvaRiga.click();
@@ -91,13 +88,8 @@ int storeOwnEntry(BigTrip& trip) {
     int row = rowOf(form, QStringLiteral("Duomo"));
     while (form.mfgTab.cell(row, guidaSegno) == segnoVoce)
         --row;
-    stores(trip, row, own);
+    storesOwn(trip, row);
     return rowOf(form, own);
-}
-
-int openWithOwnEntry(BigTrip& trip) {
-    openEditor(trip);
-    return storeOwnEntry(trip);
 }
 
 void deleteRow(BigTrip& trip, int row) {
@@ -106,27 +98,14 @@ void deleteRow(BigTrip& trip, int row) {
     trip.form().cmdCancellaRiga.click();
 }
 
-void prepares(BigTrip& trip) {
-    comando(trip.form(), [&trip] { benchmark::DoNotOptimize(PreparaTabellaPerCalcoloViandoria(trip.form())); });
-}
-
-void putsLegsBack(BigTrip& trip) {
-    comando(trip.form(), [&trip] { RimetteTappe(trip.form()); });
-}
-
 } // namespace
 
 void openGuide(benchmark::State& state) {
     withGuide(state, "opening the guide", nothing, openEditor, closeEditor);
 }
 
-/// The first closing has put the groups in order; what it costs from then on.
-void closeGuide(benchmark::State& state) {
-    withGuide(state, "closing the guide", openEditor, closeEditor, openEditor);
-}
-
 /// All of the trip's groups put in order at the closing.
-void closeGuideAndSortGroups(benchmark::State& state) {
+void closeGuide(benchmark::State& state) {
     const auto unsort = [](BigTrip& trip) {
         comando(trip.form(), [&trip] {
             store::Database& archive = *trip.form().archivio.Db(0);
@@ -137,26 +116,10 @@ void closeGuideAndSortGroups(benchmark::State& state) {
     withGuide(state, "closing the guide, groups put in order", openEditor, closeEditor, unsort);
 }
 
-void changeEntry(benchmark::State& state) {
-    withGuide(
-        state, "changing an entry", [](BigTrip& trip) { openWithOwnEntry(trip); },
-        [](BigTrip& trip) { stores(trip, rowOf(trip.form(), own), own); }, nothing);
-}
-
 void addEntry(benchmark::State& state) {
     withGuide(
         state, "adding an entry", openEditor, [](BigTrip& trip) { storeOwnEntry(trip); },
         [](BigTrip& trip) { deleteRow(trip, rowOf(trip.form(), own)); });
-}
-
-void deleteEntry(benchmark::State& state) {
-    withGuide(
-        state, "deleting an entry", [](BigTrip& trip) { openWithOwnEntry(trip); },
-        [](BigTrip& trip) { deleteRow(trip, rowOf(trip.form(), own)); }, [](BigTrip& trip) { storeOwnEntry(trip); });
-}
-
-void prepareCalculation(benchmark::State& state) {
-    withGuide(state, "preparing a calculation", nothing, prepares, putsLegsBack);
 }
 
 void loadLegs(benchmark::State& state) {
@@ -170,26 +133,11 @@ void storeLegs(benchmark::State& state) {
         [](BigTrip& trip) { comando(trip.form(), [&trip] { MemorizzaTappeItinerario(trip.form()); }); }, nothing);
 }
 
-void copyStops(benchmark::State& state) {
-    withGuide(
-        state, "copying the guide's stops", [](BigTrip& trip) { trip.form().cmdItinerario.click(); },
-        [](BigTrip& trip) {
-            trip.answer(rispostaSi);
-            trip.form().cmdTrasferisce.click();
-        },
-        nothing);
-}
-
 #define GUIDE_MEASURE(name) BENCHMARK(name)->Iterations(1)->UseManualTime()
 GUIDE_MEASURE(openGuide);
 GUIDE_MEASURE(closeGuide);
-GUIDE_MEASURE(closeGuideAndSortGroups);
 GUIDE_MEASURE(addEntry);
-GUIDE_MEASURE(changeEntry);
-GUIDE_MEASURE(deleteEntry);
-GUIDE_MEASURE(prepareCalculation);
 GUIDE_MEASURE(loadLegs);
 GUIDE_MEASURE(storeLegs);
-GUIDE_MEASURE(copyStops);
 
 } // namespace vanzer::bench

@@ -71,10 +71,14 @@ Timed timed(std::function<void()> work) {
     return [work = std::move(work)] { return seconds(work); };
 }
 
+Timed screenFrame() {
+    return [] { return 0.016; };
+}
+
 void measure(benchmark::State& state, const Beside& sides, const Timed& ours, const Timed& theirs) {
     state.SetLabel(sides.work + " | " + sides.against);
     Side mine{ours};
-    Side other{theirs ? theirs : [] { return 0.0; }};
+    Side other{theirs};
     double memory = 0;
     std::array<double, turns> our{};
     std::array<double, turns> their{};
@@ -91,8 +95,6 @@ void measure(benchmark::State& state, const Beside& sides, const Timed& ours, co
     }
     state.counters["ours"] = median(our);
     state.counters["peak"] = memory;
-    if (!theirs)
-        return;
     state.counters["theirs"] = median(their);
     state.counters["ratio"] = sides.atLeast ? median(their) / median(our) : median(our) / median(their);
     if (sides.atMost)

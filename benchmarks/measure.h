@@ -19,14 +19,16 @@ using Timed = std::function<double()>;
 
 struct Beside {
     std::string work;
-    std::string against = {};
+    std::string against;
     std::optional<double> atMost = {};  ///< times the other side
     std::optional<double> atLeast = {}; ///< times faster than the other side
     bool inProcess = true;              ///< `ours` works in this process, not in one that it starts
 };
 
-/// Short pieces are repeated until they have taken 20 ms. The peak memory is that of `ours` alone. Without `theirs` the
-/// figure stands beside nothing.
-void measure(benchmark::State& state, const Beside& sides, const Timed& ours, const Timed& theirs = {});
+/// Short pieces are repeated until they have taken 20 ms. The peak memory is that of `ours` alone.
+void measure(benchmark::State& state, const Beside& sides, const Timed& ours, const Timed& theirs);
+
+/// What stands beside a piece of work that may take as long as a screen shows a picture: 16 ms.
+[[nodiscard]] Timed screenFrame();
 
 } // namespace vanzer::bench

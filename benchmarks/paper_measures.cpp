@@ -57,7 +57,7 @@ void printing(benchmark::State& state) {
                             csv};
     measure(
         state,
-        {.work = "PDF of a schedule of " + rows + " rows", .against = "LibreOffice, the same table", .atLeast = 10},
+        {.work = "PDF of a schedule of " + rows + " rows", .against = "LibreOffice, the same table", .atLeast = 1},
         [&trip] { return printsSchedule(trip); }, timed([&] { run(office, toPdf); }));
 }
 BENCHMARK(printing)->Iterations(1)->UseManualTime();

@@ -68,33 +68,12 @@ void startOfWindow(benchmark::State& state) {
     const Folder folder;
     measure(state,
             {.work = "start of the window to idle, big archive",
-             .against = "the same and an empty window",
-             .atMost = 1.5,
+             .against = "the same and a Qt window with as many of Qt's own widgets",
+             .atMost = 1.4,
              .inProcess = false},
             program("vanzer_window", {folder.path()}), program("least_window", {folder.path()}));
 }
 BENCHMARK(startOfWindow)->Iterations(1)->UseManualTime();
-
-/// What of that is drawing a window of this size at all.
-void startWithWidgets(benchmark::State& state) {
-    const Folder folder;
-    measure(state,
-            {.work = "start of the window to idle, big archive",
-             .against = "the same and a Qt window with as many of Qt's own widgets",
-             .inProcess = false},
-            program("vanzer_window", {folder.path()}),
-            program("least_window", {folder.path(), QStringLiteral("--widgets")}));
-}
-BENCHMARK(startWithWidgets)->Iterations(1)->UseManualTime();
-
-/// What of that is the platform's way to its fonts.
-void startWithText(benchmark::State& state) {
-    const Folder folder;
-    measure(state, {.work = "a Qt window with one word", .against = "an empty one", .inProcess = false},
-            program("least_window", {folder.path(), QStringLiteral("Vanzer")}),
-            program("least_window", {folder.path()}));
-}
-BENCHMARK(startWithText)->Iterations(1)->UseManualTime();
 
 /// The first start of a day copies the archive.
 void copyOfTheDay(benchmark::State& state) {

@@ -1,6 +1,6 @@
-// least_window FOLDER [TEXT | --widgets]: the least that a start can be. A Qt program reads the current trip of the
-// archive in a folder by bare engine calls, shows an empty window, or one with a text, or one with as many of Qt's own
-// widgets as Vanzer's first window has and nothing behind them, and ends when it has nothing more to do.
+// least_window FOLDER: the least that a start can be. A Qt program reads the current trip of the archive in a folder by
+// bare engine calls, shows a window with as many of Qt's own widgets as Vanzer's first window has and nothing behind
+// them, and ends when it has nothing more to do.
 #include <cstdlib>
 
 #include <QApplication>
@@ -56,12 +56,8 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     vanzer::bench::readCurrentTrip(QApplication::arguments().value(1));
     QMainWindow window;
-    if (const QString text = QApplication::arguments().value(2); text == u"--widgets") {
-        window.resize(1280, 720);
-        window.setCentralWidget(stockWidgets());
-    } else if (!text.isEmpty()) {
-        window.setCentralWidget(new QLabel(text));
-    }
+    window.resize(1280, 720);
+    window.setCentralWidget(stockWidgets());
     window.show();
     while (!window.windowHandle()->isExposed())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

@@ -62,6 +62,7 @@ char32_t foldedCharacter(char32_t c) {
     return c < beyondAll ? QChar::toCaseFolded(c) : c;
 }
 
+/// The base letters of a character, folded: none of a combining mark, several of a composed syllable.
 void decompose(char32_t c, std::vector<char32_t>& bases) {
     if (c < beyondAll && QChar::decompositionTag(c) == QChar::Canonical) {
         for (const uint part : QChar::decomposition(c).toUcs4())
@@ -71,43 +72,6 @@ void decompose(char32_t c, std::vector<char32_t>& bases) {
     }
 }
 
-/// What the order needs to know of one character.
-struct Letter {
-    char32_t folded = 0;
-    char32_t base = 0;          ///< the base letter if there is just one
-    std::uint8_t baseCount = 0; ///< none for a combining mark, several for a composed syllable
-    bool accented = false;      ///< a mark, or a letter that is composed of others
-};
-
-Letter makeLetter(char32_t c) {
-    Letter letter;
-    letter.folded = foldedCharacter(c);
-    std::vector<char32_t> bases;
-    decompose(letter.folded, bases);
-    letter.baseCount = static_cast<std::uint8_t>(bases.size());
-    letter.base = bases.empty() ? 0 : bases.front();
-    letter.accented = bases.size() != 1 || letter.base != letter.folded;
-    return letter;
-}
-
-/// The alphabets up to here (all of Latin, Greek, Cyrillic) are looked up; the rest is worked out each time.
-constexpr char32_t tableEnd = 0x2000;
-constexpr char32_t pageSize = 0x100;
-
-/// A page is made when the first of its letters comes up: a start needs one or two.
-Letter letterOf(char32_t c) {
-    static std::array<std::vector<Letter>, tableEnd / pageSize> pages;
-    if (c >= tableEnd)
-        return makeLetter(c);
-    std::vector<Letter>& page = pages[c / pageSize];
-    if (page.empty()) {
-        const char32_t first = c - c % pageSize;
-        for (char32_t i = first; i < first + pageSize; ++i)
-            page.push_back(makeLetter(i));
-    }
-    return page[c % pageSize];
-}
-
 /// Walks the base letters of a text.
 class BaseLetters {
   public:
@@ -115,23 +79,17 @@ class BaseLetters {
 
     /// The next base letter, or a negative number at the end.
     std::int32_t next() {
-        if (pendingAt_ < pending_.size())
-            return static_cast<std::int32_t>(pending_[pendingAt_++]);
-        while (p_ < end_) {
+        while (pendingAt_ == pending_.size()) {
+            if (p_ == end_)
+                return -1;
             const char32_t c = takeCharacter(p_, end_);
             if (c < 0x80)
                 return asciiFold[c];
-            const Letter letter = letterOf(c);
-            if (letter.baseCount == 1)
-                return static_cast<std::int32_t>(letter.base);
-            if (letter.baseCount > 1) {
-                pending_.clear();
-                decompose(letter.folded, pending_);
-                pendingAt_ = 1;
-                return static_cast<std::int32_t>(pending_.front());
-            }
+            pending_.clear();
+            pendingAt_ = 0;
+            decompose(foldedCharacter(c), pending_);
         }
-        return -1;
+        return static_cast<std::int32_t>(pending_[pendingAt_++]);
     }
 
   private:
@@ -143,10 +101,10 @@ class BaseLetters {
 
 /// Sort value of a character among those with the same base: plain ones first.
 std::uint32_t accentRank(char32_t c) {
-    if (c < 0x80)
-        return asciiFold[c];
-    const Letter letter = letterOf(c);
-    return static_cast<std::uint32_t>(letter.folded) | (letter.accented ? 0x1000000U : 0U);
+    const char32_t folded = foldedCharacter(c);
+    const bool accented = folded >= 0x80 && folded < beyondAll &&
+                          (QChar::decompositionTag(folded) == QChar::Canonical || QChar::isMark(folded));
+    return static_cast<std::uint32_t>(folded) | (accented ? 0x1000000U : 0U);
 }
 
 int compareAccents(const char* a, const char* aEnd, const char* b, const char* bEnd) {
@@ -188,19 +146,6 @@ int confronta(std::string_view textA, std::string_view textB) {
         return 0;
     // What lies before is equal on both levels, so the comparison may go on from here.
     return compareLetters(a, aEnd, b, bEnd);
-}
-
-std::uint64_t primeLettere(std::string_view text) {
-    constexpr int bytes = 8;
-    constexpr std::int32_t beyondAscii = 0x80; // stands for all such letters, so that nothing counts behind one
-    BaseLetters letters(text.data(), text.data() + text.size());
-    std::uint64_t number = 0;
-    std::int32_t letter = 0;
-    for (int i = 0; i < bytes; ++i) {
-        letter = letter < 0 || letter >= beyondAscii ? -1 : letters.next();
-        number = number << 8 | static_cast<std::uint64_t>(std::clamp(letter, 0, beyondAscii));
-    }
-    return number;
 }
 
 int confrontaTesti(const QString& a, const QString& b) {

@@ -6,7 +6,6 @@
 // folded forms are.
 #pragma once
 
-#include <cstdint>
 #include <string_view>
 
 #include <QByteArray>
@@ -18,10 +17,6 @@ namespace vanzer {
 /// Below, at or above 0 as `a` sorts before, with or behind `b`.
 [[nodiscard]] int confronta(std::string_view a, std::string_view b);
 [[nodiscard]] int confrontaTesti(const QString& a, const QString& b);
-
-/// The first letters, without regard to case and accents, as a number: a text with a smaller one sorts before; where
-/// two are equal `confronta` tells.
-[[nodiscard]] std::uint64_t primeLettere(std::string_view text);
 
 /// True if `text` has the form of `pattern`: "*" any text, "?" one character, nothing else is special; case is ignored,
 /// accents count. Never more than pattern length times text length steps.

@@ -4,7 +4,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <vector>
 
 #include <QList>
 
@@ -43,25 +42,7 @@ QStringView Trim(QStringView s) {
     return s;
 }
 
-namespace {
-
-constexpr qsizetype exactDigits = 15; ///< any number of so many digits is exact in double precision
-
-/// Nearly every number of a trip: digits alone, with other characters behind at most. -1 for any other text.
-double plainNumber(QStringView s) {
-    double value = 0;
-    qsizetype i = 0;
-    for (; i < s.size() && s[i] >= u'0' && s[i] <= u'9'; ++i)
-        value = value * 10 + (s[i].unicode() - u'0');
-    const bool ends = i == s.size() || (s[i] != u' ' && s[i] != u'.');
-    return i > 0 && i <= exactDigits && ends ? value : -1;
-}
-
-} // namespace
-
 double Val(QStringView s) {
-    if (const double plain = plainNumber(s); plain >= 0)
-        return plain;
     std::array<char, 64> digits{};
     std::size_t n = 0;
     bool point = false;
@@ -124,30 +105,8 @@ QString testoNumero(float x, QChar decimalMark) {
     return shortest(x, decimalMark);
 }
 
-namespace {
-
-constexpr int numbersKept = 10'000;
-
-/// The text kept for a number from 0 to below `numbersKept`.
-const QString& numberKept(int x) {
-    static std::vector<QString> known(numbersKept);
-    QString& text = known[static_cast<std::size_t>(x)];
-    if (text.isNull())
-        text = QString::number(x);
-    return text;
-}
-
-} // namespace
-
 QString testoNumero(int x) {
-    return x < 0 || x >= numbersKept ? QString::number(x) : numberKept(x);
-}
-
-bool eNumero(const QString& s, int x) {
-    if (x < 0 || x >= numbersKept)
-        return s == QString::number(x);
-    const QString& text = numberKept(x);
-    return s.constData() == text.constData() || s == text;
+    return QString::number(x);
 }
 
 QString migliaia(double x) {
@@ -182,11 +141,7 @@ QString Zero(const QString& value, int width) {
 QString Zero(double value, int width) {
     if (!(value >= 0 && value <= 1e9) || value != std::floor(value))
         return Zero(testoNumero(value), width);
-    QString digits(std::max(width, 0), Qt::Uninitialized);
-    auto rest = static_cast<unsigned>(value);
-    for (qsizetype at = digits.size(); at > 0; rest /= 10)
-        digits[--at] = QChar(static_cast<char16_t>(u'0' + rest % 10));
-    return digits;
+    return Right(QString::number(static_cast<int>(value)).rightJustified(width, u'0'), width);
 }
 
 QString AggStr(const QString& s, int width, const QString& fill) {
@@ -268,12 +223,8 @@ QString minuscolo(const QString& s) {
 QString senzaMaiuscole(const QString& s) {
     if (std::ranges::none_of(s, [](QChar c) { return c.isSurrogate(); })) {
         QString folded = s;
-        for (QChar& c : folded) {
-            if (c < QChar(0x80))
-                c = c >= u'A' && c <= u'Z' ? QChar(static_cast<char16_t>(c.unicode() + 32)) : c;
-            else
-                c = c.toCaseFolded();
-        }
+        for (QChar& c : folded)
+            c = c.toCaseFolded();
         return folded;
     }
     QList<uint> characters = s.toUcs4();

@@ -4,7 +4,6 @@
 #include <array>
 #include <cmath>
 #include <initializer_list>
-#include <vector>
 
 #include "core/text.h"
 
@@ -68,16 +67,12 @@ QString ghmCentesimi2Stringa(float centesimi, float dayUnit) {
 }
 
 QString ghmSenzaGiorni(float centesimi, float dayUnit) {
-    static std::vector<QString> known(10'000); // a table of 10,000 rows has some hundred different times
     const Ghm time = scompone(centesimi, dayUnit);
     if (!inTwoDigits(time))
         return Mid(ghmCentesimi2Stringa(centesimi, dayUnit), 4);
     if (time.gg == 0 && time.hh == 0 && time.mm == 0)
         return {};
-    QString& text = known[static_cast<std::size_t>(time.hh * 100 + time.mm)];
-    if (text.isNull())
-        text = inDigits({time.hh, time.mm});
-    return text;
+    return inDigits({time.hh, time.mm});
 }
 
 Gma Data2Gma(const QString& data) {

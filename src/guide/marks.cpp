@@ -4,7 +4,7 @@
 
 namespace vanzer {
 
-SegniGuida::Voci SegniGuida::unused(store::VociGuida entries) {
+SegniGuida::Voci SegniGuida::unused(const store::VociGuida& entries) {
     Voci fresh;
     for (const VoceGuida& entry : entries) {
         if (used_.insert(entry.rowid))

@@ -26,7 +26,7 @@ class SegniGuida {
     void scrive() { archive_.rimetteVisti(used_); }
 
   private:
-    [[nodiscard]] Voci unused(store::VociGuida entries);
+    [[nodiscard]] Voci unused(const store::VociGuida& entries);
 
     store::Archive& archive_;
     store::InsiemeDiRighe used_;

@@ -1,7 +1,6 @@
 #include "itinerary/leg_table_screen.h"
 
-#include <algorithm>
-#include <optional>
+#include <array>
 #include <utility>
 
 #include "core/shared_texts.h"
@@ -21,22 +20,13 @@ namespace {
 
 constexpr int colonnaFineGiorno = 14;
 
-/// "0001" behind "0000", as nearly every trip was stored: the records came in order.
-bool follows(const QString& sequence, const QString& last) {
-    const auto digit = [](QChar c) { return c >= u'0' && c <= u'9'; };
-    return sequence.size() == 4 && std::ranges::all_of(sequence, digit) && last < sequence;
-}
-
-/// One row of the table for each record. The places are told apart from the rows' marks later. Nothing if the records
-/// were to come in the order in which they are stored, and that isn't the order of the legs.
-std::optional<TestiTabella> readLegs(Form& form, TestiComuni& texts, bool asStored) {
+/// One row of the table for each record. The places are told apart from the rows' marks later.
+TestiTabella readLegs(Form& form, TestiComuni& texts) {
     store::Archive& archive = form.archivio;
     archive.StringaSQL = QStringLiteral("SELECT * FROM Itinerari WHERE CodiceMeta = '") +
-                         store::quotato(form.stato.CodiceMeta) + u'\'' +
-                         (asStored ? QString() : QStringLiteral(" ORDER BY Sequenza"));
+                         store::quotato(form.stato.CodiceMeta) + QStringLiteral("' ORDER BY Sequenza");
     archive.RecordSetImposta(0, store::Itinerari);
     store::Recordset& records = archive.Rs(store::Itinerari);
-    const int sequence = records.campo("Sequenza");
     const int place = records.campo("Localita");
     const int km = records.campo("Chilometri");
     const int road = records.campo("NomeStrada");
@@ -45,14 +35,7 @@ std::optional<TestiTabella> readLegs(Form& form, TestiComuni& texts, bool asStor
     const int end = records.campo("FineGiorno");
     TestiTabella rows;
     rows.setRows(static_cast<int>(records.RecordCount()));
-    QString last;
     for (int row = 0; !records.EOF_(); records.MoveNext(), ++row) {
-        if (asStored) {
-            const QString next = records.testo(sequence);
-            if (!follows(next, last))
-                return {};
-            last = next;
-        }
         rows.at(row, 0) = testoNumero(row + 1);
         rows.at(row, 1) = records.testo(place);
         rows.at(row, 2) = texts.comune(Trim(records.testo(road)));
@@ -201,8 +184,7 @@ void CaricaTappeItinerario(Form& form) {
     CancellaMatrice(form);
     ControllaVariabiliConvertite(form);
     TestiComuni texts;
-    std::optional<TestiTabella> stored = readLegs(form, texts, true);
-    TestiTabella rows = stored ? std::move(*stored) : *readLegs(form, texts, false);
+    TestiTabella rows = readLegs(form, texts);
     const int legs = rows.rows();
     SettaAZeroFlaGVisto(form);
     addGuideStops(form, rows, texts);

@@ -6,7 +6,7 @@
 
 #include <QString>
 
-#include "store/guide_memory.h"
+#include "store/guide_reader.h"
 
 namespace vanzer {
 

@@ -24,15 +24,17 @@ LettoreGuida::~LettoreGuida() {
         database_->toglie(*this);
 }
 
-VociGuida LettoreGuida::leggeLuogo(const QString& place) {
+const VociGuida& LettoreGuida::leggeLuogo(const QString& place) {
     const QString key = senzaMaiuscole(place);
-    if (const VociGuida* const known = places_ == nullptr ? nullptr : places_->trova(key))
-        return *known;
+    if (places_ != nullptr) {
+        if (const auto known = places_->find(key); known != places_->end())
+            return known->second;
+    }
     const StatementLease found =
         database_->prepara("SELECT rowid, CodiceGuida, Gruppo, Descrizione, TempoSosta FROM GuidaCitta "
                            "WHERE Localita = ?1 ORDER BY CodiceGuida, TempoSosta DESC, Gruppo, rowid");
     found->bindText(1, QStringView(place));
-    std::vector<VoceGuida> entries;
+    VociGuida entries;
     while (found->step())
         entries.push_back({.rowid = found->integer(0),
                            .tempoSosta = texts_.comune(found->text(4)),
@@ -43,15 +45,15 @@ VociGuida LettoreGuida::leggeLuogo(const QString& place) {
     makeRoom(entries.size());
     if (places_ == nullptr)
         places_ = std::make_shared<MemoriaGuida>();
-    return places_->tiene(key, std::move(entries));
+    return (*places_)[key] = std::move(entries);
 }
 
-VociGuida LettoreGuida::leggeModello(const QString& pattern) {
-    if (const VociGuida* const known = patterns_.trova(pattern))
-        return *known;
+const VociGuida& LettoreGuida::leggeModello(const QString& pattern) {
+    if (const auto known = patterns_.find(pattern); known != patterns_.end())
+        return known->second;
     using enum Condition::Test;
     Recordset found(*database_, {TabelleNomi(GuidaCitta), {{QStringLiteral("Localita"), Like, pattern}}, {}});
-    std::vector<VoceGuida> entries;
+    VociGuida entries;
     for (; !found.EOF_(); found.MoveNext())
         entries.push_back({.rowid = found.rowid(),
                            .tempoSosta = texts_.comune(found.testo(4)),
@@ -60,7 +62,7 @@ VociGuida LettoreGuida::leggeModello(const QString& pattern) {
                            .gruppo = texts_.comune(found.testo(2)),
                            .descrizione = found.testo(3)});
     makeRoom(entries.size());
-    return patterns_.tiene(pattern, std::move(entries));
+    return patterns_[pattern] = std::move(entries);
 }
 
 void LettoreGuida::makeRoom(std::size_t entries) {
@@ -71,7 +73,7 @@ void LettoreGuida::makeRoom(std::size_t entries) {
 
 void LettoreGuida::forget() noexcept {
     places_.reset();
-    patterns_.dimentica();
+    patterns_.clear();
     kept_ = 0;
     marked_.reset();
 }

@@ -5,15 +5,29 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <unordered_map>
+#include <vector>
 
 #include <QString>
 
 #include "core/shared_texts.h"
 #include "store/database.h"
-#include "store/guide_memory.h"
 #include "store/row_set.h"
 
 namespace vanzer::store {
+
+struct VoceGuida {
+    qint64 rowid = 0;
+    QString tempoSosta;
+    int codice = 0;      ///< category
+    bool quadra = false; ///< the description holds a "["
+    QString gruppo;
+    QString descrizione;
+};
+
+using VociGuida = std::vector<VoceGuida>;
+/// By place or pattern; the entries stay where they are until all is forgotten.
+using MemoriaGuida = std::unordered_map<QString, VociGuida>;
 
 class LettoreGuida final : public LiveSet {
   public:
@@ -25,11 +39,11 @@ class LettoreGuida final : public LiveSet {
 
     /// The entries of exactly this place, case ignored: by category, the longest first, then by group. They hold until
     /// the guide is written, or so much was read that what is kept is forgotten.
-    [[nodiscard]] VociGuida leggeLuogo(const QString& place);
+    [[nodiscard]] const VociGuida& leggeLuogo(const QString& place);
     /// What holds the entries of places that were read last: they stay as they were as long as somebody has it.
     [[nodiscard]] const std::shared_ptr<MemoriaGuida>& memoria() const { return places_; }
     /// The entries whose place matches the pattern, in the order in which they were added.
-    [[nodiscard]] VociGuida leggeModello(const QString& pattern);
+    [[nodiscard]] const VociGuida& leggeModello(const QString& pattern);
 
     /// Whether exactly these entries are known to carry the mark of use.
     [[nodiscard]] bool segnate(const InsiemeDiRighe& entries) const { return marked_ == entries; }

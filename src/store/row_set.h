@@ -1,7 +1,6 @@
-// Records of a table told by their numbers (rowid), which are small and close together: a bit for each.
+// Records of a table told by their numbers (rowid).
 #pragma once
 
-#include <algorithm>
 #include <initializer_list>
 #include <unordered_set>
 #include <vector>
@@ -20,35 +19,18 @@ class InsiemeDiRighe {
 
     /// False if it was there already.
     bool insert(qint64 rowid) {
-        if (contains(rowid))
-            return false;
-        rows_.push_back(rowid);
-        if (rowid < 0 || rowid >= mostBits)
-            return others_.insert(rowid).second;
-        const auto at = static_cast<std::size_t>(rowid);
-        if (at >= bits_.size())
-            bits_.resize(at + at / 2 + 64);
-        bits_[at] = true;
-        return true;
+        const bool added = known_.insert(rowid).second;
+        if (added)
+            rows_.push_back(rowid);
+        return added;
     }
-    [[nodiscard]] bool contains(qint64 rowid) const {
-        if (rowid < 0 || rowid >= mostBits)
-            return others_.contains(rowid);
-        const auto at = static_cast<std::size_t>(rowid);
-        return at < bits_.size() && bits_[at];
-    }
-    [[nodiscard]] bool operator==(const InsiemeDiRighe& other) const {
-        return rows_.size() == other.rows_.size() &&
-               std::ranges::all_of(rows_, [&other](qint64 rowid) { return other.contains(rowid); });
-    }
+    [[nodiscard]] bool contains(qint64 rowid) const { return known_.contains(rowid); }
+    [[nodiscard]] bool operator==(const InsiemeDiRighe& other) const { return known_ == other.known_; }
     /// In the order in which they came.
     [[nodiscard]] const std::vector<qint64>& righe() const { return rows_; }
 
   private:
-    static constexpr qint64 mostBits = 10'000'000;
-
-    std::vector<bool> bits_;
-    std::unordered_set<qint64> others_; ///< numbers that nobody's table has
+    std::unordered_set<qint64> known_;
     std::vector<qint64> rows_;
 };
 

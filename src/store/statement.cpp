@@ -1,8 +1,5 @@
 #include "store/statement.h"
 
-#include <array>
-#include <vector>
-
 #include <sqlite3.h>
 
 #include "store/error.h"
@@ -23,18 +20,6 @@ QString decoded(QByteArrayView utf8) {
     while (utf8.sliced(marks * mark.size()).startsWith(mark))
         ++marks;
     return QString(marks, QChar(QChar::ByteOrderMark)) + QString::fromUtf8(utf8.sliced(marks * mark.size()));
-}
-
-/// Kinds of road, marks and blanks: the same text for each, which takes no memory of its own.
-const QString& oneLetter(char utf8) {
-    static const std::vector<QString> letters = [] {
-        std::vector<QString> texts;
-        texts.reserve(256);
-        for (int c = 0; c < 256; ++c)
-            texts.push_back(decoded(QByteArray(1, static_cast<char>(c))));
-        return texts;
-    }();
-    return letters[static_cast<unsigned char>(utf8)];
 }
 
 } // namespace
@@ -100,21 +85,8 @@ void Statement::bindText(int parameter, const QByteArray& utf8) {
                             SQLITE_TRANSIENT));
 }
 
-// Nearly every text of the archive is short and plain: those go through the stack.
 void Statement::bindText(int parameter, QStringView text) {
-    std::array<char, 128> plain; // NOLINT(cppcoreguidelines-pro-type-member-init): filled as far as it is used
-    const auto size = static_cast<std::size_t>(text.size());
-    if (size > plain.size())
-        return bindText(parameter, text.toUtf8());
-    char16_t all = 0;
-    for (std::size_t i = 0; i < size; ++i) {
-        const char16_t c = text.utf16()[i];
-        all = static_cast<char16_t>(all | c);
-        plain[i] = static_cast<char>(c);
-    }
-    if (all >= 0x80)
-        return bindText(parameter, text.toUtf8());
-    check(sqlite3_bind_text(statement_.get(), parameter, plain.data(), static_cast<int>(size), SQLITE_TRANSIENT));
+    bindText(parameter, text.toUtf8());
 }
 
 void Statement::bindNull(int parameter) {
@@ -141,8 +113,7 @@ QString Statement::text(int column) const {
     const auto* const utf8 = reinterpret_cast<const char*>(sqlite3_column_text(statement_.get(), column));
     if (utf8 == nullptr)
         return {};
-    const int bytes = sqlite3_column_bytes(statement_.get(), column);
-    return bytes == 1 ? oneLetter(*utf8) : decoded({utf8, bytes});
+    return decoded({utf8, sqlite3_column_bytes(statement_.get(), column)});
 }
 
 int Statement::bytes(int column) const {

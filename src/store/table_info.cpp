@@ -1,9 +1,7 @@
 #include "store/table_info.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
-#include <type_traits>
 
 #include "core/text.h"
 
@@ -27,34 +25,9 @@ constexpr std::array<KindName, 7> kindNames{{{FieldKind::Text, "TEXT"},
 
 constexpr QChar internalMark = u'#';
 
-/// The quick test of a field's name, which nearly always is given as it is stored: plain letters in the same case.
-template<typename View> bool sameSpelling(const QString& name, View view) {
-    if (name.size() != view.size())
-        return false;
-    for (qsizetype i = 0; i < name.size(); ++i) {
-        char32_t c = 0;
-        if constexpr (std::is_same_v<View, QStringView>)
-            c = view[i].unicode();
-        else
-            c = static_cast<unsigned char>(view.data()[i]);
-        if (c != name[i].unicode() || c >= 0x80)
-            return false;
-    }
-    return true;
-}
-
-template<typename View> int positionOfSpelling(const std::vector<FieldDef>& fields, View name) {
-    const auto found = std::find_if(fields.begin(), fields.end(),
-                                    [&](const FieldDef& field) { return sameSpelling(field.name, name); });
-    return found == fields.end() ? -1 : static_cast<int>(found - fields.begin());
-}
-
 } // namespace
 
 int TableInfo::campo(QAnyStringView name) const {
-    const int known = name.visit([this](auto view) { return positionOfSpelling(campi, view); });
-    if (known >= 0)
-        return known;
     for (std::size_t i = 0; i < campi.size(); ++i) {
         if (QAnyStringView::compare(campi[i].name, name, Qt::CaseInsensitive) == 0)
             return static_cast<int>(i);
@@ -105,13 +78,8 @@ QByteArray selectSql(const TableInfo& table) {
 }
 
 QByteArray insertSql(const TableInfo& table) {
-    QByteArray names;
-    QByteArray places;
-    for (const FieldDef& field : table.campi) {
-        names += (names.isEmpty() ? "" : ",") + quotedName(field.name);
-        places += places.isEmpty() ? "?" : ",?";
-    }
-    return "INSERT INTO " + quotedName(table.nome) + '(' + names + ") VALUES(" + places + ')';
+    return "INSERT INTO " + quotedName(table.nome) + " VALUES(?" +
+           QByteArray(",?").repeated(static_cast<qsizetype>(table.campi.size()) - 1) + ')';
 }
 
 QString indexName(const QString& table, const QString& field) {

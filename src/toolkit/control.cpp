@@ -1,9 +1,7 @@
 #include "toolkit/control.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <iterator>
-#include <string>
+#include <utility>
 #include <vector>
 
 #include "core/collation.h"
@@ -12,44 +10,17 @@ namespace vanzer {
 
 namespace {
 
-struct Entry {
-    std::uint64_t start = 0; ///< the first letters: what nearly every comparison needs
-    std::size_t from = 0;    ///< its letters among those of all
-    std::size_t size = 0;
-    qsizetype number = 0;
-};
-
-/// As UTF-8; most entries are plain letters.
-void appends(std::string& letters, const QString& entry) {
-    if (std::ranges::all_of(entry, [](QChar c) { return c < QChar(0x80); }))
-        std::ranges::transform(entry, std::back_inserter(letters), &QChar::toLatin1);
-    else
-        letters += entry.toStdString();
-}
-
-/// Entries that tie stay as they were.
+/// Entries that tie stay as they were. Their base letters, made once, tell nearly all of them apart.
 QStringList sorted(const QStringList& entries) {
-    std::string letters;
-    std::vector<Entry> order;
-    order.reserve(static_cast<std::size_t>(entries.size()));
-    for (qsizetype i = 0; i < entries.size(); ++i) {
-        const std::size_t from = letters.size();
-        appends(letters, entries[i]);
-        order.push_back({primeLettere(std::string_view(letters).substr(from)), from, letters.size() - from, i});
-    }
-    const auto text = [&letters](const Entry& entry) {
-        return std::string_view(letters).substr(entry.from, entry.size);
-    };
-    std::ranges::sort(order, [&text](const Entry& a, const Entry& b) {
-        if (a.start != b.start)
-            return a.start < b.start;
-        const int difference = confronta(text(a), text(b));
-        return difference != 0 ? difference < 0 : a.number < b.number;
+    std::vector<std::pair<QByteArray, QString>> order;
+    for (const QString& entry : entries)
+        order.emplace_back(lettereBase(entry), entry);
+    std::ranges::stable_sort(order, [](const auto& a, const auto& b) {
+        return a.first != b.first ? a.first < b.first : confrontaTesti(a.second, b.second) < 0;
     });
     QStringList result;
-    result.reserve(entries.size());
-    for (const Entry& entry : order)
-        result.append(entries[entry.number]);
+    for (const auto& [letters, entry] : order)
+        result.append(entry);
     return result;
 }
 

@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include "core/memory.h"
 #include "core/place_name.h"
 #include "core/text.h"
 #include "exchange/choice_screen.h"
@@ -496,7 +495,6 @@ QString openingFailed(const Form& form, const store::StoreError& error) {
 } // namespace
 
 std::unique_ptr<Form> nuovaFinestra(const Ambiente& surroundings, Ports& ports) {
-    tieneLaMemoria();
     auto form = std::make_unique<Form>(surroundings, ports);
     if (form->ambiente.versione.isEmpty())
         form->ambiente.versione = versioneProgramma();

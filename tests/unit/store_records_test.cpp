@@ -1,8 +1,6 @@
 // Walking and changing records, commands, marks of use.
 #include "store_fixture.h"
 
-#include <random>
-
 #include "store/query_sql.h"
 
 namespace vanzer::store {
@@ -361,33 +359,6 @@ TEST_F(StoreRecords, MarksOfUseCostWhatIsMarked) {
         EXPECT_TRUE(fewer.contains(marked.rowid()));
     archive.rimetteVisti({});
     EXPECT_EQ(open(unmarked).RecordCount(), 20'000);
-}
-
-TEST(MemoriaGuida, FindsPlacesInWhateverOrderTheyAreAskedFor) {
-    MemoriaGuida memory;
-    std::vector<const VoceGuida*> first;
-    constexpr int places = 700; // with their entries more than one block
-    const auto name = [](int i) { return QStringLiteral("LUOGO %1").arg(i); };
-    for (int i = 0; i < places; ++i) {
-        std::vector<VoceGuida> entries(static_cast<std::size_t>(i % 4));
-        for (VoceGuida& entry : entries)
-            entry.rowid = i;
-        first.push_back(memory.tiene(name(i), entries).data());
-    }
-    std::mt19937 chance(3);
-    for (int turn = 0; turn < 3; ++turn) {
-        for (int i = 0; i < places; ++i) {
-            const int asked = turn == 1 ? static_cast<int>(chance() % places) : i;
-            const VociGuida* const found = memory.trova(name(asked));
-            ASSERT_NE(found, nullptr) << asked;
-            ASSERT_EQ(found->size(), static_cast<std::size_t>(asked % 4));
-            EXPECT_TRUE(std::ranges::all_of(*found, [asked](const VoceGuida& entry) { return entry.rowid == asked; }));
-            EXPECT_EQ(found->data(), first[static_cast<std::size_t>(asked)]) << "entries stay where they are";
-            EXPECT_EQ(memory.trova(QStringLiteral("LUOGO")), nullptr);
-        }
-    }
-    memory.dimentica();
-    EXPECT_EQ(memory.trova(name(0)), nullptr);
 }
 
 TEST_F(StoreRecords, WhatTheGuideKnowsIsReadOnceUntilItIsWritten) {
