@@ -57,7 +57,7 @@ void startOfBatch(benchmark::State& state) {
                              folder.file("start.txt")};
     measure(state,
             {.work = "start of `vanzer-batch` to idle, big archive",
-             .against = "a Qt program that reads the current trip by bare calls",
+             .against = "a Qt program with the same libraries that reads the current trip by bare calls",
              .atMost = 1.5,
              .inProcess = false},
             program("vanzer-batch", script), program("least_batch", {folder.path()}));
