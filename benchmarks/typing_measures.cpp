@@ -25,11 +25,11 @@ constexpr Where places[] = {{"at the end", [](int legs) { return legs + 1; }},
                             {"in the middle", [](int legs) { return legs / 2; }},
                             {"at the top", [](int /*legs*/) { return 5; }}};
 
-/// One leg over the one that stands there, or at the end; the row stays the same.
+/// One leg over another one that stands there, or at the end; the row stays the same.
 void types(Form& form, int row) {
     form.stato.RigaCorrente = row;
     form.txtTappa.setText(QStringLiteral("ARRIVO"));
-    form.txtKm.setText(form.txtKm.text() == u"12" ? QStringLiteral("13") : QStringLiteral("12"));
+    form.txtKm.setText(form.mfgTab.cell(row, 3) == u"12" ? QStringLiteral("13") : QStringLiteral("12"));
     form.chkKm.setValue(false);
     form.cmdInserisce.click();
 }
