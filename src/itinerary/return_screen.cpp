@@ -22,10 +22,8 @@ void packTable(Form& form) {
         grid.setCell(last, 0, testoNumero(last));
         grid.copyRow(r, last, 1);
     }
-    for (int r = last + 1; r < grid.rows(); ++r) {
-        if (!grid.nothingWritten(r))
-            grid.clearRow(r, 0);
-    }
+    for (int r = last + 1; r < grid.rows(); ++r)
+        grid.clearRow(r, 0);
 }
 
 std::vector<QStringView> places(const Form& form) {

@@ -14,8 +14,7 @@ namespace vanzer::store {
 struct VoceGuida {
     qint64 rowid = 0;
     QString tempoSosta;
-    int codice = 0;      ///< category
-    bool quadra = false; ///< the description holds a "["
+    int codice = 0; ///< category
     QString gruppo;
     QString descrizione;
 };

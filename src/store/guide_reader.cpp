@@ -37,7 +37,6 @@ VociGuida LettoreGuida::leggeLuogo(const QString& place) {
         entries.push_back({.rowid = found->integer(0),
                            .tempoSosta = texts_.comune(found->text(4)),
                            .codice = arrotonda(std::trunc(Val(found->text(1)))),
-                           .quadra = found->text(3).contains(u'['),
                            .gruppo = texts_.comune(found->text(2)),
                            .descrizione = found->text(3)});
     makeRoom(entries.size());
@@ -56,7 +55,6 @@ VociGuida LettoreGuida::leggeModello(const QString& pattern) {
         entries.push_back({.rowid = found.rowid(),
                            .tempoSosta = texts_.comune(found.testo(4)),
                            .codice = arrotonda(Val(found.testo(1))),
-                           .quadra = found.testo(3).contains(u'['),
                            .gruppo = texts_.comune(found.testo(2)),
                            .descrizione = found.testo(3)});
     makeRoom(entries.size());

@@ -153,45 +153,6 @@ TEST(TestiTabella, AreThoseOfAPlainTable) {
     }
 }
 
-TEST(Griglia, TextsMadeLaterAreMadeOnceForWhoeverLooks) {
-    Grid grid(u"mfgTab"_s, -1, nullptr, 6, 4);
-    for (int r = 1; r < 6; ++r)
-        grid.setCell(r, 1, QStringLiteral("x"));
-    std::vector<int> made;
-    const auto make = [&made](int row, RigaDiTesti cells) {
-        if (cells.text(1).isEmpty())
-            return;
-        made.push_back(row);
-        cells[3] = QString::number(row * 10);
-    };
-    using Rows = std::vector<int>;
-    grid.setColumnsLater(1, {3}, make);
-    (void)grid.cell(4, 1);
-    EXPECT_EQ(made, Rows()) << "another column";
-    const QString& kept = grid.cell(2, 1);
-    EXPECT_EQ(grid.cell(2, 3), u"20");
-    EXPECT_EQ(made, (Rows{1, 2}));
-    EXPECT_EQ(kept, u"x");
-    grid.setCell(4, 3, QStringLiteral("own"));
-    EXPECT_EQ(made, (Rows{1, 2, 3, 4}));
-    EXPECT_EQ(grid.cell(4, 3), u"own") << "what is written later stays";
-    grid.makeAgainFrom(4);
-    EXPECT_EQ(grid.cell(4, 3), u"40");
-    grid.removeRow(3);
-    EXPECT_EQ(grid.cell(4, 3), u"50") << "made before the rows move";
-    made.clear();
-    grid.makeAgainFrom(2);
-    const TestiTabella rows = grid.takeContents();
-    EXPECT_EQ(rows.text(1, 3), u"20") << "made before they are taken out";
-    grid.setContents(TestiTabella(rows));
-    (void)grid.cell(4, 3);
-    EXPECT_EQ(made, (Rows{2, 3, 4})) << "another table is whole";
-    grid.makeAgainFrom(2);
-    grid.setRows(3);
-    grid.setRows(6);
-    EXPECT_EQ(grid.cell(4, 3), QString()) << "rows that went with the end are not made again";
-}
-
 TEST(Griglia, RowsShiftBesideTheirNumbers) {
     const struct {
         const char* what;
@@ -201,16 +162,12 @@ TEST(Griglia, RowsShiftBesideTheirNumbers) {
                  {"up over a row", 3, 5, -1, "1a 2c 3d 4e 5-"}, {"up over two", 4, 5, -2, "1a 2d 3e 4- 5-"},
                  {"nowhere to go", 4, 5, 1, "1a 2b 3c 4d 5e"},  {"no rows", 4, 3, 1, "1a 2b 3c 4d 5e"}};
     for (const auto& c : cases) {
-        Grid grid(u"mfgTab"_s, -1, nullptr, 6, 3);
+        Grid grid(u"mfgTab"_s, -1, nullptr, 6, 2);
         letter(grid);
-        grid.setColumnsLater(1, {2}, [](int /*row*/, RigaDiTesti cells) { cells[2] = cells.text(1); });
-        (void)grid.cell(3, 2);
         grid.shiftRows(c.first, c.last, c.by);
         QStringList texts;
-        for (int r = 1; r < 6; ++r) {
+        for (int r = 1; r < 6; ++r)
             texts += grid.cell(r, 0) + (grid.cell(r, 1).isEmpty() ? u"-"_s : grid.cell(r, 1));
-            EXPECT_EQ(grid.cell(r, 2), grid.cell(r, 1)) << c.what;
-        }
         EXPECT_EQ(texts.join(u' ').toStdString(), c.texts) << c.what;
     }
 }
@@ -228,8 +185,8 @@ TEST(Griglia, TellsTheRowsThatHaveChanged) {
     EXPECT_EQ(changed(), (Rows{2, 7}));
     grid.setCell(7, 2, QStringLiteral("x"));
     EXPECT_EQ(changed(), Rows()) << "the same text";
-    grid.setRows(5);
-    EXPECT_EQ(changed(), Rows{7}) << "gone with the end";
+    grid.setRows(48);
+    EXPECT_EQ(changed(), (Rows{48, 49})) << "gone with the end";
     grid.setRows(60);
     EXPECT_EQ(changed(), Rows());
     grid.removeRow(3);
