@@ -306,7 +306,7 @@ void InserisciRigheItinerario(Form& form, int n) {
     Grid& grid = form.mfgTab;
     const SenzaRidisegno quiet(grid);
     grid.setRows(grid.rows() + n);
-    SpostaRighe(form, s.RigaCorrente, s.NumeroTappe, n);
+    grid.shiftRows(s.RigaCorrente, s.NumeroTappe, n);
     for (int r = s.RigaCorrente + n; r <= s.NumeroTappe + n; ++r)
         numera(grid, r);
     for (int r = s.RigaCorrente; r < s.RigaCorrente + n; ++r)
@@ -325,7 +325,7 @@ void cmdCancella_Click(Form& form) {
     Grid& grid = form.mfgTab;
     {
         const SenzaRidisegno quiet(grid);
-        const bool leftBlank = SpostaRighe(form, form.stato.RigaCorrente + 1, grid.rows() - 1, -1);
+        const bool leftBlank = grid.shiftRows(form.stato.RigaCorrente + 1, grid.rows() - 1, -1);
         for (int r = form.stato.RigaCorrente; r <= grid.rows() - 2; ++r) {
             // A row without a place has no number, one that has got a place has its own.
             if (grid.cell(r, 1).isEmpty())

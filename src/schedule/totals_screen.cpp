@@ -1,7 +1,5 @@
 #include "schedule/totals_screen.h"
 
-#include <cstdlib>
-
 #include "core/text.h"
 #include "core/time_values.h"
 #include "window/parameters.h"
@@ -28,14 +26,18 @@ std::optional<Tratto> readLeg(Grid& grid, int row) {
 }
 
 /// The running texts from a row on. A leg without kilometres keeps those that it had.
-void writeRunningTexts(Grid& grid, TotaliTabella& totals, int first) {
+void writeRunningTexts(Grid& grid, const TotaliTabella& totals, int first) {
     const SenzaRidisegno quiet(grid);
-    for (int row = first; row < grid.rows(); ++row) {
+    float km = 0;
+    for (int row = 1; row < grid.rows(); ++row) {
         const std::optional<Tratto>& leg = totals.tratto(row);
         if (!leg || leg->km == 0)
             continue;
+        km += static_cast<float>(leg->km);
+        if (row < first)
+            continue;
         grid.setCell(row, colonnaOre, ghmSenzaGiorni(totals.tempo(row), unGiornoDi99Ore));
-        grid.setCell(row, colonnaProgressivi, migliaiaZero(static_cast<double>(totals.kmProgressivi(row))));
+        grid.setCell(row, colonnaProgressivi, migliaiaZero(static_cast<double>(km)));
     }
 }
 
@@ -98,23 +100,6 @@ Medie medieMostrate(const Form& form) {
     for (int i = 0; i < 4; ++i)
         speeds[static_cast<std::size_t>(i)] = Val(form.cmbMediaKm(i).text());
     return speeds;
-}
-
-bool SpostaRighe(Form& form, int first, int last, int by) {
-    Grid& grid = form.mfgTab;
-    if (!grid.canShift(first, last, by))
-        return false;
-    TotaliTabella& totals = form.totali;
-    const int covered = by > 0 ? last + 1 : first + by;
-    bool follow = true;
-    for (int row = covered; row < covered + std::abs(by); ++row)
-        follow = follow && totals.cambia(row, {});
-    if (!follow)
-        grid.forgetChangedRows();
-    grid.shiftRows(first, last, by);
-    if (follow)
-        totals.sposta(first, last, by);
-    return true;
 }
 
 void CalcolaKmTempiItinerario(Form& form) {

@@ -136,37 +136,19 @@ void Grid::clearRow(int row, int firstColumn) {
         setCell(row, c, {});
 }
 
-bool Grid::canShift(int first, int last, int by) const {
-    return by != 0 && first <= last && std::min(first, first + by) >= 1 && std::max(last, last + by) < rows();
-}
-
-void Grid::shiftRows(int first, int last, int by) {
-    if (!canShift(first, last, by))
-        return;
+bool Grid::shiftRows(int first, int last, int by) {
     const int top = std::min(first, first + by);
     const int bottom = std::max(last, last + by);
+    if (by == 0 || first > last || top < 1 || bottom >= rows())
+        return false;
+    forgetChangedRows();
     setRedraw(false);
     cells_.rotate(top - 1, by > 0 ? last : first - 1, bottom, 1);
-    shiftNotes(first, last, by);
-    for (int row = first + by; row <= last + by; ++row) {
-        if (cells_.text(row - 1, 0).isEmpty() != cells_.text(row - by - 1, 0).isEmpty())
-            noteChange(row); // beside another text in column 0 than before
-    }
     const int blank = by > 0 ? top : last + 1 + by;
-    for (int row = blank; row < blank + std::abs(by); ++row) {
+    for (int row = blank; row < blank + std::abs(by); ++row)
         cells_.clearRow(row - 1, 1);
-        noteChange(row);
-    }
-    noteChange(top);
     setRedraw(true);
-}
-
-/// What is known of changed rows goes with them.
-void Grid::shiftNotes(int first, int last, int by) {
-    if (!changed_)
-        return;
-    for (int& row : *changed_)
-        row += row >= first && row <= last ? by : 0;
+    return true;
 }
 
 void Grid::removeRow(int row) {

@@ -39,10 +39,8 @@ class Grid : public Control {
     void copyRow(int from, int to, int firstColumn);
     void clearRow(int row, int firstColumn);
     /// The rows `first` to `last` go `by` rows down, or up where it is negative, over what is there; the rows that they
-    /// leave are blank. Column 0 stays.
-    void shiftRows(int first, int last, int by);
-    /// Whether there are such rows, and room for them.
-    [[nodiscard]] bool canShift(int first, int last, int by) const;
+    /// leave are blank. Column 0 stays. False, and nothing done, without such rows or room for them.
+    bool shiftRows(int first, int last, int by);
     /// Takes a row from 1 on out; those below it move up, and an empty one comes in at the end.
     void removeRow(int row);
     /// Empties all cells, the head row's too.
@@ -51,8 +49,6 @@ class Grid : public Control {
     /// The rows whose texts have changed since this was last asked, from 1 on; nothing if they are many or the whole
     /// table is another one.
     [[nodiscard]] std::optional<std::vector<int>> takeChangedRows();
-    /// From here on the whole table counts as another one.
-    void forgetChangedRows() { changed_.reset(); }
 
     /// All rows from 1 on: taken out, so that the head row is left, and put in.
     [[nodiscard]] TestiTabella takeContents();
@@ -104,7 +100,7 @@ class Grid : public Control {
     friend class GridModel;
     void keepInside();
     void noteChange(int row);
-    void shiftNotes(int first, int last, int by);
+    void forgetChangedRows() { changed_.reset(); }
 
     std::vector<QString> head_;
     TestiTabella cells_;                      ///< of the rows from 1 on
