@@ -67,18 +67,18 @@ void writeFolded(Grid& grid, const std::vector<RigaRimasta>& left) {
     const int rowSel = grid.rowSel();
     const int columnSel = grid.colSel();
     const int top = grid.topRow();
-    TestiTabella rows = grid.takeContents();
+    const TestiTabella rows = grid.takeContents();
     TestiTabella folded;
     folded.setRows(static_cast<int>(left.size()) + 1);
     int to = 0;
     for (const RigaRimasta& leg : left) {
-        folded.moveRow(to, rows, leg.riga - 1);
+        folded.copyRow(to, rows, leg.riga - 1);
         folded.at(to, 1) = leg.cella.luogo;
         folded.at(to, 2) = leg.cella.strade;
         folded.at(to, 3) = testoNumero(leg.cella.km);
         ++to;
     }
-    folded.moveRow(to, rows, rows.rows() - 1);
+    folded.copyRow(to, rows, rows.rows() - 1);
     grid.setContents(std::move(folded));
     grid.select(row, column, rowSel, columnSel);
     grid.setTopRow(top);

@@ -136,7 +136,7 @@ class Chiusura {
         : rows_(rows), schedule_(schedule), texts_(texts) {}
 
     std::array<QString, righeTotali> chiude() {
-        const int rows = rows_.rows();
+        const int rows = this->rows();
         if (rows >= 2)
             rows_.at(rows - 2, colFine) = u'>' + giornoEMese(schedule_.giuliano) + u'-' + oraMostrata(schedule_.ora);
         findStretch();
@@ -148,9 +148,11 @@ class Chiusura {
     }
 
   private:
+    [[nodiscard]] int rows() const { return static_cast<int>(schedule_.righe.size()); }
+
     /// From the last "[Start]" to the row before the next numbered one behind the last "[End]".
     void findStretch() {
-        const int none = rows_.rows();
+        const int none = rows();
         int end = none;
         for (int i = 0; i < none; ++i) {
             const QString& name = rows_.text(i, colTappa);
@@ -270,11 +272,12 @@ QString oraMostrata(float ora) {
 }
 
 TestiTabella celleViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work,
-                            const TestiViandoria& texts) {
+                            const TestiViandoria& texts, int blankRows) {
+    const int written = static_cast<int>(schedule.righe.size());
     TestiTabella rows;
-    rows.setRows(static_cast<int>(schedule.righe.size()));
+    rows.setRows(written + blankRows);
     TestiGiorno day;
-    for (int i = 0; i < rows.rows(); ++i) {
+    for (int i = 0; i < written; ++i) {
         const RigaViandoria& row = schedule.righe[static_cast<std::size_t>(i)];
         scriveRiga(RigaDiTesti(rows, i), i + 1, row, work[static_cast<std::size_t>(row.lavoro)], texts, day);
     }
@@ -283,12 +286,12 @@ TestiTabella celleViandoria(const Viandoria& schedule, const std::vector<RigaDiL
 
 TestiTabella tabellaViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work,
                               const TestiViandoria& texts) {
-    TestiTabella rows = celleViandoria(schedule, work, texts);
+    TestiTabella rows = celleViandoria(schedule, work, texts, righeTotali);
     const std::array<QString, righeTotali> totals = Chiusura(rows, schedule, texts).chiude();
     int left = 0;
     for (int row = 0; row < rows.rows(); ++row) {
         if (says(rows, row))
-            rows.moveRow(left++, rows, row);
+            rows.copyRow(left++, rows, row);
     }
     rows.setRows(left);
     for (const QString& total : totals)

@@ -45,9 +45,9 @@ struct TestiViandoria {
 [[nodiscard]] QString giornoEMese(float giuliano);
 [[nodiscard]] QString oraMostrata(float ora);
 
-/// Only what the simulation wrote, row by row.
+/// Only what the simulation wrote, row by row, and blank rows behind it.
 [[nodiscard]] TestiTabella celleViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work,
-                                          const TestiViandoria& texts);
+                                          const TestiViandoria& texts, int blankRows = 0);
 
 /// The whole table of a schedule: its rows without those that say nothing beyond their name, day and hour, closed by
 /// the notes of the days and the mark of the end, and behind them the rows of totals.

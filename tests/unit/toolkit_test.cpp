@@ -1,9 +1,6 @@
 // The control models: what the window's logic relies on, and what a view is told.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <random>
-
 #include <QAbstractItemModelTester>
 
 #include "toolkit/grid.h"
@@ -88,69 +85,6 @@ TEST(Griglia, RowsMoveWhole) {
     EXPECT_EQ(grid.rows(), 1);
     grid.setContents(std::move(rows));
     EXPECT_EQ(column(grid, 1), u"a|b|b|d|e");
-}
-
-TEST(TestiTabella, AreThoseOfAPlainTable) {
-    using Plain = std::vector<std::vector<QString>>;
-    constexpr int columns = 3;
-    std::mt19937 chance(5);
-    const auto below = [&chance](int bound) { return static_cast<int>(chance() % static_cast<unsigned>(bound)); };
-    TestiTabella table;
-    TestiTabella copy;
-    Plain plain;
-    Plain copied;
-    const auto same = [](const TestiTabella& a, const Plain& b) {
-        bool equal = a.rows() == static_cast<int>(b.size());
-        for (int r = 0; equal && r < a.rows(); ++r) {
-            for (int c = 0; c < columns; ++c)
-                equal = equal && a.text(r, c) == b[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)];
-            equal = equal && a.blank(r) == std::ranges::all_of(b[static_cast<std::size_t>(r)], &QString::isEmpty);
-        }
-        return equal;
-    };
-    for (int step = 0; step < 3000; ++step) {
-        const int rows = table.rows();
-        const auto at = [&plain](int r) { return plain.begin() + r; };
-        const int does = rows == 0 ? 0 : below(8);
-        if (does == 0) {
-            const int wanted = 1 + below(300);
-            table.setRows(wanted);
-            plain.resize(static_cast<std::size_t>(wanted), std::vector<QString>(columns));
-        } else if (does == 1) {
-            const int r = below(rows);
-            table.removeRow(r);
-            plain.erase(at(r));
-        } else if (does == 2) {
-            const int first = below(rows);
-            const int byOne = below(2) == 0 ? first + 1 : rows - 1; // a row goes, or comes in
-            const int middle = below(2) == 0 ? first + below(rows - first) : std::min(byOne, rows - 1);
-            table.rotate(first, middle, rows, 0);
-            std::rotate(at(first), at(middle), plain.end());
-        } else if (does == 3) {
-            const int r = below(rows);
-            table.clearRow(r, 1);
-            at(r)->at(1) = at(r)->at(2) = QString();
-        } else if (does == 4 && copy.rows() > 0) {
-            const int r = below(rows);
-            const int from = below(copy.rows());
-            TestiTabella taken = copy;
-            // The columns that another table has never written stay.
-            if (!std::ranges::all_of(copied, [](const auto& row) { return row[0].isEmpty(); })) {
-                taken.cutColumns(1);
-                table.moveRow(r, taken, from);
-                at(r)->at(0) = copied[static_cast<std::size_t>(from)][0];
-            }
-        } else if (does == 5) {
-            copy = table;
-            copied = plain;
-        } else {
-            const int r = below(rows);
-            const int c = below(columns);
-            table.at(r, c) = at(r)->at(static_cast<std::size_t>(c)) = below(3) == 0 ? QString() : QString::number(step);
-        }
-        ASSERT_TRUE(same(table, plain)) << step << ": " << does;
-        ASSERT_TRUE(same(copy, copied)) << step << ": a copy changed by " << does;
-    }
 }
 
 TEST(Griglia, RowsShiftBesideTheirNumbers) {
