@@ -4,7 +4,6 @@
 #include <optional>
 #include <utility>
 
-#include "core/shared_texts.h"
 #include "core/text.h"
 #include "core/time_values.h"
 #include "guide/marks.h"
@@ -29,7 +28,7 @@ bool follows(const QString& sequence, const QString& last) {
 
 /// One row of the table for each record. The places are told apart from the rows' marks later. Nothing if the records
 /// were to come in the order in which they are stored, and that isn't the order of the legs.
-std::optional<TestiTabella> readLegs(Form& form, TestiComuni& texts, bool asStored) {
+std::optional<TestiTabella> readLegs(Form& form, bool asStored) {
     store::Archive& archive = form.archivio;
     archive.StringaSQL = QStringLiteral("SELECT * FROM Itinerari WHERE CodiceMeta = '") +
                          store::quotato(form.stato.CodiceMeta) + u'\'' +
@@ -55,11 +54,11 @@ std::optional<TestiTabella> readLegs(Form& form, TestiComuni& texts, bool asStor
         }
         rows.at(row, 0) = testoNumero(row + 1);
         rows.at(row, 1) = records.testo(place);
-        rows.at(row, 2) = texts.comune(Trim(records.testo(road)));
+        rows.at(row, 2) = Trim(records.testo(road));
         rows.at(row, 3) = migliaia(Val(records.testo(km)));
         rows.at(row, 4) = records.testo(type);
         const QString endOfDay = records.testo(end);
-        rows.at(row, 7) = texts.comune(sostaDelRecord(endOfDay, records.testo(stop)));
+        rows.at(row, 7) = sostaDelRecord(endOfDay, records.testo(stop));
         rows.at(row, colonnaFineGiorno) = endOfDay;
     }
     return rows;
@@ -74,7 +73,7 @@ QString guideStops(SegniGuida& guide, const QString& place, float visitingDay) {
 }
 
 /// The guide's stops into the rows of the stretch, each entry once.
-void addGuideStops(Form& form, TestiTabella& rows, TestiComuni& texts) {
+void addGuideStops(Form& form, TestiTabella& rows) {
     SegniGuida guide(form.archivio);
     TrattoDellaGuida stretch;
     form.stato.RigaCaricata = 0;
@@ -82,7 +81,7 @@ void addGuideStops(Form& form, TestiTabella& rows, TestiComuni& texts) {
         ++form.stato.RigaCaricata;
         const TrattoDellaGuida::Passo step = stretch.prossimo(rows.text(row, 1));
         if (step.leggere)
-            rows.at(row, 8) = texts.comune(guideStops(guide, step.luogo, form.stato.OreVisitaGiorno));
+            rows.at(row, 8) = guideStops(guide, step.luogo, form.stato.OreVisitaGiorno);
         form.yield();
     }
     guide.scrive();
@@ -200,12 +199,11 @@ void CaricaTappeItinerario(Form& form) {
     form.tappeConservate.reset();
     CancellaMatrice(form);
     ControllaVariabiliConvertite(form);
-    TestiComuni texts;
-    std::optional<TestiTabella> stored = readLegs(form, texts, true);
-    TestiTabella rows = stored ? std::move(*stored) : *readLegs(form, texts, false);
+    std::optional<TestiTabella> stored = readLegs(form, true);
+    TestiTabella rows = stored ? std::move(*stored) : *readLegs(form, false);
     const int legs = rows.rows();
     SettaAZeroFlaGVisto(form);
-    addGuideStops(form, rows, texts);
+    addGuideStops(form, rows);
     {
         const SenzaRidisegno quiet(form.mfgTab);
         form.stato.NumeroTappe = legs;

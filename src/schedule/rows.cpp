@@ -290,8 +290,11 @@ TestiTabella tabellaViandoria(const Viandoria& schedule, const std::vector<RigaD
     const std::array<QString, righeTotali> totals = Chiusura(rows, schedule, texts).chiude();
     int left = 0;
     for (int row = 0; row < rows.rows(); ++row) {
-        if (says(rows, row))
-            rows.copyRow(left++, rows, row);
+        if (!says(rows, row))
+            continue;
+        if (left != row)
+            rows.copyRow(left, rows, row);
+        ++left;
     }
     rows.setRows(left);
     for (const QString& total : totals)

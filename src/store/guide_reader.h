@@ -8,7 +8,6 @@
 
 #include <QString>
 
-#include "core/shared_texts.h"
 #include "store/database.h"
 #include "store/guide_memory.h"
 #include "store/row_set.h"
@@ -46,7 +45,6 @@ class LettoreGuida final : public LiveSet {
     void forget() noexcept;
 
     Database* database_;
-    TestiComuni texts_;                                                       ///< times and groups
     std::shared_ptr<MemoriaGuida> places_ = std::make_shared<MemoriaGuida>(); ///< null: forgotten
     MemoriaGuida patterns_;
     std::size_t kept_ = 0; ///< entries in all
