@@ -124,32 +124,6 @@ QString testoNumero(float x, QChar decimalMark) {
     return shortest(x, decimalMark);
 }
 
-namespace {
-
-constexpr int numbersKept = 10'000;
-
-/// The text kept for a number from 0 to below `numbersKept`.
-const QString& numberKept(int x) {
-    static std::vector<QString> known(numbersKept);
-    QString& text = known[static_cast<std::size_t>(x)];
-    if (text.isNull())
-        text = QString::number(x);
-    return text;
-}
-
-} // namespace
-
-QString testoNumero(int x) {
-    return x < 0 || x >= numbersKept ? QString::number(x) : numberKept(x);
-}
-
-bool eNumero(const QString& s, int x) {
-    if (x < 0 || x >= numbersKept)
-        return s == QString::number(x);
-    const QString& text = numberKept(x);
-    return s.constData() == text.constData() || s == text;
-}
-
 QString migliaia(double x) {
     const QString s = migliaiaZero(x);
     return s == u"0" ? QString() : s;
@@ -157,8 +131,6 @@ QString migliaia(double x) {
 
 QString migliaiaZero(double x) {
     // Half away from zero, as number formats round.
-    if (x >= 0 && x < 999)
-        return testoNumero(static_cast<int>(Int(x + 0.5)));
     const auto whole = static_cast<qlonglong>(std::floor(std::fabs(x) + 0.5));
     std::array<char, 24> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), whole).ptr;

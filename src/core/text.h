@@ -46,10 +46,6 @@ namespace vanzer {
 /// Shortest decimal form of a number, with the given decimal mark. A float keeps a float's digits.
 [[nodiscard]] QString testoNumero(double x, QChar decimalMark = u'.');
 [[nodiscard]] QString testoNumero(float x, QChar decimalMark = u'.');
-/// The same text for the same number up to some thousands, so that a table's numbers take no memory of their own.
-[[nodiscard]] QString testoNumero(int x);
-/// Whether the text is just that number's; quick where it comes from `testoNumero`.
-[[nodiscard]] bool eNumero(const QString& s, int x);
 
 /// Whole number with points as thousands marks; 0 is the empty text ("#,###").
 [[nodiscard]] QString migliaia(double x);

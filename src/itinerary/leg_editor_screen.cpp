@@ -116,7 +116,7 @@ void writeRow(Form& form, const TappaControllata& row) {
     if (form.chkMeta(1).value())
         CancellaFlagStartEnd(form, 1);
     clearMarkBoxes(form);
-    grid.setCell(r, 0, testoNumero(r));
+    grid.setCell(r, 0, QString::number(r));
     grid.setCell(r, 1, row.luogo);
     grid.setCell(r, 2, form.txtNumStrada.text());
     grid.setCell(r, 3, form.txtKm.text());
@@ -136,12 +136,6 @@ bool kmAreTotal(const Form& form) {
 void reloadDestination(Form& form) {
     RicaricaItinerario(form);
     form.stato.RigaCorrente = 1;
-}
-
-/// Its own number in column 0.
-void numera(Grid& grid, int row) {
-    if (!eNumero(grid.cell(row, 0), row))
-        grid.setCell(row, 0, testoNumero(row));
 }
 
 /// Before a user the mark stays on the row at hand until what is typed for it is dealt with.
@@ -308,7 +302,7 @@ void InserisciRigheItinerario(Form& form, int n) {
     grid.setRows(grid.rows() + n);
     grid.shiftRows(s.RigaCorrente, s.NumeroTappe, n);
     for (int r = s.RigaCorrente + n; r <= s.NumeroTappe + n; ++r)
-        numera(grid, r);
+        grid.setCell(r, 0, QString::number(r));
     for (int r = s.RigaCorrente; r < s.RigaCorrente + n; ++r)
         grid.clearRow(r, 1);
     s.NumeroTappe += n;
@@ -331,7 +325,7 @@ void cmdCancella_Click(Form& form) {
             if (grid.cell(r, 1).isEmpty())
                 grid.setCell(r, 0, {});
             else
-                numera(grid, r);
+                grid.setCell(r, 0, QString::number(r));
         }
         if (!leftBlank)
             grid.clearRow(grid.rows() - 1, 1);

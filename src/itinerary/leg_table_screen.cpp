@@ -52,7 +52,7 @@ std::optional<TestiTabella> readLegs(Form& form, bool asStored) {
                 return {};
             last = next;
         }
-        rows.at(row, 0) = testoNumero(row + 1);
+        rows.at(row, 0) = QString::number(row + 1);
         rows.at(row, 1) = records.testo(place);
         rows.at(row, 2) = Trim(records.testo(road));
         rows.at(row, 3) = migliaia(Val(records.testo(km)));

@@ -19,7 +19,7 @@ void packTable(Form& form) {
             continue;
         if (++last == r)
             continue;
-        grid.setCell(last, 0, testoNumero(last));
+        grid.setCell(last, 0, QString::number(last));
         grid.copyRow(r, last, 1);
     }
     for (int r = last + 1; r < grid.rows(); ++r)
@@ -40,7 +40,7 @@ void appendLegs(Form& form, const Ritorno& home) {
     grid.setRows(Maggiore(s.RigheMinime, grid.rows() + home.riga + 2));
     for (const PassoRitorno& leg : home.passi) {
         const int r = ++s.NumeroTappe;
-        grid.setCell(r, 0, testoNumero(r));
+        grid.setCell(r, 0, QString::number(r));
         grid.setCell(r, 1, grid.cell(leg.luogo, 1));
         for (const int column : {2, 3, 4})
             grid.setCell(r, column, grid.cell(leg.strada, column));

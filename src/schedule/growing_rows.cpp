@@ -24,7 +24,7 @@ void cresce(TestiTabella& rows, const Viandoria& soFar, const std::vector<RigaDi
     for (int i = 0; i < more.rows(); ++i, ++to) {
         rows.copyRow(to, more, i);
         if (!rows.text(to, colNumero).isEmpty())
-            rows.at(to, colNumero) = testoNumero(to + 1);
+            rows.at(to, colNumero) = QString::number(to + 1);
     }
 }
 

@@ -60,10 +60,10 @@ QString noteDelTratto(const RigaViandoria& row, const QString& breakMinutes) {
 
 void scriveTratto(RigaDiTesti cells, int number, const RigaViandoria& row, const RigaDiLavoro& work,
                   const TestiViandoria& texts) {
-    cells[colNumero] = testoNumero(number);
+    cells[colNumero] = QString::number(number);
     cells[colTappa] = row.verso ? u"verso: "_s + RiPulisceNomeLocalita(work.nome) : work.nome;
     cells[colStrada] = Trim(texts.tappa(work.tappa, colStrada));
-    cells[colKm] = row.km == 0 ? QString() : testoNumero(row.km);
+    cells[colKm] = row.km == 0 ? QString() : QString::number(row.km);
     cells[colTipo] = texts.tappa(work.tappa, colTipo);
     cells[colKmProgressivi] = migliaia(row.kmTotali);
     cells[colTempo] = ghmSenzaGiorni(row.tempo, texts.oreGuidaGiorno);
