@@ -28,15 +28,16 @@ class TestiTabella {
     /// To be written. It stays where it is until another row of its column is written, or the number of rows changes.
     [[nodiscard]] QString& at(int row, int column) {
         const auto c = static_cast<std::size_t>(column);
-        if (c >= columns_.size() || row >= columns_[c].size())
-            lengthen(c, row);
+        if (c >= columns_.size())
+            columns_.resize(c + 1);
+        if (columns_[c].isEmpty())
+            columns_[c] = QList<QString>(rows_);
         return columns_[c][row];
     }
-    [[nodiscard]] bool blank(int row) const;
     [[nodiscard]] bool operator==(const TestiTabella& other) const;
 
-    /// A row of another table moves over a row of this one.
-    void moveRow(int row, TestiTabella& from, int fromRow);
+    /// Copies a row of a table, be it this one, over a row of this one.
+    void copyRow(int row, const TestiTabella& from, int fromRow);
     /// The rows from `middle` on come before those from `first` on, up to but without `last`; columns before
     /// `firstColumn` stay.
     void rotate(int first, int middle, int last, int firstColumn);
@@ -47,12 +48,10 @@ class TestiTabella {
     void cutColumns(int column);
 
   private:
-    void lengthen(std::size_t column, int row);
-
     static const QString none;
 
     int rows_ = 0;
-    std::vector<QList<QString>> columns_; ///< none longer than the table; blank behind its end
+    std::vector<QList<QString>> columns_; ///< as long as the table; empty while nothing was written
 };
 
 /// A row that is being written.

@@ -105,10 +105,6 @@ QString testoNumero(float x, QChar decimalMark) {
     return shortest(x, decimalMark);
 }
 
-QString testoNumero(int x) {
-    return QString::number(x);
-}
-
 QString migliaia(double x) {
     const QString s = migliaiaZero(x);
     return s == u"0" ? QString() : s;
@@ -116,8 +112,6 @@ QString migliaia(double x) {
 
 QString migliaiaZero(double x) {
     // Half away from zero, as number formats round.
-    if (x >= 0 && x < 999)
-        return testoNumero(static_cast<int>(Int(x + 0.5)));
     const auto whole = static_cast<qlonglong>(std::floor(std::fabs(x) + 0.5));
     std::array<char, 24> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), whole).ptr;

@@ -46,7 +46,6 @@ namespace vanzer {
 /// Shortest decimal form of a number, with the given decimal mark. A float keeps a float's digits.
 [[nodiscard]] QString testoNumero(double x, QChar decimalMark = u'.');
 [[nodiscard]] QString testoNumero(float x, QChar decimalMark = u'.');
-[[nodiscard]] QString testoNumero(int x);
 
 /// Whole number with points as thousands marks; 0 is the empty text ("#,###").
 [[nodiscard]] QString migliaia(double x);

@@ -48,12 +48,12 @@ void sortByName(Grid& list) {
     const int rowSel = list.rowSel();
     const int topRow = list.topRow();
     const SenzaRidisegno quiet(list);
-    TestiTabella rows = list.takeContents();
+    const TestiTabella rows = list.takeContents();
     TestiTabella sorted;
     sorted.setRows(rows.rows());
     int to = 0;
     for (const Entry& entry : order)
-        sorted.moveRow(to++, rows, entry.row - 1);
+        sorted.copyRow(to++, rows, entry.row - 1);
     list.setContents(std::move(sorted));
     list.select(row, list.col(), rowSel, list.colSel());
     list.setTopRow(topRow);

@@ -30,12 +30,12 @@ void SalvaRigaItinerarioImportato(Form& form, const TappaImportata& leg) {
     const int r = form.stato.RigaCorrente++;
     if (grid.rows() < r + 2)
         grid.setRows(r + 5);
-    grid.setCell(r, 0, testoNumero(r));
+    grid.setCell(r, 0, QString::number(r));
     grid.setCell(r, 1, leg.luogo);
     grid.setCell(r, 2, leg.strade);
-    grid.setCell(r, 3, testoNumero(leg.km));
+    grid.setCell(r, 3, QString::number(leg.km));
     grid.setCell(r, 4, leg.autostrada ? QStringLiteral("A") : QStringLiteral("P"));
-    grid.setCell(r, 5, testoNumero(leg.kmProgressivo));
+    grid.setCell(r, 5, QString::number(leg.kmProgressivo));
     if (leg.traghetto)
         grid.setCell(r, colonnaSosta, QStringLiteral("00:") + form.cmbOra(8).text() + u':' + form.cmbMin(8).text());
 }
@@ -67,18 +67,18 @@ void writeFolded(Grid& grid, const std::vector<RigaRimasta>& left) {
     const int rowSel = grid.rowSel();
     const int columnSel = grid.colSel();
     const int top = grid.topRow();
-    TestiTabella rows = grid.takeContents();
+    const TestiTabella rows = grid.takeContents();
     TestiTabella folded;
     folded.setRows(static_cast<int>(left.size()) + 1);
     int to = 0;
     for (const RigaRimasta& leg : left) {
-        folded.moveRow(to, rows, leg.riga - 1);
+        folded.copyRow(to, rows, leg.riga - 1);
         folded.at(to, 1) = leg.cella.luogo;
         folded.at(to, 2) = leg.cella.strade;
-        folded.at(to, 3) = testoNumero(leg.cella.km);
+        folded.at(to, 3) = QString::number(leg.cella.km);
         ++to;
     }
-    folded.moveRow(to, rows, rows.rows() - 1);
+    folded.copyRow(to, rows, rows.rows() - 1);
     grid.setContents(std::move(folded));
     grid.select(row, column, rowSel, columnSel);
     grid.setTopRow(top);
@@ -89,7 +89,7 @@ void writeFolded(Grid& grid, const std::vector<RigaRimasta>& left) {
 void renumber(Grid& grid) {
     for (int r = 1; r < grid.rows(); ++r) {
         if (!grid.cell(r, 0).isEmpty() || !grid.cell(r, 1).isEmpty())
-            grid.setCell(r, 0, testoNumero(r));
+            grid.setCell(r, 0, QString::number(r));
     }
 }
 

@@ -89,7 +89,7 @@ void metteTappe(Form& form, const TappeTenute& legs) {
     for (int row = 0; row < rows; ++row) {
         const TappaTenuta& leg = legs[static_cast<std::size_t>(row)];
         if (!leg[place].isEmpty())
-            table.at(row, 0) = testoNumero(row + 1);
+            table.at(row, 0) = QString::number(row + 1);
         for (std::size_t cell = 0; cell < colonneTenute.size(); ++cell)
             table.at(row, colonneTenute[cell]) = leg[cell];
     }

@@ -116,7 +116,7 @@ void writeRow(Form& form, const TappaControllata& row) {
     if (form.chkMeta(1).value())
         CancellaFlagStartEnd(form, 1);
     clearMarkBoxes(form);
-    grid.setCell(r, 0, testoNumero(r));
+    grid.setCell(r, 0, QString::number(r));
     grid.setCell(r, 1, row.luogo);
     grid.setCell(r, 2, form.txtNumStrada.text());
     grid.setCell(r, 3, form.txtKm.text());
@@ -300,9 +300,9 @@ void InserisciRigheItinerario(Form& form, int n) {
     Grid& grid = form.mfgTab;
     const SenzaRidisegno quiet(grid);
     grid.setRows(grid.rows() + n);
-    SpostaRighe(form, s.RigaCorrente, s.NumeroTappe, n);
+    grid.shiftRows(s.RigaCorrente, s.NumeroTappe, n);
     for (int r = s.RigaCorrente + n; r <= s.NumeroTappe + n; ++r)
-        grid.setCell(r, 0, testoNumero(r));
+        grid.setCell(r, 0, QString::number(r));
     for (int r = s.RigaCorrente; r < s.RigaCorrente + n; ++r)
         grid.clearRow(r, 1);
     s.NumeroTappe += n;
@@ -319,13 +319,13 @@ void cmdCancella_Click(Form& form) {
     Grid& grid = form.mfgTab;
     {
         const SenzaRidisegno quiet(grid);
-        const bool leftBlank = SpostaRighe(form, form.stato.RigaCorrente + 1, grid.rows() - 1, -1);
+        const bool leftBlank = grid.shiftRows(form.stato.RigaCorrente + 1, grid.rows() - 1, -1);
         for (int r = form.stato.RigaCorrente; r <= grid.rows() - 2; ++r) {
             // A row without a place has no number, one that has got a place has its own.
             if (grid.cell(r, 1).isEmpty())
                 grid.setCell(r, 0, {});
             else
-                grid.setCell(r, 0, testoNumero(r));
+                grid.setCell(r, 0, QString::number(r));
         }
         if (!leftBlank)
             grid.clearRow(grid.rows() - 1, 1);

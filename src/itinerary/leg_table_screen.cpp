@@ -3,7 +3,6 @@
 #include <array>
 #include <utility>
 
-#include "core/shared_texts.h"
 #include "core/text.h"
 #include "core/time_values.h"
 #include "guide/marks.h"
@@ -21,7 +20,7 @@ namespace {
 constexpr int colonnaFineGiorno = 14;
 
 /// One row of the table for each record. The places are told apart from the rows' marks later.
-TestiTabella readLegs(Form& form, TestiComuni& texts) {
+TestiTabella readLegs(Form& form) {
     store::Archive& archive = form.archivio;
     archive.StringaSQL = QStringLiteral("SELECT * FROM Itinerari WHERE CodiceMeta = '") +
                          store::quotato(form.stato.CodiceMeta) + QStringLiteral("' ORDER BY Sequenza");
@@ -36,13 +35,13 @@ TestiTabella readLegs(Form& form, TestiComuni& texts) {
     TestiTabella rows;
     rows.setRows(static_cast<int>(records.RecordCount()));
     for (int row = 0; !records.EOF_(); records.MoveNext(), ++row) {
-        rows.at(row, 0) = testoNumero(row + 1);
+        rows.at(row, 0) = QString::number(row + 1);
         rows.at(row, 1) = records.testo(place);
-        rows.at(row, 2) = texts.comune(Trim(records.testo(road)));
+        rows.at(row, 2) = Trim(records.testo(road));
         rows.at(row, 3) = migliaia(Val(records.testo(km)));
         rows.at(row, 4) = records.testo(type);
         const QString endOfDay = records.testo(end);
-        rows.at(row, 7) = texts.comune(sostaDelRecord(endOfDay, records.testo(stop)));
+        rows.at(row, 7) = sostaDelRecord(endOfDay, records.testo(stop));
         rows.at(row, colonnaFineGiorno) = endOfDay;
     }
     return rows;
@@ -57,7 +56,7 @@ QString guideStops(SegniGuida& guide, const QString& place, float visitingDay) {
 }
 
 /// The guide's stops into the rows of the stretch, each entry once.
-void addGuideStops(Form& form, TestiTabella& rows, TestiComuni& texts) {
+void addGuideStops(Form& form, TestiTabella& rows) {
     SegniGuida guide(form.archivio);
     TrattoDellaGuida stretch;
     form.stato.RigaCaricata = 0;
@@ -65,7 +64,7 @@ void addGuideStops(Form& form, TestiTabella& rows, TestiComuni& texts) {
         ++form.stato.RigaCaricata;
         const TrattoDellaGuida::Passo step = stretch.prossimo(rows.text(row, 1));
         if (step.leggere)
-            rows.at(row, 8) = texts.comune(guideStops(guide, step.luogo, form.stato.OreVisitaGiorno));
+            rows.at(row, 8) = guideStops(guide, step.luogo, form.stato.OreVisitaGiorno);
         form.yield();
     }
     guide.scrive();
@@ -183,11 +182,10 @@ void CaricaTappeItinerario(Form& form) {
     form.tappeConservate.reset();
     CancellaMatrice(form);
     ControllaVariabiliConvertite(form);
-    TestiComuni texts;
-    TestiTabella rows = readLegs(form, texts);
+    TestiTabella rows = readLegs(form);
     const int legs = rows.rows();
     SettaAZeroFlaGVisto(form);
-    addGuideStops(form, rows, texts);
+    addGuideStops(form, rows);
     {
         const SenzaRidisegno quiet(form.mfgTab);
         form.stato.NumeroTappe = legs;

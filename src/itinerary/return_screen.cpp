@@ -19,13 +19,11 @@ void packTable(Form& form) {
             continue;
         if (++last == r)
             continue;
-        grid.setCell(last, 0, testoNumero(last));
+        grid.setCell(last, 0, QString::number(last));
         grid.copyRow(r, last, 1);
     }
-    for (int r = last + 1; r < grid.rows(); ++r) {
-        if (!grid.nothingWritten(r))
-            grid.clearRow(r, 0);
-    }
+    for (int r = last + 1; r < grid.rows(); ++r)
+        grid.clearRow(r, 0);
 }
 
 std::vector<QStringView> places(const Form& form) {
@@ -42,7 +40,7 @@ void appendLegs(Form& form, const Ritorno& home) {
     grid.setRows(Maggiore(s.RigheMinime, grid.rows() + home.riga + 2));
     for (const PassoRitorno& leg : home.passi) {
         const int r = ++s.NumeroTappe;
-        grid.setCell(r, 0, testoNumero(r));
+        grid.setCell(r, 0, QString::number(r));
         grid.setCell(r, 1, grid.cell(leg.luogo, 1));
         for (const int column : {2, 3, 4})
             grid.setCell(r, column, grid.cell(leg.strada, column));

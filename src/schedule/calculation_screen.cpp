@@ -1,7 +1,5 @@
 #include "schedule/calculation_screen.h"
 
-#include <numeric>
-
 #include "core/text.h"
 #include "core/time_values.h"
 #include "itinerary/leg_editor_screen.h"
@@ -82,32 +80,24 @@ void showPanel(Form& form, const PannelloViandoria& panel) {
     form.txtFine(5).setText(GiornoSettimana(Gma2Data(date)));
 }
 
-/// What the rows take from the kept legs and the window. The legs are a copy of their own, since rows are still made
-/// when the table has them back.
+/// What the rows take from the kept legs and the window.
 TestiViandoria rowTexts(const Form& form) {
+    const TestiTabella& legs = *form.tappeConservate;
     return {
-        .tappa = [legs = *form.tappeConservate](int row, int column) -> const QString& {
-            return legs.text(row - 1, column);
-        },
+        .tappa = [&legs](int row, int column) -> const QString& { return legs.text(row - 1, column); },
         .minutiPausa = form.cmbRipM.text(),
         .oreGuidaGiorno = form.stato.OreGuidaGiorno,
         .oreVisitaGiorno = form.stato.OreVisitaGiorno,
     };
 }
 
-/// The table as the last test leaves it, closed and tidied; its rows are made when somebody looks.
+/// The table as the last test leaves it, closed and tidied.
 void showSchedule(Form& form) {
-    const std::shared_ptr<const ViandoriaMostrata> shown = form.viandoria;
-    const auto table = std::make_shared<TabellaViandoria>(shown->viandoria, shown->lavoro->righe, rowTexts(form));
-    std::vector<int> columns(numeroColonneViandoria);
-    std::iota(columns.begin(), columns.end(), 0);
-    TestiTabella blank;
-    blank.setRows(table->righe());
+    const ViandoriaMostrata& shown = *form.viandoria;
     Grid& grid = form.mfgTab;
     const SenzaRidisegno quiet(grid);
     grid.setRows(1);
-    grid.setContents(std::move(blank));
-    grid.setColumnsLater(1, columns, [shown, table](int row, RigaDiTesti cells) { table->scrive(row - 1, cells); });
+    grid.setContents(tabellaViandoria(shown.viandoria, shown.lavoro->righe, rowTexts(form)));
     grid.setTopRow(1);
 }
 

@@ -17,14 +17,14 @@ void cresce(TestiTabella& rows, const Viandoria& soFar, const std::vector<RigaDi
     const std::size_t count = std::min(soFar.righe.size() - kept, massimoRigheNuove);
     Viandoria added;
     added.righe.assign(first, first + static_cast<std::ptrdiff_t>(count));
-    TestiTabella more = celleViandoria(added, work, texts);
+    const TestiTabella more = celleViandoria(added, work, texts);
     int to = static_cast<int>(kept);
     rows.setRows(to);
     rows.setRows(to + more.rows());
     for (int i = 0; i < more.rows(); ++i, ++to) {
-        rows.moveRow(to, more, i);
+        rows.copyRow(to, more, i);
         if (!rows.text(to, colNumero).isEmpty())
-            rows.at(to, colNumero) = testoNumero(to + 1);
+            rows.at(to, colNumero) = QString::number(to + 1);
     }
 }
 

@@ -94,7 +94,6 @@ class Preparatore {
     RigaDiLavoro& conLuogo(RigaDiLavoro::Tipo type, const TappaDaPreparare& leg) {
         RigaDiLavoro& row = aggiunge(type, leg);
         row.nome = leg.luogo;
-        row.quadra = leg.luogo.contains(u'[');
         return row;
     }
 
@@ -113,7 +112,6 @@ class Preparatore {
             const auto type = stop == 0 ? RigaDiLavoro::Tipo::Menzione : RigaDiLavoro::Tipo::SostaGuida;
             RigaDiLavoro& row = aggiunge(type, leg);
             row.voce = entry;
-            row.quadra = entry->quadra;
             row.nota = with_.categoria(entry->codice);
             row.sostaGuida = stop;
             sum += static_cast<double>(stop);

@@ -1,7 +1,5 @@
 #include "schedule/preparation_screen.h"
 
-#include <numeric>
-
 #include "core/text.h"
 #include "itinerary/leg_table_screen.h"
 #include "schedule/preparation.h"
@@ -37,24 +35,11 @@ QString stopText(float stop, QChar decimalMark) {
     return stop == 1 ? QStringLiteral("01") : testoNumero(stop, decimalMark);
 }
 
-/// The legs of a calculation as they stood, with what nobody had looked at of their texts.
-struct TappeMostrate {
-    TestiTabella testi;
-    Grid::Sospesi sospesi;
-
-    /// All texts of a leg, by its row in the table, are there from here on.
-    void finisce(int leg) {
-        if (leg >= sospesi.da && leg < sospesi.fino)
-            sospesi.fa(leg, RigaDiTesti(testi, leg - 1));
-    }
-};
-
-void writeWorkingRow(RigaDiTesti cells, const RigaDiLavoro& work, TappeMostrate& legs, QChar decimalMark) {
+void writeWorkingRow(RigaDiTesti cells, const RigaDiLavoro& work, const TestiTabella& legs, QChar decimalMark) {
     using enum RigaDiLavoro::Tipo;
     if (work.tipo == Tappa) {
-        legs.finisce(work.tappa);
         for (int column = 0; column < colonneTappa; ++column)
-            cells[column] = legs.testi.text(work.tappa - 1, column);
+            cells[column] = legs.text(work.tappa - 1, column);
     }
     cells[1] = nomeMostrato(work);
     if (!work.nota.isEmpty())
@@ -69,25 +54,20 @@ void writeWorkingRow(RigaDiTesti cells, const RigaDiLavoro& work, TappeMostrate&
         cells[colMenzione] = QStringLiteral("-1");
 }
 
-/// Nobody sees this table but who asks for it: its rows are made then.
-void showWorkingRows(Form& form, const std::shared_ptr<const RigheDiLavoro>& work, TappeMostrate legs) {
+void showWorkingRows(Form& form, const std::vector<RigaDiLavoro>& work) {
+    TestiTabella rows;
+    rows.setRows(static_cast<int>(work.size()));
+    for (int row = 0; row < rows.rows(); ++row)
+        writeWorkingRow(RigaDiTesti(rows, row), work[static_cast<std::size_t>(row)], *form.tappeConservate,
+                        form.ambiente.decimalMark);
     Grid& grid = form.mfgCopia;
-    const std::vector<RigaDiLavoro>& rows = work->righe;
     const SenzaRidisegno quiet(grid);
     grid.setRows(1);
     grid.setColumns(form.mfgTab.columns());
     grid.clearCells();
     ImpostaGriglia(form, Disposizione::RigheDiLavoro);
-    grid.setRows(static_cast<int>(rows.size()) + 1);
-    std::vector<int> columns(static_cast<std::size_t>(grid.columns()));
-    std::iota(columns.begin(), columns.end(), 0);
-    grid.setColumnsLater(
-        1, columns,
-        [work, legs = std::move(legs), mark = form.ambiente.decimalMark](int row, RigaDiTesti cells) mutable {
-            if (const auto at = static_cast<std::size_t>(row - 1); at < work->righe.size())
-                writeWorkingRow(cells, work->righe[at], legs, mark);
-        });
-    form.stato.RigaCaricata = static_cast<int>(rows.size());
+    grid.setContents(std::move(rows));
+    form.stato.RigaCaricata = static_cast<int>(work.size());
 }
 
 } // namespace
@@ -99,9 +79,7 @@ std::shared_ptr<const RigheDiLavoro> PreparaTabellaPerCalcoloViandoria(Form& for
     SettaAZeroFlaGVisto(form);
     form.lblElaborazione.setCaption(QStringLiteral("Elaborazione delle soste e guida città"));
     s.PercentualeTotale = form.mfgTab.rows() - 1;
-    auto [legs, unfinished] = form.mfgTab.takeUnfinished();
-    form.totali = std::make_shared<TotaliTabella>(); // the old ones stay with what is unfinished
-    form.tappeConservate = legs;
+    form.tappeConservate = form.mfgTab.takeContents();
 
     SegniGuida guide(form.archivio);
     std::vector<std::shared_ptr<const void>> held; // a very long trip makes the reader forget on the way
@@ -129,7 +107,7 @@ std::shared_ptr<const RigheDiLavoro> PreparaTabellaPerCalcoloViandoria(Form& for
     const auto prepared = std::make_shared<RigheDiLavoro>(preparaRighe(legsToPrepare(*form.tappeConservate), with));
     prepared->tenute = std::move(held);
     guide.scrive();
-    showWorkingRows(form, prepared, {std::move(legs), std::move(unfinished)});
+    showWorkingRows(form, prepared->righe);
     return prepared;
 }
 

@@ -1,7 +1,7 @@
 #include "schedule/rows.h"
 
 #include <algorithm>
-#include <utility>
+#include <array>
 
 #include <QStringBuilder>
 
@@ -15,6 +15,15 @@ namespace vanzer {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// Kilometres, driving time and stops of a day, a stretch or the whole trip; times in hundredths.
+struct SommaViandoria {
+    int km = 0;
+    float guida = 0;
+    float soste = 0;
+};
+
+constexpr int righeTotali = 7;
 
 /// A stop as its text tells it, hundredths.
 float minutiInteri(float stop, float visitingDay) {
@@ -51,10 +60,10 @@ QString noteDelTratto(const RigaViandoria& row, const QString& breakMinutes) {
 
 void scriveTratto(RigaDiTesti cells, int number, const RigaViandoria& row, const RigaDiLavoro& work,
                   const TestiViandoria& texts) {
-    cells[colNumero] = testoNumero(number);
+    cells[colNumero] = QString::number(number);
     cells[colTappa] = row.verso ? u"verso: "_s + RiPulisceNomeLocalita(work.nome) : work.nome;
     cells[colStrada] = Trim(texts.tappa(work.tappa, colStrada));
-    cells[colKm] = row.km == 0 ? QString() : testoNumero(row.km);
+    cells[colKm] = row.km == 0 ? QString() : QString::number(row.km);
     cells[colTipo] = texts.tappa(work.tappa, colTipo);
     cells[colKmProgressivi] = migliaia(row.kmTotali);
     cells[colTempo] = ghmSenzaGiorni(row.tempo, texts.oreGuidaGiorno);
@@ -82,6 +91,21 @@ QString conNotaDelGiorno(QString note, const SommaViandoria& day, QStringView st
     return day.soste == 0 ? note : note + u" [Sosta ore "_s + oreDelGiorno(day.soste) + u']';
 }
 
+/// The texts of a day, made once for all its rows.
+struct TestiGiorno {
+    float giuliano = -1;
+    QString settimana; ///< "Lun"
+    QString data;      ///< "gg/mm"
+
+    void mostra(float day) {
+        if (day == giuliano)
+            return;
+        giuliano = day;
+        settimana = GiornoSettimana(Giu2Datas(day));
+        data = giornoEMese(day);
+    }
+};
+
 /// The cells of a row as the simulation wrote it. A stop without any length has neither day nor hour.
 void scriveRiga(RigaDiTesti cells, int number, const RigaViandoria& row, const RigaDiLavoro& work,
                 const TestiViandoria& texts, TestiGiorno& day) {
@@ -100,75 +124,39 @@ void scriveRiga(RigaDiTesti cells, int number, const RigaViandoria& row, const R
     if (row.tipo == RigaViandoria::Tipo::Sosta && cells.text(colSosta).isEmpty() && cells.text(colSostaGuida).isEmpty())
         return;
     day.mostra(row.giuliano);
-    cells[colGiorno] = day.settimana();
-    cells[colData] = day.data();
+    cells[colGiorno] = day.settimana;
+    cells[colData] = day.data;
     cells[colOra] = row.riposoDopo ? u"* "_s + oraMostrata(row.ora) : oraMostrata(row.ora);
 }
 
-/// A stop whose texts of its length are empty.
-bool senzaLunghezza(const RigaViandoria& row, float visitingDay) {
-    const auto nothing = [visitingDay](float length) {
-        return length == 0 || lunghezzaSosta(length, visitingDay).isEmpty();
-    };
-    return row.tipo == RigaViandoria::Tipo::Sosta && nothing(row.sostaGuida) &&
-           nothing(minutiInteri(row.sosta, visitingDay));
-}
-
-} // namespace
-
-void TestiGiorno::mostra(float giuliano) {
-    if (giuliano == giuliano_)
-        return;
-    giuliano_ = giuliano;
-    const QString date = Giu2Datas(giuliano);
-    week_ = GiornoSettimana(date);
-    date_ = Left(Data2Data(date), 5);
-}
-
-/// One way through the rows: sums and notes of the days, rows that stay.
-class TabellaViandoria::Chiusura {
+/// One way through the whole rows: their notes of the days, the mark of the end, the sums.
+class Chiusura {
   public:
-    explicit Chiusura(TabellaViandoria& table)
-        : table_(table), schedule_(table.schedule_), work_(table.work_), texts_(table.texts_) {}
+    Chiusura(TestiTabella& rows, const Viandoria& schedule, const TestiViandoria& texts)
+        : rows_(rows), schedule_(schedule), texts_(texts) {}
 
-    void chiude() {
+    std::array<QString, righeTotali> chiude() {
         const int rows = this->rows();
         if (rows >= 2)
-            table_.endRow_ = rows - 2;
+            rows_.at(rows - 2, colFine) = u'>' + giornoEMese(schedule_.giuliano) + u'-' + oraMostrata(schedule_.ora);
         findStretch();
-        table_.kept_.reserve(schedule_.righe.size());
-        for (int i = 0; i < rows; ++i) {
+        for (int i = 0; i < rows; ++i)
             riga(i);
-            if (says(i))
-                table_.kept_.push_back(i);
-        }
         if (day_.km != 0)
-            closesDay(rows - 1, true);
-        table_.totals_ = totals();
+            closesDay(rows - 1, u"; sosta ore ");
+        return totals();
     }
 
   private:
     [[nodiscard]] int rows() const { return static_cast<int>(schedule_.righe.size()); }
-    [[nodiscard]] const RigaViandoria& at(int i) const { return schedule_.righe[static_cast<std::size_t>(i)]; }
-    [[nodiscard]] const RigaDiLavoro& workOf(int i) const { return work_[static_cast<std::size_t>(at(i).lavoro)]; }
-
-    /// The name that a row shows, if it may bear a mark.
-    [[nodiscard]] QString markedName(int i) const {
-        const RigaViandoria& row = at(i);
-        const bool leg = row.tipo == RigaViandoria::Tipo::Tratto;
-        if (leg ? row.verso : row.tipo != RigaViandoria::Tipo::Menzione)
-            return {};
-        const RigaDiLavoro& work = workOf(i);
-        return !work.quadra ? QString() : leg ? work.nome : senzaMarche(nomeMostrato(work));
-    }
 
     /// From the last "[Start]" to the row before the next numbered one behind the last "[End]".
     void findStretch() {
         const int none = rows();
         int end = none;
         for (int i = 0; i < none; ++i) {
-            const QString name = markedName(i);
-            if (name.isEmpty())
+            const QString& name = rows_.text(i, colTappa);
+            if (!name.contains(u'['))
                 continue;
             if (contiene(name, marcaStart))
                 first_ = i;
@@ -177,7 +165,7 @@ class TabellaViandoria::Chiusura {
         }
         last_ = none;
         for (int i = end + 1; i < none; ++i) {
-            if (at(i).tipo == RigaViandoria::Tipo::Tratto) {
+            if (!rows_.text(i, colNumero).isEmpty()) {
                 last_ = i - 1;
                 return;
             }
@@ -185,13 +173,10 @@ class TabellaViandoria::Chiusura {
     }
 
     void riga(int i) {
-        const RigaViandoria& row = at(i);
-        if (senzaLunghezza(row, texts_.oreVisitaGiorno))
-            return;
-        date_.mostra(row.giuliano);
-        const QString& weekDay = date_.settimana();
+        const QString& weekDay = rows_.text(i, colGiorno);
         if (weekDay.isEmpty())
             return;
+        const RigaViandoria& row = schedule_.righe[static_cast<std::size_t>(i)];
         const float driving = timeShown(row);
         const float stop = stopShown(row);
         if (i >= first_ && i <= last_) {
@@ -201,7 +186,7 @@ class TabellaViandoria::Chiusura {
         }
         if (weekDay != weekDay_) {
             if (i > 0)
-                closesDay(i - 1, false);
+                closesDay(i - 1, u"; soste per ore ");
             weekDay_ = weekDay;
         }
         if (row.km != 0) {
@@ -212,25 +197,14 @@ class TabellaViandoria::Chiusura {
         trip_.soste += stop;
     }
 
-    /// The note stands on the row that was walked last: the row stays then.
-    void closesDay(int row, bool last) {
+    void closesDay(int row, QStringView stopsWord) {
         if (day_.km == 0 && day_.soste == 0)
             return;
-        table_.notes_.push_back({row, day_, last});
-        if (table_.kept_.empty() || table_.kept_.back() != row)
-            table_.kept_.push_back(row);
+        QString& note = rows_.at(row, colNote);
+        note = conNotaDelGiorno(note, day_, stopsWord);
         if (day_.km != 0)
             day_ = {};
         day_.soste = 0;
-    }
-
-    /// Whether anything stands in the row beyond its name, day and hour.
-    [[nodiscard]] bool says(int i) const {
-        const RigaViandoria& row = at(i);
-        using enum RigaViandoria::Tipo;
-        if (row.tipo == Tratto || row.tipo == NuovoGiorno)
-            return true;
-        return (row.tipo == Sosta && !senzaLunghezza(row, texts_.oreVisitaGiorno)) || !workOf(i).nota.isEmpty();
     }
 
     static void adds(SommaViandoria& sum, int km, float time) {
@@ -269,18 +243,25 @@ class TabellaViandoria::Chiusura {
                 line(trip_) + u"  \t Sosta "_s + inBothDays(trip_.soste)};
     }
 
-    TabellaViandoria& table_;
+    TestiTabella& rows_;
     const Viandoria& schedule_;
-    const std::vector<RigaDiLavoro>& work_;
     const TestiViandoria& texts_;
     int first_ = 0;
     int last_ = 0;
-    TestiGiorno date_;
     QString weekDay_;
     SommaViandoria day_;
     SommaViandoria stretch_;
     SommaViandoria trip_;
 };
+
+/// Whether anything stands in a row beyond its name, day and hour.
+bool says(const TestiTabella& rows, int row) {
+    static constexpr std::array columns{colNumero, colStrada,     colKm,    colTipo, colKmProgressivi,
+                                        colTempo,  colSostaGuida, colSosta, colNote};
+    return std::ranges::any_of(columns, [&](int column) { return !rows.text(row, column).isEmpty(); });
+}
+
+} // namespace
 
 QString giornoEMese(float giuliano) {
     return Left(Data2Data(Giu2Datas(giuliano)), 5);
@@ -291,38 +272,34 @@ QString oraMostrata(float ora) {
 }
 
 TestiTabella celleViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work,
-                            const TestiViandoria& texts) {
+                            const TestiViandoria& texts, int blankRows) {
+    const int written = static_cast<int>(schedule.righe.size());
     TestiTabella rows;
-    rows.setRows(static_cast<int>(schedule.righe.size()));
+    rows.setRows(written + blankRows);
     TestiGiorno day;
-    for (int i = 0; i < rows.rows(); ++i) {
+    for (int i = 0; i < written; ++i) {
         const RigaViandoria& row = schedule.righe[static_cast<std::size_t>(i)];
         scriveRiga(RigaDiTesti(rows, i), i + 1, row, work[static_cast<std::size_t>(row.lavoro)], texts, day);
     }
     return rows;
 }
 
-TabellaViandoria::TabellaViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work,
-                                   TestiViandoria texts)
-    : schedule_(schedule), work_(work), texts_(std::move(texts)) {
-    Chiusura(*this).chiude();
-}
-
-void TabellaViandoria::scrive(int row, RigaDiTesti cells) {
-    const auto at = static_cast<std::size_t>(row);
-    if (at >= kept_.size()) {
-        cells[colTappa] = totals_[at - kept_.size()];
-        return;
+TestiTabella tabellaViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work,
+                              const TestiViandoria& texts) {
+    TestiTabella rows = celleViandoria(schedule, work, texts, righeTotali);
+    const std::array<QString, righeTotali> totals = Chiusura(rows, schedule, texts).chiude();
+    int left = 0;
+    for (int row = 0; row < rows.rows(); ++row) {
+        if (!says(rows, row))
+            continue;
+        if (left != row)
+            rows.copyRow(left, rows, row);
+        ++left;
     }
-    const int i = kept_[at];
-    const RigaViandoria& shown = schedule_.righe[static_cast<std::size_t>(i)];
-    scriveRiga(cells, i + 1, shown, work_[static_cast<std::size_t>(shown.lavoro)], texts_, day_);
-    const auto note = std::ranges::lower_bound(notes_, i, {}, &NotaGiorno::riga);
-    if (note != notes_.end() && note->riga == i)
-        cells[colNote] =
-            conNotaDelGiorno(cells.text(colNote), note->giorno, note->ultimo ? u"; sosta ore " : u"; soste per ore ");
-    if (i == endRow_)
-        cells[colFine] = u'>' + giornoEMese(schedule_.giuliano) + u'-' + oraMostrata(schedule_.ora);
+    rows.setRows(left);
+    for (const QString& total : totals)
+        rows.at(rows.addRow(), colTappa) = total;
+    return rows;
 }
 
 } // namespace vanzer

@@ -1,7 +1,6 @@
 // The schedule as the table shows it: numbers turned into texts, once, for the test that stands.
 #pragma once
 
-#include <array>
 #include <vector>
 
 #include <QString>
@@ -46,62 +45,13 @@ struct TestiViandoria {
 [[nodiscard]] QString giornoEMese(float giuliano);
 [[nodiscard]] QString oraMostrata(float ora);
 
-/// Only what the simulation wrote, row by row.
+/// Only what the simulation wrote, row by row, and blank rows behind it.
 [[nodiscard]] TestiTabella celleViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work,
-                                          const TestiViandoria& texts);
+                                          const TestiViandoria& texts, int blankRows = 0);
 
-/// The texts of a day, made once for all its rows.
-class TestiGiorno {
-  public:
-    void mostra(float giuliano);
-    [[nodiscard]] const QString& settimana() const { return week_; } ///< "Lun"
-    [[nodiscard]] const QString& data() const { return date_; }      ///< "gg/mm"
-
-  private:
-    float giuliano_ = -1;
-    QString week_;
-    QString date_;
-};
-
-/// Kilometres, driving time and stops of a day, a stretch or the whole trip; times in hundredths.
-struct SommaViandoria {
-    int km = 0;
-    float guida = 0;
-    float soste = 0;
-};
-
-inline constexpr int righeTotali = 7;
-
-/// The whole table of a schedule: its rows without those that say nothing beyond their name, closed by the notes of the
-/// days and the mark of the end, and behind them the rows of totals. All of it is worked out on numbers at once; the
-/// texts of a row are made when somebody asks.
-class TabellaViandoria {
-  public:
-    /// Schedule and working rows must live as long.
-    TabellaViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work, TestiViandoria texts);
-
-    [[nodiscard]] int righe() const { return static_cast<int>(kept_.size() + totals_.size()); }
-    /// Row from 0, with blank cells.
-    void scrive(int row, RigaDiTesti cells);
-
-  private:
-    class Chiusura;
-
-    /// The note of a day, behind what stands on its last row.
-    struct NotaGiorno {
-        int riga = 0; ///< of the schedule
-        SommaViandoria giorno;
-        bool ultimo = false;
-    };
-
-    const Viandoria& schedule_;
-    const std::vector<RigaDiLavoro>& work_;
-    TestiViandoria texts_;
-    std::vector<int> kept_;         ///< rows of the schedule
-    std::vector<NotaGiorno> notes_; ///< by row, rising
-    int endRow_ = -1;               ///< of the schedule: it bears the mark of the end
-    std::array<QString, righeTotali> totals_;
-    TestiGiorno day_; ///< of the row written last
-};
+/// The whole table of a schedule: its rows without those that say nothing beyond their name, day and hour, closed by
+/// the notes of the days and the mark of the end, and behind them the rows of totals.
+[[nodiscard]] TestiTabella tabellaViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work,
+                                            const TestiViandoria& texts);
 
 } // namespace vanzer

@@ -32,7 +32,6 @@ void TotaliTabella::ricalcola(Righe rows, const Medie& speeds) {
     rows_ = std::move(rows);
     speeds_ = speeds;
     totals_ = {};
-    running_.clear();
     negative_ = false;
     for (const std::optional<Tratto>& leg : rows_) {
         if (!leg)
@@ -55,18 +54,7 @@ bool TotaliTabella::cambia(int row, const std::optional<Tratto>& leg) {
         rows_.resize(at + 1);
     rows_[at] = leg;
     totals_ = changed;
-    running_.resize(std::min(running_.size(), at));
     return true;
-}
-
-void TotaliTabella::sposta(int first, int last, int by) {
-    rows_.resize(std::max(rows_.size(), static_cast<std::size_t>(std::max(last, last + by)) + 1));
-    const auto row = [this](int r) { return rows_.begin() + r; };
-    if (by > 0)
-        std::rotate(row(first), row(last + 1), row(last + 1 + by));
-    else
-        std::rotate(row(first + by), row(first), row(last + 1));
-    running_.resize(std::min(running_.size(), static_cast<std::size_t>(std::min(first, first + by))));
 }
 
 const std::optional<Tratto>& TotaliTabella::tratto(int row) const {
@@ -78,15 +66,6 @@ const std::optional<Tratto>& TotaliTabella::tratto(int row) const {
 float TotaliTabella::tempo(int row) const {
     const std::optional<Tratto>& leg = tratto(row);
     return leg ? tempoTratto(*leg, speeds_) : 0;
-}
-
-float TotaliTabella::kmProgressivi(int row) {
-    const auto at = static_cast<std::size_t>(row);
-    while (running_.size() <= at) {
-        const std::optional<Tratto>& leg = tratto(static_cast<int>(running_.size()));
-        running_.push_back((running_.empty() ? 0 : running_.back()) + static_cast<float>(leg ? leg->km : 0));
-    }
-    return running_[at];
 }
 
 void TotaliTabella::adds(TotaliItinerario& totals, const Tratto& leg, float sign) const {

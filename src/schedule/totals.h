@@ -44,18 +44,12 @@ class TotaliTabella {
     /// A row's leg as it is now. False, and nothing changed, if the totals can't be had by difference.
     [[nodiscard]] bool cambia(int row, const std::optional<Tratto>& leg);
 
-    /// The legs of the rows `first` to `last` go `by` rows down, or up where it is negative. They leave none behind,
-    /// and have no others in their way but such as were taken away before.
-    void sposta(int first, int last, int by);
-
     [[nodiscard]] const TotaliItinerario& totali() const { return totals_; }
     [[nodiscard]] const Medie& medie() const { return speeds_; }
     /// Null where the row has none.
     [[nodiscard]] const std::optional<Tratto>& tratto(int row) const;
     /// Driving time of a row's leg, hundredths.
     [[nodiscard]] float tempo(int row) const;
-    /// Kilometres up to and with a row. Costs the rows between it and the last change above it.
-    [[nodiscard]] float kmProgressivi(int row);
 
   private:
     void adds(TotaliItinerario& totals, const Tratto& leg, float sign) const;
@@ -64,8 +58,7 @@ class TotaliTabella {
     Righe rows_;
     Medie speeds_{};
     TotaliItinerario totals_;
-    std::vector<float> running_; ///< kilometres up to and with a row, for the first rows
-    bool negative_ = false;      ///< some leg has negative kilometres
+    bool negative_ = false; ///< some leg has negative kilometres
 };
 
 /// Least number of days, from the driving time as gg:hh:mm with a driving day as its gg.

@@ -1,7 +1,5 @@
 #include "schedule/totals_screen.h"
 
-#include <cstdlib>
-
 #include "core/text.h"
 #include "core/time_values.h"
 #include "window/parameters.h"
@@ -19,56 +17,53 @@ Tratto legOf(const Grid& grid, int row) {
     return {chilometri(grid.cell(row, 3)), indiceStrada(grid.cell(row, 4)), contiene(grid.cell(row, 2), u"TRAGH")};
 }
 
-/// A leg without kilometres keeps the running texts that it had: they are made before it counts as such.
-void keepsTexts(const Grid& grid, int row) {
-    if (!grid.cell(row, 1).isEmpty() && chilometri(grid.cell(row, 3)) == 0)
-        (void)grid.cell(row, colonnaProgressivi);
-}
-
 /// The row's leg as the table has it now. A row without a place has none and is blanked.
 std::optional<Tratto> readLeg(Grid& grid, int row) {
     if (!grid.cell(row, 1).isEmpty())
         return legOf(grid, row);
-    if (!grid.nothingWritten(row)) // for a row without a place nothing is made either
-        grid.clearRow(row, 0);
+    grid.clearRow(row, 0);
     return {};
+}
+
+/// The running texts from a row on. A leg without kilometres keeps those that it had.
+void writeRunningTexts(Grid& grid, const TotaliTabella& totals, int first) {
+    const SenzaRidisegno quiet(grid);
+    float km = 0;
+    for (int row = 1; row < grid.rows(); ++row) {
+        const std::optional<Tratto>& leg = totals.tratto(row);
+        if (!leg || leg->km == 0)
+            continue;
+        km += static_cast<float>(leg->km);
+        if (row < first)
+            continue;
+        grid.setCell(row, colonnaOre, ghmSenzaGiorni(totals.tempo(row), unGiornoDi99Ore));
+        grid.setCell(row, colonnaProgressivi, migliaiaZero(static_cast<double>(km)));
+    }
 }
 
 void workOutAll(Form& form, const Medie& speeds) {
     Grid& grid = form.mfgTab;
     const SenzaRidisegno quiet(grid);
     TotaliTabella::Righe legs(static_cast<std::size_t>(grid.rows()));
-    for (int r = 1; r < grid.rows(); ++r) {
-        auto& leg = legs[static_cast<std::size_t>(r)];
-        leg = readLeg(grid, r);
-        if (leg && leg->km == 0)
-            keepsTexts(grid, r);
-    }
-    form.totali->ricalcola(std::move(legs), speeds);
-    grid.setColumnsLater(1, {colonnaProgressivi, colonnaOre}, [totals = form.totali](int row, RigaDiTesti cells) {
-        const auto& leg = totals->tratto(row);
-        if (!leg || leg->km == 0 || cells.text(1).isEmpty())
-            return;
-        cells[colonnaOre] = ghmSenzaGiorni(totals->tempo(row), unGiornoDi99Ore);
-        cells[colonnaProgressivi] = migliaiaZero(static_cast<double>(totals->kmProgressivi(row)));
-    });
+    for (int r = 1; r < grid.rows(); ++r)
+        legs[static_cast<std::size_t>(r)] = readLeg(grid, r);
+    form.totali.ricalcola(std::move(legs), speeds);
+    writeRunningTexts(grid, form.totali, 1);
 }
 
 /// The totals by what has changed since they were last worked out; false if that isn't known.
 bool workOutChanges(Form& form, const Medie& speeds) {
     Grid& grid = form.mfgTab;
     const std::optional<std::vector<int>> rows = grid.takeChangedRows();
-    if (!rows || form.totali->medie() != speeds)
+    if (!rows || form.totali.medie() != speeds)
         return false;
     if (rows->empty())
         return true;
-    for (const int row : *rows)
-        keepsTexts(grid, row);
     for (const int row : *rows) {
-        if (!form.totali->cambia(row, readLeg(grid, row)))
+        if (!form.totali.cambia(row, readLeg(grid, row)))
             return false;
     }
-    grid.makeAgainFrom(rows->front());
+    writeRunningTexts(grid, form.totali, rows->front());
     return true;
 }
 
@@ -107,32 +102,13 @@ Medie medieMostrate(const Form& form) {
     return speeds;
 }
 
-bool SpostaRighe(Form& form, int first, int last, int by) {
-    Grid& grid = form.mfgTab;
-    if (!grid.canShift(first, last, by))
-        return false;
-    TotaliTabella& totals = *form.totali;
-    const int covered = by > 0 ? last + 1 : first + by;
-    bool follow = true;
-    for (int row = covered; row < covered + std::abs(by); ++row)
-        follow = follow && totals.cambia(row, {});
-    if (!follow) {
-        (void)grid.cell(grid.rows() - 1, colonnaProgressivi);
-        grid.forgetChangedRows();
-    }
-    grid.shiftRows(first, last, by);
-    if (follow)
-        totals.sposta(first, last, by);
-    return true;
-}
-
 void CalcolaKmTempiItinerario(Form& form) {
     ControllaVariabiliConvertite(form);
     const Medie speeds = medieMostrate(form);
     if (!workOutChanges(form, speeds))
         workOutAll(form, speeds);
-    (void)form.mfgTab.takeChangedRows(); // what was blanked on the way
-    const TotaliItinerario& totals = form.totali->totali();
+    (void)form.mfgTab.takeChangedRows(); // what was written on the way
+    const TotaliItinerario& totals = form.totali.totali();
     form.stato.NumeroTraghetti = totals.traghetti;
     showPanel(form, totals);
     offerDays(form, totals.km[4] != 0);

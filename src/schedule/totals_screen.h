@@ -12,10 +12,6 @@ namespace vanzer {
 /// The speeds as the lists show them.
 [[nodiscard]] Medie medieMostrate(const Form& form);
 
-/// The rows `first` to `last` go `by` rows down or up, see Grid::shiftRows; their totals go with them. False if there
-/// is no room, or no such rows.
-bool SpostaRighe(Form& form, int first, int last, int by);
-
 /// Works out kilometres and driving times of the legs in the table: their running columns, the panel of totals and the
 /// list of the wanted days. A wanted number of days below what the driving needs is raised to it.
 void CalcolaKmTempiItinerario(Form& form);

@@ -19,7 +19,6 @@ struct RigaDiLavoro {
     int strada = 0; ///< index of the road type
     bool traghetto = false;
     bool fineGiorno = false;                ///< the day ends behind this row
-    bool quadra = false;                    ///< the name holds a "[": it may bear a mark of the stretch
     float sostaFissa = 0;                   ///< itinerary stop, hundredths
     float sostaGuida = 0;                   ///< guide stop, hundredths: the one that the multiplier stretches
     QString nome;                           ///< place

@@ -175,7 +175,8 @@ QString Archive::CaricaRiferimentiVettoreCampiTabelleDatabase(int slot, const QS
     for (qsizetype column = 0; column < columns.size(); ++column) {
         const int field = records.campo(columns[column]);
         if (field >= 0)
-            references += Zero(testoNumero(static_cast<int>(column) + 1), 2) + Zero(testoNumero(field), 2) + u'\\';
+            references +=
+                Zero(QString::number(static_cast<int>(column) + 1), 2) + Zero(QString::number(field), 2) + u'\\';
     }
     return references;
 }

@@ -37,10 +37,9 @@ const VociGuida& LettoreGuida::leggeLuogo(const QString& place) {
     VociGuida entries;
     while (found->step())
         entries.push_back({.rowid = found->integer(0),
-                           .tempoSosta = texts_.comune(found->text(4)),
+                           .tempoSosta = found->text(4),
                            .codice = arrotonda(std::trunc(Val(found->text(1)))),
-                           .quadra = found->text(3).contains(u'['),
-                           .gruppo = texts_.comune(found->text(2)),
+                           .gruppo = found->text(2),
                            .descrizione = found->text(3)});
     makeRoom(entries.size());
     if (places_ == nullptr)
@@ -56,10 +55,9 @@ const VociGuida& LettoreGuida::leggeModello(const QString& pattern) {
     VociGuida entries;
     for (; !found.EOF_(); found.MoveNext())
         entries.push_back({.rowid = found.rowid(),
-                           .tempoSosta = texts_.comune(found.testo(4)),
+                           .tempoSosta = found.testo(4),
                            .codice = arrotonda(Val(found.testo(1))),
-                           .quadra = found.testo(3).contains(u'['),
-                           .gruppo = texts_.comune(found.testo(2)),
+                           .gruppo = found.testo(2),
                            .descrizione = found.testo(3)});
     makeRoom(entries.size());
     return patterns_[pattern] = std::move(entries);

@@ -10,7 +10,6 @@
 
 #include <QString>
 
-#include "core/shared_texts.h"
 #include "store/database.h"
 #include "store/row_set.h"
 
@@ -20,7 +19,6 @@ struct VoceGuida {
     qint64 rowid = 0;
     QString tempoSosta;
     int codice = 0;      ///< category
-    bool quadra = false; ///< the description holds a "["
     QString gruppo;
     QString descrizione;
 };
@@ -60,7 +58,6 @@ class LettoreGuida final : public LiveSet {
     void forget() noexcept;
 
     Database* database_;
-    TestiComuni texts_;                                                       ///< times and groups
     std::shared_ptr<MemoriaGuida> places_ = std::make_shared<MemoriaGuida>(); ///< null: forgotten
     MemoriaGuida patterns_;
     std::size_t kept_ = 0; ///< entries in all

@@ -1,7 +1,6 @@
 #include "toolkit/grid.h"
 
 #include <algorithm>
-#include <bit>
 #include <cstdlib>
 #include <utility>
 
@@ -61,12 +60,9 @@ void Grid::setRows(int rows) {
     }
     if (tell)
         model_->beginRemoveRows({}, rows - 1, old - 2);
-    for (int row = rows; changed_ && row < old; ++row) {
-        if (!cells_.blank(row - 1))
-            noteChange(row);
-    }
+    for (int row = rows; row < old; ++row)
+        noteChange(row);
     cells_.setRows(rows - 1);
-    laterEnd_ = std::min(laterEnd_, rows);
     std::erase_if(marked_, [rows](qint64 key) { return key / cellsPerRow >= rows; });
     keepInside();
     if (tell)
@@ -76,8 +72,6 @@ void Grid::setRows(int rows) {
 void Grid::setColumns(int columns) {
     if (columns == columns_)
         return;
-    makeUpTo(rows());
-    forgetLater();
     forgetChangedRows();
     setRedraw(false);
     columns_ = columns;
@@ -95,8 +89,6 @@ const QString& Grid::cell(int row, int column) const {
         return emptyCell;
     if (row == 0)
         return column < columns_ ? head_[static_cast<std::size_t>(column)] : emptyCell;
-    if (later(row, column))
-        makeUpTo(row);
     return cells_.text(row - 1, column);
 }
 
@@ -113,36 +105,6 @@ void Grid::setCell(int row, int column, QString text) {
         emit model_->headerDataChanged(Qt::Horizontal, column, column);
     else
         emit model_->dataChanged(model_->index(row - 1, column), model_->index(row - 1, column));
-}
-
-void Grid::setColumnsLater(int firstRow, const std::vector<int>& columns, FaRiga make) {
-    makeUpTo(firstRow - 1);
-    make_ = std::move(make);
-    later_ = firstRow;
-    laterEnd_ = rows();
-    laterColumns_ = 0;
-    for (const int column : columns)
-        laterColumns_ |= quint64{1} << column;
-    tellLater();
-}
-
-void Grid::makeAgainFrom(int row) {
-    later_ = std::min(later_, row);
-    laterEnd_ = rows();
-    tellLater();
-}
-
-void Grid::tellLater() {
-    if (redrawOff_ != 0 || later_ >= laterEnd_)
-        return;
-    emit model_->dataChanged(model_->index(later_ - 1, std::countr_zero(laterColumns_)),
-                             model_->index(rows() - 2, static_cast<int>(std::bit_width(laterColumns_)) - 1));
-}
-
-void Grid::makeUpTo(int row) const {
-    for (const int end = std::min(row + 1, laterEnd_); later_ < end; ++later_) {
-        make_(later_, RigaDiTesti(cells_, later_ - 1));
-    }
 }
 
 void Grid::noteChange(int row) {
@@ -174,49 +136,24 @@ void Grid::clearRow(int row, int firstColumn) {
         setCell(row, c, {});
 }
 
-bool Grid::canShift(int first, int last, int by) const {
-    return by != 0 && first <= last && std::min(first, first + by) >= 1 && std::max(last, last + by) < rows();
-}
-
-void Grid::shiftRows(int first, int last, int by) {
-    if (!canShift(first, last, by))
-        return;
+bool Grid::shiftRows(int first, int last, int by) {
     const int top = std::min(first, first + by);
     const int bottom = std::max(last, last + by);
+    if (by == 0 || first > last || top < 1 || bottom >= rows())
+        return false;
+    forgetChangedRows();
     setRedraw(false);
     cells_.rotate(top - 1, by > 0 ? last : first - 1, bottom, 1);
-    shiftNotes(first, last, by);
-    for (int row = first + by; row <= last + by; ++row) {
-        if (cells_.text(row - 1, 0).isEmpty() != cells_.text(row - by - 1, 0).isEmpty())
-            noteChange(row); // beside another text in column 0 than before
-    }
     const int blank = by > 0 ? top : last + 1 + by;
-    for (int row = blank; row < blank + std::abs(by); ++row) {
+    for (int row = blank; row < blank + std::abs(by); ++row)
         cells_.clearRow(row - 1, 1);
-        noteChange(row);
-    }
-    noteChange(top);
     setRedraw(true);
-}
-
-/// What is known of rows goes with them: which are to be made, which have changed.
-void Grid::shiftNotes(int first, int last, int by) {
-    const int top = std::min(first, first + by);
-    const int bottom = std::max(last, last + by);
-    if (later_ > top && later_ <= bottom)
-        later_ = std::max(top, later_ + by);
-    if (laterEnd_ > top && laterEnd_ <= bottom)
-        laterEnd_ = bottom + 1;
-    if (!changed_)
-        return;
-    for (int& row : *changed_)
-        row += row >= first && row <= last ? by : 0;
+    return true;
 }
 
 void Grid::removeRow(int row) {
     if (row < 1 || row >= rows())
         return;
-    makeUpTo(rows());
     forgetChangedRows();
     setRedraw(false);
     cells_.removeRow(row - 1);
@@ -231,7 +168,6 @@ void Grid::removeRow(int row) {
 }
 
 void Grid::clearCells() {
-    forgetLater();
     forgetChangedRows();
     setRedraw(false);
     std::fill(head_.begin(), head_.end(), QString());
@@ -241,24 +177,16 @@ void Grid::clearCells() {
 }
 
 TestiTabella Grid::takeContents() {
-    makeUpTo(rows());
-    return takeUnfinished().first;
-}
-
-std::pair<TestiTabella, Grid::Sospesi> Grid::takeUnfinished() {
-    Sospesi unfinished{later_, laterEnd_, make_};
-    forgetLater();
     forgetChangedRows();
     setRedraw(false);
     TestiTabella rows = std::exchange(cells_, TestiTabella());
     marked_.clear();
     keepInside();
     setRedraw(true);
-    return {std::move(rows), std::move(unfinished)};
+    return rows;
 }
 
 void Grid::setContents(TestiTabella&& rows) {
-    forgetLater();
     forgetChangedRows();
     setRedraw(false);
     cells_ = std::move(rows);

@@ -5,7 +5,6 @@
 #include <functional>
 #include <optional>
 #include <unordered_set>
-#include <utility>
 #include <vector>
 
 #include <QAbstractTableModel>
@@ -36,43 +35,23 @@ class Grid : public Control {
     [[nodiscard]] const QString& cell(int row, int column) const;
     /// Does nothing outside the grid.
     void setCell(int row, int column, QString text);
-    /// Whether nothing stands in a row from 1 on, but for what is still to be made.
-    [[nodiscard]] bool nothingWritten(int row) const { return cells_.blank(row - 1); }
     /// Copies the cells from `firstColumn` on of one row over those of another.
     void copyRow(int from, int to, int firstColumn);
     void clearRow(int row, int firstColumn);
     /// The rows `first` to `last` go `by` rows down, or up where it is negative, over what is there; the rows that they
-    /// leave are blank. Column 0 stays. What is still to be made moves with its rows.
-    void shiftRows(int first, int last, int by);
-    /// Whether there are such rows, and room for them.
-    [[nodiscard]] bool canShift(int first, int last, int by) const;
+    /// leave are blank. Column 0 stays. False, and nothing done, without such rows or room for them.
+    bool shiftRows(int first, int last, int by);
     /// Takes a row from 1 on out; those below it move up, and an empty one comes in at the end.
     void removeRow(int row);
     /// Empties all cells, the head row's too.
     void clearCells();
 
-    /// From `firstRow` on the texts of some columns are made when somebody looks at them: `make` writes them into the
-    /// cells of a row, for all rows up to the one looked at, in rising order and each once. It may not look at the
-    /// grid.
-    using FaRiga = std::function<void(int row, RigaDiTesti cells)>;
-    void setColumnsLater(int firstRow, const std::vector<int>& columns, FaRiga make);
-    /// The same texts are out of date from a row on.
-    void makeAgainFrom(int row);
     /// The rows whose texts have changed since this was last asked, from 1 on; nothing if they are many or the whole
     /// table is another one.
     [[nodiscard]] std::optional<std::vector<int>> takeChangedRows();
-    /// From here on the whole table counts as another one.
-    void forgetChangedRows() { changed_.reset(); }
 
     /// All rows from 1 on: taken out, so that the head row is left, and put in.
     [[nodiscard]] TestiTabella takeContents();
-    /// The same, with texts that nobody has looked at yet left blank. `make` may write them in any order then.
-    struct Sospesi {
-        int da = 0; ///< rows of the grid, up to but without `fino`
-        int fino = 0;
-        FaRiga fa;
-    };
-    [[nodiscard]] std::pair<TestiTabella, Sospesi> takeUnfinished();
     void setContents(TestiTabella&& rows);
 
     [[nodiscard]] int row() const { return row_; }
@@ -120,21 +99,11 @@ class Grid : public Control {
   private:
     friend class GridModel;
     void keepInside();
-    [[nodiscard]] bool later(int row, int column) const {
-        return row >= later_ && row < laterEnd_ && (laterColumns_ >> column & 1) != 0;
-    }
-    void makeUpTo(int row) const;
-    void tellLater();
-    void forgetLater() { laterEnd_ = 0; }
     void noteChange(int row);
-    void shiftNotes(int first, int last, int by);
+    void forgetChangedRows() { changed_.reset(); }
 
     std::vector<QString> head_;
-    mutable TestiTabella cells_; ///< of the rows from 1 on; mutable for what is made when somebody looks at it
-    mutable int later_ = 0;      ///< the rows from here on are still to be made
-    int laterEnd_ = 0;           ///< up to here
-    quint64 laterColumns_ = 0;   ///< a bit for each
-    FaRiga make_;
+    TestiTabella cells_;                      ///< of the rows from 1 on
     std::optional<std::vector<int>> changed_; ///< nothing: all rows
     int columns_;
     int row_ = 0;

@@ -104,7 +104,7 @@ class Form {
     /// CodiceMeta is that of a destination that isn't stored yet: its legs are stored with it.
     bool metaNuova = false;
     /// Of the legs in the table, as they were last worked out.
-    std::shared_ptr<TotaliTabella> totali = std::make_shared<TotaliTabella>();
+    TotaliTabella totali;
     /// The schedule in the table, as numbers; null while it shows legs.
     std::shared_ptr<const ViandoriaMostrata> viandoria;
     /// What the picture of the schedule shows; null before it was asked for.

@@ -1,5 +1,5 @@
-// Running kilometres and times of a table whose legs are typed, moved and taken away: by difference and made when
-// somebody looks, they are what they would be if all were worked out at once each time.
+// Running kilometres and times of a table whose legs are typed, moved and taken away: by difference they are what they
+// would be if all were worked out each time.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -92,21 +92,17 @@ using Leg = std::optional<Tratto>;
 
 } // namespace
 
-TEST(RunningTotals, AreTheSameWhoeverLooksAndHoweverTheyCome) {
+TEST(RunningTotals, AreTheSameHoweverTheyCome) {
     for (unsigned seed = 1; seed <= 20; ++seed) {
-        Anyone unseen(seed);
-        Anyone watched(seed);
+        Anyone typed(seed);
         Anyone anew(seed);
         for (int i = 0; i < 120; ++i) {
-            unseen.work();
-            watched.work();
-            (void)watched.table();
+            typed.work();
             anew.form().mfgTab.setContents(anew.form().mfgTab.takeContents()); // another table for all that is known
             anew.work();
         }
-        ASSERT_GT(unseen.form().stato.NumeroTappe, 5);
-        EXPECT_EQ(difference(unseen.table(), watched.table()), "") << "seed " << seed;
-        EXPECT_EQ(difference(watched.table(), anew.table()), "") << "seed " << seed;
+        ASSERT_GT(typed.form().stato.NumeroTappe, 5);
+        EXPECT_EQ(difference(typed.table(), anew.table()), "") << "seed " << seed;
     }
 }
 
@@ -125,7 +121,6 @@ TEST(RunningTotals, ByDifferenceOnlyWhereNothingIsLost) {
         const TotaliTabella::Righe rows{{}, Tratto{100, 0, false}, Tratto{50, 3, true}, Tratto{3, 2, false}};
         TotaliTabella totals;
         totals.ricalcola(rows, speeds);
-        EXPECT_EQ(totals.kmProgressivi(3), 153);
         EXPECT_EQ(totals.cambia(2, c.changed), c.byDifference) << c.what;
         TotaliTabella::Righe expectedRows = rows;
         if (c.byDifference)
@@ -135,7 +130,6 @@ TEST(RunningTotals, ByDifferenceOnlyWhereNothingIsLost) {
         EXPECT_EQ(totals.totali().km, expected.totali().km) << c.what;
         EXPECT_EQ(totals.totali().tempo, expected.totali().tempo) << c.what;
         EXPECT_EQ(totals.totali().traghetti, expected.totali().traghetti) << c.what;
-        EXPECT_EQ(totals.kmProgressivi(3), expected.kmProgressivi(3)) << c.what;
     }
 }
 

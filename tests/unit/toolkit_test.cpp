@@ -1,9 +1,6 @@
 // The control models: what the window's logic relies on, and what a view is told.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <random>
-
 #include <QAbstractItemModelTester>
 
 #include "toolkit/grid.h"
@@ -89,108 +86,6 @@ TEST(Griglia, RowsMoveWhole) {
     EXPECT_EQ(column(grid, 1), u"a|b|b|d|e");
 }
 
-TEST(TestiTabella, AreThoseOfAPlainTable) {
-    using Plain = std::vector<std::vector<QString>>;
-    constexpr int columns = 3;
-    std::mt19937 chance(5);
-    const auto below = [&chance](int bound) { return static_cast<int>(chance() % static_cast<unsigned>(bound)); };
-    TestiTabella table;
-    TestiTabella copy;
-    Plain plain;
-    Plain copied;
-    const auto same = [](const TestiTabella& a, const Plain& b) {
-        bool equal = a.rows() == static_cast<int>(b.size());
-        for (int r = 0; equal && r < a.rows(); ++r) {
-            for (int c = 0; c < columns; ++c)
-                equal = equal && a.text(r, c) == b[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)];
-            equal = equal && a.blank(r) == std::ranges::all_of(b[static_cast<std::size_t>(r)], &QString::isEmpty);
-        }
-        return equal;
-    };
-    for (int step = 0; step < 3000; ++step) {
-        const int rows = table.rows();
-        const auto at = [&plain](int r) { return plain.begin() + r; };
-        const int does = rows == 0 ? 0 : below(8);
-        if (does == 0) {
-            const int wanted = 1 + below(300);
-            table.setRows(wanted);
-            plain.resize(static_cast<std::size_t>(wanted), std::vector<QString>(columns));
-        } else if (does == 1) {
-            const int r = below(rows);
-            table.removeRow(r);
-            plain.erase(at(r));
-        } else if (does == 2) {
-            const int first = below(rows);
-            const int byOne = below(2) == 0 ? first + 1 : rows - 1; // a row goes, or comes in
-            const int middle = below(2) == 0 ? first + below(rows - first) : std::min(byOne, rows - 1);
-            table.rotate(first, middle, rows, 0);
-            std::rotate(at(first), at(middle), plain.end());
-        } else if (does == 3) {
-            const int r = below(rows);
-            table.clearRow(r, 1);
-            at(r)->at(1) = at(r)->at(2) = QString();
-        } else if (does == 4 && copy.rows() > 0) {
-            const int r = below(rows);
-            const int from = below(copy.rows());
-            TestiTabella taken = copy;
-            // The columns that another table has never written stay.
-            if (!std::ranges::all_of(copied, [](const auto& row) { return row[0].isEmpty(); })) {
-                taken.cutColumns(1);
-                table.moveRow(r, taken, from);
-                at(r)->at(0) = copied[static_cast<std::size_t>(from)][0];
-            }
-        } else if (does == 5) {
-            copy = table;
-            copied = plain;
-        } else {
-            const int r = below(rows);
-            const int c = below(columns);
-            table.at(r, c) = at(r)->at(static_cast<std::size_t>(c)) = below(3) == 0 ? QString() : QString::number(step);
-        }
-        ASSERT_TRUE(same(table, plain)) << step << ": " << does;
-        ASSERT_TRUE(same(copy, copied)) << step << ": a copy changed by " << does;
-    }
-}
-
-TEST(Griglia, TextsMadeLaterAreMadeOnceForWhoeverLooks) {
-    Grid grid(u"mfgTab"_s, -1, nullptr, 6, 4);
-    for (int r = 1; r < 6; ++r)
-        grid.setCell(r, 1, QStringLiteral("x"));
-    std::vector<int> made;
-    const auto make = [&made](int row, RigaDiTesti cells) {
-        if (cells.text(1).isEmpty())
-            return;
-        made.push_back(row);
-        cells[3] = QString::number(row * 10);
-    };
-    using Rows = std::vector<int>;
-    grid.setColumnsLater(1, {3}, make);
-    (void)grid.cell(4, 1);
-    EXPECT_EQ(made, Rows()) << "another column";
-    const QString& kept = grid.cell(2, 1);
-    EXPECT_EQ(grid.cell(2, 3), u"20");
-    EXPECT_EQ(made, (Rows{1, 2}));
-    EXPECT_EQ(kept, u"x");
-    grid.setCell(4, 3, QStringLiteral("own"));
-    EXPECT_EQ(made, (Rows{1, 2, 3, 4}));
-    EXPECT_EQ(grid.cell(4, 3), u"own") << "what is written later stays";
-    grid.makeAgainFrom(4);
-    EXPECT_EQ(grid.cell(4, 3), u"40");
-    grid.removeRow(3);
-    EXPECT_EQ(grid.cell(4, 3), u"50") << "made before the rows move";
-    made.clear();
-    grid.makeAgainFrom(2);
-    const TestiTabella rows = grid.takeContents();
-    EXPECT_EQ(rows.text(1, 3), u"20") << "made before they are taken out";
-    grid.setContents(TestiTabella(rows));
-    (void)grid.cell(4, 3);
-    EXPECT_EQ(made, (Rows{2, 3, 4})) << "another table is whole";
-    grid.makeAgainFrom(2);
-    grid.setRows(3);
-    grid.setRows(6);
-    EXPECT_EQ(grid.cell(4, 3), QString()) << "rows that went with the end are not made again";
-}
-
 TEST(Griglia, RowsShiftBesideTheirNumbers) {
     const struct {
         const char* what;
@@ -200,16 +95,12 @@ TEST(Griglia, RowsShiftBesideTheirNumbers) {
                  {"up over a row", 3, 5, -1, "1a 2c 3d 4e 5-"}, {"up over two", 4, 5, -2, "1a 2d 3e 4- 5-"},
                  {"nowhere to go", 4, 5, 1, "1a 2b 3c 4d 5e"},  {"no rows", 4, 3, 1, "1a 2b 3c 4d 5e"}};
     for (const auto& c : cases) {
-        Grid grid(u"mfgTab"_s, -1, nullptr, 6, 3);
+        Grid grid(u"mfgTab"_s, -1, nullptr, 6, 2);
         letter(grid);
-        grid.setColumnsLater(1, {2}, [](int /*row*/, RigaDiTesti cells) { cells[2] = cells.text(1); });
-        (void)grid.cell(3, 2);
         grid.shiftRows(c.first, c.last, c.by);
         QStringList texts;
-        for (int r = 1; r < 6; ++r) {
+        for (int r = 1; r < 6; ++r)
             texts += grid.cell(r, 0) + (grid.cell(r, 1).isEmpty() ? u"-"_s : grid.cell(r, 1));
-            EXPECT_EQ(grid.cell(r, 2), grid.cell(r, 1)) << c.what;
-        }
         EXPECT_EQ(texts.join(u' ').toStdString(), c.texts) << c.what;
     }
 }
@@ -227,8 +118,8 @@ TEST(Griglia, TellsTheRowsThatHaveChanged) {
     EXPECT_EQ(changed(), (Rows{2, 7}));
     grid.setCell(7, 2, QStringLiteral("x"));
     EXPECT_EQ(changed(), Rows()) << "the same text";
-    grid.setRows(5);
-    EXPECT_EQ(changed(), Rows{7}) << "gone with the end";
+    grid.setRows(48);
+    EXPECT_EQ(changed(), (Rows{48, 49})) << "gone with the end";
     grid.setRows(60);
     EXPECT_EQ(changed(), Rows());
     grid.removeRow(3);
