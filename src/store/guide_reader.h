@@ -18,7 +18,7 @@ namespace vanzer::store {
 struct VoceGuida {
     qint64 rowid = 0;
     QString tempoSosta;
-    int codice = 0;      ///< category
+    int codice = 0; ///< category
     QString gruppo;
     QString descrizione;
 };
