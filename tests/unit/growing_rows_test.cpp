@@ -156,30 +156,6 @@ Rows firstRows(const Showing& at, const std::vector<RigaDiLavoro>& work, const T
 
 } // namespace
 
-TEST(RigheInCrescita, AreWhatTheWholeScheduleSays) {
-    Trip trip;
-    Form& form = trip.form();
-    RigheDiLavoro work;
-    comando(form, [&] { work = *PreparaTabellaPerCalcoloViandoria(form); });
-    const TestiViandoria with = texts(form);
-    const ParametriSimulazione p = parametriSimulazione(form);
-    for (const int every : {1, 2, 7}) {
-        Rows rows;
-        bool rest = false;
-        const auto grows = [&](int row, const Viandoria& soFar) {
-            if (row % every == 0) {
-                cresce(rows, soFar, work.righe, with);
-                EXPECT_EQ(rows, celleViandoria(soFar, work.righe, with)) << row;
-            }
-            rest = rest || std::ranges::any_of(soFar.righe, &RigaViandoria::riposoDopo);
-            return false;
-        };
-        const Viandoria whole = simula(work.righe, p, 1, grows);
-        EXPECT_TRUE(rest) << "no row was changed behind its writing";
-        EXPECT_GT(whole.giorni, 2);
-    }
-}
-
 TEST(RigheInCrescita, OfALongTestComeLittleByLittle) {
     const std::vector<RigaDiLavoro> work(1);
     Viandoria soFar;

@@ -40,9 +40,4 @@ TEST(ReturnToStart, JoinsAtTheNearestEarlierPassage) {
     EXPECT_EQ(homeFrom({}).riga, 0);
 }
 
-TEST(ReturnToStart, DrivesTheSameRoads) {
-    const std::vector<PassoRitorno> expected{{3, 4}, {2, 3}, {1, 2}};
-    EXPECT_EQ(homeFrom({u"A"_s, u"B"_s, u"C"_s, u"D"_s, u"E"_s, u"D"_s}).passi, expected);
-}
-
 } // namespace

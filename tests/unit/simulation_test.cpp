@@ -58,10 +58,6 @@ RowTexts walk(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione&
 
 } // namespace
 
-TEST(Simulazione, DepartureAlwaysHasARow) {
-    EXPECT_EQ(walk({leg(0), leg(0), leg(50)}, plainDay()), (RowTexts{"tratto 0 g0 900", "tratto 50 g0 950"}));
-}
-
 TEST(Simulazione, DepartureWithinAMealOrBehindTheNight) {
     const struct {
         float start;
@@ -92,19 +88,6 @@ TEST(Simulazione, BandOfLunch) {
         EXPECT_EQ(walk({leg(c.km), leg(100)}, plainDay()), c.rows) << c.km;
 }
 
-TEST(Simulazione, ALongLegGoesThroughLunchDinnerAndNight) {
-    const Viandoria v = simula({leg(1500)}, plainDay(), 1);
-    EXPECT_EQ(told(v),
-              (RowTexts{"tratto 350 verso g0 1250 pranzo", "tratto 500 verso g0 2000 cena",
-                        "tratto 75 verso g0 2250 notte", "tratto 350 verso g1 1250 pranzo", "tratto 225 g1 1725"}));
-    EXPECT_EQ(v.righe[0].fine, Fine::Pranzo);
-    EXPECT_EQ(v.righe[1].fine, Fine::Cena);
-    EXPECT_EQ(v.righe[2].fine, Fine::Notte);
-    EXPECT_EQ(v.righe[4].fine, Fine::Arrivo);
-    EXPECT_EQ(v.giorni, 2);
-    EXPECT_EQ(v.pannello.kmTotali, 1500);
-}
-
 TEST(Simulazione, AnArrivalPastTheNightOutsideTheBandBeginsTheNextDay) {
     ParametriSimulazione p = plainDay();
     p.medie = {1, 1, 1, 1}; // a kilometre takes an hour, so that pieces jump over the bands
@@ -124,17 +107,6 @@ TEST(Simulazione, Breaks) {
     // At a crawl the piece before a break still moves on.
     p.medie = {0.5, 0.5, 0.5, 0.5};
     EXPECT_EQ(simula({leg(2)}, p, 1).righe.size(), 2U);
-}
-
-TEST(Simulazione, LongRests) {
-    ParametriSimulazione p = plainDay();
-    p.riposoGiorno = 1;
-    p.riposoDopoGiorni = 1;
-    // The rest falls before the first piece driven on the day after; its trace is on the row before the last one.
-    EXPECT_EQ(walk({leg(10), leg(10, true), leg(10)}, p),
-              (RowTexts{"tratto 10 g0 910", "tratto 10 g0 920 riposo", "mattino g1 900", "tratto 10 g2 910"}));
-    EXPECT_EQ(walk({leg(10, true), leg(10)}, p),
-              (RowTexts{"tratto 10 g0 910 riposo", "mattino g1 900", "tratto 10 g2 910"}));
 }
 
 TEST(Simulazione, Stops) {
@@ -172,21 +144,6 @@ TEST(Simulazione, AVisitingDayWithoutLengthStillEnds) {
     p.oreVisitaGiorno = 0;
     p.fineVisita = 900;
     EXPECT_EQ(walk({leg(0), itineraryStop(500)}, p).back(), "sosta g0 1400");
-}
-
-TEST(Simulazione, AStopSwallowsAMealThatItSpans) {
-    EXPECT_EQ(walk({leg(0), itineraryStop(700), leg(100)}, plainDay()).back(), "tratto 100 g0 1700");
-    EXPECT_EQ(walk({leg(0), itineraryStop(300), leg(100)}, plainDay())[2], "tratto 50 verso g0 1250 pranzo");
-}
-
-TEST(Simulazione, EndOfDayAndMention) {
-    RigaDiLavoro mention;
-    mention.tipo = RigaDiLavoro::Tipo::Menzione;
-    mention.fineGiorno = true;
-    EXPECT_EQ(walk({leg(10), mention, leg(10)}, plainDay()),
-              (RowTexts{"tratto 10 g0 910", "menzione g0 910", "mattino g1 900", "tratto 10 g1 910"}));
-    EXPECT_EQ(walk({leg(0, true), leg(10)}, plainDay()), (RowTexts{"tratto 0 g0 900", "tratto 10 g0 910"}))
-        << "the day has only just begun";
 }
 
 TEST(Simulazione, EndsWhenTheWantedDaysArePassed) {
