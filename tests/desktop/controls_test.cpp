@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <set>
 
-#include <QAbstractItemModelTester>
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
@@ -354,23 +353,6 @@ TEST_F(Controls, FocusThatLeavesAnHourChecksTheClock) {
     tab();
     EXPECT_EQ(textOf("cmbOra_0").toStdString(), "00") << "lunch too near to the start of the day";
     EXPECT_EQ(textOf("cmbOra_1").toStdString(), "11");
-}
-
-TEST_F(Controls, TheTableIsASoundModel) {
-    const QAbstractItemModelTester tester(&form().mfgTab.model(),
-                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
-    typeDestination("roma", "italia");
-    letter('i');
-    for (int i = 1; i <= 30; ++i) {
-        form().txtTappa.type(QStringLiteral("LUOGO"));
-        form().txtKm.type(QStringLiteral("9"));
-        form().cmdInserisce.click();
-    }
-    form().cmdAggiunge.click();
-    form().cmdCancella.click();
-    form().cmdRicalcola.click();
-    window().binder().flush();
-    EXPECT_EQ(textOf("cmdCalcola"), QStringLiteral("&Sblocca"));
 }
 
 TEST(FilteredEdit, KeepsTheCaretBehindWhatWasBroughtIn) {

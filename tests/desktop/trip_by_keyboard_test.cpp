@@ -10,38 +10,6 @@ namespace {
 
 using TripByKeyboard = DesktopTest;
 
-TEST_F(TripByKeyboard, ADestinationIsTypedAndSavedAtTheFirstStart) {
-    open();
-    EXPECT_EQ(window().windowTitle(), QStringLiteral("Vanzer (v. 1.0.0, Vanzer) by Vanzer"));
-    for (const char* name : {"cmdSalva", "cmdRicerca", "cmdCancMeta", "cmdExport", "cmdItinerario", "cmdGuidaCitta",
-                             "cmdCalcola", "cmdStampa", "cmdCancItin", "cmdModStrada"})
-        EXPECT_FALSE(find(name)->isEnabled()) << name;
-    EXPECT_TRUE(find("cmdNuovo")->isEnabled());
-    EXPECT_TRUE(find("cmdEsce")->isEnabled());
-    EXPECT_FALSE(isSeen("frmframe_12"));
-    EXPECT_EQ(textOf("cmbOra_0").toStdString(), "09");
-    EXPECT_EQ(textOf("cmbInizio_2").toStdString(), "2026");
-    EXPECT_FALSE(isSeen("txtPerc"));
-    letter('n');
-    EXPECT_EQ(focusName(), QStringLiteral("txtLocalita"));
-    write("capo nord");
-    tab();
-    write("norvegia");
-    tabTo("cmbInizio_0");
-    key(Qt::Key_Down);
-    boxes.expect(Qt::Key_Return);
-    letter('v');
-    ASSERT_EQ(boxes.shown().size(), 1U);
-    EXPECT_EQ(boxes.shown()[0].text, QStringLiteral("Confermi inserimento meta?"));
-    EXPECT_EQ(boxes.shown()[0].title, QStringLiteral("Inserimento meta"));
-    EXPECT_EQ(boxes.shown()[0].buttons, QStringList({QStringLiteral("Sì"), QStringLiteral("No")}));
-    EXPECT_EQ(textOf("txtLocalita"), QStringLiteral("CAPO NORD"));
-    EXPECT_EQ(textOf("txtCodice"), QStringLiteral("000001"));
-    EXPECT_EQ(textOf("cmbInizio_0"), QStringLiteral("02"));
-    EXPECT_EQ(textOf("txtInizioGSett"), QStringLiteral("Mar"));
-    EXPECT_TRUE(find("cmdItinerario")->isEnabled());
-}
-
 TEST_F(TripByKeyboard, CalculationIsStoppedOnceAndFinishedOnce) {
     storeTrip(12);
     open({.patience = 0, .yields = 0, .frames = 0});

@@ -2,19 +2,11 @@
 
 #include "batch/batch_printer.h"
 #include "batch/interpreter.h"
-#include "batch/line.h"
 #include "batch/queue_ports.h"
 #include "batch/usage.h"
 
 namespace vanzer::batch {
 namespace {
-
-TEST(BatchLine, SkipsCommentsAndEmptyLines) {
-    for (const char* line : {"", "  ", "# start", "#"})
-        EXPECT_TRUE(saysNothing(QString::fromUtf8(line))) << line;
-    for (const char* line : {"start", " # start"})
-        EXPECT_FALSE(saysNothing(QString::fromUtf8(line))) << line;
-}
 
 TEST(BatchPrinter, DrawsNoPdfInPlaceOfTheArchive) {
     const QTemporaryDir scratch;

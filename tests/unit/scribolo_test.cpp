@@ -77,13 +77,6 @@ TEST(Scribolo, EveryNameCanBeAFile) {
     EXPECT_TRUE(campers.isValidUtf16()) << "no character is cut in two";
 }
 
-TEST(Scribolo, DatesAreItalianWhereverTheProgramRuns) {
-    EXPECT_EQ(dateWithWeekday({2028, 2, 29}) + u", "_s + shortDate({2026, 6, 3}),
-              u"Martedì 29 febbraio 2028, mer 03/06");
-    EXPECT_EQ(period(trip(1)) + u", "_s + length(trip(1)), u"1 giugno 2026, 1 giorno");
-    EXPECT_EQ(dayDate(trip(31), 31), QDate(2026, 7, 1));
-}
-
 TEST(Scribolo, EveryDayHasAPageAndOneRowOfTheSummary) {
     const struct { int days, summaries; } cases[] = {{1, 1}, {27, 1}, {28, 2}, {40, 2}, {54, 2}, {55, 3}, {366, 14}};
     for (const auto& c : cases) {

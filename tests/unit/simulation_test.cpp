@@ -173,15 +173,4 @@ TEST(Simulazione, WithoutASpeedTheCalculationStillEnds) {
         << "the time of the piece stays the last one";
 }
 
-TEST(Simulazione, FerriesCountAndTakeTheTimeOfTheirRoad) {
-    RigaDiLavoro ferry = leg(50);
-    ferry.traghetto = true;
-    RigaDiLavoro moored = leg(0);
-    moored.traghetto = true;
-    const Viandoria v = simula({ferry, moored}, plainDay(), 1);
-    EXPECT_EQ(v.traghetti, 2);
-    EXPECT_EQ(v.righe.size(), 1U);
-    EXPECT_EQ(v.pannello.traghetti, 1) << "the panel was last refreshed behind the first";
-}
-
 } // namespace vanzer
