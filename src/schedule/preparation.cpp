@@ -1,5 +1,7 @@
 #include "schedule/preparation.h"
 
+#include <QStringBuilder>
+
 #include "core/place_name.h"
 #include "core/text.h"
 #include "core/time_values.h"
@@ -34,6 +36,15 @@ void makeMarksConsistent(std::vector<TappaDaPreparare>& legs) {
             return;
         }
     }
+}
+
+/// " > 2 * Foro" for a stop of group 2.
+QString nomeDellaVoce(const VoceGuida& entry, RigaDiLavoro::Tipo type) {
+    const QStringView name = Trim(QStringView(entry.descrizione));
+    const QStringView group = Trim(QStringView(entry.gruppo));
+    if (type == RigaDiLavoro::Tipo::SostaGuida && !group.isEmpty() && group != u"0")
+        return u" > " % group % u" * " % name;
+    return u" > " % name;
 }
 
 class Preparatore {
@@ -111,7 +122,7 @@ class Preparatore {
             const float stop = sostaDellaVoce(entry->tempoSosta, with_.oreVisitaGiorno);
             const auto type = stop == 0 ? RigaDiLavoro::Tipo::Menzione : RigaDiLavoro::Tipo::SostaGuida;
             RigaDiLavoro& row = aggiunge(type, leg);
-            row.voce = entry;
+            row.nome = nomeDellaVoce(*entry, type);
             row.nota = with_.categoria(entry->codice);
             row.sostaGuida = stop;
             sum += static_cast<double>(stop);

@@ -25,8 +25,7 @@ struct TappaDaPreparare {
 struct Preparazione {
     FonteSoste fonte = FonteSoste::Nessuna;
     float oreVisitaGiorno = 0;
-    /// The entries of a place that weren't used yet: by category, the longest first, then by group. The rows point at
-    /// them.
+    /// The entries of a place that weren't used yet: by category, the longest first, then by group.
     std::function<std::vector<const VoceGuida*>(const QString& place)> guida;
     std::function<QString(int category)> categoria;
     /// Called once a leg.

@@ -82,17 +82,10 @@ std::shared_ptr<const RigheDiLavoro> PreparaTabellaPerCalcoloViandoria(Form& for
     form.tappeConservate = form.mfgTab.takeContents();
 
     SegniGuida guide(form.archivio);
-    std::vector<std::shared_ptr<const void>> held; // a very long trip makes the reader forget on the way
     const Preparazione with{
         .fonte = fonteSoste(form.cmbSoste.text()),
         .oreVisitaGiorno = s.OreVisitaGiorno,
-        .guida =
-            [&](const QString& place) {
-                SegniGuida::Voci entries = guide.usaLuogo(place);
-                if (const auto& memory = form.archivio.guida().memoria(); held.empty() || held.back() != memory)
-                    held.push_back(memory);
-                return entries;
-            },
+        .guida = [&guide](const QString& place) { return guide.usaLuogo(place); },
         .categoria =
             [&form](int category) {
                 const auto i = static_cast<std::size_t>(category);
@@ -104,8 +97,7 @@ std::shared_ptr<const RigheDiLavoro> PreparaTabellaPerCalcoloViandoria(Form& for
                 AggiornaPercentuale(form);
             },
     };
-    const auto prepared = std::make_shared<RigheDiLavoro>(preparaRighe(legsToPrepare(*form.tappeConservate), with));
-    prepared->tenute = std::move(held);
+    auto prepared = std::make_shared<const RigheDiLavoro>(preparaRighe(legsToPrepare(*form.tappeConservate), with));
     guide.scrive();
     showWorkingRows(form, prepared->righe);
     return prepared;

@@ -1,12 +1,9 @@
 // The one flat list that a simulation walks: each leg, then its itinerary stop, then what the guide knows of the place.
 #pragma once
 
-#include <memory>
 #include <vector>
 
 #include <QString>
-
-#include "store/guide_reader.h"
 
 namespace vanzer {
 
@@ -18,21 +15,19 @@ struct RigaDiLavoro {
     int km = 0;     ///< of the leg; 0 on all other rows
     int strada = 0; ///< index of the road type
     bool traghetto = false;
-    bool fineGiorno = false;                ///< the day ends behind this row
-    float sostaFissa = 0;                   ///< itinerary stop, hundredths
-    float sostaGuida = 0;                   ///< guide stop, hundredths: the one that the multiplier stretches
-    QString nome;                           ///< place
-    const store::VoceGuida* voce = nullptr; ///< the guide entry of a stop or a mention
-    QString nota;                           ///< its category
+    bool fineGiorno = false; ///< the day ends behind this row
+    float sostaFissa = 0;    ///< itinerary stop, hundredths
+    float sostaGuida = 0;    ///< guide stop, hundredths: the one that the multiplier stretches
+    QString nome;            ///< place; of a guide entry what is shown: " > 2 * Foro"
+    QString nota;            ///< its category
 };
 
-/// The name as the schedule and its picture take it: " > a ROMA" for a stop there, " > 2 * Foro" for a guide entry.
+/// The name as the schedule and its picture take it: " > a ROMA" for a stop there.
 [[nodiscard]] QString nomeMostrato(const RigaDiLavoro& row);
 
 struct RigheDiLavoro {
     std::vector<RigaDiLavoro> righe;
-    std::vector<std::shared_ptr<const void>> tenute; ///< what holds the guide's entries
-    float sosteItinerario = 0;                       ///< sums over all rows, hundredths
+    float sosteItinerario = 0; ///< sums over all rows, hundredths
     float sosteGuida = 0;
 };
 

@@ -26,10 +26,8 @@ LettoreGuida::~LettoreGuida() {
 
 const VociGuida& LettoreGuida::leggeLuogo(const QString& place) {
     const QString key = senzaMaiuscole(place);
-    if (places_ != nullptr) {
-        if (const auto known = places_->find(key); known != places_->end())
-            return known->second;
-    }
+    if (const auto known = places_.find(key); known != places_.end())
+        return known->second;
     const StatementLease found =
         database_->prepara("SELECT rowid, CodiceGuida, Gruppo, Descrizione, TempoSosta FROM GuidaCitta "
                            "WHERE Localita = ?1 ORDER BY CodiceGuida, TempoSosta DESC, Gruppo, rowid");
@@ -42,9 +40,7 @@ const VociGuida& LettoreGuida::leggeLuogo(const QString& place) {
                            .gruppo = found->text(2),
                            .descrizione = found->text(3)});
     makeRoom(entries.size());
-    if (places_ == nullptr)
-        places_ = std::make_shared<MemoriaGuida>();
-    return (*places_)[key] = std::move(entries);
+    return places_[key] = std::move(entries);
 }
 
 const VociGuida& LettoreGuida::leggeModello(const QString& pattern) {
@@ -70,7 +66,7 @@ void LettoreGuida::makeRoom(std::size_t entries) {
 }
 
 void LettoreGuida::forget() noexcept {
-    places_.reset();
+    places_.clear();
     patterns_.clear();
     kept_ = 0;
     marked_.reset();

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <unordered_map>
 #include <vector>
@@ -38,8 +37,6 @@ class LettoreGuida final : public LiveSet {
     /// The entries of exactly this place, case ignored: by category, the longest first, then by group. They hold until
     /// the guide is written, or so much was read that what is kept is forgotten.
     [[nodiscard]] const VociGuida& leggeLuogo(const QString& place);
-    /// What holds the entries of places that were read last: they stay as they were as long as somebody has it.
-    [[nodiscard]] const std::shared_ptr<MemoriaGuida>& memoria() const { return places_; }
     /// The entries whose place matches the pattern, in the order in which they were added.
     [[nodiscard]] const VociGuida& leggeModello(const QString& pattern);
 
@@ -58,7 +55,7 @@ class LettoreGuida final : public LiveSet {
     void forget() noexcept;
 
     Database* database_;
-    std::shared_ptr<MemoriaGuida> places_ = std::make_shared<MemoriaGuida>(); ///< null: forgotten
+    MemoriaGuida places_;
     MemoriaGuida patterns_;
     std::size_t kept_ = 0; ///< entries in all
     std::optional<InsiemeDiRighe> marked_;

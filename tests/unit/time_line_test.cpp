@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 RigaDiLavoro visit(const QString& name, float length) {
     RigaDiLavoro row = guideStop(length);
-    row.nome = name;
+    row.nome = u" > "_s + name;
     return row;
 }
 
