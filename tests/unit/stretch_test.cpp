@@ -43,14 +43,6 @@ TEST(Stretch, ChangesAreKeptRowByRow) {
     EXPECT_EQ(conModifiche(u"000"_s, 0, 2), u"110");
 }
 
-TEST(Copy, WhatTheWindowNeverAsksFor) {
-    using Legs = std::vector<RigaSorgente>;
-    const Legs source{{u"A"_s, {}, {}, {}, {}}, {u"B"_s, u"A1"_s, u"10"_s, u"A"_s, u"*01:00:00"_s}};
-    EXPECT_EQ(copiaTratto(source, 1, 3, true),
-              (Legs{source[0], {u"B"_s, u"A1"_s, u"10"_s, u"A"_s, u"01:00:00"_s}, {}}));
-    EXPECT_EQ(copiaTratto(source, 3, 2, false), (Legs{{}, {u"B"_s, {}, {}, {}, {}}}));
-}
-
 } // namespace
 
 } // namespace vanzer
