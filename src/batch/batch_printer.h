@@ -45,9 +45,6 @@ class BatchPrinter : public Printer {
     [[nodiscard]] QString current() const override { return chosen_->current(); }
     void choose(const QString& name) override;
 
-    void setPaperSize(int size) override { chosen_->setPaperSize(size); }
-    void setOrientation(int orientation) override { chosen_->setOrientation(orientation); }
-    void setScaleMode(int mode) override { chosen_->setScaleMode(mode); }
     void setFontName(const QString& name) override { chosen_->setFontName(name); }
     [[nodiscard]] QString fontName() const override { return chosen_->fontName(); }
     void setBold(bool on) override { chosen_->setBold(on); }

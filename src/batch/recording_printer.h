@@ -20,10 +20,6 @@ class RecordingPrinter : public Printer {
     [[nodiscard]] QString current() const override { return QStringLiteral("Registro"); }
     void choose(const QString& /*name*/) override {}
 
-    void setPaperSize(int /*size*/) override {}          // always A4
-    void setOrientation(int /*orientation*/) override {} // always portrait
-    void setScaleMode(int /*mode*/) override {}          // always mm
-
     void setFontName(const QString& /*name*/) override {} // it has one alone
     [[nodiscard]] QString fontName() const override { return font_.name; }
     void setBold(bool on) override { font_.bold = on; }

@@ -1,7 +1,5 @@
 #include "desktop/program.h"
 
-#include <utility>
-
 #include <QApplication>
 #include <QDialog>
 #include <QMessageBox>

@@ -1,7 +1,5 @@
 #include "itinerary/kept_legs_screen.h"
 
-#include <algorithm>
-
 #include "core/text.h"
 #include "schedule/totals_screen.h"
 

@@ -31,10 +31,6 @@ class PagePrinter : public Printer {
   public:
     PagePrinter();
 
-    void setPaperSize(int /*size*/) override {}          // always A4
-    void setOrientation(int /*orientation*/) override {} // always upright
-    void setScaleMode(int /*mode*/) override {}          // always mm
-
     void setFontName(const QString& name) override;
     [[nodiscard]] QString fontName() const override { return fonts_.typefaceFor(wantedFont_).name; }
     void setBold(bool on) override { font_.bold = on; }

@@ -1,6 +1,5 @@
 #include "schedule/totals.h"
 
-#include <algorithm>
 #include <utility>
 
 #include <QStringList>

@@ -1,6 +1,9 @@
 #include "scribolo/sheet.h"
 
 #include <algorithm>
+
+#include <QList>
+
 namespace vanzer::scribolo {
 
 namespace {

@@ -34,10 +34,11 @@ class Printer {
     /// Does nothing if there is no such printer. A document that is still open is ended first.
     virtual void choose(const QString& name) = 0;
 
-    /// Paper size 9 is A4, orientation 1 portrait, scale mode 6 millimetres: what every page of the reports uses.
-    virtual void setPaperSize(int size) = 0;
-    virtual void setOrientation(int orientation) = 0;
-    virtual void setScaleMode(int mode) = 0;
+    /// Paper size 9 is A4, orientation 1 portrait, scale mode 6 millimetres: what every page of the reports uses. A
+    /// printer that knows no others has nothing to do.
+    virtual void setPaperSize(int /*size*/) {}
+    virtual void setOrientation(int /*orientation*/) {}
+    virtual void setScaleMode(int /*mode*/) {}
 
     virtual void setFontName(const QString& name) = 0;
     /// The font really chosen: another than the one asked for if the printer lacks that.
