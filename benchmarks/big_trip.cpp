@@ -6,8 +6,8 @@
 
 #include "core/place_name.h"
 #include "core/text.h"
-#include "itinerary/leg_table_screen.h"
 #include "places.h"
+#include "trip/leg_table_screen.h"
 #include "window/command.h"
 
 namespace vanzer::bench {

@@ -6,10 +6,10 @@
 #include <QFile>
 
 #include "big_trip.h"
-#include "itinerary/leg_table_screen.h"
 #include "measure.h"
 #include "paper.h"
 #include "places.h"
+#include "trip/leg_table_screen.h"
 #include "window/command.h"
 
 namespace vanzer::bench {

@@ -7,8 +7,8 @@
 
 #include "big_trip.h"
 #include "guide/entries.h"
-#include "itinerary/leg_table_screen.h"
 #include "measure.h"
+#include "trip/leg_table_screen.h"
 #include "window/command.h"
 
 namespace vanzer::bench {

@@ -71,7 +71,7 @@ void startOfWindow(benchmark::State& state) {
              .against = "the same and a Qt window with as many of Qt's own widgets",
              .atMost = 1.4,
              .inProcess = false},
-            program("vanzer_window", {folder.path()}), program("least_window", {folder.path()}));
+            program("vanzer_in_window", {folder.path()}), program("least_window", {folder.path()}));
 }
 BENCHMARK(startOfWindow)->Iterations(1)->UseManualTime();
 

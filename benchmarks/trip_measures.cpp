@@ -4,10 +4,11 @@
 
 #include "bare_archive.h"
 #include "big_trip.h"
-#include "itinerary/leg_table_screen.h"
 #include "measure.h"
 #include "schedule/calculation_screen.h"
 #include "schedule/preparation_screen.h"
+#include "trip/leg_table_screen.h"
+#include "trip/trip_numbers.h"
 #include "window/command.h"
 
 namespace vanzer::bench {
@@ -74,7 +75,7 @@ void calculation(benchmark::State& state) {
     const auto ours = [&] {
         both.trip.wantTheImpossible();
         const double taken = seconds([&form] { form.cmdCalcola.click(); });
-        if (form.stato.NumeroTest != tests)
+        if (form.viaggio->NumeroTest != tests)
             state.SkipWithError("the search found an end");
         form.cmdCalcola.click(); // the legs again
         return taken;

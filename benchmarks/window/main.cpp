@@ -13,6 +13,8 @@
 
 #include "../big_trip.h"
 #include "desktop/program.h"
+#include "schedule/calculation_screen.h"
+#include "window/command.h"
 
 namespace {
 
@@ -31,13 +33,12 @@ double median(std::vector<double> times) {
 }
 
 /// Milliseconds of one calculation with all its tests; no box at its end.
-template<typename Press> double calculation(Form& form, const Press& press) {
+template<typename Carry> double calculation(Form& form, const Carry& carry) {
     form.cmbGiorni.setText(QStringLiteral("997"));
-    form.colonne(0) = QStringLiteral("Stampa");
     const double begin = now();
-    press();
+    carry([&form] { comando(form, [&form] { CalcolaViandoria(form, ScopoCalcolo::Stampa); }); });
     const double taken = now() - begin;
-    press(); // the legs back
+    carry([&form] { form.cmdCalcola.click(); }); // the legs back
     return taken;
 }
 
@@ -84,7 +85,7 @@ int main(int argc, char** argv) {
     std::vector<double> waits;
     for (int i = 0; i < turns; ++i) {
         trip.reopen();
-        without.push_back(calculation(trip.form(), [&trip] { trip.form().cmdCalcola.click(); }));
+        without.push_back(calculation(trip.form(), [](const auto& command) { command(); }));
         trip.close();
 
         desktop::SystemClock clock;
@@ -95,8 +96,8 @@ int main(int argc, char** argv) {
         drawn(program.window());
         Gaps gaps(program.form().cmdEsce);
         gaps.begin();
-        with.push_back(calculation(program.form(), [&program, &gaps] {
-            program.window().binder().input([&program] { program.form().cmdCalcola.click(); });
+        with.push_back(calculation(program.form(), [&program, &gaps](const auto& command) {
+            program.window().binder().input(command);
             gaps.look();
         }));
         waits.push_back(gaps.longest());

@@ -176,8 +176,8 @@ QJsonObject Interpreter::now(const QString& rest) {
 }
 
 QJsonObject Interpreter::vars(const QString& /*rest*/) {
-    const StatoViaggio* const state = session_.state();
-    return state == nullptr ? noWindow() : variables(*state);
+    const Form* const form = session_.last();
+    return form == nullptr ? noWindow() : variables(*form);
 }
 
 QJsonObject Interpreter::table(const QString& rest) {

@@ -16,8 +16,8 @@
 #include "batch/interpreter.h"
 #include "batch/usage.h"
 #include "core/disk.h"
+#include "startup/startup.h"
 #include "toolkit/end_signals.h"
-#include "window/startup.h"
 
 namespace {
 

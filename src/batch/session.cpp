@@ -10,9 +10,9 @@
 #include "batch/state_view.h"
 #include "core/code_page.h"
 #include "core/disk.h"
+#include "startup/startup.h"
+#include "startup/ways_out.h"
 #include "store/outside_files.h"
-#include "window/startup.h"
-#include "window/ways_out.h"
 
 namespace vanzer::batch {
 

@@ -30,8 +30,8 @@ class Session {
     /// Lets go of window and archive. The same holds.
     void close() { form_.reset(); }
 
-    /// The working state of the last start; null before the first one.
-    [[nodiscard]] const StatoViaggio* state() const { return form_ ? &form_->stato : nullptr; }
+    /// The window of the last start, which may have been left; null before the first one.
+    [[nodiscard]] const Form* last() const { return form_.get(); }
     /// Null before the first start and after the window was left.
     [[nodiscard]] Form* window() const { return form_ && !form_->chiusa ? form_.get() : nullptr; }
 

@@ -3,6 +3,7 @@
 #include <QJsonArray>
 
 #include "core/text.h"
+#include "trip/trip_numbers.h"
 
 namespace vanzer::batch {
 
@@ -68,22 +69,50 @@ struct CellValue {
 
 #define VANZER_VARIABLE(name)                                                                                          \
     { QStringLiteral(#name), value(s.name) }
-QJsonObject variables(const StatoViaggio& s) {
+#define VANZER_NUMBER(name)                                                                                            \
+    { QStringLiteral(#name), value(trip.name) }
+QJsonObject variables(const Form& form) {
+    const StatoFinestra& s = form.stato;
+    const NumeriViaggio& trip = *form.viaggio;
     return {
-        VANZER_VARIABLE(CodiceMeta),       VANZER_VARIABLE(OraColazione),       VANZER_VARIABLE(OraPranzo),
-        VANZER_VARIABLE(OraCena),          VANZER_VARIABLE(OraNotte),           VANZER_VARIABLE(DurataPranzo),
-        VANZER_VARIABLE(DurataCena),       VANZER_VARIABLE(InizioVisita),       VANZER_VARIABLE(FineVisita),
-        VANZER_VARIABLE(OreTraghetti),     VANZER_VARIABLE(OreGuidaGiorno),     VANZER_VARIABLE(OreVisitaGiorno),
-        VANZER_VARIABLE(RiposoMinuti),     VANZER_VARIABLE(RiposoOre),          VANZER_VARIABLE(RiposoGiorno),
-        VANZER_VARIABLE(RiposoDopoGiorni), VANZER_VARIABLE(GiornoInizio),       VANZER_VARIABLE(MeseInizio),
-        VANZER_VARIABLE(AnnoInizio),       VANZER_VARIABLE(GiulianoInizio),     VANZER_VARIABLE(GiulianoCorrente),
-        VANZER_VARIABLE(OraInizioViaggio), VANZER_VARIABLE(GiorniDesiderati),   VANZER_VARIABLE(NumeroTraghetti),
-        VANZER_VARIABLE(PulsantiMeta),     VANZER_VARIABLE(PulsantiItinerario), VANZER_VARIABLE(ViandoriaCalcolata),
-        VANZER_VARIABLE(ModoRicerca),      VANZER_VARIABLE(ModoGuida),          VANZER_VARIABLE(Risposta),
-        VANZER_VARIABLE(NumeroTappe),      VANZER_VARIABLE(RigaCorrente),       VANZER_VARIABLE(Coefficiente),
-        VANZER_VARIABLE(NumeroTest),       VANZER_VARIABLE(GiorniCalcolati),
+        VANZER_VARIABLE(CodiceMeta),
+        VANZER_NUMBER(OraColazione),
+        VANZER_NUMBER(OraPranzo),
+        VANZER_NUMBER(OraCena),
+        VANZER_NUMBER(OraNotte),
+        VANZER_NUMBER(DurataPranzo),
+        VANZER_NUMBER(DurataCena),
+        VANZER_NUMBER(InizioVisita),
+        VANZER_NUMBER(FineVisita),
+        VANZER_NUMBER(OreTraghetti),
+        VANZER_NUMBER(OreGuidaGiorno),
+        VANZER_NUMBER(OreVisitaGiorno),
+        VANZER_NUMBER(RiposoMinuti),
+        VANZER_NUMBER(RiposoOre),
+        VANZER_NUMBER(RiposoGiorno),
+        VANZER_NUMBER(RiposoDopoGiorni),
+        VANZER_NUMBER(GiornoInizio),
+        VANZER_NUMBER(MeseInizio),
+        VANZER_NUMBER(AnnoInizio),
+        VANZER_NUMBER(GiulianoInizio),
+        VANZER_NUMBER(GiulianoCorrente),
+        VANZER_NUMBER(OraInizioViaggio),
+        VANZER_NUMBER(GiorniDesiderati),
+        VANZER_NUMBER(NumeroTraghetti),
+        VANZER_VARIABLE(PulsantiMeta),
+        VANZER_VARIABLE(PulsantiItinerario),
+        VANZER_VARIABLE(ViandoriaCalcolata),
+        VANZER_VARIABLE(ModoRicerca),
+        VANZER_VARIABLE(ModoGuida),
+        VANZER_VARIABLE(Risposta),
+        VANZER_VARIABLE(NumeroTappe),
+        VANZER_VARIABLE(RigaCorrente),
+        VANZER_NUMBER(Coefficiente),
+        VANZER_NUMBER(NumeroTest),
+        VANZER_NUMBER(GiorniCalcolati),
     };
 }
+#undef VANZER_NUMBER
 #undef VANZER_VARIABLE
 
 QJsonObject controlState(const Control& control) {

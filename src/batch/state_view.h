@@ -3,14 +3,14 @@
 
 #include <QJsonObject>
 
-#include "core/trip_state.h"
 #include "store/archive.h"
 #include "toolkit/grid.h"
+#include "window/form.h"
 
 namespace vanzer::batch {
 
 /// The working state, each variable by its own name.
-[[nodiscard]] QJsonObject variables(const StatoViaggio& state);
+[[nodiscard]] QJsonObject variables(const Form& form);
 /// What every control has and what its kind has.
 [[nodiscard]] QJsonObject controlState(const Control& control);
 /// The cells, without empty ones at the end of a row and empty rows at the end.

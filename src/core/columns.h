@@ -7,8 +7,7 @@
 
 namespace vanzer {
 
-/// 101 texts. Slot 0 carries a word from one command to the next ("Ricalcola", "Stampa") and is never touched by the
-/// splitting; the columns are 1 to `numero`.
+/// The columns are 1 to `numero`; what lies behind is empty.
 struct Colonne {
     static constexpr int massimo = 100;
 

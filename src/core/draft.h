@@ -11,11 +11,13 @@
 #include <QString>
 #include <QStringList>
 
+#include "core/leg_columns.h"
+
 namespace vanzer {
 
 /// Of a row of the leg table what is typed and loaded, and not worked out: place, road, kilometres, road type, stop,
 /// the guide's stops.
-inline constexpr std::array<int, 6> colonneTenute{1, 2, 3, 4, 7, 8};
+inline constexpr std::array<int, 6> colonneTenute{tappaLuogo, tappaStrada, tappaKm, tappaTipo, tappaSosta, tappaGuida};
 using TappaTenuta = std::array<QString, colonneTenute.size()>;
 using TappeTenute = std::vector<TappaTenuta>;
 

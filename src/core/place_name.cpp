@@ -9,6 +9,19 @@ QString taglia(const QString& name, QChar mark) {
     return at < 0 ? name : Trim(name.left(at));
 }
 
+LuogoConMarche separaMarche(const QString& cell) {
+    LuogoConMarche place{Trim(cell)};
+    const auto cut = [&place](QStringView mark) {
+        const int at = posizione(place.nome, mark);
+        if (at > 0)
+            place.nome = Trim(Left(place.nome, at - 1));
+        return at > 0;
+    };
+    place.start = cut(marcaStart);
+    place.end = cut(marcaEnd);
+    return place;
+}
+
 QString PulisceNomeLocalita(const QString& name) {
     QString s = taglia(name, u'(');
     if (iniziaCon(s, u"near "))

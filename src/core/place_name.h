@@ -8,6 +8,14 @@ namespace vanzer {
 inline constexpr QStringView marcaStart = u"[Start]";
 inline constexpr QStringView marcaEnd = u"[End]";
 
+/// The place of a row taken apart: its name and the marks of the stretch.
+struct LuogoConMarche {
+    QString nome;
+    bool start = false;
+    bool end = false;
+};
+[[nodiscard]] LuogoConMarche separaMarche(const QString& cell);
+
 /// What lies before the first `mark`, trimmed; the whole text if it doesn't hold it.
 [[nodiscard]] QString taglia(const QString& name, QChar mark);
 

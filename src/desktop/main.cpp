@@ -14,8 +14,8 @@
 #include "desktop/program.h"
 #include "desktop/program_directory.h"
 #include "desktop/settings_file.h"
+#include "startup/startup.h"
 #include "toolkit/end_signals.h"
-#include "window/startup.h"
 
 namespace {
 

@@ -15,10 +15,10 @@
 #include "desktop/frames.h"
 #include "desktop/spoken.h"
 #include "desktop/time_line_view.h"
+#include "startup/enter_key.h"
+#include "startup/ways_out.h"
 #include "ui_main_window.h"
-#include "window/enter_key.h"
-#include "window/modes.h"
-#include "window/ways_out.h"
+#include "window/progress.h"
 
 namespace vanzer::desktop {
 

@@ -5,8 +5,8 @@
 #include <QMessageBox>
 #include <QSettings>
 
-#include "window/startup.h"
-#include "window/ways_out.h"
+#include "startup/startup.h"
+#include "startup/ways_out.h"
 
 namespace vanzer::desktop {
 

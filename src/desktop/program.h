@@ -9,8 +9,8 @@
 #include "desktop/desktop_printer.h"
 #include "desktop/input_gate.h"
 #include "desktop/main_window.h"
+#include "startup/unsaved_work.h"
 #include "toolkit/program_starter.h"
-#include "window/unsaved_work.h"
 
 namespace vanzer::desktop {
 

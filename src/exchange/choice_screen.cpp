@@ -8,10 +8,12 @@
 #include "core/text_file.h"
 #include "exchange/chosen_file_screen.h"
 #include "exchange/iei_file.h"
+#include "trip/destination_screen.h"
+#include "window/button_codes.h"
 #include "window/changes.h"
-#include "window/destination_screen.h"
 #include "window/grid_layouts.h"
 #include "window/modes.h"
+#include "window/progress.h"
 
 namespace vanzer {
 
@@ -104,7 +106,7 @@ class ElencoDelFile {
     /// False when the user gave up.
     bool legge() {
         RigheTesto lines(leggeFileScambio(form_).value_or(QByteArray()));
-        ScambioInCorso running(form_);
+        LavoroInCorso running(form_);
         form_.stato.PercentualeTotale = static_cast<double>(lines.lunghezza());
         form_.lblElaborazione.setCaption(QStringLiteral("Esportazione mète"));
         double done = 0;
@@ -191,7 +193,7 @@ bool importaScelto(const Form& form) {
 void PreparaExportImport(Form& form) {
     AzzeraSchermo(form);
     form.campiDaRicordare = true;
-    form.frmframe(22).setVisible(true);
+    form.frmframe(riquadroScambio).setVisible(true);
     form.cmdExport.setEnabled(false);
     for (Grid* const list : form.mfgImExp) {
         list->clearCells();
@@ -274,25 +276,6 @@ QStringList codiciDellaLista(const Grid& list) {
     return codes;
 }
 
-ScambioInCorso::ScambioInCorso(Form& form) : form_(form) {
-    form_.stato.ScambioInCorso = true;
-    form_.stato.InterrompiCalcolo = false;
-    for (const int open : {1, 22})
-        form_.frmframe(open).setEnabled(false);
-}
-
-ScambioInCorso::~ScambioInCorso() {
-    form_.stato.ScambioInCorso = false;
-    for (const int open : {1, 22})
-        form_.frmframe(open).setEnabled(true);
-}
-
-bool ScambioInCorso::avanza(double done) {
-    form_.stato.PercentualeCorrente = done;
-    AggiornaPercentuale(form_);
-    return !form_.stato.InterrompiCalcolo;
-}
-
 void ElencaFileScambio(Form& form, const QString& path) {
     PreparaExportImport(form);
     captionsOfImport(form);
@@ -302,8 +285,8 @@ void ElencaFileScambio(Form& form, const QString& path) {
 void cmdExport_Click(Form& form) {
     if (!lasciaModifiche(form))
         return;
-    form.frmframe(22).setVisible(true);
-    AbilitaPulsantiMeta(form, QStringLiteral("zz"));
+    form.frmframe(riquadroScambio).setVisible(true);
+    AbilitaPulsantiMeta(form, pulsanti::nessuno);
 }
 
 void cmdImportExport_Click(Form& form, int n) {

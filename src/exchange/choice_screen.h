@@ -33,19 +33,4 @@ void AggiornaPulsantiImportExport(Form& form);
 /// The codes of a list's rows that have one.
 [[nodiscard]] QStringList codiciDellaLista(const Grid& list);
 
-/// An import, export or conversion that is running: the frames that may be open are off, and the user can give it up.
-class ScambioInCorso {
-  public:
-    explicit ScambioInCorso(Form& form);
-    ~ScambioInCorso();
-    ScambioInCorso(const ScambioInCorso&) = delete;
-    ScambioInCorso& operator=(const ScambioInCorso&) = delete;
-
-    /// Progress at `done` of PercentualeTotale; false when the user has given up, or the window was left.
-    [[nodiscard]] bool avanza(double done);
-
-  private:
-    Form& form_;
-};
-
 } // namespace vanzer

@@ -5,13 +5,13 @@
 #include <utility>
 
 #include "core/text.h"
-#include "itinerary/leg_table.h"
+#include "trip/leg_table.h"
 
 namespace vanzer {
 
 namespace {
 
-const QString& text(const store::RecordVecchio& record, const store::FormatoVecchio& format, QStringView field) {
+const QString& text(const RecordVecchio& record, const FormatoVecchio& format, QStringView field) {
     return record[format.campo(field)];
 }
 
@@ -33,17 +33,17 @@ constexpr std::array<std::pair<QStringView, QStringView>, 8> defaults{{{u"OraCol
 
 } // namespace
 
-bool metaDaConvertire(const store::RecordVecchio& record) {
-    const QString& place = text(record, store::vecchieMete(), u"Locali");
-    return Val(text(record, store::vecchieMete(), u"Codice")) > 0 && !place.startsWith(u"..") && !Trim(place).isEmpty();
+bool metaDaConvertire(const RecordVecchio& record) {
+    const QString& place = text(record, vecchieMete(), u"Locali");
+    return Val(text(record, vecchieMete(), u"Codice")) > 0 && !place.startsWith(u"..") && !Trim(place).isEmpty();
 }
 
-QString codiceConvertito(const store::RecordVecchio& record) {
-    return Zero(Val(text(record, store::vecchieMete(), u"Codice")), 6);
+QString codiceConvertito(const RecordVecchio& record) {
+    return Zero(Val(text(record, vecchieMete(), u"Codice")), 6);
 }
 
-QString nomeConvertito(const store::RecordVecchio& record) {
-    return text(record, store::vecchieMete(), u"Locali");
+QString nomeConvertito(const RecordVecchio& record) {
+    return text(record, vecchieMete(), u"Locali");
 }
 
 CodiciConvertiti::CodiciConvertiti(const QStringList& stored, const QStringList& old) : before_(stored) {
@@ -97,8 +97,8 @@ QString CodiciConvertiti::perTappe(const QString& code) const {
     return code;
 }
 
-std::optional<TappaConvertita> tappaConvertita(const store::RecordVecchio& record) {
-    const store::FormatoVecchio& format = store::vecchieTappe();
+std::optional<TappaConvertita> tappaConvertita(const RecordVecchio& record) {
+    const FormatoVecchio& format = vecchieTappe();
     constexpr qsizetype longestRoad = 64;
     const QString& whole = text(record, format, u"Locali");
     const qsizetype star = whole.indexOf(u'*');
@@ -115,15 +115,15 @@ std::optional<TappaConvertita> tappaConvertita(const store::RecordVecchio& recor
                            text(record, format, u"FlagED")};
 }
 
-VoceConvertita voceConvertita(const store::RecordVecchio& record) {
-    const store::FormatoVecchio& format = store::vecchiaGuida();
+VoceConvertita voceConvertita(const RecordVecchio& record) {
+    const FormatoVecchio& format = vecchiaGuida();
     const QString time = AntStr(Trim(text(record, format, u"TempoS")), 4, QStringLiteral("0"));
     return {text(record, format, u"Locali"), text(record, format, u"Descri"),
             AntStr(Trim(text(record, format, u"TipoDa")), 2, QStringLiteral("0")),
             Left(time, 2) + u':' + Right(time, 2), text(record, format, u"FlagVi")};
 }
 
-TappeVecchie tappeDaLeggere(const store::FileVecchio& file) {
+TappeVecchie tappeDaLeggere(const FileVecchio& file) {
     const int present = file.numero() - 1;
     if (present < 0)
         return {};
@@ -131,8 +131,8 @@ TappeVecchie tappeDaLeggere(const store::FileVecchio& file) {
     double told = 0;
     bool readable = head.has_value();
     if (head) {
-        told = Int(Val(text(*head, store::vecchieTappe(), u"Locali")));
-        readable = told >= 0 && told == Int(Val(text(*head, store::vecchieTappe(), u"Chilom")));
+        told = Int(Val(text(*head, vecchieTappe(), u"Locali")));
+        readable = told >= 0 && told == Int(Val(text(*head, vecchieTappe(), u"Chilom")));
     }
     const double most = Minore(present, massimoTratti);
     const int legs = readable ? static_cast<int>(Minore(told, most)) : 0;

@@ -8,15 +8,15 @@
 
 #include <QStringList>
 
-#include "store/old_files.h"
+#include "core/old_record.h"
 
 namespace vanzer {
 
 /// False for a destination that had been deleted: no code, no name, or a name that begins with "..".
-[[nodiscard]] bool metaDaConvertire(const store::RecordVecchio& record);
+[[nodiscard]] bool metaDaConvertire(const RecordVecchio& record);
 /// The code of a converted destination, six digits.
-[[nodiscard]] QString codiceConvertito(const store::RecordVecchio& record);
-[[nodiscard]] QString nomeConvertito(const store::RecordVecchio& record);
+[[nodiscard]] QString codiceConvertito(const RecordVecchio& record);
+[[nodiscard]] QString nomeConvertito(const RecordVecchio& record);
 
 /// Destinations whose code belongs to another one here come in under a free code, and their itinerary file with them.
 ///
@@ -65,7 +65,7 @@ struct TappaConvertita {
     QString FineGiorno; ///< "1" or "0"
 };
 /// Nothing for a record whose place is blank or doesn't begin with a letter.
-[[nodiscard]] std::optional<TappaConvertita> tappaConvertita(const store::RecordVecchio& record);
+[[nodiscard]] std::optional<TappaConvertita> tappaConvertita(const RecordVecchio& record);
 
 /// An entry of the guide.
 struct VoceConvertita {
@@ -75,7 +75,7 @@ struct VoceConvertita {
     QString TempoSosta;  ///< HH:mm
     QString FlagVisto;
 };
-[[nodiscard]] VoceConvertita voceConvertita(const store::RecordVecchio& record);
+[[nodiscard]] VoceConvertita voceConvertita(const RecordVecchio& record);
 
 /// Which legs of an old itinerary are read, and how many of its records are left behind.
 struct TappeVecchie {
@@ -84,7 +84,7 @@ struct TappeVecchie {
 };
 /// The head's count holds if both its texts agree on it, else the itinerary counts as empty. Legs behind the count are
 /// left behind; a head that is damaged, or tells more legs than there are, counts as one left behind itself.
-[[nodiscard]] TappeVecchie tappeDaLeggere(const store::FileVecchio& file);
+[[nodiscard]] TappeVecchie tappeDaLeggere(const FileVecchio& file);
 
 /// The value of a destination's field after the adjustment: where a text of two or four characters amounts to 0 the
 /// default of that field, if it has one.

@@ -12,12 +12,15 @@
 #include "exchange/choice_screen.h"
 #include "exchange/conversion.h"
 #include "guide/categories.h"
-#include "itinerary/leg_table_screen.h"
+#include "store/old_files.h"
 #include "store/outside_files.h"
+#include "trip/destination.h"
+#include "trip/destination_screen.h"
+#include "trip/leg_table_screen.h"
+#include "window/button_codes.h"
 #include "window/changes.h"
-#include "window/destination.h"
-#include "window/destination_screen.h"
 #include "window/modes.h"
+#include "window/progress.h"
 
 namespace vanzer {
 
@@ -38,10 +41,10 @@ struct Interruzione {
 
 class Conversione {
   public:
-    explicit Conversione(Form& form) : form_(form), running_(form) { AbilitaPulsantiMeta(form, QStringLiteral("Es")); }
+    explicit Conversione(Form& form) : form_(form), running_(form) { AbilitaPulsantiMeta(form, pulsanti::soloStop); }
 
     void mete() {
-        const OldFile file = openFile(store::vecchieMete(), store::fileVecchieMete.toString());
+        const OldFile file = openFile(vecchieMete(), store::fileVecchieMete.toString());
         giveCodes(file);
         const int left = readRecords(QStringLiteral("Conversione file mète"), file.records, [this](const auto& record) {
             if (metaDaConvertire(record))
@@ -67,7 +70,7 @@ class Conversione {
     /// The guide's file goes last: with it the categories and the adjustment are stored. A file that couldn't be taken
     /// away comes in once more, under the same codes.
     void guidaEAdeguamento() {
-        const OldFile file = openFile(store::vecchiaGuida(), store::fileVecchiaGuida.toString());
+        const OldFile file = openFile(vecchiaGuida(), store::fileVecchiaGuida.toString());
         const int left = readRecords(QStringLiteral("Conversione file guida città"), file.records,
                                      [this](const auto& record) { return writeEntry(voceConvertita(record)); });
         rifaCategorie();
@@ -103,10 +106,10 @@ class Conversione {
   private:
     struct OldFile {
         QString path; ///< empty: there is none
-        store::FileVecchio records;
+        FileVecchio records;
     };
 
-    OldFile openFile(const store::FormatoVecchio& format, const QString& name) {
+    OldFile openFile(const FormatoVecchio& format, const QString& name) {
         const QString path = store::trovaVecchioFile(form_.archivio.PercorsoProgramma, name);
         if (path.isEmpty())
             return {{}, {format, {}}};
@@ -157,7 +160,7 @@ class Conversione {
     }
 
     /// Hands record after record on; those that are damaged, or that `take` refuses, are counted.
-    template<typename Take> int readRecords(const QString& what, const store::FileVecchio& records, Take take) {
+    template<typename Take> int readRecords(const QString& what, const FileVecchio& records, Take take) {
         begin(what, records.numero());
         int left = 0;
         for (int n = 1; n <= records.numero(); ++n) {
@@ -217,7 +220,7 @@ class Conversione {
     }
 
     /// Adjusted at once: a conversion that is broken off leaves no destination without its times.
-    void writeDestination(const store::RecordVecchio& record) {
+    void writeDestination(const RecordVecchio& record) {
         const QString old = codiceConvertito(record);
         const QString name = nomeConvertito(record);
         const auto holder = nameOf(old);
@@ -234,7 +237,7 @@ class Conversione {
     }
 
     void itinerario(const QString& code) {
-        const OldFile file = openFile(store::vecchieTappe(), store::fileVecchieTappe(codes_->perTappe(code)));
+        const OldFile file = openFile(vecchieTappe(), store::fileVecchieTappe(codes_->perTappe(code)));
         TappeVecchie legs = tappeDaLeggere(file.records);
         for (int i = 2; i <= legs.tappe + 1; ++i) {
             const auto record = file.records.record(i);
@@ -320,7 +323,7 @@ class Conversione {
     }
 
     Form& form_;
-    ScambioInCorso running_;
+    LavoroInCorso running_;
     std::optional<CodiciConvertiti> codes_;
     double left_ = 0;
     QStringList kept_;
@@ -380,7 +383,7 @@ void cmdConverte_Click(Form& form) {
     }
     RicercaMetaCorrente(form);
     RicaricaItinerario(form);
-    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    AbilitaPulsantiMeta(form, pulsanti::tutti);
 }
 
 } // namespace vanzer

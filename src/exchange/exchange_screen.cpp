@@ -9,10 +9,11 @@
 #include "exchange/export_screen.h"
 #include "exchange/import_screen.h"
 #include "store/outside_files.h"
+#include "trip/destination_screen.h"
 #include "window/changes.h"
 #include "window/confirmation.h"
-#include "window/destination_screen.h"
 #include "window/modes.h"
+#include "window/progress.h"
 
 namespace vanzer {
 
@@ -46,8 +47,8 @@ class ElenchiSpenti {
 
 void EsciExportImport(Form& form) {
     form.mfgTab.setVisible(true);
-    form.frmframe(28).setVisible(true);
-    form.frmframe(22).setVisible(false);
+    form.frmframe(riquadroStato).setVisible(true);
+    form.frmframe(riquadroScambio).setVisible(false);
     form.cmdExport.setEnabled(true);
 }
 
@@ -61,7 +62,7 @@ void reloadMainScreen(Form& form) {
 /// What was chosen comes in.
 EsitoImport importChosen(Form& form) {
     AttivaFormMeta(form, true);
-    form.frmframe(22).setVisible(false);
+    form.frmframe(riquadroScambio).setVisible(false);
     EsitoImport result = leggeFileImport(form);
     AzzeraPercentuale(form);
     EsciExportImport(form);
@@ -120,7 +121,7 @@ void exportDestinations(Form& form) {
 } // namespace
 
 EsitoImport ImportaTutto(Form& form, const QString& path) {
-    form.frmframe(22).setVisible(true);
+    form.frmframe(riquadroScambio).setVisible(true);
     ElencaFileScambio(form, path);
     cmdTutto_Click(form, 1);
     EsitoImport result;
@@ -136,7 +137,7 @@ void cmdImExp_Click(Form& form, int n) {
     if (n != 0) {
         if (!lasciaCampi(form))
             return;
-        form.frmframe(22).setVisible(false);
+        form.frmframe(riquadroScambio).setVisible(false);
         reloadMainScreen(form);
         return;
     }

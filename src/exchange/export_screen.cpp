@@ -6,6 +6,7 @@
 #include "exchange/chosen_file_screen.h"
 #include "exchange/iei_file.h"
 #include "store/outside_files.h"
+#include "window/button_codes.h"
 #include "window/modes.h"
 
 namespace vanzer {
@@ -52,7 +53,7 @@ class Esportazione {
     bool destinations() {
         head(store::MeteVanzer);
         begins(QStringLiteral("Esportazione mète"), static_cast<double>(codes_.size()));
-        AbilitaPulsantiMeta(form_, QStringLiteral("Es"));
+        AbilitaPulsantiMeta(form_, pulsanti::soloStop);
         for (qsizetype i = 0; i < codes_.size(); ++i) {
             if (!running_.avanza(static_cast<double>(i) + 1))
                 return false;
@@ -89,7 +90,7 @@ class Esportazione {
     }
 
     Form& form_;
-    ScambioInCorso running_;
+    LavoroInCorso running_;
     QStringList codes_;
     ScrittoreIei file_;
 };

@@ -4,8 +4,8 @@
 
 #include "exchange/choice_screen.h"
 #include "exchange/exchange_screen.h"
+#include "trip/destination_screen.h"
 #include "window/changes.h"
-#include "window/destination_screen.h"
 
 /// Resources of a library are found once this has run.
 static void loadSamples() {
@@ -20,7 +20,7 @@ const QString sampleFolder = QStringLiteral(":/esempi");
 
 void offer(Form& form, const QString& path) {
     cmdExport_Click(form);
-    if (!form.frmframe(22).visible())
+    if (!form.frmframe(riquadroScambio).visible())
         return;
     form.frmPrimiPassi.setVisible(false);
     ElencaFileScambio(form, path);

@@ -7,6 +7,7 @@
 #include "exchange/choice_screen.h"
 #include "exchange/chosen_file_screen.h"
 #include "exchange/iei_import.h"
+#include "window/button_codes.h"
 #include "window/modes.h"
 
 namespace vanzer {
@@ -124,7 +125,7 @@ class Lettura {
     QString legge() {
         form_.stato.PercentualeTotale = static_cast<double>(lines_.lunghezza());
         form_.lblElaborazione.setCaption(QStringLiteral("Importazione mète"));
-        AbilitaPulsantiMeta(form_, QStringLiteral("Es"));
+        AbilitaPulsantiMeta(form_, pulsanti::soloStop);
         double done = 0;
         while (lines_.prossima()) {
             done += static_cast<double>(lines_.riga().size());
@@ -146,7 +147,7 @@ class Lettura {
     ArchivioAperto archive_;
     Importazione import_;
     RigheTesto lines_;
-    ScambioInCorso running_;
+    LavoroInCorso running_;
 };
 
 } // namespace

@@ -1,22 +1,22 @@
 #include "exchange/route_screen.h"
 
+#include "core/leg_columns.h"
 #include "core/text.h"
 #include "exchange/chosen_file_screen.h"
 #include "exchange/itn_filter.h"
 #include "exchange/route_package.h"
 #include "itinerary/leg_editor_screen.h"
-#include "schedule/totals_screen.h"
 #include "store/schema.h"
+#include "trip/totals_screen.h"
+#include "window/button_codes.h"
 #include "window/modes.h"
 
 namespace vanzer {
 
 namespace {
 
-constexpr int colonnaSosta = 7;
-
 bool emptyItinerary(const Form& form) {
-    return form.mfgTab.cell(1, 1).isEmpty();
+    return form.mfgTab.cell(1, tappaLuogo).isEmpty();
 }
 
 /// Asks for the file of an exchange; false when the user wants none.
@@ -30,14 +30,14 @@ void SalvaRigaItinerarioImportato(Form& form, const TappaImportata& leg) {
     const int r = form.stato.RigaCorrente++;
     if (grid.rows() < r + 2)
         grid.setRows(r + 5);
-    grid.setCell(r, 0, QString::number(r));
-    grid.setCell(r, 1, leg.luogo);
-    grid.setCell(r, 2, leg.strade);
-    grid.setCell(r, 3, QString::number(leg.km));
-    grid.setCell(r, 4, leg.autostrada ? QStringLiteral("A") : QStringLiteral("P"));
-    grid.setCell(r, 5, QString::number(leg.kmProgressivo));
+    grid.setCell(r, tappaNumero, QString::number(r));
+    grid.setCell(r, tappaLuogo, leg.luogo);
+    grid.setCell(r, tappaStrada, leg.strade);
+    grid.setCell(r, tappaKm, QString::number(leg.km));
+    grid.setCell(r, tappaTipo, leg.autostrada ? QStringLiteral("A") : QStringLiteral("P"));
+    grid.setCell(r, tappaKmProgressivi, QString::number(leg.kmProgressivo));
     if (leg.traghetto)
-        grid.setCell(r, colonnaSosta, QStringLiteral("00:") + form.cmbOra(8).text() + u':' + form.cmbMin(8).text());
+        grid.setCell(r, tappaSosta, QStringLiteral("00:") + form.cmbOra(8).text() + u':' + form.cmbMin(8).text());
 }
 
 void writeLegs(Form& form, const PercorsoImportato& route) {
@@ -52,7 +52,7 @@ std::vector<RigaPercorso> readLegs(const Grid& grid) {
     std::vector<RigaPercorso> legs;
     legs.reserve(static_cast<std::size_t>(grid.rows()));
     for (int r = 1; r < grid.rows(); ++r)
-        legs.push_back({grid.cell(r, 1), grid.cell(r, 2), chilometri(grid.cell(r, 3))});
+        legs.push_back({grid.cell(r, tappaLuogo), grid.cell(r, tappaStrada), chilometri(grid.cell(r, tappaKm))});
     return legs;
 }
 
@@ -61,7 +61,7 @@ void writeFolded(Grid& grid, const std::vector<RigaRimasta>& left) {
     std::vector<bool> marked;
     marked.reserve(left.size());
     for (const RigaRimasta& leg : left)
-        marked.push_back(grid.marked(leg.riga, colonnaSosta));
+        marked.push_back(grid.marked(leg.riga, tappaSosta));
     const int row = grid.row();
     const int column = grid.col();
     const int rowSel = grid.rowSel();
@@ -73,9 +73,9 @@ void writeFolded(Grid& grid, const std::vector<RigaRimasta>& left) {
     int to = 0;
     for (const RigaRimasta& leg : left) {
         folded.copyRow(to, rows, leg.riga - 1);
-        folded.at(to, 1) = leg.cella.luogo;
-        folded.at(to, 2) = leg.cella.strade;
-        folded.at(to, 3) = QString::number(leg.cella.km);
+        folded.at(to, tappaLuogo) = leg.cella.luogo;
+        folded.at(to, tappaStrada) = leg.cella.strade;
+        folded.at(to, tappaKm) = QString::number(leg.cella.km);
         ++to;
     }
     folded.copyRow(to, rows, rows.rows() - 1);
@@ -83,20 +83,20 @@ void writeFolded(Grid& grid, const std::vector<RigaRimasta>& left) {
     grid.select(row, column, rowSel, columnSel);
     grid.setTopRow(top);
     for (std::size_t i = 0; i < marked.size(); ++i)
-        grid.setMarked(static_cast<int>(i) + 1, colonnaSosta, marked[i]);
+        grid.setMarked(static_cast<int>(i) + 1, tappaSosta, marked[i]);
 }
 
 void renumber(Grid& grid) {
     for (int r = 1; r < grid.rows(); ++r) {
-        if (!grid.cell(r, 0).isEmpty() || !grid.cell(r, 1).isEmpty())
-            grid.setCell(r, 0, QString::number(r));
+        if (!grid.cell(r, tappaNumero).isEmpty() || !grid.cell(r, tappaLuogo).isEmpty())
+            grid.setCell(r, tappaNumero, QString::number(r));
     }
 }
 
 /// Reads the route list at NomeFileScambio into the table. A file of no known shape changes nothing.
 void CaricaDaPacchetto(Form& form) {
-    form.frmframe(14).setEnabled(true);
-    StatoViaggio& s = form.stato;
+    form.frmframe(riquadroPulsantiTappe).setEnabled(true);
+    StatoFinestra& s = form.stato;
     s.RigaCorrente = 1;
     const auto contents = leggeFileScambio(form);
     if (!contents)
@@ -111,8 +111,8 @@ void CaricaDaPacchetto(Form& form) {
     writeLegs(form, route);
     CalcolaKmTempiItinerario(form);
     AggiornaNumeroRiga(form);
-    s.PulsantiItinerario = QStringLiteral("all");
-    AbilitaPulsantiMeta(form, QStringLiteral("ZZ"));
+    s.PulsantiItinerario = pulsanti::tutti;
+    AbilitaPulsantiMeta(form, pulsanti::nessunoMaiuscolo);
 }
 
 /// Folds the legs down to the stops of the file at NomeFileScambio; totals are left to the next calculation.
@@ -132,10 +132,10 @@ void SelezionaMeteValide(Form& form) {
     const QString lastPlace = legs.back().luogo;
     legs.pop_back();
     writeFolded(grid, piegaTappe(legs, form.archivio.dimensioneCampo(store::Itinerari, u"Localita")));
-    grid.setCell(grid.rows() - 1, 1, lastPlace);
+    grid.setCell(grid.rows() - 1, tappaLuogo, lastPlace);
     if (unnumbered) {
         for (int r = 1; r < grid.rows(); ++r)
-            grid.setCell(r, 1, senzaNumerazione(grid.cell(r, 1)));
+            grid.setCell(r, tappaLuogo, senzaNumerazione(grid.cell(r, tappaLuogo)));
     }
     renumber(grid);
 }
@@ -152,7 +152,7 @@ void cmdMapPoint_Click(Form& form) {
     }
     if (!askForFile(form, QStringLiteral("File Excel salvato in modalità testo (*.TXT)|*.txt")))
         return;
-    form.frmframe(14).setEnabled(false);
+    form.frmframe(riquadroPulsantiTappe).setEnabled(false);
     CaricaDaPacchetto(form);
 }
 
@@ -163,9 +163,9 @@ void cmdSelezionaMete_Click(Form& form) {
     }
     if (!askForFile(form, QStringLiteral("File export ITN in modalità testo (*.cvs)|*.csv")))
         return;
-    form.frmframe(14).setEnabled(false);
+    form.frmframe(riquadroPulsantiTappe).setEnabled(false);
     SelezionaMeteValide(form);
-    form.frmframe(14).setEnabled(true);
+    form.frmframe(riquadroPulsantiTappe).setEnabled(true);
 }
 
 } // namespace vanzer

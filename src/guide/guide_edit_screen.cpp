@@ -4,7 +4,7 @@
 #include "guide/guide_screen.h"
 #include "guide/typed_entry_screen.h"
 #include "itinerary/leg_editor_screen.h"
-#include "window/destination_screen.h"
+#include "trip/destination_screen.h"
 
 namespace vanzer {
 

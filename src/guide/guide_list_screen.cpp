@@ -5,6 +5,7 @@
 #include "guide/entries.h"
 #include "guide/guide_screen.h"
 #include "itinerary/leg_editor_screen.h"
+#include "window/button_codes.h"
 #include "window/changes.h"
 #include "window/grid_layouts.h"
 #include "window/modes.h"
@@ -108,7 +109,7 @@ void showPlaces(Form& form, const std::vector<TappaGuida>& legs) {
 void closeWithoutLegs(Form& form) {
     PulisciFinestre(form);
     ImpostaGriglia(form, Disposizione::Tappe);
-    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    AbilitaPulsantiMeta(form, pulsanti::tutti);
 }
 
 void showCategory(Form& form, const QString& cell) {
@@ -132,11 +133,11 @@ void showTime(Form& form, const QString& cell) {
 } // namespace
 
 void cmdGuidaCitta_Click(Form& form) {
-    StatoViaggio& s = form.stato;
+    StatoFinestra& s = form.stato;
     AttivaFormMeta(form, true);
     if (!lasciaTratto(form))
         return;
-    AbilitaPulsantiMeta(form, QStringLiteral("zz"));
+    AbilitaPulsantiMeta(form, pulsanti::nessuno);
     form.mfgTab.setRows(1);
     form.mfgTab.setRows(s.RigheMinime);
     ImpostaGriglia(form, Disposizione::Guida);
@@ -150,7 +151,7 @@ void cmdGuidaCitta_Click(Form& form) {
 }
 
 void CreaLaListadellaGuida(Form& form) {
-    StatoViaggio& s = form.stato;
+    StatoFinestra& s = form.stato;
     std::vector<TappaGuida> legs = readPlaces(form);
     if (legs.empty()) {
         form.rifiuta(QStringLiteral("Impossibile... non esistono tappe memorizzate!"), QStringLiteral("Guida Città"));
@@ -165,13 +166,13 @@ void CreaLaListadellaGuida(Form& form) {
     }
     showPlaces(form, legs);
     s.ModoGuida = true;
-    form.frmframe(24).setVisible(true);
-    form.frmframe(24).setHeight(altezzaRiquadro);
+    form.frmframe(riquadroGuida).setVisible(true);
+    form.frmframe(riquadroGuida).setHeight(altezzaRiquadro);
     form.mfgTab.setHeight(altezzaGriglia);
 }
 
 void InserisciGuida(Form& form) {
-    StatoViaggio& s = form.stato;
+    StatoFinestra& s = form.stato;
     const Grid& grid = form.mfgTab;
     if (s.RigaCorrente > 1 && Trim(grid.cell(s.RigaCorrente, guidaLuogo)).isEmpty())
         --s.RigaCorrente;

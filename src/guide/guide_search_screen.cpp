@@ -2,8 +2,9 @@
 #include "guide/entries.h"
 #include "guide/guide_screen.h"
 #include "guide/typed_entry_screen.h"
+#include "trip/destination_screen.h"
+#include "window/button_codes.h"
 #include "window/changes.h"
-#include "window/destination_screen.h"
 #include "window/modes.h"
 
 namespace vanzer {
@@ -14,7 +15,7 @@ constexpr int altezzaGrigliaTappe = 4055;
 constexpr int larghezzaNome = 30;
 
 void enableEditor(Form& form, bool on) {
-    form.frmframe(24).setEnabled(on);
+    form.frmframe(riquadroGuida).setEnabled(on);
     form.mfgTab.setEnabled(on);
 }
 
@@ -110,8 +111,8 @@ void cmdFineInserimento_Click(Form& form) {
         return;
     RicaricaItinerario(form);
     form.mfgTab.setHeight(altezzaGrigliaTappe);
-    form.frmframe(24).setVisible(false);
-    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    form.frmframe(riquadroGuida).setVisible(false);
+    AbilitaPulsantiMeta(form, pulsanti::tutti);
     form.yield();
     form.stato.ModoGuida = false;
     form.stato.ModoRicerca = 0;

@@ -1,10 +1,12 @@
 #include "itinerary/copy_screen.h"
 
+#include "core/leg_columns.h"
 #include "core/text.h"
 #include "itinerary/copy.h"
 #include "itinerary/leg_editor_screen.h"
-#include "schedule/totals_screen.h"
 #include "store/schema.h"
+#include "trip/totals_screen.h"
+#include "window/button_codes.h"
 #include "window/confirmation.h"
 #include "window/grid_layouts.h"
 #include "window/modes.h"
@@ -17,7 +19,9 @@ constexpr int scegliMeta = 3;
 constexpr int scegliTappa = 4;
 constexpr int largoAccantoAllaCopia = 7950;
 constexpr int ultimaColonna = 6;
-constexpr int colonnaCodice = 3;
+/// Columns of the list while it holds destinations, and while it holds the legs of one.
+enum ColonnaMete { metaNumero, metaNome, metaNazione, metaCodice };
+enum ColonnaCopia { copiaNumero, copiaLuogo, copiaStrada, copiaKm, copiaTipo, copiaSosta };
 
 store::Recordset records(Form& form, int table, std::vector<store::Condition> where, const char16_t* order) {
     return {*form.archivio.Db(0), {store::TabelleNomi(table), std::move(where), {{QString::fromUtf16(order)}}}};
@@ -41,10 +45,10 @@ void listDestinations(Form& form, store::Recordset& destinations) {
             continue;
         if (++row >= list.rows() - 2)
             list.setRows(list.rows() + 4);
-        list.setCell(row, 0, QString::number(row));
-        list.setCell(row, 1, name);
-        list.setCell(row, 2, Trim(destinations.testo(u"Nazione")));
-        list.setCell(row, colonnaCodice, code);
+        list.setCell(row, metaNumero, QString::number(row));
+        list.setCell(row, metaNome, name);
+        list.setCell(row, metaNazione, Trim(destinations.testo(u"Nazione")));
+        list.setCell(row, metaCodice, code);
     }
     list.setRows(row + 1);
 }
@@ -62,7 +66,7 @@ void listLegs(Form& form, const QString& code) {
         const int row = rows.addRow();
         for (int column = 0; const char16_t* const field : fields)
             rows.at(row, column++) = Trim(legs.testo(QString::fromUtf16(field)));
-        rows.at(row, 3) = migliaia(Val(rows.text(row, 3)));
+        rows.at(row, copiaKm) = migliaia(Val(rows.text(row, copiaKm)));
     }
     form.mfgCopia.setContents(std::move(rows));
 }
@@ -80,15 +84,15 @@ void SelezioneTappeDuplica(Form& form) {
 void RicercaDiUnaSingolaTappa(Form& form) {
     const Grid& list = form.mfgCopia;
     const int row = form.stato.RigaCopia;
-    const QString code = list.cell(row, colonnaCodice);
-    form.frmframe(19).setVisible(true);
-    form.txtInsTappa(0).setText(list.cell(row, 1));
+    const QString code = list.cell(row, metaCodice);
+    form.frmframe(riquadroTrattoCopia).setVisible(true);
+    form.txtInsTappa(0).setText(list.cell(row, metaNome));
     form.txtInsTappa(1).setText(form.txtTappa.text());
     for (const auto* const fields : {&form.txtInsNum, &form.txtInsLoc, &form.txtInsNS, &form.txtInsKm}) {
         for (TextBox* const field : *fields)
             field->setText({});
     }
-    form.stato.PulsantiMeta = QStringLiteral("zz");
+    form.stato.PulsantiMeta = pulsanti::nessuno;
     listLegs(form, code);
     form.stato.RigaCopia = 1;
     SelezioneTappeDuplica(form);
@@ -98,7 +102,8 @@ std::vector<RigaSorgente> readSource(const Grid& list) {
     std::vector<RigaSorgente> legs;
     legs.reserve(static_cast<std::size_t>(list.rows()));
     for (int r = 1; r < list.rows(); ++r)
-        legs.push_back({list.cell(r, 1), list.cell(r, 2), list.cell(r, 3), list.cell(r, 4), list.cell(r, 5)});
+        legs.push_back({list.cell(r, copiaLuogo), list.cell(r, copiaStrada), list.cell(r, copiaKm),
+                        list.cell(r, copiaTipo), list.cell(r, copiaSosta)});
     return legs;
 }
 
@@ -110,7 +115,7 @@ void insertStretch(Form& form) {
         copiaTratto(readSource(form.mfgCopia), arrotonda(Val(form.txtInsNum(0).text())),
                     arrotonda(Val(form.txtInsNum(1).text())), form.chkInsSoste.value());
     const SenzaRidisegno quiet(grid);
-    if (!grid.cell(row, 1).isEmpty())
+    if (!grid.cell(row, tappaLuogo).isEmpty())
         ++row;
     InserisciRigheItinerario(form, static_cast<int>(legs.size()));
     --row;
@@ -118,40 +123,40 @@ void insertStretch(Form& form) {
         ++row;
         if (row + 2 > grid.rows())
             grid.setRows(row + 4);
-        grid.setCell(row, 0, QString::number(row));
-        grid.setCell(row, 1, leg.luogo);
-        grid.setCell(row, 2, leg.strada);
-        grid.setCell(row, 3, leg.km);
-        grid.setCell(row, 4, leg.tipoStrada);
-        grid.setCell(row, 7, leg.sosta);
+        grid.setCell(row, tappaNumero, QString::number(row));
+        grid.setCell(row, tappaLuogo, leg.luogo);
+        grid.setCell(row, tappaStrada, leg.strada);
+        grid.setCell(row, tappaKm, leg.km);
+        grid.setCell(row, tappaTipo, leg.tipoStrada);
+        grid.setCell(row, tappaSosta, leg.sosta);
     }
 }
 
 void showSource(Form& form, bool on) {
     form.mfgCopia.setVisible(on);
-    form.frmframe(17).setVisible(on);
+    form.frmframe(riquadroCopia).setVisible(on);
 }
 
 void RinunciaDuplicaItinerario(Form& form) {
     PulisciFinestre(form);
     form.mfgTab.setWidth(largoAccantoAllaCopia);
-    form.frmframe(12).setVisible(true);
-    form.stato.PulsantiItinerario = QStringLiteral("all");
-    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    form.frmframe(riquadroTappe).setVisible(true);
+    form.stato.PulsantiItinerario = pulsanti::tutti;
+    AbilitaPulsantiMeta(form, pulsanti::tutti);
 }
 
 } // namespace
 
 void cmdDuplica_Click(Form& form) {
-    StatoViaggio& s = form.stato;
+    StatoFinestra& s = form.stato;
     s.ModoRicerca = scegliMeta;
-    while (s.RigaCorrente > 0 && form.mfgTab.cell(s.RigaCorrente, 1).isEmpty())
+    while (s.RigaCorrente > 0 && form.mfgTab.cell(s.RigaCorrente, tappaLuogo).isEmpty())
         --s.RigaCorrente;
     s.RigaCorrente = Maggiore(1, s.RigaCorrente);
     SelezionaRiga(form, s.RigaCorrente);
     AggiornaNumeroRiga(form);
-    s.PulsantiItinerario = QStringLiteral("Fi");
-    AbilitaPulsantiMeta(form, QStringLiteral("zz"));
+    s.PulsantiItinerario = pulsanti::soloFine;
+    AbilitaPulsantiMeta(form, pulsanti::nessuno);
     form.cmdMapPoint.setEnabled(false);
     form.mfgCopia.clearCells();
     form.mfgCopia.setRows(s.RigheMinime);
@@ -167,13 +172,13 @@ void cmdDuplica_Click(Form& form) {
 }
 
 void mfgCopia_Click(Form& form) {
-    StatoViaggio& s = form.stato;
+    StatoFinestra& s = form.stato;
     const int row = form.mfgCopia.row();
-    if (row < 1 || form.mfgCopia.cell(row, 1).isEmpty())
+    if (row < 1 || form.mfgCopia.cell(row, metaNome).isEmpty())
         return;
     s.RigaCopia = row;
     if (s.ModoRicerca == scegliMeta) {
-        form.frmframe(12).setEnabled(false);
+        form.frmframe(riquadroTappe).setEnabled(false);
         ImpostaGriglia(form, Disposizione::TappeDaCopiare);
         RicercaDiUnaSingolaTappa(form);
         s.ModoRicerca = scegliTappa;
@@ -190,29 +195,29 @@ void mfgCopia_Mark(Form& form) {
 void cmdAssegna_Click(Form& form, int i) {
     const Grid& list = form.mfgCopia;
     const int row = form.stato.RigaCopia;
-    form.txtInsLoc(i).setText(list.cell(row, 1));
-    form.txtInsNS(i).setText(list.cell(row, 2));
-    form.txtInsKm(i).setText(list.cell(row, 3));
-    form.txtInsNum(i).setText(list.cell(row, 0));
+    form.txtInsLoc(i).setText(list.cell(row, copiaLuogo));
+    form.txtInsNS(i).setText(list.cell(row, copiaStrada));
+    form.txtInsKm(i).setText(list.cell(row, copiaKm));
+    form.txtInsNum(i).setText(list.cell(row, copiaNumero));
     SelezioneTappeDuplica(form);
 }
 
 void cmdInsEsegui_Click(Form& form, int i) {
     if (i != 0) {
         RinunciaDuplicaItinerario(form);
-        form.frmframe(12).setEnabled(true);
+        form.frmframe(riquadroTappe).setEnabled(true);
         return;
     }
     BoxConferma(form, QStringLiteral("IP"));
     if (form.stato.Risposta == rispostaSi) {
         showSource(form, false);
         insertStretch(form);
-        form.frmframe(12).setEnabled(true);
-        form.frmframe(19).setVisible(false);
+        form.frmframe(riquadroTappe).setEnabled(true);
+        form.frmframe(riquadroTrattoCopia).setVisible(false);
     } else {
         showSource(form, true);
     }
-    form.stato.PulsantiItinerario = QStringLiteral("all");
+    form.stato.PulsantiItinerario = pulsanti::tutti;
     AbilitaPulsantiComando(form);
     CalcolaKmTempiItinerario(form);
     AggiornaNumeroRiga(form);

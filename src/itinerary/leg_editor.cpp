@@ -2,7 +2,7 @@
 
 #include "core/place_name.h"
 #include "core/text.h"
-#include "schedule/totals.h"
+#include "trip/totals.h"
 
 namespace vanzer {
 
@@ -23,19 +23,6 @@ Rifiuto refusal(const TappaDigitata& typed, const QString& km, const QString& st
 }
 
 } // namespace
-
-LuogoConMarche separaMarche(const QString& cell) {
-    LuogoConMarche place{Trim(cell)};
-    const auto cut = [&place](QStringView mark) {
-        const int at = posizione(place.nome, mark);
-        if (at > 0)
-            place.nome = Trim(Left(place.nome, at - 1));
-        return at > 0;
-    };
-    place.start = cut(marcaStart);
-    place.end = cut(marcaEnd);
-    return place;
-}
 
 SostaConFine separaSosta(const QString& cell) {
     if (cell.isEmpty())

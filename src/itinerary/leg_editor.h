@@ -7,14 +7,6 @@
 
 namespace vanzer {
 
-/// The place of a row taken apart: its name and the marks of the stretch.
-struct LuogoConMarche {
-    QString nome;
-    bool start = false;
-    bool end = false;
-};
-[[nodiscard]] LuogoConMarche separaMarche(const QString& cell);
-
 inline constexpr QStringView senzaSosta = u"00:00:00";
 
 /// The stop of a row taken apart.

@@ -3,14 +3,16 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/leg_columns.h"
 #include "core/place_name.h"
 #include "core/text.h"
 #include "itinerary/leg_editor.h"
-#include "itinerary/leg_table_screen.h"
 #include "itinerary/stretch_screen.h"
-#include "schedule/totals_screen.h"
+#include "trip/destination_screen.h"
+#include "trip/leg_table_screen.h"
+#include "trip/totals_screen.h"
+#include "window/button_codes.h"
 #include "window/changes.h"
-#include "window/destination_screen.h"
 #include "window/grid_layouts.h"
 #include "window/modes.h"
 
@@ -24,25 +26,25 @@ constexpr int largoAccanto = 10560;
 constexpr int righeInVista = 14;
 
 void focusPlace(Form& form) {
-    if (form.frmframe(12).visible())
+    if (form.frmframe(riquadroTappe).visible())
         form.setFocus(form.txtTappa);
 }
 
 double kmAbove(const Form& form) {
-    return ValoreSenzaPunti(form.mfgTab.cell(form.stato.RigaCorrente - 1, 5));
+    return ValoreSenzaPunti(form.mfgTab.cell(form.stato.RigaCorrente - 1, tappaKmProgressivi));
 }
 
 /// The table always ends in one empty row, and in no more than that beyond its least length.
 void tidyLength(Form& form) {
     Grid& grid = form.mfgTab;
-    StatoViaggio& s = form.stato;
+    StatoFinestra& s = form.stato;
     int rows = grid.rows();
-    while (rows > s.RigheMinime && grid.cell(rows - 1, 1).isEmpty())
+    while (rows > s.RigheMinime && grid.cell(rows - 1, tappaLuogo).isEmpty())
         --rows;
     grid.setRows(rows);
     grid.setRows(rows + 1);
     s.NumeroTappe = grid.rows() - 1;
-    while (s.NumeroTappe >= 1 && grid.cell(s.NumeroTappe, 1).isEmpty())
+    while (s.NumeroTappe >= 1 && grid.cell(s.NumeroTappe, tappaLuogo).isEmpty())
         --s.NumeroTappe;
 }
 
@@ -80,13 +82,13 @@ void showStop(Form& form, const QString& cell) {
 void showRow(Form& form) {
     const Grid& grid = form.mfgTab;
     const int row = form.stato.RigaCorrente;
-    showPlace(form, grid.cell(row, 1));
+    showPlace(form, grid.cell(row, tappaLuogo));
     form.txtNumStrada.setText(stradaMostrata(grid, row));
-    form.txtKm.setText(Trim(grid.cell(row, 3)));
+    form.txtKm.setText(Trim(grid.cell(row, tappaKm)));
     form.stato.KmDifferenza.clear();
     if (!form.stato.ModoGuida)
-        showRoadType(form, grid.cell(row, 4));
-    showStop(form, grid.cell(row, 7));
+        showRoadType(form, grid.cell(row, tappaTipo));
+    showStop(form, grid.cell(row, tappaSosta));
 }
 
 /// Tells why a row is refused; true if it is.
@@ -116,19 +118,19 @@ void writeRow(Form& form, const TappaControllata& row) {
     if (form.chkMeta(1).value())
         CancellaFlagStartEnd(form, 1);
     clearMarkBoxes(form);
-    grid.setCell(r, 0, QString::number(r));
-    grid.setCell(r, 1, row.luogo);
-    grid.setCell(r, 2, form.txtNumStrada.text());
-    grid.setCell(r, 3, form.txtKm.text());
-    grid.setCell(r, 4, row.lettera);
-    grid.setCell(r, 7, row.sosta);
+    grid.setCell(r, tappaNumero, QString::number(r));
+    grid.setCell(r, tappaLuogo, row.luogo);
+    grid.setCell(r, tappaStrada, form.txtNumStrada.text());
+    grid.setCell(r, tappaKm, form.txtKm.text());
+    grid.setCell(r, tappaTipo, row.lettera);
+    grid.setCell(r, tappaSosta, row.sosta);
 }
 
 /// Kilometres that stand in the field as the row has them are no total of anything. Before a user nor is a difference
 /// that was put there before the row was refused.
 bool kmAreTotal(const Form& form) {
     const QString typed = Trim(form.txtKm.text());
-    const QString own = Trim(form.mfgTab.cell(form.stato.RigaCorrente, 3));
+    const QString own = Trim(form.mfgTab.cell(form.stato.RigaCorrente, tappaKm));
     const bool made = form.interattiva && typed == form.stato.KmDifferenza;
     return form.chkKm.value() && typed != own && !made;
 }
@@ -148,10 +150,10 @@ bool leavesRowFor(Form& form, int& row) {
 
 void closeLists(Form& form) {
     form.cmbRicercaTappa.setVisible(false);
-    form.frmframe(17).setVisible(false);
+    form.frmframe(riquadroCopia).setVisible(false);
     form.mfgTab.setEnabled(true);
-    form.frmframe(28).setEnabled(true);
-    form.stato.PulsantiItinerario = QStringLiteral("all");
+    form.frmframe(riquadroStato).setEnabled(true);
+    form.stato.PulsantiItinerario = pulsanti::tutti;
 }
 
 } // namespace
@@ -165,8 +167,8 @@ QString strTipoStrada(const Serie<OptionButton>& options) {
 }
 
 QString stradaMostrata(const Grid& grid, int row) {
-    const QString road = Trim(grid.cell(row, 2));
-    return road.isEmpty() && row >= 2 ? Trim(grid.cell(row - 1, 2)) : road;
+    const QString road = Trim(grid.cell(row, tappaStrada));
+    return road.isEmpty() && row >= 2 ? Trim(grid.cell(row - 1, tappaStrada)) : road;
 }
 
 QString sostaDigitata(const Form& form) {
@@ -176,7 +178,7 @@ QString sostaDigitata(const Form& form) {
 
 void cmdItinerario_Click(Form& form) {
     AttivaFormMeta(form, true);
-    form.colonne(0) = QStringLiteral("Ricalcola");
+    form.stato.TornaAlleTappe = true;
     AttivitaInserimentoItinerario(form);
     form.setDefault(form.cmdFine);
 }
@@ -185,22 +187,22 @@ void AttivitaInserimentoItinerario(Form& form) {
     RimetteTappe(form);
     form.cmdCalcola.setCaption(QStringLiteral("&Calcola"));
     AggiornaNumeroRiga(form);
-    form.stato.PulsantiItinerario = QStringLiteral("all");
-    AbilitaPulsantiMeta(form, QStringLiteral("zz"));
-    if (form.colonne(0) != u"Ricalcola")
+    form.stato.PulsantiItinerario = pulsanti::tutti;
+    AbilitaPulsantiMeta(form, pulsanti::nessuno);
+    if (!form.stato.TornaAlleTappe)
         return;
-    form.frmframe(12).setVisible(true);
+    form.frmframe(riquadroTappe).setVisible(true);
     form.mfgTab.setWidth(largoAccanto);
     form.cmbRicercaTappa.setVisible(false);
     form.cmdMapPoint.setEnabled(form.stato.NumeroTappe < 2);
     mostraKmProgressivi(form);
     form.setFocus(form.txtTappa);
-    form.colonne(0).clear();
+    form.stato.TornaAlleTappe = false;
 }
 
 void sbloccaTappe(Form& form) {
     AttivitaInserimentoItinerario(form);
-    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    AbilitaPulsantiMeta(form, pulsanti::tutti);
     AttivaFormMeta(form, true);
 }
 
@@ -213,7 +215,7 @@ void RimetteTappe(Form& form) {
 }
 
 void AggiornaNumeroRiga(Form& form) {
-    StatoViaggio& s = form.stato;
+    StatoFinestra& s = form.stato;
     tidyLength(form);
     s.RigaCorrente = Maggiore(s.RigaCorrente, 1);
     if (s.RigaCorrente > s.NumeroTappe)
@@ -231,7 +233,7 @@ void AggiornaNumeroRiga(Form& form) {
 }
 
 void mostraKmProgressivi(Form& form) {
-    const bool shown = form.frmframe(12).visible() && form.stato.RigaCorrente >= 3;
+    const bool shown = form.frmframe(riquadroTappe).visible() && form.stato.RigaCorrente >= 3;
     form.chkKm.setVisible(shown);
     form.chkKm.setEnabled(shown);
     form.chkKm.setValue(shown && form.stato.KmProgressivi && kmProgressivi(kmAbove(form)));
@@ -252,7 +254,7 @@ void AggiornaTabellaRigaCorrenteItinerario(Form& form) {
 }
 
 void cmdInserisce_Click(Form& form) {
-    StatoViaggio& s = form.stato;
+    StatoFinestra& s = form.stato;
     if (s.RigaCorrente > 2) {
         form.chkKm.setVisible(true);
         form.chkKm.setEnabled(true);
@@ -292,17 +294,17 @@ void cmdInserisce_Click(Form& form) {
 void CancellaFlagStartEnd(Form& form, int which) {
     const QStringView mark = which == 0 ? marcaStart : marcaEnd;
     for (int r = 1; r < form.mfgTab.rows(); ++r)
-        form.mfgTab.setCell(r, 1, senzaMarca(form.mfgTab.cell(r, 1), mark));
+        form.mfgTab.setCell(r, tappaLuogo, senzaMarca(form.mfgTab.cell(r, tappaLuogo), mark));
 }
 
 void InserisciRigheItinerario(Form& form, int n) {
-    StatoViaggio& s = form.stato;
+    StatoFinestra& s = form.stato;
     Grid& grid = form.mfgTab;
     const SenzaRidisegno quiet(grid);
     grid.setRows(grid.rows() + n);
     grid.shiftRows(s.RigaCorrente, s.NumeroTappe, n);
     for (int r = s.RigaCorrente + n; r <= s.NumeroTappe + n; ++r)
-        grid.setCell(r, 0, QString::number(r));
+        grid.setCell(r, tappaNumero, QString::number(r));
     for (int r = s.RigaCorrente; r < s.RigaCorrente + n; ++r)
         grid.clearRow(r, 1);
     s.NumeroTappe += n;
@@ -322,10 +324,10 @@ void cmdCancella_Click(Form& form) {
         const bool leftBlank = grid.shiftRows(form.stato.RigaCorrente + 1, grid.rows() - 1, -1);
         for (int r = form.stato.RigaCorrente; r <= grid.rows() - 2; ++r) {
             // A row without a place has no number, one that has got a place has its own.
-            if (grid.cell(r, 1).isEmpty())
-                grid.setCell(r, 0, {});
+            if (grid.cell(r, tappaLuogo).isEmpty())
+                grid.setCell(r, tappaNumero, {});
             else
-                grid.setCell(r, 0, QString::number(r));
+                grid.setCell(r, tappaNumero, QString::number(r));
         }
         if (!leftBlank)
             grid.clearRow(grid.rows() - 1, 1);
@@ -337,15 +339,15 @@ void cmdCancella_Click(Form& form) {
 
 void cmdCerca_Click(Form& form) {
     form.stato.ModoRicerca = 2;
-    form.stato.PulsantiItinerario = QStringLiteral("Fi");
+    form.stato.PulsantiItinerario = pulsanti::soloFine;
     AbilitaPulsantiComando(form);
     form.mfgTab.setEnabled(false);
-    form.frmframe(28).setEnabled(false);
+    form.frmframe(riquadroStato).setEnabled(false);
     form.cmbRicercaTappa.clear();
     QStringList places;
     places.reserve(form.mfgTab.rows());
     for (int r = 1; r < form.mfgTab.rows(); ++r) {
-        const QString& place = form.mfgTab.cell(r, 1);
+        const QString& place = form.mfgTab.cell(r, tappaLuogo);
         if (Trim(QStringView(place)).isEmpty())
             continue;
         constexpr int wide = 31;
@@ -363,8 +365,8 @@ void cmdMemorizza_Click(Form& form) {
     const int answer = form.domanda(QStringLiteral("Vuoi salvare l'itinerario?"), title, Pulsanti::SiNoAnnulla);
     if (answer == rispostaSi) {
         MemorizzaTappeItinerario(form);
-        form.stato.PulsantiItinerario = QStringLiteral("all");
-        AbilitaPulsantiMeta(form, QStringLiteral("ZZ"));
+        form.stato.PulsantiItinerario = pulsanti::tutti;
+        AbilitaPulsantiMeta(form, pulsanti::nessunoMaiuscolo);
     } else if (answer == rispostaNo &&
                form.domandaPericolosa(QStringLiteral("Vuoi recuperare l'itinerario originale?"), title) == rispostaSi &&
                lasciaCampi(form)) {
@@ -373,7 +375,7 @@ void cmdMemorizza_Click(Form& form) {
 }
 
 void cmdFine_Click(Form& form) {
-    if (form.cmbRicercaTappa.visible() || form.frmframe(17).visible()) {
+    if (form.cmbRicercaTappa.visible() || form.frmframe(riquadroCopia).visible()) {
         closeLists(form);
         AbilitaPulsantiComando(form);
         return;
@@ -383,11 +385,11 @@ void cmdFine_Click(Form& form) {
     const int answer = form.domanda(question, QStringLiteral("Fine inserimento"), Pulsanti::SiNoAnnulla);
     const bool refused = answer == rispostaSi && !MemorizzaTappeItinerario(form);
     if (answer != rispostaAnnulla && !refused && lasciaCampi(form)) {
-        form.frmframe(12).setVisible(false);
+        form.frmframe(riquadroTappe).setVisible(false);
         form.mfgTab.setWidth(larghezzaTabella);
         reloadDestination(form);
         AggiornaNumeroRiga(form);
-        form.stato.PulsantiMeta = QStringLiteral("all");
+        form.stato.PulsantiMeta = pulsanti::tutti;
     }
     AbilitaPulsantiComando(form);
 }

@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 #include "itinerary/leg_editor_screen.h"
+#include "window/button_codes.h"
 #include "window/grid_layouts.h"
 #include "window/modes.h"
 
@@ -18,29 +19,29 @@ void showAround(Form& form) {
 } // namespace
 
 void cmbRicercaTappa_Click(Form& form) {
-    StatoViaggio& s = form.stato;
+    StatoFinestra& s = form.stato;
     form.cmbRicercaTappa.setVisible(false);
     form.mfgTab.setEnabled(true);
-    form.frmframe(28).setEnabled(true);
+    form.frmframe(riquadroStato).setEnabled(true);
     if (s.ModoRicerca != 2)
         return;
     showAround(form);
-    form.frmframe(24).setEnabled(true);
+    form.frmframe(riquadroGuida).setEnabled(true);
     s.RigaCorrente = arrotonda(Val(Right(form.cmbRicercaTappa.text(), 4)));
     if (s.ModoGuida) {
         showAround(form);
-        s.PulsantiItinerario = QStringLiteral("all");
+        s.PulsantiItinerario = pulsanti::tutti;
         AbilitaPulsantiComando(form);
     }
     SelezionaRiga(form, s.RigaCorrente);
-    if (form.frmframe(24).visible()) {
+    if (form.frmframe(riquadroGuida).visible()) {
         if (form.guideRowShown)
             form.guideRowShown();
         form.setFocus(form.txtGDescr);
     }
-    if (form.frmframe(12).visible()) {
+    if (form.frmframe(riquadroTappe).visible()) {
         form.setFocus(form.txtTappa);
-        s.PulsantiItinerario = QStringLiteral("all");
+        s.PulsantiItinerario = pulsanti::tutti;
         AbilitaPulsantiComando(form);
         s.RigaCorrente = form.mfgTab.row();
         AggiornaNumeroRiga(form);

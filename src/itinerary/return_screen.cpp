@@ -1,8 +1,9 @@
 #include "itinerary/return_screen.h"
 
+#include "core/leg_columns.h"
 #include "core/text.h"
 #include "itinerary/return_to_start.h"
-#include "schedule/totals_screen.h"
+#include "trip/totals_screen.h"
 #include "window/grid_layouts.h"
 
 namespace vanzer {
@@ -15,11 +16,11 @@ void packTable(Form& form) {
     int& last = form.stato.NumeroTappe;
     last = 0;
     for (int r = 1; r < grid.rows(); ++r) {
-        if (Trim(QStringView(grid.cell(r, 1))).isEmpty())
+        if (Trim(QStringView(grid.cell(r, tappaLuogo))).isEmpty())
             continue;
         if (++last == r)
             continue;
-        grid.setCell(last, 0, QString::number(last));
+        grid.setCell(last, tappaNumero, QString::number(last));
         grid.copyRow(r, last, 1);
     }
     for (int r = last + 1; r < grid.rows(); ++r)
@@ -30,18 +31,18 @@ std::vector<QStringView> places(const Form& form) {
     std::vector<QStringView> names;
     names.reserve(static_cast<std::size_t>(form.stato.NumeroTappe));
     for (int r = 1; r <= form.stato.NumeroTappe; ++r)
-        names.emplace_back(form.mfgTab.cell(r, 1));
+        names.emplace_back(form.mfgTab.cell(r, tappaLuogo));
     return names;
 }
 
 void appendLegs(Form& form, const Ritorno& home) {
     Grid& grid = form.mfgTab;
-    StatoViaggio& s = form.stato;
+    StatoFinestra& s = form.stato;
     grid.setRows(Maggiore(s.RigheMinime, grid.rows() + home.riga + 2));
     for (const PassoRitorno& leg : home.passi) {
         const int r = ++s.NumeroTappe;
-        grid.setCell(r, 0, QString::number(r));
-        grid.setCell(r, 1, grid.cell(leg.luogo, 1));
+        grid.setCell(r, tappaNumero, QString::number(r));
+        grid.setCell(r, tappaLuogo, grid.cell(leg.luogo, tappaLuogo));
         for (const int column : {2, 3, 4})
             grid.setCell(r, column, grid.cell(leg.strada, column));
     }

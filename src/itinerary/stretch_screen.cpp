@@ -1,11 +1,13 @@
 #include "itinerary/stretch_screen.h"
 
+#include "core/leg_columns.h"
 #include "core/text.h"
 #include "itinerary/leg_editor_screen.h"
-#include "itinerary/leg_table_screen.h"
 #include "itinerary/stretch.h"
+#include "trip/destination_screen.h"
+#include "trip/leg_table_screen.h"
+#include "window/button_codes.h"
 #include "window/changes.h"
-#include "window/destination_screen.h"
 #include "window/grid_layouts.h"
 #include "window/modes.h"
 
@@ -27,7 +29,7 @@ void showEnds(Form& form, const TrattoScelto& stretch) {
 
 QString endAtRow(const Form& form, int row) {
     const Grid& grid = form.mfgTab;
-    return testoEstremo(row, grid.cell(row, 0), grid.cell(row, 4), grid.cell(row, 1));
+    return testoEstremo(row, grid.cell(row, tappaNumero), grid.cell(row, tappaTipo), grid.cell(row, tappaLuogo));
 }
 
 void choose(Form& form, bool asFirst) {
@@ -43,7 +45,7 @@ void assign(Form& form) {
     if (stretch.tappe() > 0) {
         const SenzaRidisegno quiet(grid);
         for (int r = Maggiore(stretch.daRiga(), 1); r <= Minore(last, grid.rows() - 1); ++r)
-            grid.setCell(r, 4, strTipoStrada(form.optTStrada));
+            grid.setCell(r, tappaTipo, strTipoStrada(form.optTStrada));
         form.stato.MappaModifiche = conModifiche(form.stato.MappaModifiche, stretch.daRiga(), last);
     }
     SelezionaRiga(form, last + 1);
@@ -56,7 +58,7 @@ void assign(Form& form) {
 void close(Form& form) {
     form.chkTappaSingola.setValue(false);
     form.stato.MappaModifiche.clear();
-    form.frmframe(1).setVisible(false);
+    form.frmframe(riquadroTratto).setVisible(false);
     form.mfgTab.setWidth(larghezzaTabella);
 }
 
@@ -102,9 +104,9 @@ bool legsInTable(Form& form) {
 } // namespace
 
 void cmdModStrada_Click(Form& form) {
-    form.frmframe(1).setVisible(true);
+    form.frmframe(riquadroTratto).setVisible(true);
     form.mfgTab.setWidth(largoAccantoAlTratto);
-    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    AbilitaPulsantiMeta(form, pulsanti::tutti);
     form.cmdTappaSEl(2).setEnabled(false);
 }
 

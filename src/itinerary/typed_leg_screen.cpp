@@ -1,5 +1,6 @@
 #include "itinerary/typed_leg_screen.h"
 
+#include "core/leg_columns.h"
 #include "core/text.h"
 #include "itinerary/leg_editor.h"
 #include "itinerary/leg_editor_screen.h"
@@ -9,15 +10,15 @@ namespace vanzer {
 bool tappaDigitata(const Form& form) {
     const Grid& grid = form.mfgTab;
     const int row = form.stato.RigaCorrente;
-    const LuogoConMarche place = separaMarche(grid.cell(row, 1));
-    const SostaConFine stop = separaSosta(grid.cell(row, 7));
+    const LuogoConMarche place = separaMarche(grid.cell(row, tappaLuogo));
+    const SostaConFine stop = separaSosta(grid.cell(row, tappaSosta));
     if (form.txtTappa.text() != place.nome || form.txtNumStrada.text() != stradaMostrata(grid, row) ||
-        form.txtKm.text() != Trim(grid.cell(row, 3)) || form.chkEndDay.value() != stop.fineGiornata ||
+        form.txtKm.text() != Trim(grid.cell(row, tappaKm)) || form.chkEndDay.value() != stop.fineGiornata ||
         sostaDigitata(form) != (stop.durata.isEmpty() ? senzaSosta : QStringView(stop.durata)))
         return true;
     if (place.nome.isEmpty())
         return false;
-    const auto type = tipoStrada(grid.cell(row, 4));
+    const auto type = tipoStrada(grid.cell(row, tappaTipo));
     return form.chkMeta(0).value() != place.start || form.chkMeta(1).value() != place.end ||
            (type && !form.optStrada(*type).value());
 }

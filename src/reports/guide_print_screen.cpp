@@ -5,7 +5,9 @@
 #include "guide/entries.h"
 #include "reports/guide_report.h"
 #include "reports/print_run_screen.h"
+#include "window/button_codes.h"
 #include "window/modes.h"
+#include "window/progress.h"
 
 namespace vanzer {
 
@@ -80,7 +82,7 @@ class StampaGuida {
         if (printed)
             run_.fineDocumento();
         AzzeraPercentuale(form_);
-        AbilitaPulsantiMeta(form_, QStringLiteral("zz"));
+        AbilitaPulsantiMeta(form_, pulsanti::nessuno);
         if (!run_.fileFatti().isEmpty())
             form_.messaggioFile(QStringLiteral("La guida è nel file:"), run_.fileFatti(), QStringLiteral("Guida Città"),
                                 Icona::Informazione);

@@ -4,6 +4,7 @@
 #include "reports/schedule_print_screen.h"
 #include "schedule/calculation_screen.h"
 #include "toolkit/printer.h"
+#include "window/button_codes.h"
 #include "window/modes.h"
 
 namespace vanzer {
@@ -16,22 +17,21 @@ constexpr int sinistraStampanti = 5300;
 
 void offerPrinters(Form& form, int report) {
     form.stato.TipoStampa = report;
-    form.frmframe(23).setLeft(sinistraStampanti);
+    form.frmframe(riquadroStampanti).setLeft(sinistraStampanti);
     VisualizzaListaStampanti(form);
 }
 
 } // namespace
 
 void cmdStampa_Click(Form& form) {
-    AbilitaPulsantiMeta(form, QStringLiteral("zz"));
+    AbilitaPulsantiMeta(form, pulsanti::nessuno);
     if (!form.stato.ViandoriaCalcolata) {
-        form.colonne(0) = QStringLiteral("Stampa");
-        CalcolaViandoria(form);
+        CalcolaViandoria(form, ScopoCalcolo::Stampa);
         if (!form.stato.ViandoriaCalcolata)
             return;
     }
     form.txtfileTabella.setText(percorsoMostrato(form, fileTabella));
-    form.frmframe(18).setVisible(true);
+    form.frmframe(riquadroOpzioniStampa).setVisible(true);
     form.stato.TipoStampa = reportViandoria;
 }
 
@@ -41,19 +41,19 @@ void CmdEsegui_Click(Form& form, int index) {
         return;
     }
     RinunciaStampa(form);
-    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    AbilitaPulsantiMeta(form, pulsanti::tutti);
 }
 
 void cmdStampaGuidaCitta_Click(Form& form) {
-    form.frmframe(25).setVisible(true);
+    form.frmframe(riquadroStampaGuida).setVisible(true);
 }
 
 void cmdStampaGuida_Click(Form& form, int index) {
     if (index != 0) {
-        form.frmframe(25).setVisible(false);
+        form.frmframe(riquadroStampaGuida).setVisible(false);
         return;
     }
-    form.frmframe(24).setEnabled(false);
+    form.frmframe(riquadroGuida).setEnabled(false);
     offerPrinters(form, reportGuida);
 }
 
@@ -61,17 +61,17 @@ void VisualizzaListaStampanti(Form& form) {
     form.lstStampanti.clear();
     if (form.ports.printer != nullptr)
         form.lstStampanti.setEntries(form.ports.printer->names());
-    form.frmframe(23).setVisible(true);
+    form.frmframe(riquadroStampanti).setVisible(true);
 }
 
 void cmdSelStampante_Click(Form& form, int index) {
-    AbilitaPulsantiMeta(form, QStringLiteral("vv"));
-    form.frmframe(23).setVisible(false);
+    AbilitaPulsantiMeta(form, pulsanti::duranteLaStampa);
+    form.frmframe(riquadroStampanti).setVisible(false);
     if (index != 0) {
-        form.frmframe(24).setEnabled(true);
+        form.frmframe(riquadroGuida).setEnabled(true);
         return;
     }
-    form.frmframe(24).setVisible(false);
+    form.frmframe(riquadroGuida).setVisible(false);
     if (form.ports.printer == nullptr)
         return;
     form.ports.printer->choose(form.lstStampanti.text());
@@ -79,8 +79,8 @@ void cmdSelStampante_Click(Form& form, int index) {
         StampaDellItinerario(form);
     if (form.stato.TipoStampa == reportGuida) {
         StampaDelleMete(form);
-        form.frmframe(24).setVisible(true);
-        form.frmframe(24).setEnabled(true);
+        form.frmframe(riquadroGuida).setVisible(true);
+        form.frmframe(riquadroGuida).setEnabled(true);
     }
 }
 

@@ -13,7 +13,9 @@
 #include "schedule/rows.h"
 #include "schedule/time_line_screen.h"
 #include "store/outside_files.h"
+#include "window/button_codes.h"
 #include "window/modes.h"
+#include "window/progress.h"
 
 namespace vanzer {
 
@@ -72,7 +74,7 @@ class StampaItinerario {
           report_(run_.foglio(), trip_, run_.piede(), cell_) {}
 
     void stampa() {
-        form_.frmframe(18).setVisible(false);
+        form_.frmframe(riquadroOpzioniStampa).setVisible(false);
         table_ = intestazioneTabella(trip_.localita);
         if (pages() || forms() || cover() || line())
             run_.passo([this] { run_.foglio().imposta(); });
@@ -92,7 +94,7 @@ class StampaItinerario {
         if (forms())
             logbook();
         tell();
-        AbilitaPulsantiMeta(form_, QStringLiteral("all"));
+        AbilitaPulsantiMeta(form_, pulsanti::tutti);
     }
 
   private:
@@ -147,7 +149,7 @@ class StampaItinerario {
     }
 
     void logbook() {
-        form_.frmframe(16).setVisible(true);
+        form_.frmframe(riquadroAttesaStampa).setVisible(true);
         const QString trip = viaggioPerModuli(trip_.localita, trip_.inizio, trip_.fine);
         const QString directory = QDir(form_.archivio.PercorsoProgramma).absolutePath();
         writeFile(commandFile, {comandoModuli(QDir::toNativeSeparators(directory), trip)});
@@ -155,7 +157,7 @@ class StampaItinerario {
         if (!form_.ports.programs.start(program, {QStringLiteral("--dir"), directory, QStringLiteral("--"), trip}))
             run_.fallita(QStringLiteral("i moduli per il diario: non si può avviare ") +
                          QDir::toNativeSeparators(program));
-        form_.frmframe(16).setVisible(false);
+        form_.frmframe(riquadroAttesaStampa).setVisible(false);
     }
 
     void tell() {

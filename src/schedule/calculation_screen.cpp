@@ -9,12 +9,15 @@
 #include "schedule/rows.h"
 #include "schedule/simulation.h"
 #include "schedule/time_line_screen.h"
-#include "schedule/totals_screen.h"
+#include "trip/destination_screen.h"
+#include "trip/parameters.h"
+#include "trip/totals_screen.h"
+#include "trip/trip_numbers.h"
+#include "window/button_codes.h"
 #include "window/changes.h"
-#include "window/destination_screen.h"
 #include "window/grid_layouts.h"
 #include "window/modes.h"
-#include "window/parameters.h"
+#include "window/progress.h"
 
 namespace vanzer {
 
@@ -36,7 +39,7 @@ double storedCoefficient(Form& form) {
 
 void storeCoefficient(Form& form) {
     store::Recordset& record = openDestination(form);
-    const QString value = testoNumero(form.stato.Coefficiente, form.ambiente.decimalMark);
+    const QString value = testoNumero(form.viaggio->Coefficiente, form.ambiente.decimalMark);
     if (record.EOF_() || record.testo(QStringLiteral("Coefficiente")) == value)
         return;
     record.Edit();
@@ -45,7 +48,7 @@ void storeCoefficient(Form& form) {
 }
 
 void showProgressText(Form& form) {
-    const StatoViaggio& s = form.stato;
+    const NumeriViaggio& s = *form.viaggio;
     QString text = QStringLiteral("Calcolo della viandoria, test n. %1/20").arg(s.NumeroTest);
     if (s.GiorniCalcolati > 0)
         text += QStringLiteral(" [%1/%2").arg(s.GiorniCalcolati).arg(s.GiorniDesiderati);
@@ -53,7 +56,7 @@ void showProgressText(Form& form) {
 }
 
 void showPanel(Form& form, const PannelloViandoria& panel) {
-    const StatoViaggio& s = form.stato;
+    const NumeriViaggio& s = *form.viaggio;
     const Medie speeds = medieMostrate(form);
     float time = 0;
     for (int i = 0; i < 4; ++i) {
@@ -86,8 +89,8 @@ TestiViandoria rowTexts(const Form& form) {
     return {
         .tappa = [&legs](int row, int column) -> const QString& { return legs.text(row - 1, column); },
         .minutiPausa = form.cmbRipM.text(),
-        .oreGuidaGiorno = form.stato.OreGuidaGiorno,
-        .oreVisitaGiorno = form.stato.OreVisitaGiorno,
+        .oreGuidaGiorno = form.viaggio->OreGuidaGiorno,
+        .oreVisitaGiorno = form.viaggio->OreVisitaGiorno,
     };
 }
 
@@ -101,9 +104,9 @@ void showSchedule(Form& form) {
     grid.setTopRow(1);
 }
 
-void tellResult(Form& form) {
-    const StatoViaggio& s = form.stato;
-    if (form.colonne(0) == u"Stampa" || s.GiorniDesiderati <= 0)
+void tellResult(Form& form, ScopoCalcolo purpose) {
+    const NumeriViaggio& s = *form.viaggio;
+    if (purpose == ScopoCalcolo::Stampa || s.GiorniDesiderati <= 0)
         return;
     const QString text =
         s.GiorniDesiderati == s.GiorniCalcolati
@@ -114,7 +117,7 @@ void tellResult(Form& form) {
 
 /// The half-built schedule goes; the editor's unsaved legs come back, else the stored ones.
 void abandon(Form& form) {
-    if (form.colonne(0) == u"Ricalcola") {
+    if (form.stato.TornaAlleTappe) {
         AttivitaInserimentoItinerario(form);
         AttivaFormMeta(form, true);
     } else {
@@ -125,45 +128,46 @@ void abandon(Form& form) {
         RicaricaItinerario(form);
         form.cmbRicerca.setVisible(false);
     }
-    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    AbilitaPulsantiMeta(form, pulsanti::tutti);
     AzzeraPercentuale(form);
 }
 
 class Calcolo {
   public:
-    explicit Calcolo(Form& form) : form_(form), s_(form.stato), prepared_(PreparaTabellaPerCalcoloViandoria(form)) {
-        AbilitaPulsantiMeta(form_, QStringLiteral("Es"));
+    explicit Calcolo(Form& form)
+        : form_(form), s_(form.stato), trip_(*form.viaggio), prepared_(PreparaTabellaPerCalcoloViandoria(form)) {
+        AbilitaPulsantiMeta(form_, pulsanti::soloStop);
     }
 
     /// The tests, until one fits or they are used up; false if the user stopped them.
     bool prove() {
         Adeguamento search(fittingData());
         VistaCrescente view(form_, prepared_->righe, rowTexts(form_));
-        s_.GiorniCalcolati = 0;
+        trip_.GiorniCalcolati = 0;
         beginSeries(search);
         do {
-            if (search.prossimo(s_.GiorniCalcolati, s_.GiorniDesiderati, conSoste()) ==
+            if (search.prossimo(trip_.GiorniCalcolati, trip_.GiorniDesiderati, conSoste()) ==
                 Adeguamento::Passo::NuovaSerie) {
                 beginSeries(search);
                 continue;
             }
             if (!conSoste())
-                s_.GiorniDesiderati = 0;
-            s_.Coefficiente = search.coefficiente();
-            s_.NumeroTest = search.numeroTest();
+                trip_.GiorniDesiderati = 0;
+            trip_.Coefficiente = search.coefficiente();
+            trip_.NumeroTest = search.numeroTest();
             if (!prova(view))
                 return false;
         } while (search.numeroTest() == 0 ||
-                 search.esito(s_.GiorniCalcolati, s_.GiorniDesiderati) == Adeguamento::Fine::InCorso);
+                 search.esito(trip_.GiorniCalcolati, trip_.GiorniDesiderati) == Adeguamento::Fine::InCorso);
         return true;
     }
 
-    void chiude() {
-        if (s_.Coefficiente != 1)
+    void chiude(ScopoCalcolo purpose) {
+        if (trip_.Coefficiente != 1)
             form_.archivio.scriveRicavati([this] { storeCoefficient(form_); });
         showPanel(form_, last_.pannello);
         if (last_.pannello.giuliano != 0)
-            form_.txtFine(6).setText(QString::number(s_.GiorniCalcolati));
+            form_.txtFine(6).setText(QString::number(trip_.GiorniCalcolati));
         form_.viandoria =
             std::make_shared<const ViandoriaMostrata>(ViandoriaMostrata{prepared_, std::move(last_), used_});
         showSchedule(form_);
@@ -171,8 +175,8 @@ class Calcolo {
         form_.cmdCalcola.setCaption(QStringLiteral("&Sblocca"));
         s_.ViandoriaCalcolata = true;
         AzzeraPercentuale(form_);
-        tellResult(form_);
-        AbilitaPulsantiMeta(form_, QStringLiteral("CaSt"));
+        tellResult(form_, purpose);
+        AbilitaPulsantiMeta(form_, pulsanti::conViandoria);
     }
 
   private:
@@ -182,11 +186,11 @@ class Calcolo {
 
     DatiAdeguamento fittingData() {
         const int driving =
-            arrotonda(static_cast<double>(ghmStringa2Centesimi(form_.txtTempo(4).text(), s_.OreGuidaGiorno)));
+            arrotonda(static_cast<double>(ghmStringa2Centesimi(form_.txtTempo(4).text(), trip_.OreGuidaGiorno)));
         DatiAdeguamento data;
         data.valoreMemorizzato = storedCoefficient(form_);
-        data.giorniGuida = giorniDiGuida(driving, s_.OreGuidaGiorno);
-        if (data.giorniGuida <= s_.GiorniDesiderati)
+        data.giorniGuida = giorniDiGuida(driving, trip_.OreGuidaGiorno);
+        if (data.giorniGuida <= trip_.GiorniDesiderati)
             data.sosteTotali = prepared_->sosteGuida + prepared_->sosteItinerario;
         return data;
     }
@@ -194,9 +198,9 @@ class Calcolo {
     void beginSeries(Adeguamento& search) {
         Aggiorna(form_, false);
         ControllaVariabiliConvertite(form_);
-        search.iniziaSerie(s_.OreGuidaGiorno);
-        s_.Coefficiente = search.coefficiente();
-        s_.NumeroTest = 0;
+        search.iniziaSerie(trip_.OreGuidaGiorno);
+        trip_.Coefficiente = search.coefficiente();
+        trip_.NumeroTest = 0;
     }
 
     bool prova(VistaCrescente& view) {
@@ -215,38 +219,39 @@ class Calcolo {
             return false;
         };
         used_ = parametriSimulazione(form_);
-        last_ = simula(prepared_->righe, used_, s_.Coefficiente, looksUp, std::move(last_.righe));
-        s_.GiulianoCorrente = last_.giuliano;
-        s_.OraCorrente = last_.ora;
-        s_.NumeroTraghetti = last_.traghetti;
+        last_ = simula(prepared_->righe, used_, trip_.Coefficiente, looksUp, std::move(last_.righe));
+        trip_.GiulianoCorrente = last_.giuliano;
+        trip_.OraCorrente = last_.ora;
+        trip_.NumeroTraghetti = last_.traghetti;
         s_.RigaCaricata = static_cast<int>(last_.righe.size());
         if (last_.esito == Viandoria::Esito::Interrotta)
             return false;
-        s_.GiorniCalcolati = last_.giorni;
+        trip_.GiorniCalcolati = last_.giorni;
         return true;
     }
 
     Form& form_;
-    StatoViaggio& s_;
+    StatoFinestra& s_;
+    NumeriViaggio& trip_;
     std::shared_ptr<const RigheDiLavoro> prepared_;
     ParametriSimulazione used_;
     Viandoria last_;
 };
 
-void calculate(Form& form) {
-    AbilitaPulsantiMeta(form, QStringLiteral("zz"));
+void calculate(Form& form, ScopoCalcolo purpose) {
+    AbilitaPulsantiMeta(form, pulsanti::nessuno);
     if (form.stato.ViandoriaCalcolata) {
         AttivaFormMeta(form, true);
         CalcolaKmTempiItinerario(form);
-        tellResult(form);
-        AbilitaPulsantiMeta(form, QStringLiteral("CaSt"));
+        tellResult(form, purpose);
+        AbilitaPulsantiMeta(form, pulsanti::conViandoria);
         return;
     }
     RimetteTappe(form);
     try {
         Calcolo calculation(form);
         if (calculation.prove())
-            calculation.chiude();
+            calculation.chiude(purpose);
         else
             abandon(form);
     } catch (const store::StoreError&) {
@@ -260,7 +265,7 @@ void calculate(Form& form) {
 } // namespace
 
 ParametriSimulazione parametriSimulazione(const Form& form) {
-    const StatoViaggio& s = form.stato;
+    const NumeriViaggio& s = *form.viaggio;
     return {
         .oraColazione = s.OraColazione,
         .oraPranzo = s.OraPranzo,
@@ -285,11 +290,11 @@ ParametriSimulazione parametriSimulazione(const Form& form) {
 }
 
 void cmdCalcola_Click(Form& form) {
-    form.frmframe(15).setEnabled(false);
+    form.frmframe(riquadroMenu).setEnabled(false);
     form.stato.ModoRicerca = 1;
-    AbilitaPulsantiMeta(form, QStringLiteral("zz"));
+    AbilitaPulsantiMeta(form, pulsanti::nessuno);
     form.cmbRicerca.setText(form.txtLocalita.text());
-    AbilitaPulsantiMeta(form, QStringLiteral("zz"));
+    AbilitaPulsantiMeta(form, pulsanti::nessuno);
     if (!uguale(form.cmdCalcola.caption(), u"&Calcola")) {
         RinunciaStampa(form);
         sbloccaTappe(form);
@@ -297,22 +302,22 @@ void cmdCalcola_Click(Form& form) {
         form.cmbRicerca.setVisible(false);
         CalcolaViandoria(form);
     }
-    form.frmframe(15).setEnabled(true);
+    form.frmframe(riquadroMenu).setEnabled(true);
 }
 
 void cmdRicalcola_Click(Form& form) {
     form.mfgTab.setWidth(larghezzaTabella);
-    form.frmframe(12).setVisible(false);
-    form.colonne(0) = QStringLiteral("Ricalcola");
+    form.frmframe(riquadroTappe).setVisible(false);
+    form.stato.TornaAlleTappe = true;
     CalcolaViandoria(form);
-    AbilitaPulsantiMeta(form, QStringLiteral("Ca"));
+    AbilitaPulsantiMeta(form, pulsanti::soloCalcola);
 }
 
-void CalcolaViandoria(Form& form) {
+void CalcolaViandoria(Form& form, ScopoCalcolo purpose) {
     form.stato.InterrompiCalcolo = false;
-    calculate(form);
-    if (form.colonne(0) == u"Stampa")
-        form.colonne(0).clear();
+    if (purpose == ScopoCalcolo::Stampa)
+        form.stato.TornaAlleTappe = false;
+    calculate(form, purpose);
 }
 
 } // namespace vanzer

@@ -10,8 +10,9 @@ namespace vanzer {
 void cmdCalcola_Click(Form& form);
 /// Calculates from the leg editor.
 void cmdRicalcola_Click(Form& form);
-/// The calculation; slot 0 of the columns says who asked for it.
-void CalcolaViandoria(Form& form);
+/// What a schedule is calculated for: to be looked at, with what came of a wanted number of days, or to be printed.
+enum class ScopoCalcolo { Vista, Stampa };
+void CalcolaViandoria(Form& form, ScopoCalcolo purpose = ScopoCalcolo::Vista);
 
 /// What a test goes by, from the variables and the lists as they stand.
 [[nodiscard]] ParametriSimulazione parametriSimulazione(const Form& form);

@@ -6,7 +6,7 @@
 #include "core/text.h"
 #include "core/time_values.h"
 #include "itinerary/leg_editor.h"
-#include "schedule/totals.h"
+#include "trip/totals.h"
 
 namespace vanzer {
 
@@ -119,7 +119,7 @@ class Preparatore {
     float vociGuida(const TappaDaPreparare& leg) {
         double sum = 0;
         for (const VoceGuida* const entry : with_.guida(PulisceNomeLocalita(leg.luogo))) {
-            const float stop = sostaDellaVoce(entry->tempoSosta, with_.oreVisitaGiorno);
+            const float stop = tempoVoce(entry->tempoSosta, with_.oreVisitaGiorno, LetturaTempo::Viandoria);
             const auto type = stop == 0 ? RigaDiLavoro::Tipo::Menzione : RigaDiLavoro::Tipo::SostaGuida;
             RigaDiLavoro& row = aggiunge(type, leg);
             row.nome = nomeDellaVoce(*entry, type);
@@ -163,15 +163,6 @@ RigheDiLavoro preparaRighe(std::vector<TappaDaPreparare> legs, const Preparazion
     for (const TappaDaPreparare& leg : legs)
         maker.tappa(leg);
     return std::move(maker).risultato();
-}
-
-float sostaDellaVoce(const QString& tempoSosta, float oreVisitaGiorno) {
-    if (!iniziaCon(tempoSosta, u"G"))
-        return ghmStringa2Centesimi(tempoSosta, oreVisitaGiorno);
-    const QStringView time(tempoSosta);
-    const double days = Val(time.mid(1));
-    const double minutes = Val(Mid(time, 4, 2));
-    return static_cast<float>(days * static_cast<double>(oreVisitaGiorno) + Int(minutes * 100 / 60 + 0.5));
 }
 
 } // namespace vanzer

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "guide/marks.h"
+#include "core/guide_entry.h"
 #include "schedule/working_rows.h"
 
 namespace vanzer {
@@ -35,8 +35,5 @@ struct Preparazione {
 /// Rows without a place may be among the legs. The marks of the stretch are made consistent on the way: an "[End]"
 /// before any "[Start]" goes, and without a "[Start]" the first place receives it.
 [[nodiscard]] RigheDiLavoro preparaRighe(std::vector<TappaDaPreparare> legs, const Preparazione& with);
-
-/// Length of a guide entry in hundredths: hh:mm, or "G" and whole visiting days.
-[[nodiscard]] float sostaDellaVoce(const QString& tempoSosta, float oreVisitaGiorno);
 
 } // namespace vanzer

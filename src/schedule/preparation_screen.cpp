@@ -1,12 +1,16 @@
 #include "schedule/preparation_screen.h"
 
+#include "core/leg_columns.h"
 #include "core/text.h"
-#include "itinerary/leg_table_screen.h"
 #include "schedule/preparation.h"
-#include "schedule/totals_screen.h"
+#include "store/guide_marks.h"
+#include "trip/leg_table_screen.h"
+#include "trip/parameters.h"
+#include "trip/totals_screen.h"
+#include "trip/trip_numbers.h"
 #include "window/grid_layouts.h"
 #include "window/modes.h"
-#include "window/parameters.h"
+#include "window/progress.h"
 
 namespace vanzer {
 
@@ -25,8 +29,8 @@ std::vector<TappaDaPreparare> legsToPrepare(const TestiTabella& rows) {
     std::vector<TappaDaPreparare> legs;
     legs.reserve(static_cast<std::size_t>(rows.rows()));
     for (int r = 0; r < rows.rows(); ++r)
-        legs.push_back(
-            {r + 1, rows.text(r, 1), rows.text(r, 2), chilometri(rows.text(r, 3)), rows.text(r, 4), rows.text(r, 7)});
+        legs.push_back({r + 1, rows.text(r, tappaLuogo), rows.text(r, tappaStrada), chilometri(rows.text(r, tappaKm)),
+                        rows.text(r, tappaTipo), rows.text(r, tappaSosta)});
     return legs;
 }
 
@@ -73,7 +77,7 @@ void showWorkingRows(Form& form, const std::vector<RigaDiLavoro>& work) {
 } // namespace
 
 std::shared_ptr<const RigheDiLavoro> PreparaTabellaPerCalcoloViandoria(Form& form) {
-    StatoViaggio& s = form.stato;
+    StatoFinestra& s = form.stato;
     ControllaVariabiliConvertite(form);
     PulisciFinestre(form);
     SettaAZeroFlaGVisto(form);
@@ -81,10 +85,10 @@ std::shared_ptr<const RigheDiLavoro> PreparaTabellaPerCalcoloViandoria(Form& for
     s.PercentualeTotale = form.mfgTab.rows() - 1;
     form.tappeConservate = form.mfgTab.takeContents();
 
-    SegniGuida guide(form.archivio);
+    store::SegniGuida guide(form.archivio);
     const Preparazione with{
         .fonte = fonteSoste(form.cmbSoste.text()),
-        .oreVisitaGiorno = s.OreVisitaGiorno,
+        .oreVisitaGiorno = form.viaggio->OreVisitaGiorno,
         .guida = [&guide](const QString& place) { return guide.usaLuogo(place); },
         .categoria =
             [&form](int category) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/leg_columns.h"
 #include "guide/entries.h"
 #include "schedule/rows.h"
 
@@ -13,7 +14,6 @@ using Tipo = AspettoRiga::Tipo;
 using Cella = std::function<const QString&(int row, int column)>;
 
 /// Stop of a leg: the schedule has the stop of the guide there.
-constexpr int colSostaTappa = 7;
 
 bool isSchedule(int rows, const Cella& cell) {
     for (int r = 1; r < rows; ++r) {
@@ -29,7 +29,7 @@ void legLooks(std::vector<AspettoRiga>& looks, const Cella& cell) {
             continue;
         AspettoRiga& look = looks[static_cast<std::size_t>(r)];
         look.tipo = Tipo::Tappa;
-        look.fineGiornata = cell(r, colSostaTappa).startsWith(u'*');
+        look.fineGiornata = cell(r, tappaSosta).startsWith(u'*');
     }
 }
 

@@ -9,8 +9,8 @@
 #include <functional>
 #include <vector>
 
-#include "schedule/totals.h"
 #include "schedule/working_rows.h"
+#include "trip/totals.h"
 
 namespace vanzer {
 

@@ -1,17 +1,17 @@
 #include "schedule/stops_screen.h"
 
+#include "core/leg_columns.h"
 #include "core/text.h"
-#include "guide/marks.h"
-#include "itinerary/leg_table_screen.h"
 #include "schedule/stops.h"
-#include "window/destination_screen.h"
-#include "window/modes.h"
+#include "store/guide_marks.h"
+#include "trip/destination_screen.h"
+#include "trip/leg_table_screen.h"
+#include "trip/trip_numbers.h"
+#include "window/progress.h"
 
 namespace vanzer {
 
 namespace {
-
-constexpr int colonnaSosta = 7;
 
 /// True if any stop has grown.
 bool addGuideStops(Form& form) {
@@ -19,18 +19,18 @@ bool addGuideStops(Form& form) {
     bool any = false;
     SettaAZeroFlaGVisto(form);
     form.stato.PercentualeTotale = grid.rows() - 1;
-    SegniGuida guide(form.archivio);
+    store::SegniGuida guide(form.archivio);
     for (int r = 1; r < grid.rows(); ++r) {
         form.stato.PercentualeCorrente = r;
         AggiornaPercentuale(form);
-        if (grid.cell(r, 1).isEmpty())
+        if (grid.cell(r, tappaLuogo).isEmpty())
             continue;
         std::vector<QString> times;
-        for (const VoceGuida* const entry : guide.usaModello(LikeTesto(grid.cell(r, 1))))
+        for (const VoceGuida* const entry : guide.usaModello(LikeTesto(grid.cell(r, tappaLuogo))))
             times.push_back(entry->tempoSosta);
         if (times.empty())
             continue;
-        grid.setCell(r, colonnaSosta, sostaConGuida(grid.cell(r, colonnaSosta), times, form.stato.OreVisitaGiorno));
+        grid.setCell(r, tappaSosta, sostaConGuida(grid.cell(r, tappaSosta), times, form.viaggio->OreVisitaGiorno));
         any = true;
     }
     guide.scrive();
@@ -59,7 +59,7 @@ void cmdAzzeraSoste_Click(Form& form) {
     if (form.domandaPericolosa(question, QStringLiteral("Azzera soste itinerario"), descriveMeta(form)) != rispostaSi)
         return;
     for (int r = 1; r < form.mfgTab.rows(); ++r)
-        form.mfgTab.setCell(r, colonnaSosta, {});
+        form.mfgTab.setCell(r, tappaSosta, {});
 }
 
 } // namespace vanzer

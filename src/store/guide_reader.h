@@ -9,20 +9,12 @@
 
 #include <QString>
 
+#include "core/guide_entry.h"
 #include "store/database.h"
 #include "store/row_set.h"
 
 namespace vanzer::store {
 
-struct VoceGuida {
-    qint64 rowid = 0;
-    QString tempoSosta;
-    int codice = 0; ///< category
-    QString gruppo;
-    QString descrizione;
-};
-
-using VociGuida = std::vector<VoceGuida>;
 /// By place or pattern; the entries stay where they are until all is forgotten.
 using MemoriaGuida = std::unordered_map<QString, VociGuida>;
 

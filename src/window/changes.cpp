@@ -2,9 +2,6 @@
 
 #include <vector>
 
-#include "window/destination_screen.h"
-#include "window/parameters.h"
-
 namespace vanzer {
 
 namespace {
@@ -100,12 +97,11 @@ void rimetteCampi(Form& form, const TestiDeiCampi& typed) {
                 field->setText(text->second);
         }
     }
-    ImpostaGiorniMeseInizio(form);
     form.campiDaRicordare = false;
 }
 
 bool lasciaTratto(Form& form) {
-    return !form.interattiva || !form.frmframe(1).visible() || !form.chiudeTratto || form.chiudeTratto();
+    return !form.interattiva || !form.frmframe(riquadroTratto).visible() || !form.chiudeTratto || form.chiudeTratto();
 }
 
 bool lasciaModifiche(Form& form) {
@@ -120,7 +116,7 @@ bool lasciaCampi(Form& form) {
                                     .title = QStringLiteral("Modifiche non salvate"),
                                     .buttons = Pulsanti::SalvaNonSalvareAnnulla,
                                     .detail = QStringLiteral("Cambiati: %1.").arg(changed.join(QStringLiteral(", ")))});
-    if (answer == rispostaAnnulla || (answer == rispostaSi && !salvaMeta(form, false)))
+    if (answer == rispostaAnnulla || (answer == rispostaSi && !form.salvaMeta()))
         return false;
     ricordaCampi(form);
     form.campiDaRicordare = true;

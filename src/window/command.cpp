@@ -4,23 +4,27 @@
 #include <array>
 
 #include "core/text.h"
+#include "window/button_codes.h"
 #include "window/changes.h"
 #include "window/modes.h"
+#include "window/progress.h"
 
 namespace vanzer {
 
 namespace {
 
 bool anyFrameOpen(const Form& form) {
-    return std::ranges::any_of(std::array{1, 12, 17, 18, 19, 22, 23, 24, 25},
+    return std::ranges::any_of(std::array{riquadroTratto, riquadroTappe, riquadroCopia, riquadroOpzioniStampa,
+                                          riquadroTrattoCopia, riquadroScambio, riquadroStampanti, riquadroGuida,
+                                          riquadroStampaGuida},
                                [&form](int frame) { return form.frmframe(frame).visible(); });
 }
 
 /// As they were, unless all were off for a frame that the command has taken away before it failed.
 void giveButtonsBack(Form& form, const QString& meta, const QString& itinerario) {
-    form.stato.PulsantiMeta = uguale(meta, u"zz") && !anyFrameOpen(form) ? QStringLiteral("all") : meta;
+    form.stato.PulsantiMeta = uguale(meta, pulsanti::nessuno) && !anyFrameOpen(form) ? pulsanti::tutti : meta;
     form.stato.PulsantiItinerario = itinerario;
-    form.frmframe(15).setEnabled(true);
+    form.frmframe(riquadroMenu).setEnabled(true);
     AbilitaPulsantiComando(form);
     AzzeraPercentuale(form);
 }

@@ -13,20 +13,22 @@ constexpr int frameCount = 29;
 
 /// Frames that stand inside others.
 constexpr std::array<std::pair<int, int>, 10> inside{{
-    {2, 1},   // road type to assign, in the editing of a stretch
-    {3, 12},  // road type, in the leg editor
-    {14, 12}, // buttons of the leg editor
-    {4, 7},
-    {5, 7},
-    {6, 7},
-    {0, 7},
-    {25, 24}, // print options of the guide
-    {26, 25},
-    {27, 25},
+    {riquadroStradaTratto, riquadroTratto},
+    {riquadroStradaTappa, riquadroTappe},
+    {riquadroPulsantiTappe, riquadroTappe},
+    {riquadroRiposi, riquadroDatiTecnici},
+    {riquadroVisite, riquadroDatiTecnici},
+    {riquadroPasti, riquadroDatiTecnici},
+    {riquadroSoste, riquadroDatiTecnici},
+    {riquadroStampaGuida, riquadroGuida},
+    {riquadroListaStampa, riquadroStampaGuida},
+    {riquadroDettaglioStampa, riquadroStampaGuida},
 }};
 
 /// The frame of each pair of clock lists: meals, visits, ferries.
-constexpr std::array<int, 9> clockFrames{6, 6, 6, 6, 6, 6, 5, 5, 11};
+constexpr std::array<int, 9> clockFrames{riquadroPasti,  riquadroPasti,  riquadroPasti,
+                                         riquadroPasti,  riquadroPasti,  riquadroPasti,
+                                         riquadroVisite, riquadroVisite, riquadroPercorrenze};
 
 QString key(const QString& name) {
     return minuscolo(name);

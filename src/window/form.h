@@ -7,14 +7,12 @@
 #include <memory>
 #include <vector>
 
-#include "core/columns.h"
 #include "core/draft.h"
-#include "core/trip_state.h"
-#include "schedule/totals.h"
 #include "store/archive.h"
 #include "toolkit/control.h"
 #include "toolkit/grid.h"
 #include "toolkit/ports.h"
+#include "window/window_state.h"
 
 namespace vanzer {
 
@@ -31,8 +29,40 @@ template<typename T> class Serie {
     std::vector<T*> controls_;
 };
 
+class TotaliTabella;
+struct NumeriViaggio;
 struct ViandoriaMostrata;
 struct LineaDelTempo;
+
+/// The numbers of the frames.
+enum Riquadro {
+    riquadroSoste = 0,    ///< sources of the stops
+    riquadroTratto,       ///< editing of a stretch
+    riquadroStradaTratto, ///< road type to assign, inside it
+    riquadroStradaTappa,  ///< road type of a leg
+    riquadroRiposi,
+    riquadroVisite,      ///< hours of the visits
+    riquadroPasti,       ///< hours of meals and night
+    riquadroDatiTecnici, ///< holds those of stops, rests and hours
+    riquadroMeta,        ///< the destination
+    riquadroInizio,
+    riquadroFine,
+    riquadroPercorrenze,        ///< speeds and totals
+    riquadroTappe,              ///< the leg editor
+    riquadroPulsantiTappe = 14, ///< its buttons
+    riquadroMenu,
+    riquadroAttesaStampa, ///< waiting note of a print
+    riquadroCopia,        ///< source of a copy
+    riquadroOpzioniStampa,
+    riquadroTrattoCopia,     ///< the stretch to copy
+    riquadroScambio = 22,    ///< export and import
+    riquadroStampanti,       ///< choice of the printer
+    riquadroGuida,           ///< the guide editor
+    riquadroStampaGuida,     ///< print options of the guide
+    riquadroListaStampa,     ///< which places, inside it
+    riquadroDettaglioStampa, ///< how much of each, inside it
+    riquadroStato,           ///< the status line
+};
 
 /// What the surroundings give the window once and for all.
 struct Ambiente {
@@ -51,8 +81,8 @@ class Form {
     Ambiente ambiente;
     Ports& ports;
     store::Archive archivio;
-    StatoViaggio stato;
-    Colonne colonne;
+    StatoFinestra stato;
+    std::shared_ptr<NumeriViaggio> viaggio; ///< the trip in work, made by start-up
 
     /// The control of that name, written with its index if it stands in an array; capitals ignored; null if unknown.
     [[nodiscard]] Control* find(const QString& name) const;
@@ -90,6 +120,7 @@ class Form {
     QStringList campiMemorizzati;             ///< the fields of the destination as they count as stored
     bool campiDaRicordare = false;            ///< at the end of the command they count so as they stand then
     std::function<void()> primaDelComando;    ///< raised before a command of the user begins
+    std::function<bool()> salvaMeta;          ///< stores the destination as it stands; false if it can't be
     std::function<bool()> chiudeTratto;       ///< leaves the editing of a stretch; false if the user stays
     std::function<bool(int& row)> lasciaRiga; ///< before the fields show another row: false if the user stays on his
     std::function<void()> guideRowShown;      ///< raised when the grid's current row changes while the guide is open
@@ -104,7 +135,7 @@ class Form {
     /// CodiceMeta is that of a destination that isn't stored yet: its legs are stored with it.
     bool metaNuova = false;
     /// Of the legs in the table, as they were last worked out.
-    TotaliTabella totali;
+    std::shared_ptr<TotaliTabella> totali;
     /// The schedule in the table, as numbers; null while it shows legs.
     std::shared_ptr<const ViandoriaMostrata> viandoria;
     /// What the picture of the schedule shows; null before it was asked for.
@@ -142,32 +173,32 @@ class Form {
 
   public:
     // Destination
-    TextBox& txtLocalita = text("txtLocalita", 8);
-    TextBox& txtNazione = text("txtNazione", 8);
-    TextBox& txtCodice = text("txtCodice", 8);
-    Serie<ListControl> cmbInizio = lists("cmbInizio", 9, 5);
-    TextBox& txtInizioGSett = text("txtInizioGSett", 9);
-    Serie<TextBox> txtFine = texts("txtFine", 10, 7);
+    TextBox& txtLocalita = text("txtLocalita", riquadroMeta);
+    TextBox& txtNazione = text("txtNazione", riquadroMeta);
+    TextBox& txtCodice = text("txtCodice", riquadroMeta);
+    Serie<ListControl> cmbInizio = lists("cmbInizio", riquadroInizio, 5);
+    TextBox& txtInizioGSett = text("txtInizioGSett", riquadroInizio);
+    Serie<TextBox> txtFine = texts("txtFine", riquadroFine, 7);
 
     // Parameters
-    Serie<ListControl> cmbMediaKm = lists("cmbMediaKm", 11, 4);
-    Serie<Label> lblTipoStrada = many<Label>("lblTipoStrada", 11, 4);
-    Serie<TextBox> txtKmTot = texts("txtKmTot", 11, 5);
-    Serie<TextBox> txtTempo = texts("txtTempo", 11, 5);
-    TextBox& txtTragh = text("txtTragh", 11);
+    Serie<ListControl> cmbMediaKm = lists("cmbMediaKm", riquadroPercorrenze, 4);
+    Serie<Label> lblTipoStrada = many<Label>("lblTipoStrada", riquadroPercorrenze, 4);
+    Serie<TextBox> txtKmTot = texts("txtKmTot", riquadroPercorrenze, 5);
+    Serie<TextBox> txtTempo = texts("txtTempo", riquadroPercorrenze, 5);
+    TextBox& txtTragh = text("txtTragh", riquadroPercorrenze);
     Serie<ListControl> cmbOra = clockLists("cmbOra");
     Serie<ListControl> cmbMin = clockLists("cmbMin");
-    ListControl& cmbRipM = list("cmbRipM", 4);
-    ListControl& cmbRipH = list("cmbRipH", 4);
-    ListControl& cmbRipG = list("cmbRipG", 4);
-    ListControl& cmbRipGG = list("cmbRipGG", 4);
-    ListControl& cmbRange = list("cmbRange", 6);
-    ListControl& cmbSoste = list("cmbSoste", 0);
-    ListControl& cmbGiorni = list("cmbGiorni", 0);
-    Serie<Button> cmdDefault = buttons("cmdDefault", 7, 3);
-    Button& cmdHelpTotale1 = button("cmdHelpTotale1", 7);
-    Button& cmdHelpTotale2 = button("cmdHelpTotale2", 7);
-    Button& cmdHelpTt = button("cmdHelpTt", 7);
+    ListControl& cmbRipM = list("cmbRipM", riquadroRiposi);
+    ListControl& cmbRipH = list("cmbRipH", riquadroRiposi);
+    ListControl& cmbRipG = list("cmbRipG", riquadroRiposi);
+    ListControl& cmbRipGG = list("cmbRipGG", riquadroRiposi);
+    ListControl& cmbRange = list("cmbRange", riquadroPasti);
+    ListControl& cmbSoste = list("cmbSoste", riquadroSoste);
+    ListControl& cmbGiorni = list("cmbGiorni", riquadroSoste);
+    Serie<Button> cmdDefault = buttons("cmdDefault", riquadroDatiTecnici, 3);
+    Button& cmdHelpTotale1 = button("cmdHelpTotale1", riquadroDatiTecnici);
+    Button& cmdHelpTotale2 = button("cmdHelpTotale2", riquadroDatiTecnici);
+    Button& cmdHelpTt = button("cmdHelpTt", riquadroDatiTecnici);
 
     // Menu
     Button& cmdNuovo = button("cmdNuovo", finestra);
@@ -176,22 +207,22 @@ class Form {
     Button& cmdCancMeta = button("cmdCancMeta", finestra);
     Button& cmdExport = button("cmdExport", finestra);
     Button& cmdEsce = button("cmdEsce", finestra);
-    Button& cmdItinerario = button("cmdItinerario", 15);
-    Button& cmdGuidaCitta = button("cmdGuidaCitta", 15);
-    Button& cmdCalcola = button("cmdCalcola", 15);
-    Button& cmdStampa = button("cmdStampa", 15);
-    Button& cmdCancItin = button("cmdCancItin", 15);
-    Button& cmdModStrada = button("cmdModStrada", 15);
+    Button& cmdItinerario = button("cmdItinerario", riquadroMenu);
+    Button& cmdGuidaCitta = button("cmdGuidaCitta", riquadroMenu);
+    Button& cmdCalcola = button("cmdCalcola", riquadroMenu);
+    Button& cmdStampa = button("cmdStampa", riquadroMenu);
+    Button& cmdCancItin = button("cmdCancItin", riquadroMenu);
+    Button& cmdModStrada = button("cmdModStrada", riquadroMenu);
 
     // Table, status line, search lists
     Grid& mfgTab = one<Grid>("mfgTab", finestra, 30, 20);
-    Label& lblElaborazione = label("lblElaborazione", 28);
-    Label& lblAvviso = label("lblAvviso", 28);
-    TextBox& txtBase = text("txtBase", 28);
-    TextBox& txtPerc = text("txtPerc", 28);
-    Label& lblPath = label("lblPath", 28);
-    Button& cmdConverte = button("cmdConverte", 28);
-    Button& cmdHelpGenerico = button("cmdHelpGenerico", 28);
+    Label& lblElaborazione = label("lblElaborazione", riquadroStato);
+    Label& lblAvviso = label("lblAvviso", riquadroStato);
+    TextBox& txtBase = text("txtBase", riquadroStato);
+    TextBox& txtPerc = text("txtPerc", riquadroStato);
+    Label& lblPath = label("lblPath", riquadroStato);
+    Button& cmdConverte = button("cmdConverte", riquadroStato);
+    Button& cmdHelpGenerico = button("cmdHelpGenerico", riquadroStato);
     Label& lblAutore = label("lblAutore", finestra);
     ListControl& cmbRicerca = box("cmbRicerca", finestra);
     ListControl& cmbRicercaTappa = box("cmbRicercaTappa", finestra);
@@ -199,100 +230,100 @@ class Form {
     Serie<Picture> imgLogo1 = many<Picture>("imgLogo1", finestra, 2);
 
     // Leg editor
-    TextBox& txtTappa = text("txtTappa", 12);
-    TextBox& txtKm = text("txtKm", 12);
-    CheckBox& chkKm = check("chkKm", 12);
-    TextBox& txtNumStrada = text("txtNumStrada", 12);
-    Serie<OptionButton> optStrada = options("optStrada", 3, 4);
-    Serie<ListControl> cmbSosta = lists("cmbSosta", 12, 3);
-    CheckBox& chkEndDay = check("chkEndDay", 12);
-    Serie<CheckBox> chkMeta = many<CheckBox>("chkMeta", 12, 2);
-    TextBox& txtRiga = text("txtRiga", 12);
-    Button& cmdHelpKm = button("cmdHelpKm", 12);
-    Button& cmdInserisce = button("cmdInserisce", 14);
-    Button& cmdAggiunge = button("cmdAggiunge", 14);
-    Button& cmdCancella = button("cmdCancella", 14);
-    Button& cmdRicalcola = button("cmdRicalcola", 14);
-    Button& cmdRitorno = button("cmdRitorno", 14);
-    Button& cmdCerca = button("cmdCerca", 14);
-    Button& cmdFine = button("cmdFine", 14);
-    Button& cmdMemorizza = button("cmdMemorizza", 14);
-    Button& cmdDuplica = button("cmdDuplica", 14);
-    Button& cmdAzzeraSoste = button("cmdAzzeraSoste", 14);
-    Button& cmdTrasferisce = button("cmdTrasferisce", 14);
-    Button& cmdMapPoint = button("cmdMapPoint", 14);
-    Button& cmdSelezionaMete = button("cmdSelezionaMete", 14);
-    Serie<Button> cmdHelpItin = buttons("cmdHelpItin", 14, 5);
-    ListControl& lstMete = box("lstMete", 12);
+    TextBox& txtTappa = text("txtTappa", riquadroTappe);
+    TextBox& txtKm = text("txtKm", riquadroTappe);
+    CheckBox& chkKm = check("chkKm", riquadroTappe);
+    TextBox& txtNumStrada = text("txtNumStrada", riquadroTappe);
+    Serie<OptionButton> optStrada = options("optStrada", riquadroStradaTappa, 4);
+    Serie<ListControl> cmbSosta = lists("cmbSosta", riquadroTappe, 3);
+    CheckBox& chkEndDay = check("chkEndDay", riquadroTappe);
+    Serie<CheckBox> chkMeta = many<CheckBox>("chkMeta", riquadroTappe, 2);
+    TextBox& txtRiga = text("txtRiga", riquadroTappe);
+    Button& cmdHelpKm = button("cmdHelpKm", riquadroTappe);
+    Button& cmdInserisce = button("cmdInserisce", riquadroPulsantiTappe);
+    Button& cmdAggiunge = button("cmdAggiunge", riquadroPulsantiTappe);
+    Button& cmdCancella = button("cmdCancella", riquadroPulsantiTappe);
+    Button& cmdRicalcola = button("cmdRicalcola", riquadroPulsantiTappe);
+    Button& cmdRitorno = button("cmdRitorno", riquadroPulsantiTappe);
+    Button& cmdCerca = button("cmdCerca", riquadroPulsantiTappe);
+    Button& cmdFine = button("cmdFine", riquadroPulsantiTappe);
+    Button& cmdMemorizza = button("cmdMemorizza", riquadroPulsantiTappe);
+    Button& cmdDuplica = button("cmdDuplica", riquadroPulsantiTappe);
+    Button& cmdAzzeraSoste = button("cmdAzzeraSoste", riquadroPulsantiTappe);
+    Button& cmdTrasferisce = button("cmdTrasferisce", riquadroPulsantiTappe);
+    Button& cmdMapPoint = button("cmdMapPoint", riquadroPulsantiTappe);
+    Button& cmdSelezionaMete = button("cmdSelezionaMete", riquadroPulsantiTappe);
+    Serie<Button> cmdHelpItin = buttons("cmdHelpItin", riquadroPulsantiTappe, 5);
+    ListControl& lstMete = box("lstMete", riquadroTappe);
 
     // Editing a stretch
-    Serie<TextBox> txttappasel = texts("txttappasel", 1, 3);
-    Serie<Button> cmdTappaSEl = buttons("cmdTappaSEl", 1, 5);
-    Serie<OptionButton> optTStrada = options("optTStrada", 2, 4);
-    CheckBox& chkTappaSingola = check("chkTappaSingola", 1);
+    Serie<TextBox> txttappasel = texts("txttappasel", riquadroTratto, 3);
+    Serie<Button> cmdTappaSEl = buttons("cmdTappaSEl", riquadroTratto, 5);
+    Serie<OptionButton> optTStrada = options("optTStrada", riquadroStradaTratto, 4);
+    CheckBox& chkTappaSingola = check("chkTappaSingola", riquadroTratto);
 
     // Source of a copy, the stretch to copy
-    Grid& mfgCopia = one<Grid>("mfgCopia", 17, 30, 20);
-    Label& lblLista = label("lblLista", 17);
-    Serie<TextBox> txtInsTappa = texts("txtInsTappa", 19, 2);
-    Serie<Label> lblDuplica = many<Label>("lblDuplica", 19, 2);
-    Serie<TextBox> txtInsNum = texts("txtInsNum", 19, 2);
-    Serie<TextBox> txtInsLoc = texts("txtInsLoc", 19, 2);
-    Serie<TextBox> txtInsNS = texts("txtInsNS", 19, 2);
-    Serie<TextBox> txtInsKm = texts("txtInsKm", 19, 2);
-    Serie<Button> cmdAssegna = buttons("cmdAssegna", 19, 2);
-    CheckBox& chkInsSoste = check("chkInsSoste", 19);
-    Serie<Button> cmdInsEsegui = buttons("cmdInsEsegui", 19, 2);
-    Button& cmdHelpDuplica = button("cmdHelpDuplica", 19);
+    Grid& mfgCopia = one<Grid>("mfgCopia", riquadroCopia, 30, 20);
+    Label& lblLista = label("lblLista", riquadroCopia);
+    Serie<TextBox> txtInsTappa = texts("txtInsTappa", riquadroTrattoCopia, 2);
+    Serie<Label> lblDuplica = many<Label>("lblDuplica", riquadroTrattoCopia, 2);
+    Serie<TextBox> txtInsNum = texts("txtInsNum", riquadroTrattoCopia, 2);
+    Serie<TextBox> txtInsLoc = texts("txtInsLoc", riquadroTrattoCopia, 2);
+    Serie<TextBox> txtInsNS = texts("txtInsNS", riquadroTrattoCopia, 2);
+    Serie<TextBox> txtInsKm = texts("txtInsKm", riquadroTrattoCopia, 2);
+    Serie<Button> cmdAssegna = buttons("cmdAssegna", riquadroTrattoCopia, 2);
+    CheckBox& chkInsSoste = check("chkInsSoste", riquadroTrattoCopia);
+    Serie<Button> cmdInsEsegui = buttons("cmdInsEsegui", riquadroTrattoCopia, 2);
+    Button& cmdHelpDuplica = button("cmdHelpDuplica", riquadroTrattoCopia);
 
     // Exchange
-    Serie<Button> cmdImportExport = buttons("cmdImportExport", 22, 2);
-    Serie<Grid> mfgImExp = many<Grid>("mfgImExp", 22, 2, 15, 5);
-    Serie<Button> cmdTutto = buttons("cmdTutto", 22, 2);
-    Serie<Button> cmdImExp = buttons("cmdImExp", 22, 2);
-    Label& lblExLista = label("lblExLista", 22);
-    Label& lblExSelez = label("lblExSelez", 22);
-    Label& lblExIstruzioni = label("lblExIstruzioni", 22);
-    Button& cmdHelpExport = button("cmdHelpExport", 22);
+    Serie<Button> cmdImportExport = buttons("cmdImportExport", riquadroScambio, 2);
+    Serie<Grid> mfgImExp = many<Grid>("mfgImExp", riquadroScambio, 2, 15, 5);
+    Serie<Button> cmdTutto = buttons("cmdTutto", riquadroScambio, 2);
+    Serie<Button> cmdImExp = buttons("cmdImExp", riquadroScambio, 2);
+    Label& lblExLista = label("lblExLista", riquadroScambio);
+    Label& lblExSelez = label("lblExSelez", riquadroScambio);
+    Label& lblExIstruzioni = label("lblExIstruzioni", riquadroScambio);
+    Button& cmdHelpExport = button("cmdHelpExport", riquadroScambio);
 
     // Guide editor
-    TextBox& txtGCitta = text("txtGCitta", 24);
-    TextBox& txtGGruppo = text("txtGGruppo", 24);
-    TextBox& txtGDescr = text("txtGDescr", 24);
-    ListControl& cmbGTipo = list("cmbGTipo", 24);
-    ListControl& cmbGH = list("cmbGH", 24);
-    ListControl& cmbGM = list("cmbGM", 24);
-    Label& lblGNota = label("lblGNota", 24);
-    Button& cmdFind = button("cmdFind", 24);
-    Button& cmdSalvaRiga = button("cmdSalvaRiga", 24);
-    Button& cmdCancellaRiga = button("cmdCancellaRiga", 24);
-    Button& cmdFineInserimento = button("cmdFineInserimento", 24);
-    Button& cmdStampaGuidaCitta = button("cmdStampaGuidaCitta", 24);
-    Serie<Button> cmdHelpGuida = buttons("cmdHelpGuida", 24, 2);
-    Serie<OptionButton> optGuidaListaStampa = options("optGuidaListaStampa", 26, 2);
-    Serie<OptionButton> optGuidaDettaglioStampa = options("optGuidaDettaglioStampa", 27, 2);
-    Serie<Button> cmdStampaGuida = buttons("cmdStampaGuida", 25, 2);
+    TextBox& txtGCitta = text("txtGCitta", riquadroGuida);
+    TextBox& txtGGruppo = text("txtGGruppo", riquadroGuida);
+    TextBox& txtGDescr = text("txtGDescr", riquadroGuida);
+    ListControl& cmbGTipo = list("cmbGTipo", riquadroGuida);
+    ListControl& cmbGH = list("cmbGH", riquadroGuida);
+    ListControl& cmbGM = list("cmbGM", riquadroGuida);
+    Label& lblGNota = label("lblGNota", riquadroGuida);
+    Button& cmdFind = button("cmdFind", riquadroGuida);
+    Button& cmdSalvaRiga = button("cmdSalvaRiga", riquadroGuida);
+    Button& cmdCancellaRiga = button("cmdCancellaRiga", riquadroGuida);
+    Button& cmdFineInserimento = button("cmdFineInserimento", riquadroGuida);
+    Button& cmdStampaGuidaCitta = button("cmdStampaGuidaCitta", riquadroGuida);
+    Serie<Button> cmdHelpGuida = buttons("cmdHelpGuida", riquadroGuida, 2);
+    Serie<OptionButton> optGuidaListaStampa = options("optGuidaListaStampa", riquadroListaStampa, 2);
+    Serie<OptionButton> optGuidaDettaglioStampa = options("optGuidaDettaglioStampa", riquadroDettaglioStampa, 2);
+    Serie<Button> cmdStampaGuida = buttons("cmdStampaGuida", riquadroStampaGuida, 2);
 
     // Print options, choice of the printer, waiting note
-    CheckBox& chkTabella = check("chkTabella", 18);
-    CheckBox& chkModuli = check("chkModuli", 18);
-    CheckBox& chkFrontespizio = check("chkFrontespizio", 18);
-    Serie<CheckBox> chkVociFrontespizio = many<CheckBox>("chkVociFrontespizio", 18, 4);
-    Label& txtStampasuFile = label("txtStampasuFile", 18);
-    Label& Label3 = label("Label3", 18);
-    TextBox& txtfileTabella = text("txtfileTabella", 18);
-    Serie<Button> cmdEsegui = buttons("cmdEsegui", 18, 2);
-    ListControl& lstStampanti = box("lstStampanti", 23);
-    Serie<Button> cmdSelStampante = buttons("cmdSelStampante", 23, 2);
-    Serie<Label> lblStampaInCorso = many<Label>("lblStampaInCorso", 16, 2);
-    CheckBox& chkLinea = check("chkLinea", 18);
-    Button& cmdCalendario = button("cmdCalendario", 18);
-    Button& cmdFoglio = button("cmdFoglio", 18);
+    CheckBox& chkTabella = check("chkTabella", riquadroOpzioniStampa);
+    CheckBox& chkModuli = check("chkModuli", riquadroOpzioniStampa);
+    CheckBox& chkFrontespizio = check("chkFrontespizio", riquadroOpzioniStampa);
+    Serie<CheckBox> chkVociFrontespizio = many<CheckBox>("chkVociFrontespizio", riquadroOpzioniStampa, 4);
+    Label& txtStampasuFile = label("txtStampasuFile", riquadroOpzioniStampa);
+    Label& Label3 = label("Label3", riquadroOpzioniStampa);
+    TextBox& txtfileTabella = text("txtfileTabella", riquadroOpzioniStampa);
+    Serie<Button> cmdEsegui = buttons("cmdEsegui", riquadroOpzioniStampa, 2);
+    ListControl& lstStampanti = box("lstStampanti", riquadroStampanti);
+    Serie<Button> cmdSelStampante = buttons("cmdSelStampante", riquadroStampanti, 2);
+    Serie<Label> lblStampaInCorso = many<Label>("lblStampaInCorso", riquadroAttesaStampa, 2);
+    CheckBox& chkLinea = check("chkLinea", riquadroOpzioniStampa);
+    Button& cmdCalendario = button("cmdCalendario", riquadroOpzioniStampa);
+    Button& cmdFoglio = button("cmdFoglio", riquadroOpzioniStampa);
 
     // Picture of the trip, manual, first steps
-    Button& cmdLinea = button("cmdLinea", 28);
+    Button& cmdLinea = button("cmdLinea", riquadroStato);
     Frame& frmLinea = one<Frame>("frmLinea", finestra);
-    Button& cmdManuale = button("cmdManuale", 28);
+    Button& cmdManuale = button("cmdManuale", riquadroStato);
     Frame& frmPrimiPassi = one<Frame>("frmPrimiPassi", finestra);
     Label& lblPrimiPassi = one<Label>("lblPrimiPassi", &frmPrimiPassi);
     Button& cmdPrimoViaggio = one<Button>("cmdPrimoViaggio", &frmPrimiPassi);

@@ -1,19 +1,20 @@
 #include "window/modes.h"
 
 #include "core/text.h"
+#include "window/button_codes.h"
 #include "window/changes.h"
 #include "window/grid_layouts.h"
+#include "window/progress.h"
 
 namespace vanzer {
 
 namespace {
 
 const QString allMeta = QStringLiteral("NuRiSaCmCaStItGcCiEsImEx");
-const QString fineLavoro = QStringLiteral("Fine Lavoro");
 const QString allItinerario = QStringLiteral("InAgCaRcRtCeFiMeDuAzTr");
 
 bool isAll(const QString& codes) {
-    return uguale(codes, u"all");
+    return uguale(codes, pulsanti::tutti);
 }
 
 void enableMenu(Form& form) {
@@ -34,7 +35,7 @@ void enableMenu(Form& form) {
     // What is being typed or searched isn't swept away by a conversion: it is on where an import is.
     form.cmdConverte.setVisible(form.stato.VecchiFile);
     form.cmdConverte.setEnabled(form.stato.VecchiFile && on(u"Im"));
-    form.cmdEsce.setCaption(uguale(codes, u"Es") ? QStringLiteral("&Stop") : QStringLiteral("&Esce"));
+    form.cmdEsce.setCaption(uguale(codes, pulsanti::soloStop) ? QStringLiteral("&Stop") : QStringLiteral("&Esce"));
 }
 
 void enableItinerary(Form& form) {
@@ -57,7 +58,7 @@ void enableItinerary(Form& form) {
 void leaveProgram(Form& form) {
     AttivaFormMeta(form, true);
     form.mfgTab.setWidth(larghezzaTabella);
-    form.frmframe(12).setVisible(false);
+    form.frmframe(riquadroTappe).setVisible(false);
     form.archivio.chiudi();
     form.chiusa = true;
 }
@@ -65,7 +66,7 @@ void leaveProgram(Form& form) {
 /// What the window has beside the table: a picture of the schedule as long as the table shows it, the first steps while
 /// there is no trip and nothing else is going on.
 void showCompanions(Form& form) {
-    const StatoViaggio& s = form.stato;
+    const StatoFinestra& s = form.stato;
     const bool schedule = form.viandoria != nullptr && !uguale(form.cmdCalcola.caption(), u"&Calcola");
     if (!schedule) {
         form.viandoria.reset();
@@ -73,33 +74,33 @@ void showCompanions(Form& form) {
         form.frmLinea.setVisible(false);
     }
     form.cmdLinea.setEnabled(schedule && contiene(s.PulsantiMeta, u"Ca"));
-    const bool idle = uguale(s.PulsantiMeta, pulsantiArchivioVuoto) || s.PulsantiMeta == allMeta;
-    form.frmPrimiPassi.setVisible(idle && s.CodiceMeta.isEmpty() && !form.frmframe(22).visible());
+    const bool idle = uguale(s.PulsantiMeta, pulsanti::archivioVuoto) || s.PulsantiMeta == allMeta;
+    form.frmPrimiPassi.setVisible(idle && s.CodiceMeta.isEmpty() && !form.frmframe(riquadroScambio).visible());
 }
 
 } // namespace
 
 QString pulsantiDiBase(const Form& form) {
-    return form.stato.CodiceMeta.isEmpty() ? pulsantiArchivioVuoto.toString() : QStringLiteral("all");
+    return form.stato.CodiceMeta.isEmpty() ? pulsanti::archivioVuoto : pulsanti::tutti;
 }
 
 void AbilitaPulsantiComando(Form& form) {
-    StatoViaggio& s = form.stato;
+    StatoFinestra& s = form.stato;
     if (isAll(s.PulsantiMeta) || isAll(s.PulsantiItinerario)) {
         form.cmbRicercaTappa.setVisible(false);
         form.setDefault(form.cmdEsce);
     }
-    if (!uguale(s.PulsantiMeta, u"vv") && !uguale(form.cmdCalcola.caption(), u"&Calcola"))
-        s.PulsantiMeta = QStringLiteral("CaSt");
+    if (!uguale(s.PulsantiMeta, pulsanti::duranteLaStampa) && !uguale(form.cmdCalcola.caption(), u"&Calcola"))
+        s.PulsantiMeta = pulsanti::conViandoria;
     if (isAll(s.PulsantiMeta))
         s.PulsantiMeta = allMeta;
     if (isAll(s.PulsantiItinerario))
         s.PulsantiItinerario = allItinerario;
-    if (form.frmframe(12).visible())
-        s.PulsantiMeta = QStringLiteral("F");
+    if (form.frmframe(riquadroTappe).visible())
+        s.PulsantiMeta = pulsanti::conTappeAperte;
     // The lists of an exchange stand over a trip that was taken away: nobody is to work on what isn't there.
-    if (form.interattiva && form.frmframe(22).visible() && !s.ScambioInCorso)
-        s.PulsantiMeta = QStringLiteral("zz");
+    if (form.interattiva && form.frmframe(riquadroScambio).visible() && !s.LavoroInCorso)
+        s.PulsantiMeta = pulsanti::nessuno;
     enableMenu(form);
     enableItinerary(form);
     showCompanions(form);
@@ -120,55 +121,25 @@ void AttivaFormMeta(Form& form, bool changing) {
 void PulisciFinestre(Form& form) {
     form.mfgTab.setWidth(larghezzaTabella);
     form.cmbRicercaTappa.setVisible(false);
-    form.frmframe(19).setVisible(false);
+    form.frmframe(riquadroTrattoCopia).setVisible(false);
     form.mfgCopia.setVisible(false);
-    form.frmframe(17).setVisible(false);
-    form.frmframe(12).setVisible(false);
-    form.frmframe(24).setVisible(false);
+    form.frmframe(riquadroCopia).setVisible(false);
+    form.frmframe(riquadroTappe).setVisible(false);
+    form.frmframe(riquadroGuida).setVisible(false);
     form.stato.ModoGuida = false;
     form.mfgTab.setHeight(4055);
 }
 
 void RinunciaStampa(Form& form) {
-    form.frmframe(18).setVisible(false);
-    form.frmframe(23).setVisible(false);
-}
-
-void AggiornaPercentuale(Form& form) {
-    StatoViaggio& s = form.stato;
-    s.PercentualeCorrente = Maggiore(Minore(s.PercentualeCorrente, s.PercentualeTotale), 0.0);
-    if (s.PercentualeCorrente == 0) {
-        form.txtPerc.setVisible(false);
-        form.lblElaborazione.setCaption(testoInAttesa.toString());
-        form.txtBase.setText({});
-        form.txtPerc.setWidth(0);
-        return;
-    }
-    const int p = arrotonda(Int(s.PercentualeCorrente / s.PercentualeTotale * 100));
-    if (!form.txtPerc.visible() || p != s.PercentualeMostrata) {
-        s.PercentualeMostrata = p;
-        form.txtPerc.setVisible(true);
-        form.txtPerc.setWidth(form.txtBase.geometria().width * p / 100);
-        form.txtPerc.setText(QString::number(p) + u'%');
-    }
-    form.yield();
-}
-
-void AzzeraPercentuale(Form& form) {
-    form.stato.PercentualeCorrente = 0;
-    form.stato.PercentualeTotale = 0;
-    AggiornaPercentuale(form);
-}
-
-void chiedeDiInterrompere(Form& form) {
-    if (form.domanda(QStringLiteral("Vuoi interrompere l'elaborazione?"), fineLavoro, Pulsanti::SiNo) == rispostaSi)
-        form.stato.InterrompiCalcolo = true;
+    form.frmframe(riquadroOpzioniStampa).setVisible(false);
+    form.frmframe(riquadroStampanti).setVisible(false);
 }
 
 void cmdEsce_Click(Form& form) {
     if (uguale(form.cmdEsce.caption(), u"&Stop"))
         chiedeDiInterrompere(form);
-    else if (form.domanda(QStringLiteral("Vuoi chiudere la procedura?"), fineLavoro, Pulsanti::SiNo) == rispostaSi &&
+    else if (form.domanda(QStringLiteral("Vuoi chiudere la procedura?"), titoloFine.toString(), Pulsanti::SiNo) ==
+                 rispostaSi &&
              lasciaModifiche(form))
         leaveProgram(form);
 }

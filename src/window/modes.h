@@ -1,19 +1,14 @@
 // The modes of the window: two texts of two-letter codes say which buttons are on, and every command ends by applying
-// them. Also the progress line, and the way out.
+// them. Also the way out.
 #pragma once
 
+#include "window/button_codes.h"
 #include "window/form.h"
 
 namespace vanzer {
 
-/// The buttons of an archive without trips.
-inline constexpr QStringView pulsantiArchivioVuoto = u"NuImEs";
-
 /// The buttons when nothing else is going on: all of them, or those of an archive without trips.
 [[nodiscard]] QString pulsantiDiBase(const Form& form);
-
-/// What the progress line says while nothing runs.
-inline constexpr QStringView testoInAttesa = u"Sposta il mouse sui pulsanti/campi attivi per istruzioni.";
 
 /// Applies PulsantiMeta and PulsantiItinerario to the buttons, and yields.
 void AbilitaPulsantiComando(Form& form);
@@ -29,13 +24,6 @@ void PulisciFinestre(Form& form);
 
 /// Takes the options of a print away, and the choice of its printer: there is nothing to be printed any more.
 void RinunciaStampa(Form& form);
-
-/// Shows PercentualeCorrente of PercentualeTotale and yields; 0 brings back the idle text.
-void AggiornaPercentuale(Form& form);
-void AzzeraPercentuale(Form& form);
-
-/// Asks whether what is running is to be given up: InterrompiCalcolo.
-void chiedeDiInterrompere(Form& form);
 
 /// "&Esce" leaves the program, "&Stop" asks the running work to end.
 void cmdEsce_Click(Form& form);

@@ -14,7 +14,7 @@
 #include "desktop/manual_window.h"
 #include "desktop/time_line_view.h"
 #include "desktop_fixture.h"
-#include "window/startup.h"
+#include "startup/startup.h"
 
 namespace vanzer::desktop {
 namespace {

@@ -12,7 +12,7 @@
 #include "desktop/text_ties.h"
 #include "desktop/tints.h"
 #include "desktop_fixture.h"
-#include "window/modes.h"
+#include "window/progress.h"
 
 namespace vanzer::desktop {
 namespace {

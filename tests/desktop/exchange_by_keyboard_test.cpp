@@ -126,7 +126,7 @@ TEST_F(ExchangeByKeyboard, AnImportIsStoppedByEscAndLeavesNothing) {
     tabTo("cmdImExp_0");
     once(
         [this] {
-            return form().stato.ScambioInCorso && QApplication::activeModalWidget() == nullptr &&
+            return form().stato.LavoroInCorso && QApplication::activeModalWidget() == nullptr &&
                    form().lblElaborazione.caption() == QStringLiteral("Importazione Itinerari");
         },
         [this] {

@@ -11,7 +11,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 /// What a record says is what stands in its bytes, and nothing of it is a control.
-void checkRecord(const store::FormatoVecchio& format, const QByteArray& bytes, const store::RecordVecchio& record) {
+void checkRecord(const FormatoVecchio& format, const QByteArray& bytes, const RecordVecchio& record) {
     qsizetype at = 0;
     for (std::size_t i = 0; i < format.campi.size(); ++i) {
         const int width = format.campi[i].larghezza;
@@ -23,21 +23,21 @@ void checkRecord(const store::FormatoVecchio& format, const QByteArray& bytes, c
     }
 }
 
-void checkLegs(const store::FileVecchio& file) {
+void checkLegs(const FileVecchio& file) {
     const TappeVecchie legs = tappeDaLeggere(file);
     promise(legs.tappe >= 0 && legs.tappe <= std::max(0, file.numero() - 1), "no more legs than there are");
     promise(legs.tappe + legs.tralasciati >= file.numero() - 1, "every record is read or counted");
 }
 
-void checkConverted(const store::FormatoVecchio& format, const store::RecordVecchio& record) {
-    if (&format == &store::vecchieMete() && metaDaConvertire(record))
+void checkConverted(const FormatoVecchio& format, const RecordVecchio& record) {
+    if (&format == &vecchieMete() && metaDaConvertire(record))
         promise(codiceConvertito(record).size() == 6, "codes have six digits");
-    if (&format == &store::vecchieTappe()) {
+    if (&format == &vecchieTappe()) {
         const auto leg = tappaConvertita(record);
         promise(!leg || (!leg->Localita.isEmpty() && !leg->NomeStrada.isEmpty() && !leg->TempoSosta.isEmpty()),
                 "texts that are stored aren't empty");
     }
-    if (&format == &store::vecchiaGuida()) {
+    if (&format == &vecchiaGuida()) {
         const VoceConvertita entry = voceConvertita(record);
         promise(entry.CodiceGuida.size() == 2 && entry.TempoSosta.size() == 5, "codes and times fit");
     }
@@ -46,8 +46,8 @@ void checkConverted(const store::FormatoVecchio& format, const store::RecordVecc
 } // namespace
 
 void readOldFile(const QByteArray& input) {
-    for (const auto* const format : {&store::vecchieMete(), &store::vecchieTappe(), &store::vecchiaGuida()}) {
-        const store::FileVecchio file(*format, input);
+    for (const auto* const format : {&vecchieMete(), &vecchieTappe(), &vecchiaGuida()}) {
+        const FileVecchio file(*format, input);
         for (int n = 1; n <= file.numero(); ++n) {
             if (const auto record = file.record(n)) {
                 checkRecord(*format, input.sliced(static_cast<qsizetype>(n - 1) * format->lunghezza), *record);

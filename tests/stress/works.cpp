@@ -59,8 +59,8 @@ void oldFiles(const QString& folder) {
         }
         EXPECT_TRUE(writeOldFile(folder + u"/vanz%1.dat"_s.arg(code.right(4)), oldItinerary(itinerary)));
     }
-    EXPECT_TRUE(writeOldFile(folder + u"/VanzMete.dat"_s, oldFile(store::vecchieMete(), mete)));
-    EXPECT_TRUE(writeOldFile(folder + u"/VanzGuid.dat"_s, oldFile(store::vecchiaGuida(), guide)));
+    EXPECT_TRUE(writeOldFile(folder + u"/VanzMete.dat"_s, oldFile(vecchieMete(), mete)));
+    EXPECT_TRUE(writeOldFile(folder + u"/VanzGuid.dat"_s, oldFile(vecchiaGuida(), guide)));
 }
 
 /// The copies of ten earlier days.

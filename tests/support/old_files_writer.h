@@ -5,12 +5,12 @@
 #include <QStringList>
 
 #include "core/code_page.h"
-#include "store/old_files.h"
+#include "core/old_record.h"
 
 namespace vanzer {
 
 /// A record with these texts in its first fields, the others blank; a text that is too long is cut.
-inline QByteArray oldRecord(const store::FormatoVecchio& format, const QStringList& texts) {
+inline QByteArray oldRecord(const FormatoVecchio& format, const QStringList& texts) {
     QByteArray record;
     for (qsizetype i = 0; i < static_cast<qsizetype>(format.campi.size()); ++i) {
         const int width = format.campi[static_cast<std::size_t>(i)].larghezza;
@@ -19,7 +19,7 @@ inline QByteArray oldRecord(const store::FormatoVecchio& format, const QStringLi
     return record.leftJustified(format.lunghezza, ' ');
 }
 
-inline QByteArray oldFile(const store::FormatoVecchio& format, const QList<QStringList>& records) {
+inline QByteArray oldFile(const FormatoVecchio& format, const QList<QStringList>& records) {
     QByteArray contents;
     for (const QStringList& texts : records)
         contents += oldRecord(format, texts);
@@ -29,7 +29,7 @@ inline QByteArray oldFile(const store::FormatoVecchio& format, const QList<QStri
 /// An itinerary with its head; the head may tell another count than there are legs.
 inline QByteArray oldItinerary(const QList<QStringList>& legs, const QString& count = {}) {
     const QString told = count.isEmpty() ? QString::number(legs.size()) : count;
-    return oldFile(store::vecchieTappe(), QList<QStringList>{{told, told}} + legs);
+    return oldFile(vecchieTappe(), QList<QStringList>{{told, told}} + legs);
 }
 
 inline bool writeOldFile(const QString& path, const QByteArray& contents) {

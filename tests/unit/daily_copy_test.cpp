@@ -11,8 +11,8 @@
 
 #include "batch/queue_ports.h"
 #include "batch/session.h"
+#include "startup/startup.h"
 #include "store/daily_copy.h"
-#include "window/startup.h"
 
 namespace vanzer::store {
 namespace {

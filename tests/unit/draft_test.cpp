@@ -3,9 +3,9 @@
 
 #include <QFile>
 
+#include "startup/unsaved_work.h"
 #include "store/draft_file.h"
 #include "support/window_test.h"
-#include "window/unsaved_work.h"
 
 namespace vanzer {
 namespace {

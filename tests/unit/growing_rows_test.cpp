@@ -9,13 +9,14 @@
 #include "batch/queue_ports.h"
 #include "batch/state_view.h"
 #include "core/text.h"
-#include "itinerary/leg_table_screen.h"
 #include "schedule/calculation_screen.h"
 #include "schedule/growing_rows.h"
 #include "schedule/preparation_screen.h"
+#include "startup/startup.h"
 #include "toolkit/program_starter.h"
+#include "trip/leg_table_screen.h"
+#include "trip/trip_numbers.h"
 #include "window/command.h"
-#include "window/startup.h"
 
 namespace vanzer {
 
@@ -52,7 +53,7 @@ class Onlooker : public EventYield {
 TestiViandoria texts(const Form& form) {
     const TestiTabella& legs = *form.tappeConservate;
     return {[&legs](int row, int column) -> const QString& { return legs.text(row - 1, column); }, form.cmbRipM.text(),
-            form.stato.OreGuidaGiorno, form.stato.OreVisitaGiorno};
+            form.viaggio->OreGuidaGiorno, form.viaggio->OreVisitaGiorno};
 }
 
 /// A stored trip of some days with breaks and long rests, in a window of its own.
@@ -139,7 +140,7 @@ std::vector<Showing> showingsOfACalculation(Trip& trip) {
             for (int c = 0; c < numeroColonneViandoria; ++c)
                 rows.at(row, c) = form.mfgTab.cell(r, c);
         }
-        showings.push_back({static_cast<int>(form.stato.PercentualeCorrente), form.stato.Coefficiente,
+        showings.push_back({static_cast<int>(form.stato.PercentualeCorrente), form.viaggio->Coefficiente,
                             parametriSimulazione(form), rows, form.mfgTab.topRow(), form.mfgTab.enabled()});
     });
     form.cmdCalcola.click();
@@ -195,7 +196,7 @@ TEST(RigheInCrescita, StandInTheTableWhileTheirTestRuns) {
         const std::vector<Showing> showings = showingsOfACalculation(trip);
         Form& form = trip.form();
         EXPECT_EQ(trip.table(), alone.table());
-        EXPECT_EQ(form.stato.NumeroTest, alone.form().stato.NumeroTest);
+        EXPECT_EQ(form.viaggio->NumeroTest, alone.form().viaggio->NumeroTest);
         ASSERT_FALSE(showings.empty());
         form.cmdCalcola.click();
         RigheDiLavoro work;
@@ -223,7 +224,7 @@ TEST(RigheInCrescita, AnInterruptionLeavesTheLegs) {
             bool seen = false;
             trip.events.onYield = [&] {
                 if (form.stato.PercentualeCorrente < 30 || uguale(form.cmdEsce.caption(), u"&Esce") ||
-                    form.stato.InterrompiCalcolo || form.stato.NumeroTest == 0)
+                    form.stato.InterrompiCalcolo || form.viaggio->NumeroTest == 0)
                     return;
                 seen = form.mfgTab.rows() > 20;
                 trip.boxes.enqueue(rispostaSi);

@@ -1,10 +1,11 @@
 // Legs as rows and records, the rules of the leg editor, destinations.
 #include <gtest/gtest.h>
 
+#include "core/place_name.h"
 #include "core/text.h"
 #include "itinerary/leg_editor.h"
-#include "itinerary/leg_table.h"
-#include "window/destination.h"
+#include "trip/destination.h"
+#include "trip/leg_table.h"
 
 namespace vanzer {
 

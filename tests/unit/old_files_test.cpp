@@ -2,6 +2,7 @@
 #include <QDir>
 
 #include "exchange/conversion.h"
+#include "store/old_files.h"
 #include "store/schema.h"
 #include "support/old_files_writer.h"
 #include "support/window_test.h"
@@ -11,7 +12,7 @@ namespace vanzer {
 namespace {
 
 TEST(OldFiles, DamagedRecordsAreTold) {
-    const auto& format = store::vecchiaGuida();
+    const auto& format = vecchiaGuida();
     const QByteArray good = oldRecord(format, {u"NÎMES"_s, u"Arènes"_s, u"1"_s, u"0130"_s, u"1"_s});
     const auto with = [&good](qsizetype at, char byte) { return QByteArray(good).replace(at, 1, QByteArray(1, byte)); };
     const struct {
@@ -32,7 +33,7 @@ TEST(OldFiles, DamagedRecordsAreTold) {
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
-        const store::FileVecchio file(format, row.contents);
+        const FileVecchio file(format, row.contents);
         EXPECT_EQ(file.numero(), row.records);
         const auto record = file.record(1);
         EXPECT_EQ(record.has_value(), row.whole);
@@ -40,15 +41,15 @@ TEST(OldFiles, DamagedRecordsAreTold) {
         EXPECT_FALSE(file.record(0) || file.record(row.records + 1));
     }
     // Only the blanks behind the last field are missing from a destination that was written last.
-    const auto& mete = store::vecchieMete();
+    const auto& mete = vecchieMete();
     const QByteArray destination = oldRecord(mete, {u"1"_s, u"NÎMES"_s});
-    EXPECT_TRUE(store::FileVecchio(mete, destination.first(119)).record(1));
-    EXPECT_FALSE(store::FileVecchio(mete, destination.first(118)).record(1));
+    EXPECT_TRUE(FileVecchio(mete, destination.first(119)).record(1));
+    EXPECT_FALSE(FileVecchio(mete, destination.first(118)).record(1));
 }
 
 TEST(OldFiles, TheCountOfLegsIsBelievedOnlyWhereItHolds) {
     const QList<QStringList> three{{u"A*A1"_s}, {u"B"_s}, {u"C"_s}};
-    const QByteArray differing = oldItinerary(three).replace(0, 64, oldRecord(store::vecchieTappe(), {u"3"_s, u"2"_s}));
+    const QByteArray differing = oldItinerary(three).replace(0, 64, oldRecord(vecchieTappe(), {u"3"_s, u"2"_s}));
     const struct {
         QByteArray contents;
         TappeVecchie legs;
@@ -60,7 +61,7 @@ TEST(OldFiles, TheCountOfLegsIsBelievedOnlyWhereItHolds) {
                 {differing, {0, 4}},
                 {oldItinerary(three).chopped(5), {3, 0}}}; // the last one is cut
     for (const auto& row : rows) {
-        const TappeVecchie legs = tappeDaLeggere({store::vecchieTappe(), row.contents});
+        const TappeVecchie legs = tappeDaLeggere({vecchieTappe(), row.contents});
         EXPECT_EQ(std::pair(legs.tappe, legs.tralasciati), std::pair(row.legs.tappe, row.legs.tralasciati))
             << row.contents.toStdString();
     }
@@ -98,20 +99,20 @@ class Conversion : public WindowTest {
 
     /// Two destinations with an itinerary each, and a guide.
     void oldArchive() {
-        const auto& mete = store::vecchieMete();
+        const auto& mete = vecchieMete();
         old(u"VANZMETE.DAT"_s, oldFile(mete, {{u"1"_s, u"ROMA"_s}, {u"2"_s, u"..BARI"_s}, {u"000003"_s, u"PISA"_s}}));
         old(u"vanz0001.dat"_s, oldItinerary({{u"TERNI*SS3"_s, u"104"_s, u"P"_s, u"000100"_s, u"0"_s}}));
         old(u"Vanz0003.dat"_s, oldItinerary({{u"LUCCA"_s}, {u"PISA"_s}}));
-        old(u"VanzGuid.dat"_s, oldFile(store::vecchiaGuida(), {{u"PISA"_s, u"Torre (la)"_s, u"1"_s, u"130"_s},
-                                                               {u"PISA"_s, u"Torre (vista)"_s, u"2"_s, u"20"_s},
-                                                               {}}));
+        old(u"VanzGuid.dat"_s, oldFile(vecchiaGuida(), {{u"PISA"_s, u"Torre (la)"_s, u"1"_s, u"130"_s},
+                                                        {u"PISA"_s, u"Torre (vista)"_s, u"2"_s, u"20"_s},
+                                                        {}}));
     }
 };
 
 TEST_F(Conversion, StoppedAnywhereItLosesNothingAndGoesOn) {
     // ROMA's code is taken: it comes in under another one, with its legs, whenever the work is broken off.
     folder.emplace();
-    old(u"VanzMete.dat"_s, oldFile(store::vecchieMete(), {{u"1"_s, u"VIENNA"_s}}));
+    old(u"VanzMete.dat"_s, oldFile(vecchieMete(), {{u"1"_s, u"VIENNA"_s}}));
     old(u"vanz0001.dat"_s, oldItinerary({{u"GRAZ"_s}}));
     start();
     convert();

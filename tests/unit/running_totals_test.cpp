@@ -9,7 +9,7 @@
 
 #include "batch/session.h"
 #include "core/text.h"
-#include "schedule/totals_screen.h"
+#include "trip/totals_screen.h"
 
 namespace vanzer {
 

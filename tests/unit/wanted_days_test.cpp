@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "schedule/fitting.h"
-#include "schedule/totals.h"
+#include "trip/totals.h"
 
 namespace vanzer {
 

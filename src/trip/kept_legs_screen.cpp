@@ -1,7 +1,8 @@
-#include "itinerary/kept_legs_screen.h"
+#include "trip/kept_legs_screen.h"
 
+#include "core/leg_columns.h"
 #include "core/text.h"
-#include "schedule/totals_screen.h"
+#include "trip/totals_screen.h"
 
 namespace vanzer {
 
@@ -58,7 +59,7 @@ class Righe {
 
 /// A table that shows the guide, or that an exchange has emptied, holds no legs.
 bool holdsLegs(const Form& form) {
-    return form.tappeConservate || !(form.stato.ModoGuida || form.frmframe(22).visible());
+    return form.tappeConservate || !(form.stato.ModoGuida || form.frmframe(riquadroScambio).visible());
 }
 
 } // namespace
@@ -74,7 +75,8 @@ TappeTenute tappeInVista(const Form& form) {
 }
 
 bool tappeCambiate(const Form& form) {
-    const bool worked = form.tappeConservate || form.frmframe(12).visible() || form.frmframe(1).visible();
+    const bool worked =
+        form.tappeConservate || form.frmframe(riquadroTappe).visible() || form.frmframe(riquadroTratto).visible();
     return form.tappeMemorizzate && worked && holdsLegs(form) && !Righe(form).are(*form.tappeMemorizzate);
 }
 
@@ -87,7 +89,7 @@ void metteTappe(Form& form, const TappeTenute& legs) {
     for (int row = 0; row < rows; ++row) {
         const TappaTenuta& leg = legs[static_cast<std::size_t>(row)];
         if (!leg[place].isEmpty())
-            table.at(row, 0) = QString::number(row + 1);
+            table.at(row, tappaNumero) = QString::number(row + 1);
         for (std::size_t cell = 0; cell < colonneTenute.size(); ++cell)
             table.at(row, colonneTenute[cell]) = leg[cell];
     }

@@ -1,9 +1,9 @@
-#include "window/parameters_screen.h"
+#include "trip/parameters_screen.h"
 
-#include "schedule/totals_screen.h"
-#include "window/destination_screen.h"
+#include "trip/destination_screen.h"
+#include "trip/parameters.h"
+#include "trip/totals_screen.h"
 #include "window/modes.h"
-#include "window/parameters.h"
 
 namespace vanzer {
 

@@ -1,10 +1,8 @@
-#include "guide/marks.h"
+#include "store/guide_marks.h"
 
-#include "core/text.h"
+namespace vanzer::store {
 
-namespace vanzer {
-
-SegniGuida::Voci SegniGuida::unused(const store::VociGuida& entries) {
+SegniGuida::Voci SegniGuida::unused(const VociGuida& entries) {
     Voci fresh;
     for (const VoceGuida& entry : entries) {
         if (used_.insert(entry.rowid))
@@ -23,11 +21,4 @@ SegniGuida::Voci SegniGuida::usaModello(const QString& pattern) {
     return unused(archive_.guida().leggeModello(pattern));
 }
 
-float tempoVoce(QStringView tempoSosta, float visitingDay) {
-    const bool days = iniziaCon(tempoSosta, u"G");
-    const double whole =
-        days ? Val(Mid(tempoSosta, 2, 1)) * static_cast<double>(visitingDay) : Val(Mid(tempoSosta, 1, 2)) * 100;
-    return static_cast<float>(Int(whole + Val(Mid(tempoSosta, 4, 2)) * 100 / 60 + 0.5));
-}
-
-} // namespace vanzer
+} // namespace vanzer::store

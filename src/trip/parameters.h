@@ -2,6 +2,7 @@
 // order.
 #pragma once
 
+#include "trip/trip_numbers.h"
 #include "window/form.h"
 
 namespace vanzer {
@@ -40,7 +41,7 @@ inline constexpr std::array<const char16_t*, 4> campiMedie{u"MediaAutostrada", u
                                                            u"MediaLocale"};
 
 /// The variable of a pair, hundredths.
-[[nodiscard]] float& variabileCoppia(StatoViaggio& stato, int pair);
+[[nodiscard]] float& variabileCoppia(NumeriViaggio& stato, int pair);
 
 /// Writes a pair of clock lists, the hours first: their change event reads the minutes that still stand there.
 void scriveCoppia(Form& form, int pair, const QString& hour, const QString& minute);

@@ -1,17 +1,19 @@
-#include "window/destination_screen.h"
+#include "trip/destination_screen.h"
 
 #include <span>
 #include <utility>
 
 #include "core/text.h"
-#include "itinerary/kept_legs_screen.h"
-#include "itinerary/leg_table_screen.h"
+#include "trip/destination.h"
+#include "trip/kept_legs_screen.h"
+#include "trip/leg_table_screen.h"
+#include "trip/parameters.h"
+#include "trip/trip_numbers.h"
+#include "window/button_codes.h"
 #include "window/changes.h"
 #include "window/confirmation.h"
-#include "window/destination.h"
 #include "window/grid_layouts.h"
 #include "window/modes.h"
-#include "window/parameters.h"
 
 namespace vanzer {
 
@@ -48,7 +50,7 @@ class MostraRecord {
         for (const CampoCoppia& f : meals)
             coppia(f);
         form_.txtTragh.setText({});
-        form_.stato.NumeroTraghetti = 0;
+        form_.viaggio->NumeroTraghetti = 0;
         if (ha(u"CalcoloSoste"))
             form_.cmbSoste.setText(voceSoste(form_, valore(u"CalcoloSoste")));
         testo(form_.cmbRange, u"Range");
@@ -179,7 +181,7 @@ void saveRecord(Form& form, bool insertion) {
     storeRecord(form, insertion);
     form.archivio.storeSoFar();
     RicaricaItinerario(form);
-    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    AbilitaPulsantiMeta(form, pulsanti::tutti);
 }
 
 /// Tells which of the fields that a destination can't do without is empty; false if one is.
@@ -277,7 +279,7 @@ bool caricaMeta(Form& form, const QString& code, const QString& localita) {
         return false;
     form.stato.CodiceMeta = code;
     RicaricaItinerario(form);
-    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    AbilitaPulsantiMeta(form, pulsanti::tutti);
     return true;
 }
 
@@ -308,7 +310,8 @@ void cmdNuovo_Click(Form& form) {
     form.txtCodice.setText({});
     form.cmbGiorni.setText(QStringLiteral("000"));
     form.campiDaRicordare = true;
-    AbilitaPulsantiMeta(form, form.stato.CodiceMeta.isEmpty() ? QStringLiteral("NuSaEs") : QStringLiteral("NuSaEsRi"));
+    AbilitaPulsantiMeta(form,
+                        form.stato.CodiceMeta.isEmpty() ? pulsanti::viaggioNuovo : pulsanti::viaggioNuovoFraAltri);
 }
 
 bool salvaMeta(Form& form, bool asks) {
@@ -351,14 +354,14 @@ void cmdCancMeta_Click(Form& form) {
     AttivaFormMeta(form, true);
     if (!lasciaModifiche(form))
         return;
-    form.frmframe(12).setVisible(false);
+    form.frmframe(riquadroTappe).setVisible(false);
     form.mfgTab.setWidth(larghezzaTabella);
     CancellaMatrice(form);
     Aggiorna(form, false);
     reload(form);
     BoxConferma(form, QStringLiteral("A"), descriveMeta(form));
     if (form.stato.Risposta == rispostaSi) {
-        AbilitaPulsantiMeta(form, QStringLiteral("zz"));
+        AbilitaPulsantiMeta(form, pulsanti::nessuno);
         CancellaTabella(form, store::Itinerari, QStringLiteral("CodiceMeta"), form.txtCodice.text());
         CancellaTabella(form, store::MeteVanzer, QStringLiteral("CodiceMeta"), form.txtCodice.text());
         form.archivio.storeSoFar();
@@ -378,7 +381,7 @@ void cmdCancItin_Click(Form& form) {
                                         "In caso positivo, non sarà più recuperabile!");
     if (form.domandaPericolosa(sure, QStringLiteral("Annullamento itinerario"), descriveMeta(form)) != rispostaSi)
         return;
-    AbilitaPulsantiMeta(form, QStringLiteral("zz"));
+    AbilitaPulsantiMeta(form, pulsanti::nessuno);
     CancellaTabella(form, store::Itinerari, QStringLiteral("CodiceMeta"), form.txtCodice.text());
     form.archivio.storeSoFar();
     reload(form);
@@ -390,7 +393,7 @@ void cmdRicerca_Click(Form& form) {
     PulisciFinestre(form);
     form.cmbRicerca.clear();
     form.stato.PulsantiPrimaDellaRicerca = form.stato.PulsantiMeta;
-    AbilitaPulsantiMeta(form, QStringLiteral("NuEs"));
+    AbilitaPulsantiMeta(form, pulsanti::duranteLaRicerca);
     store::Recordset& all = open(form, store::MeteVanzer, QStringLiteral("SELECT * FROM MeteVanzer ORDER BY Localita"));
     QStringList names;
     const int name = all.campo(QStringLiteral("Localita"));
@@ -434,7 +437,7 @@ void cmbRicerca_Click(Form& form) {
         return;
     }
     RichiamaMeta(form, form.cmbRicerca.text());
-    AbilitaPulsantiMeta(form, QStringLiteral("all"));
+    AbilitaPulsantiMeta(form, pulsanti::tutti);
 }
 
 } // namespace vanzer

@@ -1,4 +1,4 @@
-#include "window/ways_out.h"
+#include "startup/ways_out.h"
 
 #include <algorithm>
 #include <array>
@@ -6,9 +6,9 @@
 #include "core/text.h"
 #include "guide/guide_screen.h"
 #include "reports/print_screen.h"
+#include "trip/destination_screen.h"
 #include "window/command.h"
-#include "window/destination_screen.h"
-#include "window/modes.h"
+#include "window/progress.h"
 
 namespace vanzer {
 
@@ -22,18 +22,22 @@ struct Aperto {
 
 /// From the top down: what lies over another thing goes before it.
 constexpr std::array<Aperto, 10> apribili{{
-    {[](const Form& f) { return f.frmframe(23).visible(); }, [](Form& f) { f.cmdSelStampante(1).click(); }},
-    {[](const Form& f) { return f.frmframe(18).visible(); }, [](Form& f) { f.cmdEsegui(1).click(); }},
-    {[](const Form& f) { return f.frmframe(25).visible(); }, [](Form& f) { f.cmdStampaGuida(1).click(); }},
-    {[](const Form& f) { return f.frmframe(19).visible(); }, [](Form& f) { f.cmdInsEsegui(1).click(); }},
+    {[](const Form& f) { return f.frmframe(riquadroStampanti).visible(); },
+     [](Form& f) { f.cmdSelStampante(1).click(); }},
+    {[](const Form& f) { return f.frmframe(riquadroOpzioniStampa).visible(); },
+     [](Form& f) { f.cmdEsegui(1).click(); }},
+    {[](const Form& f) { return f.frmframe(riquadroStampaGuida).visible(); },
+     [](Form& f) { f.cmdStampaGuida(1).click(); }},
+    {[](const Form& f) { return f.frmframe(riquadroTrattoCopia).visible(); },
+     [](Form& f) { f.cmdInsEsegui(1).click(); }},
     {[](const Form& f) { return f.cmbRicercaTappa.visible() && f.stato.ModoGuida; },
      [](Form& f) { comando(f, [&f] { RinunciaRicercaGuida(f); }); }},
-    {[](const Form& f) { return f.cmbRicercaTappa.visible() || f.frmframe(17).visible(); },
+    {[](const Form& f) { return f.cmbRicercaTappa.visible() || f.frmframe(riquadroCopia).visible(); },
      [](Form& f) { f.cmdFine.click(); }},
-    {[](const Form& f) { return f.frmframe(1).visible(); }, [](Form& f) { f.cmdTappaSEl(3).click(); }},
-    {[](const Form& f) { return f.frmframe(12).visible() || f.frmframe(24).visible(); },
-     [](Form& f) { (f.frmframe(12).visible() ? f.cmdFine : f.cmdFineInserimento).click(); }},
-    {[](const Form& f) { return f.frmframe(22).visible(); }, [](Form& f) { f.cmdImExp(1).click(); }},
+    {[](const Form& f) { return f.frmframe(riquadroTratto).visible(); }, [](Form& f) { f.cmdTappaSEl(3).click(); }},
+    {[](const Form& f) { return f.frmframe(riquadroTappe).visible() || f.frmframe(riquadroGuida).visible(); },
+     [](Form& f) { (f.frmframe(riquadroTappe).visible() ? f.cmdFine : f.cmdFineInserimento).click(); }},
+    {[](const Form& f) { return f.frmframe(riquadroScambio).visible(); }, [](Form& f) { f.cmdImExp(1).click(); }},
     {[](const Form& f) { return f.cmbRicerca.visible(); }, [](Form& f) { comando(f, [&f] { RinunciaRicerca(f); }); }},
 }};
 
@@ -41,7 +45,7 @@ constexpr std::array<Aperto, 10> apribili{{
 bool asksToInterrupt(Form& form) {
     if (form.stato.StampaInCorso)
         chiedeDiInterrompereLaStampa(form);
-    else if (form.stato.ScambioInCorso)
+    else if (form.stato.LavoroInCorso)
         chiedeDiInterrompere(form);
     else if (uguale(form.cmdEsce.caption(), u"&Stop") && form.cmdEsce.reachable())
         form.cmdEsce.click();
@@ -53,10 +57,10 @@ bool asksToInterrupt(Form& form) {
 } // namespace
 
 bool interrompeSenzaChiedere(Form& form) {
-    StatoViaggio& s = form.stato;
+    StatoFinestra& s = form.stato;
     if (s.StampaInCorso)
         s.InterrompiStampa = true;
-    else if (form.comandoInCorso && (s.ScambioInCorso || interrompe(form, form.cmdEsce)))
+    else if (form.comandoInCorso && (s.LavoroInCorso || interrompe(form, form.cmdEsce)))
         s.InterrompiCalcolo = true;
     else
         return false;
@@ -83,7 +87,7 @@ void rinunciaAllaScelta(Form& form) {
     const auto* const open = std::ranges::find_if(choices, [](const Button* b) { return b->reachable(); });
     if (form.stato.StampaInCorso)
         chiedeDiInterrompereLaStampa(form);
-    else if (form.stato.ScambioInCorso)
+    else if (form.stato.LavoroInCorso)
         chiedeDiInterrompere(form);
     else if (form.comandoInCorso)
         return;

@@ -1,4 +1,4 @@
-#include "itinerary/leg_table.h"
+#include "trip/leg_table.h"
 
 #include <algorithm>
 

@@ -1,23 +1,23 @@
-#include "itinerary/leg_table_screen.h"
+#include "trip/leg_table_screen.h"
 
 #include <array>
 #include <utility>
 
+#include "core/leg_columns.h"
 #include "core/text.h"
 #include "core/time_values.h"
-#include "guide/marks.h"
-#include "itinerary/kept_legs_screen.h"
-#include "itinerary/leg_table.h"
-#include "schedule/totals_screen.h"
-#include "window/destination_screen.h"
-#include "window/modes.h"
-#include "window/parameters.h"
+#include "store/guide_marks.h"
+#include "trip/destination_screen.h"
+#include "trip/kept_legs_screen.h"
+#include "trip/leg_table.h"
+#include "trip/parameters.h"
+#include "trip/totals_screen.h"
+#include "trip/trip_numbers.h"
+#include "window/progress.h"
 
 namespace vanzer {
 
 namespace {
-
-constexpr int colonnaFineGiorno = 14;
 
 /// One row of the table for each record. The places are told apart from the rows' marks later.
 TestiTabella readLegs(Form& form) {
@@ -35,36 +35,36 @@ TestiTabella readLegs(Form& form) {
     TestiTabella rows;
     rows.setRows(static_cast<int>(records.RecordCount()));
     for (int row = 0; !records.EOF_(); records.MoveNext(), ++row) {
-        rows.at(row, 0) = QString::number(row + 1);
-        rows.at(row, 1) = records.testo(place);
-        rows.at(row, 2) = Trim(records.testo(road));
-        rows.at(row, 3) = migliaia(Val(records.testo(km)));
-        rows.at(row, 4) = records.testo(type);
+        rows.at(row, tappaNumero) = QString::number(row + 1);
+        rows.at(row, tappaLuogo) = records.testo(place);
+        rows.at(row, tappaStrada) = Trim(records.testo(road));
+        rows.at(row, tappaKm) = migliaia(Val(records.testo(km)));
+        rows.at(row, tappaTipo) = records.testo(type);
         const QString endOfDay = records.testo(end);
-        rows.at(row, 7) = sostaDelRecord(endOfDay, records.testo(stop));
-        rows.at(row, colonnaFineGiorno) = endOfDay;
+        rows.at(row, tappaSosta) = sostaDelRecord(endOfDay, records.testo(stop));
+        rows.at(row, tappaFineGiorno) = endOfDay;
     }
     return rows;
 }
 
 /// The guide's stops of a place as the text of its cell.
-QString guideStops(SegniGuida& guide, const QString& place, float visitingDay) {
+QString guideStops(store::SegniGuida& guide, const QString& place, float visitingDay) {
     double sum = 0;
     for (const VoceGuida* const entry : guide.usaLuogo(place))
-        sum += static_cast<double>(tempoVoce(entry->tempoSosta, visitingDay));
+        sum += static_cast<double>(tempoVoce(entry->tempoSosta, visitingDay, LetturaTempo::Itinerario));
     return ghmCentesimi2Stringa(static_cast<float>(sum), giornoIntero);
 }
 
 /// The guide's stops into the rows of the stretch, each entry once.
 void addGuideStops(Form& form, TestiTabella& rows) {
-    SegniGuida guide(form.archivio);
+    store::SegniGuida guide(form.archivio);
     TrattoDellaGuida stretch;
     form.stato.RigaCaricata = 0;
     for (int row = 0; row < rows.rows(); ++row) {
         ++form.stato.RigaCaricata;
-        const TrattoDellaGuida::Passo step = stretch.prossimo(rows.text(row, 1));
+        const TrattoDellaGuida::Passo step = stretch.prossimo(rows.text(row, tappaLuogo));
         if (step.leggere)
-            rows.at(row, 8) = guideStops(guide, step.luogo, form.stato.OreVisitaGiorno);
+            rows.at(row, tappaGuida) = guideStops(guide, step.luogo, form.viaggio->OreVisitaGiorno);
         form.yield();
     }
     guide.scrive();
@@ -72,8 +72,8 @@ void addGuideStops(Form& form, TestiTabella& rows) {
 
 void markEndsOfDay(Grid& grid, int rows) {
     for (int r = 1; r <= rows; ++r) {
-        if (grid.cell(r, colonnaFineGiorno) == u"1") {
-            grid.setMarked(r, 7, true);
+        if (grid.cell(r, tappaFineGiorno) == u"1") {
+            grid.setMarked(r, tappaSosta, true);
             grid.setCurrent(1, 1);
         }
     }
@@ -82,14 +82,14 @@ void markEndsOfDay(Grid& grid, int rows) {
 qint64 recordsNeeded(const Form& form) {
     qint64 needed = 0;
     for (int r = 1; r < form.mfgTab.rows(); ++r) {
-        if (!Trim(form.mfgTab.cell(r, 1)).isEmpty())
-            needed += numeroRecord(chilometri(form.mfgTab.cell(r, 3)));
+        if (!Trim(form.mfgTab.cell(r, tappaLuogo)).isEmpty())
+            needed += numeroRecord(chilometri(form.mfgTab.cell(r, tappaKm)));
     }
     return needed;
 }
 
 /// All that the guide knows for a place as it is stored; a wider pattern may find more than the place itself.
-QString guideSnapshot(SegniGuida& guide, const QString& place) {
+QString guideSnapshot(store::SegniGuida& guide, const QString& place) {
     double sum = 0;
     for (const VoceGuida* const entry : guide.usaModello(LikeTesto(place)))
         sum += static_cast<double>(ghmStringa2Centesimi(entry->tempoSosta, giornoIntero));
@@ -129,19 +129,20 @@ class ScrittoreTappe {
     std::array<int, 9> fields_{};
 };
 
-void storeRows(Form& form, store::Recordset& records, SegniGuida& guide) {
-    StatoViaggio& s = form.stato;
+void storeRows(Form& form, store::Recordset& records, store::SegniGuida& guide) {
+    StatoFinestra& s = form.stato;
     const Grid& grid = form.mfgTab;
     const int placeSize = records.size(records.campo(QStringLiteral("Localita")));
     ScrittoreTappe writer(form, records);
     for (int r = 1; r < grid.rows(); ++r) {
         s.PercentualeCorrente = r;
         AggiornaPercentuale(form);
-        const QString place = grid.cell(r, 1);
+        const QString place = grid.cell(r, tappaLuogo);
         if (Trim(place).isEmpty())
             continue;
         const QString stops = guideSnapshot(guide, luogoMemorizzato(place, placeSize));
-        const RigaTappa row{place, grid.cell(r, 2), chilometri(grid.cell(r, 3)), grid.cell(r, 4), grid.cell(r, 7)};
+        const RigaTappa row{place, grid.cell(r, tappaStrada), chilometri(grid.cell(r, tappaKm)),
+                            grid.cell(r, tappaTipo), grid.cell(r, tappaSosta)};
         for (const RecordTappa& leg : recordDellaRiga(row, stops, placeSize))
             writer.scrive(leg);
     }
@@ -149,7 +150,7 @@ void storeRows(Form& form, store::Recordset& records, SegniGuida& guide) {
 
 /// All rows in place of what is stored; the marks of the guide come behind.
 void storeTable(Form& form) {
-    StatoViaggio& s = form.stato;
+    StatoFinestra& s = form.stato;
     CancellaTabella(form, store::Itinerari, QStringLiteral("CodiceMeta"), s.CodiceMeta);
     SettaAZeroFlaGVisto(form);
     s.NumeroTappe = 0;
@@ -158,7 +159,7 @@ void storeTable(Form& form) {
     form.archivio.StringaSQL = QStringLiteral("SELECT * FROM Itinerari WHERE CodiceMeta = '") +
                                store::quotato(s.CodiceMeta) + QStringLiteral("'");
     form.archivio.RecordSetImposta(0, store::Itinerari);
-    SegniGuida guide(form.archivio);
+    store::SegniGuida guide(form.archivio);
     storeRows(form, form.archivio.Rs(store::Itinerari), guide);
     form.archivio.storeSoFar();
     guide.scrive();
@@ -196,7 +197,7 @@ void CaricaTappeItinerario(Form& form) {
     }
     CalcolaKmTempiItinerario(form);
     ricordaTappe(form);
-    form.frmframe(24).setVisible(false);
+    form.frmframe(riquadroGuida).setVisible(false);
 }
 
 void SettaAZeroFlaGVisto(Form& form) {

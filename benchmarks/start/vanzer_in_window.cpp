@@ -1,4 +1,4 @@
-// vanzer_window FOLDER: the program on the archive of a folder. Ends when its window is there and nothing is left to
+// vanzer_in_window FOLDER: the program on the archive of a folder. Ends when its window is there and nothing is left to
 // do.
 #include <cstdlib>
 

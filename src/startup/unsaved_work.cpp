@@ -1,4 +1,4 @@
-#include "window/unsaved_work.h"
+#include "startup/unsaved_work.h"
 
 #include <algorithm>
 
@@ -6,14 +6,15 @@
 
 #include "core/text.h"
 #include "core/text_file.h"
-#include "itinerary/kept_legs_screen.h"
 #include "itinerary/leg_editor_screen.h"
 #include "itinerary/stretch_screen.h"
 #include "itinerary/typed_leg_screen.h"
 #include "store/draft_file.h"
+#include "trip/destination_screen.h"
+#include "trip/kept_legs_screen.h"
+#include "trip/parameters.h"
 #include "window/changes.h"
 #include "window/command.h"
-#include "window/destination_screen.h"
 
 namespace vanzer {
 
@@ -24,7 +25,8 @@ const QString title = QStringLiteral("Lavoro non salvato");
 const QString difference = QStringLiteral("KmDifferenza");
 
 bool typesLeg(const Form& form) {
-    return form.frmframe(12).visible() && !form.tappeConservate && !form.stato.ModoGuida && tappaDigitata(form);
+    return form.frmframe(riquadroTappe).visible() && !form.tappeConservate && !form.stato.ModoGuida &&
+           tappaDigitata(form);
 }
 
 /// The fields of the leg editor.
@@ -95,6 +97,7 @@ void putBack(Form& form, const Bozza& draft) {
     if (stored)
         std::erase_if(typed, [&draft](const auto& field) { return !draft.cambiati.contains(field.first); });
     rimetteCampi(form, typed);
+    ImpostaGiorniMeseInizio(form);
     putLegsBack(form, draft, !stored && !draft.codice.isEmpty());
     form.campiDaRicordare = false;
 }
@@ -134,8 +137,8 @@ std::optional<Bozza> lavoroNonSalvato(const Form& form) {
         .cambiati = nomiDeiCambiati(form),
         .tappe = tappeInVista(form),
         .tappeCambiate = tappeCambiate(form),
-        .editor = form.frmframe(12).visible(),
-        .tratto = form.frmframe(1).visible(),
+        .editor = form.frmframe(riquadroTappe).visible(),
+        .tratto = form.frmframe(riquadroTratto).visible(),
         .riga = form.stato.RigaCorrente,
         .modifiche = form.stato.MappaModifiche,
         .digitata = typesLeg(form) ? typedLeg(form) : TestiDeiCampi(),

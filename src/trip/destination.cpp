@@ -1,4 +1,4 @@
-#include "window/destination.h"
+#include "trip/destination.h"
 
 #include "core/place_name.h"
 #include "core/text.h"

@@ -1,4 +1,4 @@
-#include "window/enter_key.h"
+#include "startup/enter_key.h"
 
 #include "guide/typed_entry_screen.h"
 #include "itinerary/typed_leg_screen.h"
@@ -16,9 +16,9 @@ bool standsIn(const Control* control, const Frame& frame) {
 } // namespace
 
 Button* pulsanteDiInvio(const Form& form, const Control* focused) {
-    if (standsIn(focused, form.frmframe(12)) && form.cmdInserisce.reachable() && tappaDigitata(form))
+    if (standsIn(focused, form.frmframe(riquadroTappe)) && form.cmdInserisce.reachable() && tappaDigitata(form))
         return &form.cmdInserisce;
-    if (standsIn(focused, form.frmframe(24)) && form.cmdSalvaRiga.reachable() && voceDigitata(form))
+    if (standsIn(focused, form.frmframe(riquadroGuida)) && form.cmdSalvaRiga.reachable() && voceDigitata(form))
         return &form.cmdSalvaRiga;
     for (const auto& control : form.controls()) {
         auto* const button = dynamic_cast<Button*>(control.get());

@@ -1,9 +1,8 @@
-#include "window/parameters.h"
+#include "trip/parameters.h"
 
 #include "core/text.h"
 #include "core/time_values.h"
 #include "window/grid_layouts.h"
-#include "window/modes.h"
 
 namespace vanzer {
 
@@ -26,7 +25,7 @@ QStringList values(const Intervallo& range, bool zeros = true) {
     return list;
 }
 
-constexpr std::array<Intervallo, 4> speeds{{{50, 140, 3, 5}, {45, 110, 3, 5}, {30, 70, 3, 5}, {20, 60, 3, 5}}};
+constexpr std::array<Intervallo, 4> offeredSpeeds{{{50, 140, 3, 5}, {45, 110, 3, 5}, {30, 70, 3, 5}, {20, 60, 3, 5}}};
 constexpr std::array<Intervallo, numeroCoppie> hours{
     {{0, 11, 2}, {11, 15, 2}, {18, 21, 2}, {20, 24, 2}, {0, 2, 2}, {0, 2, 2}, {0, 11, 2}, {16, 24, 2}, {1, 24, 2}}};
 constexpr std::array<const char16_t*, 6> sources{u"1 - Soste itinerario", u"2 - Soste Guida",  u"3 - Entrambe",
@@ -135,7 +134,7 @@ int within(double value, int greatest) {
 }
 
 void readRests(Form& form) {
-    StatoViaggio& s = form.stato;
+    NumeriViaggio& s = *form.viaggio;
     s.RiposoMinuti = within(Val(form.cmbRipM.text()) * 100 / 60, 100);
     s.RiposoOre = within(Val(form.cmbRipH.text()), 10);
     s.RiposoGiorno = within(Val(form.cmbRipG.text()), 4);
@@ -143,7 +142,7 @@ void readRests(Form& form) {
 }
 
 void readStart(Form& form) {
-    StatoViaggio& s = form.stato;
+    NumeriViaggio& s = *form.viaggio;
     s.GiornoInizio = arrotonda(Val(form.cmbInizio(0).text()));
     s.MeseInizio = arrotonda(Val(form.cmbInizio(1).text()));
     s.AnnoInizio = arrotonda(Val(form.cmbInizio(2).text()));
@@ -162,7 +161,7 @@ void writeTime(Form& form, int pair, float value) {
 
 /// The order of the day; true if something had to be moved that asks for another round.
 bool orderDay(Form& form) {
-    const StatoViaggio s = form.stato;
+    const NumeriViaggio s = *form.viaggio;
     bool corrected = false;
     if (s.OraPranzo - 100 < s.OraColazione) {
         form.cmbOra(coppiaColazione).setText(form.cmbOra(coppiaColazione).List(0));
@@ -190,7 +189,7 @@ bool orderDay(Form& form) {
     return corrected;
 }
 
-void boundClock(StatoViaggio& s) {
+void boundClock(NumeriViaggio& s) {
     if (s.DurataPranzo > 350)
         s.DurataPranzo = 200;
     if (s.DurataCena > 250)
@@ -223,7 +222,7 @@ void boundClock(StatoViaggio& s) {
 
 } // namespace
 
-float& variabileCoppia(StatoViaggio& stato, int pair) {
+float& variabileCoppia(NumeriViaggio& stato, int pair) {
     const std::array<float*, numeroCoppie> variables{&stato.OraColazione, &stato.OraPranzo,    &stato.OraCena,
                                                      &stato.OraNotte,     &stato.DurataPranzo, &stato.DurataCena,
                                                      &stato.InizioVisita, &stato.FineVisita,   &stato.OreTraghetti};
@@ -261,7 +260,7 @@ void CaricaRange(Form& form) {
 void CaricaComboBox(Form& form) {
     fillStart(form);
     for (int i = 0; i < 4; ++i)
-        form.cmbMediaKm(i).setEntries(values(speeds[static_cast<std::size_t>(i)], false));
+        form.cmbMediaKm(i).setEntries(values(offeredSpeeds[static_cast<std::size_t>(i)], false));
     fillClocksAndRests(form);
     fillStops(form);
     CaricaDefaultMeta(form, 0);
@@ -309,7 +308,7 @@ void MemorizzaVariabiliMeta(Form& form) {
 }
 
 void ControllaVariabiliConvertite(Form& form) {
-    StatoViaggio& s = form.stato;
+    NumeriViaggio& s = *form.viaggio;
     bool corrected = true;
     for (int round = 0; corrected && round < troppeVolte; ++round) {
         corrected = false;
@@ -332,11 +331,11 @@ void ControllaVariabiliConvertite(Form& form) {
 void Aggiorna(Form& form, bool tieniSchermo) {
     MettiGiornoSett(form);
     ControllaVariabiliConvertite(form);
-    StatoViaggio& s = form.stato;
+    NumeriViaggio& s = *form.viaggio;
     boundClock(s);
-    const StatoViaggio bounded = s; // the write-back raises change events, which set the variables from half a pair
+    const NumeriViaggio bounded = s; // the write-back raises change events, which set the variables from half a pair
     for (const int pair : {0, 1, 2, 3, 4, 5, 8, 6, 7}) {
-        StatoViaggio copy = bounded;
+        NumeriViaggio copy = bounded;
         writeTime(form, pair, variabileCoppia(copy, pair));
     }
     form.cmbRipM.setText(Zero(Int(s.RiposoMinuti * 60.0 / 100 + 0.5), 2));
@@ -347,7 +346,7 @@ void Aggiorna(Form& form, bool tieniSchermo) {
         return;
     form.cmbRicercaTappa.setVisible(false);
     form.mfgTab.setWidth(larghezzaTabella);
-    form.frmframe(12).setVisible(false);
+    form.frmframe(riquadroTappe).setVisible(false);
     form.yield();
 }
 
@@ -368,7 +367,7 @@ void ImpostaGiorniMeseInizio(Form& form) {
 }
 
 void cmbOra_Change(Form& form, int i) {
-    variabileCoppia(form.stato, i) = timeShown(form, i);
+    variabileCoppia(*form.viaggio, i) = timeShown(form, i);
 }
 
 void cmbInizio_Click(Form& form, int i) {

@@ -1,8 +1,11 @@
-#include "schedule/totals_screen.h"
+#include "trip/totals_screen.h"
 
+#include "core/leg_columns.h"
 #include "core/text.h"
 #include "core/time_values.h"
-#include "window/parameters.h"
+#include "trip/parameters.h"
+#include "trip/totals.h"
+#include "trip/trip_numbers.h"
 
 namespace vanzer {
 
@@ -10,16 +13,14 @@ namespace {
 
 constexpr float unGiornoDi99Ore = 9900;
 
-constexpr int colonnaProgressivi = 5;
-constexpr int colonnaOre = 6;
-
 Tratto legOf(const Grid& grid, int row) {
-    return {chilometri(grid.cell(row, 3)), indiceStrada(grid.cell(row, 4)), contiene(grid.cell(row, 2), u"TRAGH")};
+    return {chilometri(grid.cell(row, tappaKm)), indiceStrada(grid.cell(row, tappaTipo)),
+            contiene(grid.cell(row, tappaStrada), u"TRAGH")};
 }
 
 /// The row's leg as the table has it now. A row without a place has none and is blanked.
 std::optional<Tratto> readLeg(Grid& grid, int row) {
-    if (!grid.cell(row, 1).isEmpty())
+    if (!grid.cell(row, tappaLuogo).isEmpty())
         return legOf(grid, row);
     grid.clearRow(row, 0);
     return {};
@@ -36,8 +37,8 @@ void writeRunningTexts(Grid& grid, const TotaliTabella& totals, int first) {
         km += static_cast<float>(leg->km);
         if (row < first)
             continue;
-        grid.setCell(row, colonnaOre, ghmSenzaGiorni(totals.tempo(row), unGiornoDi99Ore));
-        grid.setCell(row, colonnaProgressivi, migliaiaZero(static_cast<double>(km)));
+        grid.setCell(row, tappaTempo, ghmSenzaGiorni(totals.tempo(row), unGiornoDi99Ore));
+        grid.setCell(row, tappaKmProgressivi, migliaiaZero(static_cast<double>(km)));
     }
 }
 
@@ -47,23 +48,23 @@ void workOutAll(Form& form, const Medie& speeds) {
     TotaliTabella::Righe legs(static_cast<std::size_t>(grid.rows()));
     for (int r = 1; r < grid.rows(); ++r)
         legs[static_cast<std::size_t>(r)] = readLeg(grid, r);
-    form.totali.ricalcola(std::move(legs), speeds);
-    writeRunningTexts(grid, form.totali, 1);
+    form.totali->ricalcola(std::move(legs), speeds);
+    writeRunningTexts(grid, *form.totali, 1);
 }
 
 /// The totals by what has changed since they were last worked out; false if that isn't known.
 bool workOutChanges(Form& form, const Medie& speeds) {
     Grid& grid = form.mfgTab;
     const std::optional<std::vector<int>> rows = grid.takeChangedRows();
-    if (!rows || form.totali.medie() != speeds)
+    if (!rows || form.totali->medie() != speeds)
         return false;
     if (rows->empty())
         return true;
     for (const int row : *rows) {
-        if (!form.totali.cambia(row, readLeg(grid, row)))
+        if (!form.totali->cambia(row, readLeg(grid, row)))
             return false;
     }
-    writeRunningTexts(grid, form.totali, rows->front());
+    writeRunningTexts(grid, *form.totali, rows->front());
     return true;
 }
 
@@ -73,14 +74,14 @@ void showPanel(Form& form, const TotaliItinerario& totals) {
         const auto type = static_cast<std::size_t>(i);
         const bool shown = totals.km[type] != 0;
         form.txtKmTot(i).setText(shown ? migliaiaZero(static_cast<double>(totals.km[type])) : QString());
-        form.txtTempo(i).setText(shown ? ghmCentesimi2Stringa(totals.tempo[type], form.stato.OreGuidaGiorno)
+        form.txtTempo(i).setText(shown ? ghmCentesimi2Stringa(totals.tempo[type], form.viaggio->OreGuidaGiorno)
                                        : QString());
     }
     form.txtTragh.setText(anyKilometres || totals.traghetti != 0 ? QString::number(totals.traghetti) : QString());
 }
 
 void offerDays(Form& form, bool anyKilometres) {
-    StatoViaggio& s = form.stato;
+    NumeriViaggio& s = *form.viaggio;
     s.GiorniDesiderati = arrotonda(Val(form.cmbGiorni.text()));
     const int least = anyKilometres ? giorniMinimi(form.txtTempo(4).text()) : 0;
     form.cmbGiorni.setEntries(giorniOfferti(least, anyKilometres));
@@ -108,8 +109,8 @@ void CalcolaKmTempiItinerario(Form& form) {
     if (!workOutChanges(form, speeds))
         workOutAll(form, speeds);
     (void)form.mfgTab.takeChangedRows(); // what was written on the way
-    const TotaliItinerario& totals = form.totali.totali();
-    form.stato.NumeroTraghetti = totals.traghetti;
+    const TotaliItinerario& totals = form.totali->totali();
+    form.viaggio->NumeroTraghetti = totals.traghetti;
     showPanel(form, totals);
     offerDays(form, totals.km[4] != 0);
 }

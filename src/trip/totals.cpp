@@ -1,4 +1,4 @@
-#include "schedule/totals.h"
+#include "trip/totals.h"
 
 #include <utility>
 

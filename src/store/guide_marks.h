@@ -4,15 +4,14 @@
 
 #include <vector>
 
+#include "core/guide_entry.h"
 #include "store/archive.h"
 
-namespace vanzer {
-
-using store::VoceGuida;
+namespace vanzer::store {
 
 class SegniGuida {
   public:
-    explicit SegniGuida(store::Archive& archive) : archive_(archive) {}
+    explicit SegniGuida(Archive& archive) : archive_(archive) {}
 
     /// The archive's own: they hold until it is read or written again.
     using Voci = std::vector<const VoceGuida*>;
@@ -26,14 +25,10 @@ class SegniGuida {
     void scrive() { archive_.rimetteVisti(used_); }
 
   private:
-    [[nodiscard]] Voci unused(const store::VociGuida& entries);
+    [[nodiscard]] Voci unused(const VociGuida& entries);
 
-    store::Archive& archive_;
-    store::InsiemeDiRighe used_;
+    Archive& archive_;
+    InsiemeDiRighe used_;
 };
 
-/// Time of an entry in hundredths: hh:mm, or whole visiting days "G1" to "G8" of `visitingDay` hundredths each plus the
-/// minutes.
-[[nodiscard]] float tempoVoce(QStringView tempoSosta, float visitingDay);
-
-} // namespace vanzer
+} // namespace vanzer::store

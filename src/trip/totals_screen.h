@@ -1,7 +1,7 @@
 // The totals of the legs in the window.
 #pragma once
 
-#include "schedule/totals.h"
+#include "trip/totals.h"
 #include "window/form.h"
 
 namespace vanzer {
