@@ -10,7 +10,7 @@
 #include "schedule/simulation.h"
 #include "schedule/time_line_screen.h"
 #include "trip/destination_screen.h"
-#include "trip/parameters.h"
+#include "trip/parameter_fields_screen.h"
 #include "trip/totals_screen.h"
 #include "trip/trip_numbers.h"
 #include "window/button_codes.h"

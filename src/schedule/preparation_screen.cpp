@@ -5,7 +5,7 @@
 #include "schedule/preparation.h"
 #include "store/guide_marks.h"
 #include "trip/leg_table_screen.h"
-#include "trip/parameters.h"
+#include "trip/parameter_fields_screen.h"
 #include "trip/totals_screen.h"
 #include "trip/trip_numbers.h"
 #include "window/grid_layouts.h"

@@ -11,7 +11,7 @@
 #include "store/daily_copy.h"
 #include "store/kept_archive.h"
 #include "trip/destination_screen.h"
-#include "trip/parameters.h"
+#include "trip/parameter_fields_screen.h"
 #include "window/button_codes.h"
 #include "window/changes.h"
 #include "window/command.h"

@@ -12,7 +12,7 @@
 #include "store/draft_file.h"
 #include "trip/destination_screen.h"
 #include "trip/kept_legs_screen.h"
-#include "trip/parameters.h"
+#include "trip/parameter_fields_screen.h"
 #include "window/changes.h"
 #include "window/command.h"
 

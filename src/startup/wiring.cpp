@@ -21,6 +21,7 @@
 #include "schedule/time_line_screen.h"
 #include "trip/destination_screen.h"
 #include "trip/leg_table_screen.h"
+#include "trip/parameter_fields_screen.h"
 #include "trip/parameters.h"
 #include "trip/parameters_screen.h"
 #include "trip/totals.h"

@@ -7,6 +7,7 @@
 #include "trip/destination.h"
 #include "trip/kept_legs_screen.h"
 #include "trip/leg_table_screen.h"
+#include "trip/parameter_fields_screen.h"
 #include "trip/parameters.h"
 #include "trip/trip_numbers.h"
 #include "window/button_codes.h"

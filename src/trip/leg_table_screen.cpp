@@ -10,7 +10,7 @@
 #include "trip/destination_screen.h"
 #include "trip/kept_legs_screen.h"
 #include "trip/leg_table.h"
-#include "trip/parameters.h"
+#include "trip/parameter_fields_screen.h"
 #include "trip/totals_screen.h"
 #include "trip/trip_numbers.h"
 #include "window/progress.h"

@@ -1,7 +1,7 @@
 #include "trip/parameters_screen.h"
 
 #include "trip/destination_screen.h"
-#include "trip/parameters.h"
+#include "trip/parameter_fields_screen.h"
 #include "trip/totals_screen.h"
 #include "window/modes.h"
 

@@ -3,7 +3,7 @@
 #include "core/leg_columns.h"
 #include "core/text.h"
 #include "core/time_values.h"
-#include "trip/parameters.h"
+#include "trip/parameter_fields_screen.h"
 #include "trip/totals.h"
 #include "trip/trip_numbers.h"
 

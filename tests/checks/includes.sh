@@ -1,65 +1,93 @@
 #!/usr/bin/env bash
-# The layering rules that the link lines can't see, read from the include lines. Prints each line that breaks one.
+# The rules of the rooms that the link lines can't see, read from the include lines; what an include brings along counts
+# too where a rule says so. Prints each line that breaks one.
 set -uo pipefail
 cd "$(dirname "$0")/../.." || exit 1
+exec python3 - <<'PYTHON'
+import re
+import sys
+from pathlib import Path
 
-broken=0
+# What each room may include, besides itself.
+ROOMS = {"core": []}
+ROOMS["toolkit"] = ROOMS["store"] = ROOMS["paper"] = ["core"]
+ROOMS["window"] = ["core", "toolkit", "store"]
+ROOMS["trip"] = ROOMS["help"] = ROOMS["window"] + ["window"]
+ROOMS["itinerary"] = ROOMS["trip"] + ["trip", "help"]
+ROOMS["guide"] = ROOMS["itinerary"] + ["itinerary"]
+ROOMS["schedule"] = ROOMS["exchange"] = ROOMS["guide"] + ["guide"]
+ROOMS["reports"] = ROOMS["guide"] + ["guide", "schedule", "exchange", "paper"]
+ROOMS["startup"] = ROOMS["reports"] + ["reports"]
+ROOMS["batch"] = ROOMS["startup"] + ["startup"]
+ROOMS["desktop"] = [room for room in ROOMS["batch"] if room != "store"]
+ROOMS["scribolo"] = ["core", "paper"]
 
-# forbid WHY PATTERN FILE...: no include line of the files matches the pattern.
-forbid() {
-    local why=$1 pattern=$2 hits
-    shift 2
-    [ $# -eq 0 ] && return
-    hits=$(grep -nHE "^[[:space:]]*#[[:space:]]*include[[:space:]]*[<\"]($pattern)" "$@") || return
-    printf '%s:\n%s\n' "$why" "$hits"
-    broken=1
-}
+SCREEN_CLASSES = (
+    "Application GuiApplication Widget Painter PainterPath Print[A-Za-z]* PdfWriter PagedPaintDevice Font[A-Za-z]* Color"
+    " Brush Pen Image Pixmap Icon Picture Dialog MainWindow MessageBox FileDialog Action Shortcut Clipboard TableView"
+    " LineEdit ComboBox PushButton [A-Za-z]*Event[A-Z][A-Za-z]*Widget UiLoader Style[A-Za-z]* Palette").replace(" ", "|")
+# Headers that only these rooms may include.
+ONLY = [(r"sqlite3", ["store"], "Only the store knows SQLite"),
+        (r"cairo|hb[.-]|fontconfig/|ft2build|freetype|paper/(face|painter)\.h", ["paper"], "Only the paper knows fonts"),
+        (rf"(QtGui|QtWidgets|QtPrintSupport|QtUiTools)[/>]|Q({SCREEN_CLASSES})$", ["desktop"], "Only the desktop draws"),
+        (r".*_screen\.h", ["trip", "help", "itinerary", "guide", "schedule", "exchange", "reports", "startup", "batch"],
+         "The desktop knows no handler")]
+# Rooms that have engines: what isn't a screen there.
+WORK = ["trip", "help", "itinerary", "guide", "schedule", "exchange", "reports"]
 
-# sources [FIND-ARGUMENT...]: the source files under src that pass.
-sources() {
-    find src \( -name '*.cpp' -o -name '*.h' \) "$@" | sort
-}
+INCLUDE = re.compile(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]', re.MULTILINE)
+files = {str(path.relative_to("src")): INCLUDE.findall(path.read_text())
+         for path in sorted(Path("src").glob("*/*")) if path.suffix in (".h", ".cpp")}
+broken = []
 
-upper='window|itinerary|schedule|guide|reports|exchange|help|desktop|batch|scribolo'
-screen_classes='Application|GuiApplication|Widget|Painter|PainterPath|Print[A-Za-z]*|PdfWriter|PagedPaintDevice|Font[A-Za-z]*'
-screen_classes+='|Color|Brush|Pen|Image|Pixmap|Icon|Picture|Dialog|MainWindow|MessageBox|FileDialog|Action|Shortcut|Clipboard'
-screen_classes+='|TableView|LineEdit|ComboBox|PushButton|[A-Za-z]*Event[A-Z][A-Za-z]*Widget|UiLoader|Style[A-Za-z]*|Palette'
 
-mapfile -t files < <(sources -not -path 'src/store/*')
-forbid 'Only the store knows SQLite' 'sqlite3' "${files[@]}"
+def room(file):
+    return file.split("/")[0]
 
-mapfile -t files < <(sources -not -path 'src/paper/*')
-forbid 'Only the paper knows fonts and surfaces' 'cairo|hb[.-]|fontconfig/|ft2build|freetype|paper/(face|painter)\.h' "${files[@]}"
 
-mapfile -t files < <(sources -not -path 'src/desktop/*')
-forbid 'Only the desktop draws on the screen' "(QtGui|QtWidgets|QtPrintSupport|QtUiTools)[/>]|Q($screen_classes)>" "${files[@]}"
+def engine(file):
+    return room(file) in WORK and "_screen." not in file
 
-mapfile -t files < <(sources -path 'src/core/*')
-forbid 'core stands on nothing' "($upper|toolkit|store|paper)/" "${files[@]}"
-mapfile -t files < <(sources -path 'src/toolkit/*')
-forbid 'toolkit stands on core alone' "($upper|store|paper)/" "${files[@]}"
-mapfile -t files < <(sources -path 'src/store/*')
-forbid 'store stands on core alone' "($upper|toolkit|paper)/" "${files[@]}"
-mapfile -t files < <(sources -path 'src/paper/*')
-forbid 'paper stands on core alone' "($upper|toolkit|store)/" "${files[@]}"
 
-mapfile -t files < <(sources -path 'src/scribolo/*')
-forbid 'The logbook stands on paper and core' "(${upper%|scribolo}|toolkit|store)/" "${files[@]}"
+def forbidden(file, way, seen):
+    """The ways by which an engine reaches what it may not know, each as far as that."""
+    for included in files[file]:
+        if included not in files or included in seen:
+            continue
+        seen.add(included)
+        if room(included) in ("store", "window") or "_screen." in included:
+            yield " > ".join(way + [included])
+        else:
+            yield from forbidden(included, way + [included], seen)
 
-mapfile -t files < <(sources -not -path 'src/desktop/*' -not -path 'src/batch/*' -not -path 'src/scribolo/*')
-forbid 'No room knows the programs on top of it' '(desktop|batch|scribolo)/' "${files[@]}"
 
-mapfile -t files < <(sources -not -name '*_screen.*' -not -path 'src/window/*' -not -path 'src/desktop/*' -not -path 'src/batch/*')
-forbid 'An engine knows no screen and no window' '([a-z_/]*_screen\.h|window/)' "${files[@]}"
+def circle(file, above, done):
+    """A way from the file back to itself or to one above it, or nothing."""
+    if file in done:
+        return None
+    for included in files[file]:
+        if included in above + [file]:
+            return above + [file, included]
+        if included in files and (found := circle(included, above + [file], done)):
+            return found
+    done.add(file)
+    return None
 
-mapfile -t files < <(sources -path 'src/desktop/*')
-forbid 'The desktop draws and knows no handler' '(store|batch)/|[a-z_/]*_screen\.h' "${files[@]}"
 
-# No circle between files: the include graph can be sorted. Project paths are given from src.
-if ! circle=$(grep -rHoE --include='*.h' --include='*.cpp' '^#include "[a-z_0-9]+/[a-z_0-9]+\.h"' src |
-    sed -E 's|^src/([^:]*):#include "(.*)"|\1 \2|' | tsort 2>&1 >/dev/null); then
-    printf 'Files that include each other:\n%s\n' "$circle"
-    broken=1
-fi
-
-exit $broken
+for file, includes in files.items():
+    for included in includes:
+        if included in files and room(included) not in ROOMS[room(file)] + [room(file)]:
+            broken.append(f"{file} includes {included}: {room(file)} knows no {room(included)}")
+        broken += [f"{file} includes {included}: {why}" for pattern, rooms, why in ONLY
+                   if re.match(pattern, included) and room(file) not in rooms]
+done = set()
+for file in files:
+    if found := circle(file, [], done):
+        broken.append("in a circle: " + " > ".join(found))
+        break
+else:
+    for file in filter(engine, files):
+        broken += [f"{way}: an engine knows no archive, window or screen" for way in forbidden(file, [file], set())]
+print("\n".join(broken))
+sys.exit(bool(broken))
+PYTHON
