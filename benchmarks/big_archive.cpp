@@ -158,7 +158,7 @@ void makeArchive(const QString& folder, const Sizes& sizes) {
 }
 
 QString bigArchive() {
-    if (const QString told = qEnvironmentVariable("VANZER_BIG_ARCHIVE"); !told.isEmpty())
+    if (QString told = qEnvironmentVariable("VANZER_BIG_ARCHIVE"); !told.isEmpty())
         return told;
     static const QTemporaryDir own;
     static const bool made = (makeArchive(own.path(), {}), true);

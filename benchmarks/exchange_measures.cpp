@@ -157,7 +157,7 @@ constexpr Shape shapes[] = {{"entries of one place that begin with \"?\"", entri
 /// What a file may hold more than is usual costs in proportion.
 void importGrows(benchmark::State& state, const Shape& shape) {
     const auto takes = [&shape](int count) {
-        return [&shape, count, contents = shape.file(count)] {
+        return [contents = shape.file(count)] {
             Traveller traveller;
             fillArchive(traveller.form(), {.destinations = 1, .legs = 1, .entries = 1});
             const QString path = traveller.path("viaggi.iei");
@@ -174,7 +174,7 @@ void importGrows(benchmark::State& state, const Shape& shape) {
             takes(shape.many / 10));
 }
 
-[[maybe_unused]] const bool registered = [] {
+[[maybe_unused]] const bool importsRegistered = [] {
     for (std::size_t i = 0; i < std::size(shapes); ++i) {
         const std::string name = "importGrows" + std::to_string(i + 1);
         benchmark::RegisterBenchmark(name.c_str(), importGrows, shapes[i])->Iterations(1)->UseManualTime();

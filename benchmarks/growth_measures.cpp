@@ -229,7 +229,7 @@ void quickCommands(benchmark::State& state) {
 }
 BENCHMARK(quickCommands)->Iterations(1)->UseManualTime();
 
-[[maybe_unused]] const bool registered = [] {
+[[maybe_unused]] const bool growthRegistered = [] {
     for (std::size_t i = 0; i < commands.size(); ++i) {
         const Command& command = commands[i];
         benchmark::RegisterBenchmark(("growth" + std::to_string(i + 1)).c_str(), grows, command)

@@ -15,7 +15,7 @@ namespace vanzer::bench {
 
 namespace {
 
-constexpr int legs = 100;
+constexpr int fewLegs = 100;
 
 using Step = std::function<void(BigTrip&)>;
 
@@ -24,7 +24,7 @@ class InGuide {
   public:
     explicit InGuide(int entries) {
         makeArchive(archive_.path(), {.destinations = 1, .legs = 10, .entries = entries});
-        trip.emplace(legs, archive_.path());
+        trip.emplace(fewLegs, archive_.path());
     }
 
   private:
@@ -54,13 +54,13 @@ void withGuide(benchmark::State& state, const char* name, const Step& before, co
 
 const QString own = QStringLiteral("Nuova");
 
-void nothing(BigTrip& /*trip*/) {}
+void leaveAsItIs(BigTrip& /*trip*/) {}
 
-void openEditor(BigTrip& trip) {
+void intoGuide(BigTrip& trip) {
     trip.form().cmdGuidaCitta.click();
 }
 
-void closeEditor(BigTrip& trip) {
+void outOfGuide(BigTrip& trip) {
     trip.form().cmdFineInserimento.click();
 }
 
@@ -101,7 +101,7 @@ void deleteRow(BigTrip& trip, int row) {
 } // namespace
 
 void openGuide(benchmark::State& state) {
-    withGuide(state, "opening the guide", nothing, openEditor, closeEditor);
+    withGuide(state, "opening the guide", leaveAsItIs, intoGuide, outOfGuide);
 }
 
 /// All of the trip's groups put in order at the closing.
@@ -111,26 +111,26 @@ void closeGuide(benchmark::State& state) {
             store::Database& archive = *trip.form().archivio.Db(0);
             archive.prepara("UPDATE GuidaCitta SET Gruppo = 'B-A' WHERE Gruppo = 'A-B'")->step();
         });
-        openEditor(trip);
+        intoGuide(trip);
     };
-    withGuide(state, "closing the guide, groups put in order", openEditor, closeEditor, unsort);
+    withGuide(state, "closing the guide, groups put in order", intoGuide, outOfGuide, unsort);
 }
 
 void addEntry(benchmark::State& state) {
     withGuide(
-        state, "adding an entry", openEditor, [](BigTrip& trip) { storeOwnEntry(trip); },
+        state, "adding an entry", intoGuide, [](BigTrip& trip) { storeOwnEntry(trip); },
         [](BigTrip& trip) { deleteRow(trip, rowOf(trip.form(), own)); });
 }
 
 void loadLegs(benchmark::State& state) {
     withGuide(
-        state, "loading the legs", nothing, [](BigTrip& trip) { trip.reload(); }, nothing);
+        state, "loading the legs", leaveAsItIs, [](BigTrip& trip) { trip.reload(); }, leaveAsItIs);
 }
 
 void storeLegs(benchmark::State& state) {
     withGuide(
-        state, "storing the legs", nothing,
-        [](BigTrip& trip) { comando(trip.form(), [&trip] { MemorizzaTappeItinerario(trip.form()); }); }, nothing);
+        state, "storing the legs", leaveAsItIs,
+        [](BigTrip& trip) { comando(trip.form(), [&trip] { MemorizzaTappeItinerario(trip.form()); }); }, leaveAsItIs);
 }
 
 #define GUIDE_MEASURE(name) BENCHMARK(name)->Iterations(1)->UseManualTime()

@@ -12,7 +12,7 @@ namespace vanzer::bench {
 
 namespace {
 
-constexpr int legs = 9000; // a schedule of some 10,000 rows
+constexpr int printedLegs = 9000; // a schedule of some 10,000 rows
 
 void writeCsv(const Grid& table, const QString& path) {
     QFile file(path);
@@ -37,7 +37,7 @@ void run(const QString& program, const QStringList& arguments) {
 } // namespace
 
 void printing(benchmark::State& state) {
-    BigTrip trip(legs);
+    BigTrip trip(printedLegs);
     Form& form = trip.form();
     form.cmbSoste.setText(QStringLiteral("1 - Soste itinerario"));
     printsSchedule(trip);

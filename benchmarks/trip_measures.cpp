@@ -15,13 +15,13 @@ namespace vanzer::bench {
 
 namespace {
 
-constexpr int legs = 9999; // the most that a trip has
-constexpr int tests = 21;  // of a search that finds no end
+constexpr int mostLegs = 9999; // the most that a trip has
+constexpr int tests = 21;      // of a search that finds no end
 
 /// A long trip, and a copy of its archive for bare calls.
 class Both {
   public:
-    Both() : trip(legs) {
+    Both() : trip(mostLegs) {
         QFile::copy(trip.file("Vanzer.mdb"), trip.file("bare.mdb"));
         places = trip.places();
         code = trip.form().stato.CodiceMeta.toStdString();

@@ -13,7 +13,7 @@ namespace vanzer::bench {
 
 namespace {
 
-constexpr int legs = 9900; // with room for what is typed
+constexpr int startingLegs = 9900; // with room for what is typed
 
 /// One leg over another one that stands there, or at the end; the row stays the same.
 void types(Form& form, int row) {
@@ -27,7 +27,7 @@ void types(Form& form, int row) {
 /// The window on a screen that nobody sees.
 class Window {
   public:
-    Window() : trip_(legs) {
+    Window() : trip_(startingLegs) {
         trip_.close();
         program_.emplace(Ambiente{.directory = trip_.folder(), .decimalMark = u'.', .versione = {}}, clock_);
         if (!program_->start())
@@ -60,7 +60,7 @@ void typing(benchmark::State& state, const std::string& where, int row) {
 } // namespace
 
 void typingAtTheEnd(benchmark::State& state) {
-    typing(state, "at the end", legs + 1);
+    typing(state, "at the end", startingLegs + 1);
 }
 BENCHMARK(typingAtTheEnd)->Iterations(1)->UseManualTime();
 

@@ -19,8 +19,18 @@ pack(${CMAKE_SOURCE_DIR}/share/man/vanzer-batch.1 vanzer-batch.1)
 pack(${CMAKE_SOURCE_DIR}/CHANGELOG.md changelog)
 add_custom_target(packed ALL DEPENDS ${packed})
 
+# The description for software centres. The day of this version stands in the list of changes.
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/CHANGELOG.md)
+file(STRINGS CHANGELOG.md release REGEX "^## ${PROJECT_VERSION} - [0-9-]+$")
+if(NOT release)
+  message(FATAL_ERROR "CHANGELOG.md has no line \"## ${PROJECT_VERSION} - DATE\"")
+endif()
+string(REGEX REPLACE ".* - " "" release_date "${release}")
+configure_file(share/vanzer.metainfo.xml.in ${CMAKE_BINARY_DIR}/vanzer.metainfo.xml @ONLY)
+
 install(TARGETS vanzer vanzer-batch Scribolo)
 install(FILES share/vanzer.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES ${CMAKE_BINARY_DIR}/vanzer.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES share/vanzer-iei.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
 install(FILES share/vanzer.svg DESTINATION ${icons}/scalable/apps)
 install(FILES share/vanzer.png DESTINATION ${icons}/128x128/apps)
@@ -28,7 +38,7 @@ install(FILES share/vanzer_512.png DESTINATION ${icons}/512x512/apps RENAME vanz
 install(FILES ${CMAKE_BINARY_DIR}/packed/vanzer.1.gz ${CMAKE_BINARY_DIR}/packed/vanzer-batch.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${CMAKE_BINARY_DIR}/packed/changelog.gz DESTINATION ${documents})
 install(FILES LICENSE DESTINATION ${documents} RENAME copyright)
-install(FILES docs/manuale.md docs/batch.md DESTINATION ${documents})
+install(FILES docs/manuale.md docs/batch.md THIRD_PARTY.md DESTINATION ${documents})
 set(pictures ${manual_files})
 list(FILTER pictures INCLUDE REGEX "png$")
 install(FILES ${pictures} DESTINATION ${documents}/screenshots)
@@ -63,7 +73,8 @@ add_custom_target(portable
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${portable}
   COMMAND ${CMAKE_COMMAND} -E make_directory ${portable}/esempi ${portable}/screenshots
   COMMAND ${CMAKE_COMMAND} -E copy $<TARGET_FILE:vanzer> $<TARGET_FILE:vanzer-batch> $<TARGET_FILE:Scribolo>
-          ${CMAKE_SOURCE_DIR}/docs/manuale.md ${CMAKE_SOURCE_DIR}/share/LEGGIMI.txt ${CMAKE_SOURCE_DIR}/LICENSE ${portable}
+          ${CMAKE_SOURCE_DIR}/docs/manuale.md ${CMAKE_SOURCE_DIR}/share/LEGGIMI.txt ${CMAKE_SOURCE_DIR}/LICENSE
+          ${CMAKE_SOURCE_DIR}/THIRD_PARTY.md ${portable}
   COMMAND ${CMAKE_COMMAND} -E copy ${samples} ${portable}/esempi
   COMMAND ${CMAKE_COMMAND} -E copy ${pictures} ${portable}/screenshots
   COMMAND ${CMAKE_STRIP} ${portable}/vanzer ${portable}/vanzer-batch ${portable}/Scribolo

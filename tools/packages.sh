@@ -1,7 +1,7 @@
 # Sourced by run and test: the Debian packages that they need, and how to get what is missing.
 
 build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libgl-dev libsqlite3-dev libcairo2-dev libharfbuzz-dev libfontconfig-dev libfreetype-dev qt6-translations-l10n fonts-dejavu-core fonts-liberation)
-test_packages=(libgtest-dev libgmock-dev libbenchmark-dev valgrind locales clang libclang-rt-dev clang-format clang-tidy xvfb xauth desktop-file-utils poppler-utils groff-base python3-icalendar shared-mime-info libglib2.0-bin x11-utils dpkg-dev)
+test_packages=(libgtest-dev libgmock-dev libbenchmark-dev valgrind locales clang libclang-rt-dev clang-format clang-tidy xvfb xauth desktop-file-utils appstream poppler-utils groff-base python3-icalendar shared-mime-info libglib2.0-bin x11-utils dpkg-dev)
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi

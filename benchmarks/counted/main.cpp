@@ -88,13 +88,13 @@ int main(int argc, char** argv) {
         {QStringLiteral("typing"), typing},         {QStringLiteral("loading"), loading},
         {QStringLiteral("unlocking"), unlocking},   {QStringLiteral("listing"), listing},
     };
-    const auto work = works.find(application.arguments().value(1));
+    const auto work = works.find(QCoreApplication::arguments().value(1));
     if (work == works.end()) {
         std::fputs("usage: vanzer_counted simulation|calculation|typing|loading|unlocking|listing [LEGS]\n", stderr);
         return 2;
     }
     const QTemporaryDir archive;
-    const int legs = application.arguments().size() > 2 ? application.arguments().at(2).toInt() : 1000;
+    const int legs = QCoreApplication::arguments().size() > 2 ? QCoreApplication::arguments().at(2).toInt() : 1000;
     bench::makeArchive(archive.path(), {.destinations = 1, .legs = 10, .entries = 20 * legs});
     BigTrip trip(legs, archive.path());
     std::printf("%zu\n", work->second(trip));

@@ -68,7 +68,8 @@ as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-r
 dpkg -L vanzer | while read -r file; do [ -f "$file" ] && echo "$file"; done >"$scratch/files"
 dpkg-deb -c "$package" | sed 's/.* \.//' >"$scratch/packed"
 for file in bin/vanzer bin/vanzer-batch bin/Scribolo share/applications/vanzer.desktop share/mime/packages/vanzer-iei.xml \
-    share/icons/hicolor/scalable/apps/vanzer.svg share/doc/vanzer/manuale.md share/doc/vanzer/copyright \
+    share/icons/hicolor/scalable/apps/vanzer.svg share/metainfo/vanzer.metainfo.xml \
+    share/doc/vanzer/manuale.md share/doc/vanzer/copyright share/doc/vanzer/THIRD_PARTY.md \
     share/man/man1/vanzer.1.gz share/man/man1/vanzer-batch.1.gz share/vanzer/esempi/capo_nord.iei; do
     case $file in share/doc/* | share/man/*) list=packed ;; *) list=files ;; esac
     grep -qx "/usr/$file" "$scratch/$list" || fail "no $file"
@@ -98,5 +99,7 @@ owned "$scratch/home"
 folder="$scratch/home/una chiavetta/Vanzer"
 while read -r picture; do [ -s "$folder/$picture" ] || fail "no $picture beside the manual"; done <"$scratch/pictures"
 shows_window "$folder/vanzer" "$folder/Vanzer.mdb"
-[ -s "$folder/LEGGIMI.txt" ] && [ -s "$folder/esempi/sud.iei" ] && [ -x "$folder/Scribolo" ] || fail 'the portable folder'
+for file in LEGGIMI.txt LICENSE THIRD_PARTY.md esempi/sud.iei Scribolo; do
+    [ -s "$folder/$file" ] || fail "no $file in the portable folder"
+done
 echo "package: $(wc -l <"$scratch/files") files came and went"
