@@ -9,35 +9,29 @@ namespace scenarios {
 /// A command line and what it is expected to answer.
 struct Step {
     QByteArray command;
-    QByteArray expected;  ///< JSON text; empty where the file gives none
-    int line = 0;         ///< of the command, from 1
-    bool example = false; ///< of a page for readers: what the page doesn't tell of the answer is free
+    QByteArray expected; ///< JSON text; empty where the file gives none
+    int line = 0;        ///< of the command, from 1
 };
 
 /// A scenario: header comments, then command lines, each followed by a line "=> JSON" with its expected answer. Empty
-/// lines and comments may stand anywhere. The header knows three keys:
-///   # pending: ROOM     not expected to hold yet: reported as skipped
+/// lines and comments may stand anywhere. The header knows two keys:
 ///   # locale: NAME      the process locale of the program; C.UTF-8 without it
 ///   # files: FOLDER     beside the scenario; its files are copied into the program's directory first
+///
+/// The examples of a Markdown page are a scenario too: its fenced blocks named "vanzer-batch" and comments that begin
+/// so, one session in the order of the page. A command may be followed by "=> JSON", whose keys the answer must have
+/// so, or by "=> ~ TEXT", which the answer must contain; without either it must be neither an error nor refused.
 struct Scenario {
     QString path;
-    QString pending;
+    bool examples = false; ///< of a page for readers
     QString locale = QStringLiteral("C.UTF-8");
     QString filesFolder;
     QList<Step> steps;
     QString fault; ///< why the file can't be used, empty when it can
-
-    /// The path's last part without ".txt".
-    [[nodiscard]] QString name() const;
 };
 
-/// Reads a scenario; what is wrong with it stands in `fault`.
+/// Reads a scenario, of a page where the path ends in ".md"; what is wrong with it stands in `fault`.
 [[nodiscard]] Scenario readScenario(const QString& path);
-
-/// Reads the examples of a Markdown page: fenced blocks named "vanzer-batch" and comments that begin so, one session in
-/// the order of the page. A command may be followed by "=> JSON", whose keys the answer must have so, or by
-/// "=> ~ TEXT", which the answer must contain; without either it must be neither an error nor refused.
-[[nodiscard]] Scenario readExamples(const QString& path);
 
 /// Replaces the expected answers in the scenario's file by those of its steps and leaves every other line as it is.
 /// Returns false when the file can't be written.
