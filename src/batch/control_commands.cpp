@@ -149,7 +149,12 @@ QJsonObject cells(Control& control, const QString& /*argument*/) {
     return grid == nullptr ? notPossible() : gridState(*grid);
 }
 
-constexpr std::array<ControlCommand, 13> commands{{{u"set", true, true, set},
+QJsonObject columns(Control& control, const QString& /*argument*/) {
+    const auto* const grid = qobject_cast<const Grid*>(&control);
+    return grid == nullptr ? notPossible() : gridColumns(*grid);
+}
+
+constexpr std::array<ControlCommand, 14> commands{{{u"set", true, true, set},
                                                    {u"type", true, true, type},
                                                    {u"key", true, true, key},
                                                    {u"keydown", true, true, keyDown},
@@ -161,7 +166,8 @@ constexpr std::array<ControlCommand, 13> commands{{{u"set", true, true, set},
                                                    {u"row", true, true, row},
                                                    {u"dblclick", true, true, doubleClick},
                                                    {u"get", false, false, get},
-                                                   {u"grid", false, false, cells}}};
+                                                   {u"grid", false, false, cells},
+                                                   {u"columns", false, false, columns}}};
 
 } // namespace
 

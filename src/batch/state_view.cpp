@@ -1,5 +1,7 @@
 #include "batch/state_view.h"
 
+#include <array>
+
 #include <QJsonArray>
 
 #include "core/text.h"
@@ -143,6 +145,17 @@ QJsonObject gridState(const Grid& grid) {
         cells.removeLast();
     return {{"rows", grid.rows()},     {"cols", grid.columns()},  {"row", grid.row()},       {"col", grid.col()},
             {"rowsel", grid.rowSel()}, {"colsel", grid.colSel()}, {"toprow", grid.topRow()}, {"cells", cells}};
+}
+
+QJsonObject gridColumns(const Grid& grid) {
+    static constexpr std::array aligned{"left", "centre", "right"};
+    QJsonArray widths;
+    QJsonArray alignments;
+    for (int column = 0; column < grid.columns(); ++column) {
+        widths.append(grid.columnWidth(column));
+        alignments.append(aligned[static_cast<std::size_t>(grid.alignment(column))]);
+    }
+    return {{"widths", widths}, {"alignments", alignments}};
 }
 
 QJsonObject records(const store::TabellaLetta& table) {

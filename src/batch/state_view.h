@@ -15,6 +15,8 @@ namespace vanzer::batch {
 [[nodiscard]] QJsonObject controlState(const Control& control);
 /// The cells, without empty ones at the end of a row and empty rows at the end.
 [[nodiscard]] QJsonObject gridState(const Grid& grid);
+/// How wide its columns are (twips, 0 for a hidden one), and where their texts stand.
+[[nodiscard]] QJsonObject gridColumns(const Grid& grid);
 [[nodiscard]] QJsonObject records(const store::TabellaLetta& table);
 
 } // namespace vanzer::batch

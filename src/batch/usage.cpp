@@ -30,6 +30,7 @@ constexpr std::array usages{
     Usage{u"export csv FILE", u"writes the computed schedule as a table"},
     Usage{u"get NAME", u"tells the state of a control"},
     Usage{u"grid NAME", u"tells the cells of a grid"},
+    Usage{u"columns NAME", u"tells widths and alignments of a grid's columns"},
     Usage{u"vars", u"tells the working state"},
     Usage{u"table NAME", u"tells the records of a stored table"},
     Usage{u"cat FILE", u"tells the lines of a text file in code page 1252"},
