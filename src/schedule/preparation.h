@@ -24,7 +24,7 @@ struct TappaDaPreparare {
 
 struct Preparazione {
     FonteSoste fonte = FonteSoste::Nessuna;
-    float oreVisitaGiorno = 0;
+    float oreVisitaGiorno = 0; ///< hundredths
     /// The entries of a place that weren't used yet: by category, the longest first, then by group.
     std::function<std::vector<const VoceGuida*>(const QString& place)> guida;
     std::function<QString(int category)> categoria;

@@ -36,9 +36,9 @@ inline constexpr QStringView titoloTotali = u"Totali: Km e tempi (gg:hh:mm):";
 struct TestiViandoria {
     /// Cells of the leg table by row and column, for what a leg's row takes over.
     std::function<const QString&(int row, int column)> tappa;
-    QString minutiPausa; ///< length of a break, as its list shows it
-    float oreGuidaGiorno = 0;
-    float oreVisitaGiorno = 0;
+    QString minutiPausa;       ///< length of a break in minutes, as its list shows it
+    float oreGuidaGiorno = 0;  ///< hundredths
+    float oreVisitaGiorno = 0; ///< hundredths
 };
 
 /// "Lun", "gg/mm", "hh:mm" of a day and a clock.

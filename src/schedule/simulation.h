@@ -14,6 +14,7 @@
 
 namespace vanzer {
 
+/// What a test goes by. Clock times and lengths are hundredths of an hour.
 struct ParametriSimulazione {
     float oraColazione = 0; ///< activity starts
     float oraPranzo = 0;
@@ -25,18 +26,18 @@ struct ParametriSimulazione {
     float fineVisita = 0;
     float oreVisitaGiorno = 0;
     float oreGuidaGiorno = 0;
-    int riposoMinuti = 0; ///< a break, hundredths
-    int riposoOre = 0;
-    int riposoGiorno = 0;
-    int riposoDopoGiorni = 0;
+    int riposoMinuti = 0;     ///< a break: hundredths, not minutes
+    int riposoOre = 0;        ///< whole hours of travel before a break
+    int riposoGiorno = 0;     ///< days of a long rest
+    int riposoDopoGiorni = 0; ///< days of travel before it
     float oraInizioViaggio = 0;
-    float giulianoInizio = 0;
+    float giulianoInizio = 0; ///< Julian day
     int giorniDesiderati = 0; ///< 0: the walk goes to the end
-    int range = 0;            ///< hundredths
+    int range = 0;            ///< how near to a milestone counts as on it
     Medie medie{};
 };
 
-/// A row of the schedule, in numbers.
+/// A row of the schedule, in numbers. Clocks and lengths are hundredths of an hour, days are Julian days.
 struct RigaViandoria {
     enum class Tipo { Tratto, Sosta, Menzione, NuovoGiorno };
     /// Why a driven piece ended where it did.
@@ -55,17 +56,18 @@ struct RigaViandoria {
     bool spezzata = false;   ///< the stop went on over more than one day
     int km = 0;
     int kmTotali = 0;
-    float tempo = 0;        ///< of the piece, hundredths
+    float tempo = 0;        ///< of the piece
     float inizio = 0;       ///< the clock at which the piece or the stop begins
     float giornoInizio = 0; ///< the day of that
-    float riposo = 0;       ///< length of the breaks that follow, hundredths
+    float riposo = 0;       ///< length of the breaks that follow
     float ora = 0;          ///< the clock at the arrival, behind the stop, at the new start
     float giuliano = 0;     ///< the day of that
     float sosta = 0;        ///< length of the stop
     float sostaGuida = 0;   ///< length that the guide asks for
 };
 
-/// What the panel shows: refreshed behind each driven piece, so that later stops don't count.
+/// What the panel shows, hundredths of an hour and Julian days: refreshed behind each driven piece, so that later
+/// stops don't count.
 struct PannelloViandoria {
     float ora = 0; ///< arrival of the last piece
     float giuliano = 0;

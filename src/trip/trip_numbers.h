@@ -18,7 +18,7 @@ struct NumeriViaggio {
     float OreGuidaGiorno = 0;  ///< driving time of a planned day: the day unit of driving times
     float OreVisitaGiorno = 0; ///< visiting time of a day
 
-    int RiposoMinuti = 0;     ///< length of a break, in hundredths whatever its name says
+    int RiposoMinuti = 0;     ///< length of a break: hundredths, not minutes
     int RiposoOre = 0;        ///< whole hours of travel after which a break falls due
     int RiposoGiorno = 0;     ///< days of a long rest
     int RiposoDopoGiorni = 0; ///< days of travel after which a long rest falls due
@@ -26,8 +26,8 @@ struct NumeriViaggio {
     int GiornoInizio = 0;
     int MeseInizio = 0;
     int AnnoInizio = 0;
-    float GiulianoInizio = 0;   ///< day of the year, from 1
-    float GiulianoCorrente = 0; ///< the same, past the end of the year too
+    float GiulianoInizio = 0;   ///< Julian day
+    float GiulianoCorrente = 0; ///< Julian day of the moment
     float OraInizioViaggio = 0;
     float OraCorrente = 0;
 
