@@ -1,7 +1,6 @@
 // What a user does, key by key, the mouse left alone, and what the window shows.
 #include <QAbstractScrollArea>
 #include <QApplication>
-#include <QScreen>
 #include <QScrollBar>
 #include <QSignalSpy>
 
@@ -26,8 +25,10 @@ class ByKeyboard : public DesktopTest {
         texts.removeAll(QString());
         return texts.join(u'|').toStdString();
     }
-    [[nodiscard]] qsizetype records(const char* table) {
-        return static_cast<qsizetype>(form().archivio.tabella(QString::fromLatin1(table)).record.size());
+    /// In what is at work then, while no box is up.
+    void escapeOnce(const std::function<bool()>& holds) {
+        once([holds] { return QApplication::activeModalWidget() == nullptr && holds(); },
+             [this] { QTest::keyClick(&window(), Qt::Key_Escape); });
     }
 };
 
@@ -95,12 +96,7 @@ TEST_F(ByKeyboard, AScheduleIsLookedAtAndPrinted) {
 TEST_F(ByKeyboard, APrintIsStoppedByEsc) {
     storeTrip(300);
     open(everyStep);
-    once(
-        [this] {
-            return form().stato.StampaInCorso && QApplication::activeModalWidget() == nullptr &&
-                   form().stato.PercentualeCorrente >= 3;
-        },
-        [this] { QTest::keyClick(&window(), Qt::Key_Escape); });
+    escapeOnce([this] { return form().stato.StampaInCorso && form().stato.PercentualeCorrente >= 3; });
     press("<s><Space><s><@lstStampanti><End>[Return][Return][Return]");
     pressFor(inFolder("prova.pdf"), "<s>");
     sees("?Vuoi interrompere la stampa?;?Stampa interrotta!;?");
@@ -236,7 +232,7 @@ TEST_F(ByKeyboard, ATripGoesOutAndComesInUnderAnotherName) {
     story({{"", "@mfgImExp_1;mfgImExp(1):1:1=ALTRA"},
            {"<Space>[Return][Return]<@cmdImExp_0><Space>",
             "?;?Sono stati inseriti:\n\n1 mète/itinerari;-frmframe_22;*cmdExport"}});
-    EXPECT_EQ(records("Itinerari"), 10);
+    EXPECT_EQ(records("Itinerari").size(), 10U);
 }
 
 TEST_F(ByKeyboard, TheMarkOfAListMovesWithTheArrowsAndStaysInIt) {
@@ -263,20 +259,15 @@ TEST_F(ByKeyboard, AnImportIsStoppedByEscAndLeavesNothing) {
     open(everyStep);
     story({{"<n>aosta<Tab>italia[Return]<v>", "?"}, {"<x>", ""}});
     pressFor(path, "<i>");
-    once(
-        [this] {
-            return form().stato.ScambioInCorso && QApplication::activeModalWidget() == nullptr &&
-                   form().lblElaborazione.caption() == QStringLiteral("Importazione Itinerari");
-        },
-        [this] {
-            sees("cmdEsce=&Stop");
-            QTest::keyClick(&window(), Qt::Key_Escape);
-        });
+    escapeOnce([this] {
+        return textOf("cmdEsce") == "&Stop" && form().stato.ScambioInCorso &&
+               form().lblElaborazione.caption() == QStringLiteral("Importazione Itinerari");
+    });
     story({{"<Return><@cmdImExp_0>[Return][Return][Return]<Return>",
             "?;?Vuoi interrompere l'elaborazione?;?Import interrotto!\n\nNon è stato inserito nulla.;"
             "txtLocalita=AOSTA;cmdEsce=&Esce"}});
-    EXPECT_EQ(records("MeteVanzer"), 1);
-    EXPECT_EQ(records("Itinerari"), 0);
+    EXPECT_EQ(records("MeteVanzer").size(), 1U);
+    EXPECT_TRUE(records("Itinerari").empty());
 }
 
 } // namespace

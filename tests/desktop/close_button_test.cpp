@@ -10,7 +10,6 @@ using CloseButton = DesktopTest;
 
 /// One press closes what is open, each thing with its own question, and then asks to leave.
 TEST_F(CloseButton, AsksToLeaveWhateverIsOpen) {
-    constexpr const char* leave = "?Vuoi chiudere la procedura?";
     constexpr const char* legs = "?Hai chiesto di uscire dalla funzione 'Itinerari'";
     constexpr const char* stretch = "?Vuoi salvare le modifiche";
     storeTrip(8);
@@ -45,7 +44,7 @@ TEST_F(CloseButton, AsksToLeaveWhateverIsOpen) {
             boxes.expect(Qt::Key_N);
         EXPECT_FALSE(window().close()) << "Esc in the question to leave is no";
         sees(asked); // before the question to leave
-        sees(leave);
+        sees("?Vuoi chiudere la procedura?");
         EXPECT_TRUE(boxes.none());
         for (const int frame : {1, 12, 16, 17, 18, 19, 22, 23, 24, 25})
             EXPECT_FALSE(form().frmframe(frame).visible()) << "frame " << frame;
@@ -56,21 +55,14 @@ TEST_F(CloseButton, AsksToLeaveWhateverIsOpen) {
     }
 }
 
-TEST_F(CloseButton, WaitsForACommandThatCannotBeStopped) {
+TEST_F(CloseButton, WaitsForACommandThatCannotBeStoppedAndStopsAtACancel) {
     storeTrip(3);
     open(everyStep);
     inside([this] {
         EXPECT_FALSE(window().close());
         EXPECT_TRUE(boxes.none());
     });
-    press("<r>");
-    sees("?Vuoi chiudere la procedura?;-cmbRicerca");
-}
-
-TEST_F(CloseButton, ACancelOnTheWayStopsThere) {
-    storeTrip(3);
-    open();
-    press("<i><e>");
+    story({{"<r>", "?Vuoi chiudere la procedura?;-cmbRicerca"}, {"<i><e>", "+cmbRicercaTappa"}});
     EXPECT_FALSE(window().close());
     story({{"", "?;-cmbRicercaTappa;+frmframe_12"}}); // Esc in the box cancels
 }

@@ -14,10 +14,7 @@
 namespace vanzer::desktop {
 namespace {
 
-class Companions : public DesktopTest {
-  protected:
-    [[nodiscard]] std::size_t trips() { return form().archivio.tabella(QStringLiteral("MeteVanzer")).record.size(); }
-};
+using Companions = DesktopTest;
 
 TEST_F(Companions, TheFirstStepsLeadToTrips) {
     writeFile(inFolder("vuoto.iei"), {});
@@ -30,10 +27,10 @@ TEST_F(Companions, TheFirstStepsLeadToTrips) {
     program().openTrips(QStringLiteral(":/esempi/sud.iei"));
     story({{"", "+frmframe_22"}});
     EXPECT_NE(textOf("mfgImExp(1):1:1"), "");
-    EXPECT_EQ(trips(), 0U);
+    EXPECT_TRUE(records("MeteVanzer").empty());
     open();
     story({{"[Return]<g>", "?;-frmPrimiPassi;+mfgTab;*cmdItinerario"}});
-    EXPECT_EQ(trips(), 3U);
+    EXPECT_EQ(records("MeteVanzer").size(), 3U);
     EXPECT_GT(form().stato.NumeroTappe, 5);
 }
 

@@ -230,8 +230,8 @@ TEST_F(Controls, EveryCharacterIsTypedAndNothingElse) {
     for (char16_t c = 32; c < 127; ++c)
         characters += c;
     const auto moved = [this] {
-        const auto stored = form().archivio.tabella(QStringLiteral("GuidaCitta")).record.size();
-        return std::tuple(form().stato.RigaCorrente, form().mfgTab.row(), form().mfgTab.rows(), stored);
+        return std::tuple(form().stato.RigaCorrente, form().mfgTab.row(), form().mfgTab.rows(),
+                          records("GuidaCitta").size());
     };
     std::set<QString> met;
     for (const char* const opens : {"<i>", "<g>"}) {

@@ -5,7 +5,6 @@
 #include <functional>
 #include <initializer_list>
 #include <memory>
-#include <vector>
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -84,7 +83,8 @@ class DesktopTest : public ::testing::Test {
         EXPECT_NE(found, nullptr) << name.toStdString();
         return found;
     }
-    template<typename T = QWidget> T* find(const char* name) { return find<T>(QString::fromLatin1(name)); }
+    /// All that a table of the archive holds.
+    [[nodiscard]] auto records(const char* table) { return form().archivio.tabella(QString::fromLatin1(table)).record; }
     /// A form that was never seen isn't there yet.
     [[nodiscard]] bool isSeen(const QString& name);
     [[nodiscard]] static std::string focusName();

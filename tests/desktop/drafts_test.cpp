@@ -13,7 +13,7 @@ namespace {
 
 class Drafts : public DesktopTest {
   protected:
-    QString draft() const { return inFolder("Vanzer.bozza"); }
+    const QString draft = inFolder("Vanzer.bozza");
     /// As the program runs: `task` in its event loop, which its end leaves.
     void runToTheEnd(const std::function<void()>& task) {
         QTimer::singleShot(0, &window(), task);
@@ -30,7 +30,7 @@ TEST_F(Drafts, TypedLegsComeBackWithEnter) {
     press("<n>roma<Tab>italia[Return]<v><i>asti<i>alba<Tab>a21<Tab>30<i>cuneo");
     boxes.forget();
     runToTheEnd([this] { program().end(); });
-    EXPECT_TRUE(QFile::exists(draft()));
+    EXPECT_TRUE(QFile::exists(draft));
     boxes.expect(Qt::Key_Return);
     open();
     const ShownBox asked = boxes.take();
@@ -38,7 +38,7 @@ TEST_F(Drafts, TypedLegsComeBackWithEnter) {
     EXPECT_EQ(asked.buttons, (QStringList{QStringLiteral("Sì"), QStringLiteral("No")}));
     story({{"", "@txtTappa;txtTappa=CUNEO;mfgTab:2:1=ALBA"},
            {"[N][N]<f>", "?;?"}}); // the leg, the legs, and what is left then is stored
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !QFile::exists(draft()); })) << "left by the usual questions";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !QFile::exists(draft); })) << "left by the usual questions";
 }
 
 /// What is answered in the user's place isn't his choice.
@@ -71,8 +71,8 @@ TEST_F(Drafts, ACalculationIsStoppedWithNoQuestion) {
     EXPECT_TRUE(boxes.none());
     open();
     sees("?Riprendere il lavoro non salvato a «PROVA» (30 tappe, 09:10)?");
-    EXPECT_FALSE(QFile::exists(draft())) << "Esc is no";
-    EXPECT_TRUE(QFile::exists(draft() + QStringLiteral(".precedente")));
+    EXPECT_FALSE(QFile::exists(draft)) << "Esc is no";
+    EXPECT_TRUE(QFile::exists(draft + QStringLiteral(".precedente")));
 }
 
 TEST_F(Drafts, ASecondProgramOnTheSameArchiveIsToldSo) {

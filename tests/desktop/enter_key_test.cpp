@@ -1,6 +1,4 @@
 // Enter in the editors: what was typed is taken, and only then the editor is left.
-#include <QFile>
-
 #include "desktop_fixture.h"
 
 namespace vanzer::desktop {
@@ -14,9 +12,6 @@ class EnterKey : public DesktopTest {
         const char* change; ///< to the row that is shown, as `work` knows it
         bool taken;
     };
-
-    /// All that the guide holds.
-    [[nodiscard]] auto entries() { return form().archivio.tabella(QStringLiteral("GuidaCitta")).record; }
 
     void enterAfter(const Case& c) {
         form().mfgTab.clickRow(c.row);
@@ -88,16 +83,16 @@ TEST_F(EnterKey, TakesATypedEntryElseLeavesTheGuide) {
         writeFile(inFolder("Vanzer.mdb"), stored);
         open();
         work("<g>;set cmbGH 01");
-        const auto before = entries();
+        const auto before = records("GuidaCitta");
         enterAfter(c);
-        const auto after = entries();
+        const auto after = records("GuidaCitta");
         EXPECT_EQ(isSeen(QStringLiteral("frmframe_24")), c.taken);
         EXPECT_EQ(after != before, c.taken);
         EXPECT_TRUE(boxes.none());
         if (c.taken)
             press("<Return>");
         sees("-frmframe_24");
-        EXPECT_TRUE(entries() == after) << "once more only leaves";
+        EXPECT_TRUE(records("GuidaCitta") == after) << "once more only leaves";
     }
 }
 
