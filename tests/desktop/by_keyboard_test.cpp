@@ -218,14 +218,15 @@ TEST_F(ByKeyboard, GroupsAndShortFormsOfTheGuideAreTyped) {
 TEST_F(ByKeyboard, ATripGoesOutAndComesInUnderAnotherName) {
     openTrip(5);
     const QString path = inFolder("prova.iei");
-    writeFile(path, {}); // an older file is asked for once; Enter would be no
+    writeFile(path, {}); // an older file is asked for once; Enter is no
     story({{"<x>", "@cmdImportExport_0"},
            {"<e>", "@mfgImExp_0;/cmdImExp_0"},
            {"<Return>", "mfgImExp(1):1:1=PROVA;cmdTutto_1=<--- Tutti [1]"}});
-    press("<@cmdImExp_0>[S][Return][Return]");
-    pressFor(path, "<Return>");
+    pressFor(path, "<@cmdImExp_0>[Return]<Return>");
     EXPECT_EQ(boxes.take().title, QStringLiteral("File %1 esistente").arg(path));
-    sees("?;?Le mète esportate si trovano sul file ;+frmframe_22");
+    EXPECT_TRUE(contents(path).isEmpty() && boxes.none());
+    pressFor(path, "<@cmdImExp_0>[S][Return][Return]<Return>");
+    story({{"", "?;?;?Le mète esportate si trovano sul file ;+frmframe_22"}});
     writeFile(path, contents(path).replace("PROVA", "ALTRA"));
     story({{"<Esc>", "-frmframe_22"}, {"<x>", ""}});
     pressFor(path, "<i>");
