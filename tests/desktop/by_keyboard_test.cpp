@@ -96,8 +96,9 @@ TEST_F(ByKeyboard, AScheduleIsLookedAtAndPrinted) {
 TEST_F(ByKeyboard, APrintIsStoppedByEsc) {
     storeTrip(300);
     open(everyStep);
+    story({{"<s>", "@chkTabella"}, {"<Space><s>", "+frmframe_23"}, {"<@lstStampanti>", "@lstStampanti"}});
     escapeOnce([this] { return form().stato.StampaInCorso && form().stato.PercentualeCorrente >= 3; });
-    press("<s><Space><s><@lstStampanti><End>[Return][Return][Return]");
+    press("<End>[Return][Return][Return]");
     pressFor(inFolder("prova.pdf"), "<s>");
     sees("?Vuoi interrompere la stampa?;?Stampa interrotta!;?");
     EXPECT_FALSE(QFile::exists(inFolder("prova.pdf")));
@@ -260,11 +261,12 @@ TEST_F(ByKeyboard, AnImportIsStoppedByEscAndLeavesNothing) {
     open(everyStep);
     story({{"<n>aosta<Tab>italia[Return]<v>", "?"}, {"<x>", ""}});
     pressFor(path, "<i>");
+    press("<Return><@cmdImExp_0>");
     escapeOnce([this] {
         return textOf("cmdEsce") == "&Stop" && form().stato.ScambioInCorso &&
                form().lblElaborazione.caption() == QStringLiteral("Importazione Itinerari");
     });
-    story({{"<Return><@cmdImExp_0>[Return][Return][Return]<Return>",
+    story({{"[Return][Return][Return]<Return>",
             "?;?Vuoi interrompere l'elaborazione?;?Import interrotto!\n\nNon è stato inserito nulla.;"
             "txtLocalita=AOSTA;cmdEsce=&Esce"}});
     EXPECT_EQ(records("MeteVanzer").size(), 1U);
