@@ -24,6 +24,11 @@ class Controls : public DesktopTest {
         open();
     }
 
+    void openEditor() {
+        press("<n>roma<Tab>italia[Return]<v><i>");
+        boxes.forget();
+    }
+
     /// Frames that have no form yet, and what is never seen: pictures for paper, the stops of a route file.
     [[nodiscard]] static bool notInTheWindow(const Control& control) {
         static const std::set<int> noForm{13, 20, 21};
@@ -99,42 +104,35 @@ TEST_F(Controls, EachHasItsWidgetWithCaptionTipKeyAndName) {
 
 TEST_F(Controls, ANoticeTakesRoomAndIsSpokenWhileThereIsOne) {
     const QString text = QStringLiteral("950 letto come totale: 21 km.");
-    EXPECT_FALSE(isSeen("lblAvviso"));
+    sees("-lblAvviso");
     form().lblAvviso.setCaption(text);
     window().binder().flush();
     QCoreApplication::processEvents();
     auto* const notice = find<QLabel>("lblAvviso");
-    EXPECT_TRUE(notice->isVisible());
-    EXPECT_GE(notice->width(), notice->sizeHint().width());
+    EXPECT_TRUE(notice->isVisible() && notice->width() >= notice->sizeHint().width());
     EXPECT_EQ(spokenName(*notice), text);
     EXPECT_EQ(QAccessible::queryAccessibleInterface(notice)->role(), QAccessible::AlertMessage);
     form().lblAvviso.setCaption({});
     window().binder().flush();
-    EXPECT_FALSE(notice->isVisible());
+    sees("-lblAvviso");
 }
 
 TEST_F(Controls, TheStatusLineTellsWhatAControlIsFor) {
     find("cmbInizio_0")->setFocus();
     auto* const line = find<ShortenedLabel>("lblElaborazione");
+    const QString idle = testoInAttesa.toString();
     const QString work = QStringLiteral("Calcolo in corso");
-    const struct {
-        const char* under; ///< the mouse
-        QString caption;
-        QString shown;
-    } cases[] = {{"lblAutore", testoInAttesa.toString(), form().cmbInizio(0).tooltip()},
-                 {"cmdNuovo", testoInAttesa.toString(), form().cmdNuovo.tooltip()},
-                 {"cmbMediaKm_0", testoInAttesa.toString(), form().cmbMediaKm(0).tooltip()},
-                 {"cmdRicerca", work, work},
-                 {"cmdRicerca", testoInAttesa.toString(), form().cmdRicerca.tooltip()},
-                 {"lblAutore", testoInAttesa.toString(), form().cmbInizio(0).tooltip()}};
-    for (const auto& c : cases) {
-        QTest::mouseMove(find(c.under));
-        form().lblElaborazione.setCaption(c.caption);
+    // Under the mouse; the caption; what is shown.
+    const std::tuple<const char*, QString, QString> cases[] = {
+        {"lblAutore", idle, form().cmbInizio(0).tooltip()},     {"cmdNuovo", idle, form().cmdNuovo.tooltip()},
+        {"cmbMediaKm_0", idle, form().cmbMediaKm(0).tooltip()}, {"cmdRicerca", work, work},
+        {"cmdRicerca", idle, form().cmdRicerca.tooltip()},      {"lblAutore", idle, form().cmbInizio(0).tooltip()}};
+    for (const auto& [under, caption, shown] : cases) {
+        QTest::mouseMove(find(under));
+        form().lblElaborazione.setCaption(caption);
         window().binder().flush();
-        EXPECT_FALSE(c.shown.isEmpty()) << c.under;
-        EXPECT_TRUE(QTest::qWaitFor([&] { return line->shown() == c.shown; }, 500))
-            << c.under << ": " << line->shown().toStdString();
-        EXPECT_EQ(form().lblElaborazione.caption(), c.caption);
+        EXPECT_TRUE(QTest::qWaitFor([&, &tells = shown] { return line->shown() == tells && !tells.isEmpty(); }, 500))
+            << under << ": " << line->shown().toStdString();
     }
 }
 
@@ -149,39 +147,32 @@ TEST_F(Controls, FieldsTellByTheirGroundWhatCanBeFilledInAlsoInTheDark) {
 }
 
 TEST_F(Controls, ABoxOpensTheFilesThatItTellsOf) {
-    const QString folder = directory.path();
-    const QString file = folder + QStringLiteral("/viaggio.iei");
-    const struct {
-        Qt::Key key;
-        QStringList opened;
-    } cases[] = {{Qt::Key_Return, {}}, {Qt::Key_Escape, {}}, {Qt::Key_P, {file}}, {Qt::Key_M, {folder}}};
-    for (const auto& c : cases) {
-        boxes.expect(c.key);
+    const QString file = inFolder("viaggio.iei");
+    const MessageBox told{.text = QStringLiteral("<b>Fatto</b>"),
+                          .detail = QStringLiteral("<i>viaggio</i>"),
+                          .files = {file, inFolder("altro.iei")}};
+    const std::pair<Qt::Key, QStringList> cases[] = {
+        {Qt::Key_Return, {}}, {Qt::Key_Escape, {}}, {Qt::Key_P, {file}}, {Qt::Key_M, {directory.path()}}};
+    for (const auto& [key, opened] : cases) {
+        boxes.expect(key);
         opener.opened.clear();
-        const MessageBox box{.text = QStringLiteral("<b>Fatto</b>"),
-                             .detail = QStringLiteral("<i>viaggio</i>"),
-                             .files = {file, folder + QStringLiteral("/altro.iei")}};
-        EXPECT_EQ(form().ports.messages.show(box), rispostaOk);
-        EXPECT_EQ(opener.opened, c.opened) << c.key;
+        EXPECT_EQ(form().ports.messages.show(told), rispostaOk);
+        EXPECT_EQ(opener.opened, opened) << key;
+        const ShownBox box = boxes.take();
+        EXPECT_TRUE(box.plain && box.buttons.size() == 3);
     }
-    ASSERT_EQ(boxes.shown().size(), 4U);
-    EXPECT_TRUE(boxes.shown()[0].plain);
-    EXPECT_EQ(boxes.shown()[0].buttons.size(), 3);
 }
 
 /// No line is broken, those that blanks indent stand under each other, and the focus is back where it was.
 TEST_F(Controls, TheHelpIsReadAndLeft) {
-    typeDestination("roma", "italia");
-    letter('i');
+    openEditor();
     const QString blanks(37, QChar::Nbsp);
     int indented = 0;
     for (const char* const name : {"cmdHelpGenerico", "cmdHelpTotale1", "cmdHelpTotale2", "cmdHelpTt", "cmdHelpKm",
                                    "cmdHelpItin_0", "cmdHelpItin_1", "cmdHelpItin_2", "cmdHelpItin_3"}) {
         find("txtKm")->setFocus();
-        boxes.forget();
         QTest::mouseClick(find(name), Qt::LeftButton);
-        ASSERT_EQ(boxes.shown().size(), 1U) << name;
-        const ShownBox& box = boxes.shown()[0];
+        const ShownBox box = boxes.take();
         EXPECT_EQ(box.lines, box.text.count(u'\n') + 1) << box.text.toStdString();
         const QFontMetricsF metrics(box.font);
         EXPECT_NEAR(metrics.horizontalAdvance(blanks), metrics.horizontalAdvance(QStringLiteral("RITORNO A START:  ")),
@@ -193,17 +184,16 @@ TEST_F(Controls, TheHelpIsReadAndLeft) {
 }
 
 TEST_F(Controls, TabGoesInTheOrderOfTheEye) {
-    typeDestination("roma", "italia");
-    letter('i');
+    openEditor();
     for (const int index : {8, 9, 11, 6, 5, 4, 0, 15, 3, 12}) {
-        const auto* const frame = find((QStringLiteral("frmframe_") + QString::number(index)).toLatin1().constData());
+        const auto* const frame = find(QStringLiteral("frmframe_%1").arg(index));
         std::vector<QRect> places;
         for (QWidget* w = window().nextInFocusChain(); w != &window(); w = w->nextInFocusChain()) {
             const bool stops = (w->focusPolicy() & Qt::TabFocus) != 0 && w->parentWidget() == frame;
             if (stops && w->focusProxy() == nullptr && w->isVisible())
                 places.push_back(w->geometry());
         }
-        ASSERT_FALSE(places.empty()) << index;
+        EXPECT_FALSE(places.empty()) << index;
         const auto before = [](const QRect& a, const QRect& b) {
             return a.bottom() <= b.center().y() || (std::abs(a.center().y() - b.center().y()) < 12 && a.x() < b.x());
         };
@@ -212,40 +202,25 @@ TEST_F(Controls, TabGoesInTheOrderOfTheEye) {
 }
 
 TEST_F(Controls, PastedTextGoesThroughTheKeyHandlers) {
-    typeDestination("roma", "italia");
-    letter('i');
-    const struct {
-        const char* field;
-        const char* pasted;
-        const char* shown;
-    } cases[] = {
+    openEditor();
+    const std::tuple<const char*, const char*, const char*> cases[] = {
         {"txtTappa", "forlì (àè) l'aquila", "FORLÌ (ÀÈ) L'AQUILA"},
-        {"txtTappa", "abcdefghijklmnopqrstuvwxyz0123456789", "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123"},
         {"txtNumStrada", "a1/e45", "A1/E45"},
         {"txtKm", "1x2-3,4", "1234"},
+        {"txtTappa", "abcdefghijklmnopqrstuvwxyz0123456789", "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123"},
     };
-    for (const auto& c : cases) {
-        auto* const field = find<QLineEdit>(c.field);
+    for (const auto& [name, pasted, shown] : cases) {
+        auto* const field = find<QLineEdit>(name);
         field->setFocus();
         field->selectAll();
-        QApplication::clipboard()->setText(QString::fromUtf8(c.pasted));
-        key(Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(field->text().toStdString(), c.shown) << c.field;
-        EXPECT_EQ(dynamic_cast<TextControl*>(form().find(QLatin1StringView(c.field)))->text(), field->text());
+        QApplication::clipboard()->setText(QString::fromUtf8(pasted));
+        press("<Ctrl+V>");
+        EXPECT_EQ(field->text().toStdString(), shown) << name;
+        EXPECT_EQ(dynamic_cast<TextControl*>(form().find(QLatin1StringView(name)))->text(), field->text());
     }
-    auto* const place = find<QLineEdit>("txtTappa");
-    place->setFocus();
-    place->end(false);
-    write("x");
-    EXPECT_TRUE(place->text().endsWith(QStringLiteral("0123"))) << "a full field takes no more";
-    auto* const km = find<QLineEdit>("txtKm");
-    km->setFocus();
-    km->selectAll();
-    write("x");
-    EXPECT_EQ(km->text().toStdString(), "1234") << "a dropped key leaves the selection";
-    km->deselect();
-    key(Qt::Key_Backspace);
-    EXPECT_EQ(km->text().toStdString(), "1234");
+    story({{"<End>x", "txtTappa=ABCDEFGHIJKLMNOPQRSTUVWXYZ0123"}, // a full field takes no more
+           {"<@txtKm><Ctrl+A>x", "txtKm=1234"},                   // a dropped key leaves the selection
+           {"<End><Backspace>", "txtKm=1234"}});
 }
 
 /// A character that shares its number with a key that moves is a character all the same.
@@ -255,126 +230,90 @@ TEST_F(Controls, EveryCharacterIsTypedAndNothingElse) {
     for (char16_t c = 32; c < 127; ++c)
         characters += c;
     const auto moved = [this] {
-        const auto stored = form().archivio.tabella(QStringLiteral("GuidaCitta")).record.size();
-        return std::tuple(form().stato.RigaCorrente, form().mfgTab.row(), form().mfgTab.rows(), stored);
+        return std::tuple(form().stato.RigaCorrente, form().mfgTab.row(), form().mfgTab.rows(),
+                          records("GuidaCitta").size());
     };
     std::set<QString> met;
-    for (const char opens : {'i', 'g'}) {
+    for (const char* const opens : {"<i>", "<g>"}) {
         open();
-        letter(opens);
+        press(opens);
         form().cmbGH.setText(QStringLiteral("01")); // with a time a description is an entry that can be stored
         for (const auto& [model, line] : typedInto()) {
             met.insert(model->name());
-            model->setText(QStringLiteral("1"));
-            window().binder().flush();
-            const auto before = moved();
             for (const QChar c : characters) {
+                SCOPED_TRACE(model->name().toStdString() + ", " + std::to_string(c.unicode()));
                 model->setText(QStringLiteral("1"));
                 window().binder().flush();
+                const auto before = moved();
                 line->setFocus();
                 line->end(false);
-                write(QString(c).toUtf8().constData());
+                write(c);
                 const int passed = model->filterKey(c.unicode());
                 const QString expected = QStringLiteral("1") + (passed < 32 ? QString() : QString(QChar(passed)));
-                ASSERT_EQ(model->text().toStdString(), expected.toStdString())
-                    << model->name().toStdString() << ", " << static_cast<int>(c.unicode());
+                ASSERT_EQ(model->text().toStdString(), expected.toStdString());
                 ASSERT_EQ(line->text(), model->text());
-                ASSERT_EQ(moved(), before) << model->name().toStdString() << ", " << static_cast<int>(c.unicode());
+                ASSERT_EQ(moved(), before);
             }
         }
         find("mfgTab")->setFocus();
         const auto before = moved();
-        write(characters.toUtf8().constData());
+        write(characters);
         EXPECT_EQ(moved(), before) << "in the table";
     }
-    EXPECT_TRUE(met.contains(QStringLiteral("txtGDescr")) && met.contains(QStringLiteral("txtTappa")) &&
-                met.contains(QStringLiteral("cmbMediaKm(0)")) && met.contains(QStringLiteral("txtLocalita")));
+    for (const char* const name : {"txtGDescr", "txtTappa", "cmbMediaKm(0)", "txtLocalita"})
+        EXPECT_TRUE(met.contains(QLatin1StringView(name))) << name;
 }
 
 TEST_F(Controls, ListsArePickedFromAndTypedIntoAsTheirKindAllows) {
+    story({{"<@cmbOra_0>3", "cmbOra_0=09"}, {"<Down><@cmbRange>", "cmbOra_0=10"}});
     auto* const hour = find<DropDown>("cmbOra_0");
-    hour->setFocus();
-    write("3");
-    EXPECT_EQ(hour->shownText().toStdString(), "09");
-    key(Qt::Key_Down);
-    EXPECT_EQ(form().cmbOra(0).text().toStdString(), "10");
-    find("cmbRange")->setFocus();
-    turnWheel(*hour);
+    turnWheel(*hour); // that passes by
     turnWheel(*find<DropDown>("cmbMediaKm_0")->lineEdit());
-    EXPECT_EQ(form().cmbOra(0).text().toStdString(), "10") << "a wheel that passes by";
-    EXPECT_EQ(focusName(), QStringLiteral("cmbRange"));
-    hour->setFocus();
+    story({{"", "@cmbRange;cmbOra_0=10"}, {"<@cmbOra_0>", ""}});
     turnWheel(*hour);
     EXPECT_EQ(form().cmbOra(0).text().toStdString(), "11");
-
-    auto* const speed = find<DropDown>("cmbMediaKm_0");
-    speed->setFocus();
-    speed->lineEdit()->selectAll();
-    write("1x35");
-    EXPECT_EQ(form().cmbMediaKm(0).text().toStdString(), "135");
-    auto* const days = find<DropDown>("cmbGiorni");
-    days->setFocus();
-    days->lineEdit()->selectAll();
-    write("998");
-    EXPECT_EQ(days->currentText().toStdString(), "997");
-    form().cmbOra(0).setText(QStringLiteral("99"));
+    story({{"<@cmbMediaKm_0><Ctrl+A>1x35", "cmbMediaKm_0=135"}, {"<@cmbGiorni><Ctrl+A>998", "cmbGiorni=997"}});
+    EXPECT_EQ(find<DropDown>("cmbGiorni")->currentText().toStdString(), "997");
+    form().cmbOra(0).setText(QStringLiteral("99")); // beside the entries
     window().binder().flush();
-    EXPECT_EQ(hour->shownText().toStdString(), "99") << "a text beside the entries";
+    sees("cmbOra_0=99");
 }
 
 /// The arrow goes on from the entry that was chosen, whatever has become of the entries.
 TEST_F(Controls, ListsMadeAnewKeepTheirEntry) {
-    form().cmbInizio(0).pick(QStringLiteral("27"));
-    form().cmbInizio(1).pick(QStringLiteral("06"));
-    const struct {
-        const char* list;
-        const char* chosen;
-        const char* next;
-    } cases[] = {{"cmbInizio_1", "06", "07"}, {"cmbInizio_0", "27", "28"}, {"cmbGTipo", "Ottimo", "Da vedere"}};
+    work("pick cmbInizio(0) 27;pick cmbInizio(1) 06");
     seeAllFrames();
-    for (const auto& c : cases) {
-        auto& model = *dynamic_cast<ListControl*>(form().find(Binder::controlName(QLatin1StringView(c.list))));
-        auto* const list = find<DropDown>(c.list);
-        EXPECT_EQ(list->shownText().toStdString(), c.chosen);
-        const QStringList entries = model.entries();
-        model.setEntries(entries + QStringList(QStringLiteral("~")));
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"cmbInizio_1", "06", "07"}, {"cmbInizio_0", "27", "28"}, {"cmbGTipo", "Ottimo", "Da vedere"}};
+    for (const auto& [name, chosen, next] : cases) {
+        auto& model = *dynamic_cast<ListControl*>(form().find(Binder::controlName(QLatin1StringView(name))));
+        EXPECT_EQ(textOf(name), chosen);
+        model.setEntries(model.entries() + QStringList(QStringLiteral("~")));
         window().binder().flush();
-        QTest::keyClick(list, Qt::Key_Down);
-        EXPECT_EQ(model.text().toStdString(), c.next);
+        QTest::keyClick(find<DropDown>(name), Qt::Key_Down);
+        EXPECT_EQ(model.text().toStdString(), next);
     }
 }
 
 TEST_F(Controls, FocusThatLeavesAnHourChecksTheClock) {
     find("cmbOra_1")->setFocus();
-    form().cmbOra(1).setText(QStringLiteral("11"));
-    form().cmbMin(1).setText(QStringLiteral("00"));
-    form().cmbOra(0).setText(QStringLiteral("10"));
-    form().cmbMin(0).setText(QStringLiteral("15"));
-    tab();
-    EXPECT_EQ(textOf("cmbOra_0").toStdString(), "00") << "lunch too near to the start of the day";
-    EXPECT_EQ(textOf("cmbOra_1").toStdString(), "11");
+    work("set cmbOra(1) 11;set cmbMin(1) 00;set cmbOra(0) 10;set cmbMin(0) 15");
+    story({{"<Tab>", "cmbOra_0=00;cmbOra_1=11"}}); // lunch too near to the start of the day
 }
 
 TEST(FilteredEdit, KeepsTheCaretBehindWhatWasBroughtIn) {
     TextBox digits(QStringLiteral("t"), -1, nullptr);
     digits.onKeyPress = [](int& code) { code = code >= u'0' && code <= u'9' ? code : 0; };
-    const struct {
-        const char* old;
-        const char* edited;
-        int cursor;
-        const char* kept;
-        int caret;
-    } cases[] = {
+    // The text before, as edited, its caret; what is kept, and the caret then.
+    const std::tuple<const char*, const char*, int, const char*, int> cases[] = {
         {"12", "1x2", 2, "12", 1},  {"12", "13x42", 4, "1342", 3}, {"", "a1b2", 4, "12", 2},
         {"1212", "12", 0, "12", 0}, {"111", "1111", 2, "1111", 2}, {"123", "12", 2, "12", 2},
         {"12", "x", 1, "", 0},      {"aa", "aab", 3, "aa", 2},
     };
-    for (const auto& c : cases) {
-        int cursor = c.cursor;
-        EXPECT_EQ(filteredEdit(digits, QString::fromUtf8(c.old), QString::fromUtf8(c.edited), cursor).toStdString(),
-                  c.kept)
-            << c.old << " -> " << c.edited;
-        EXPECT_EQ(cursor, c.caret) << c.old << " -> " << c.edited;
+    for (const auto& [old, edited, cursor, kept, caret] : cases) {
+        int at = cursor;
+        EXPECT_EQ(filteredEdit(digits, QString::fromUtf8(old), QString::fromUtf8(edited), at).toStdString(), kept);
+        EXPECT_EQ(at, caret) << old << " -> " << edited;
     }
 }
 

@@ -6,11 +6,15 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProcess>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QTimer>
 #include <QWheelEvent>
 #include <qtestspontaneevent.h>
 
+#include "batch/control_commands.h"
+#include "batch/line.h"
 #include "desktop/fields.h"
 
 namespace vanzer::desktop {
@@ -23,26 +27,37 @@ BoxKeys::~BoxKeys() {
     qApp->removeEventFilter(this);
 }
 
+ShownBox BoxKeys::take() {
+    EXPECT_FALSE(shown_.empty()) << "no message box came up";
+    const ShownBox box = shown_.empty() ? ShownBox() : *shown_.front();
+    if (!shown_.empty())
+        shown_.pop_front();
+    return box;
+}
+
 bool BoxKeys::eventFilter(QObject* watched, QEvent* event) {
     auto* const box = qobject_cast<QMessageBox*>(watched);
     if (box == nullptr || event->type() != QEvent::Show)
         return false;
-    QStringList buttons;
+    const auto shown = std::make_shared<ShownBox>();
+    shown->text = box->text();
+    shown->title = box->windowTitle();
+    shown->font = box->font();
     for (const QAbstractButton* button : box->buttons())
-        buttons << button->text().remove(u'&');
-    shown_.push_back({box->text(), box->windowTitle(), buttons, box->font()});
+        shown->buttons << button->text().remove(u'&');
     for (const QLabel* const label : box->findChildren<QLabel*>())
-        shown_.back().plain = shown_.back().plain && label->textFormat() == Qt::PlainText;
+        shown->plain = shown->plain && label->textFormat() == Qt::PlainText;
+    shown_.push_back(shown);
     const Qt::Key key = keys_.empty() ? Qt::Key_Escape : keys_.front();
     if (!keys_.empty())
         keys_.pop_front();
     // Enter is meant for the default button, which has the focus once the box is open.
     QMetaObject::invokeMethod(
         box,
-        [this, box, key, number = shown_.size() - 1] {
+        [box, key, shown] {
             for (const QLabel* const label : box->findChildren<QLabel*>()) {
-                if (label->text() == box->text() && number < shown_.size())
-                    shown_[number].lines = label->heightForWidth(label->width()) / label->fontMetrics().height();
+                if (label->text() == box->text())
+                    shown->lines = label->heightForWidth(label->width()) / label->fontMetrics().height();
             }
             QTest::keyClick(key == Qt::Key_Return ? box->focusWidget() : box, key);
         },
@@ -52,8 +67,9 @@ bool BoxKeys::eventFilter(QObject* watched, QEvent* event) {
 
 void DesktopTest::SetUp() {
     ASSERT_TRUE(directory.isValid());
+    clock_.set({QDate(2026, 6, 1), QTime(9, 10)});
     QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, directory.filePath(QStringLiteral("settings")));
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, inFolder("settings"));
 }
 
 void DesktopTest::TearDown() {
@@ -73,8 +89,14 @@ void DesktopTest::open(Pace pace) {
 
 void DesktopTest::forgetArchive() {
     close();
-    QFile::remove(directory.filePath(QStringLiteral("Vanzer.mdb")));
-    QDir(directory.filePath(QStringLiteral("Copie"))).removeRecursively();
+    QFile::remove(inFolder("Vanzer.mdb"));
+    QDir(inFolder("Copie")).removeRecursively();
+}
+
+void DesktopTest::show(Frame& frame, bool on) {
+    frame.setVisible(on);
+    window().binder().flush();
+    QCoreApplication::processEvents();
 }
 
 void DesktopTest::seeAllFrames() {
@@ -90,20 +112,35 @@ void DesktopTest::seeAllFrames() {
     }
 }
 
-bool DesktopTest::isSeen(const char* name) {
-    const auto* const widget = window().findChild<QWidget*>(QLatin1StringView(name));
+void DesktopTest::withEachFrame(const std::function<void(const std::string&)>& look) {
+    look("the window");
+    for (const auto& control : form().controls()) {
+        auto* const frame = dynamic_cast<Frame*>(control.get());
+        if (frame == nullptr || frame->frame() != nullptr || frame->visible())
+            continue;
+        show(*frame, true);
+        look(frame->name().toStdString());
+        show(*frame, false);
+    }
+}
+
+bool DesktopTest::isSeen(const QString& name) {
+    const auto* const widget = window().findChild<QWidget*>(name);
     return widget != nullptr && widget->isVisible();
 }
 
-QString DesktopTest::focusName() {
+std::string DesktopTest::focusName() {
     const QWidget* const focus = QApplication::focusWidget();
-    return focus == nullptr ? QString() : focus->objectName();
+    return focus == nullptr || !focus->isVisible() ? std::string() : focus->objectName().toStdString();
 }
 
-QString DesktopTest::textOf(const char* name) {
-    QWidget* const widget = find(name);
+std::string DesktopTest::textOf(const QString& name) {
+    const QStringList cell = name.split(u':');
+    if (cell.size() == 3)
+        return dynamic_cast<Grid&>(*form().find(cell[0])).cell(cell[1].toInt(), cell[2].toInt()).toStdString();
+    auto* const widget = find(name);
     auto* const list = qobject_cast<DropDown*>(widget);
-    return list != nullptr ? list->shownText() : widget->property("text").toString();
+    return (list != nullptr ? list->shownText() : widget->property("text").toString()).toStdString();
 }
 
 QString DesktopTest::spokenName(QWidget& widget) {
@@ -111,38 +148,82 @@ QString DesktopTest::spokenName(QWidget& widget) {
     return face == nullptr ? QString() : face->text(QAccessible::Name).trimmed();
 }
 
-void DesktopTest::key(int key, Qt::KeyboardModifiers modifiers) {
-    QWidget* const focus = QApplication::focusWidget();
-    QTest::keyClick(focus == nullptr ? &window() : focus, static_cast<Qt::Key>(key), modifiers);
+void DesktopTest::press(const char* keys) {
+    const auto click = [this](QKeyCombination key) {
+        QWidget* const focus = QApplication::focusWidget();
+        QTest::keyClick(focus == nullptr ? &window() : focus, key.key(), key.keyboardModifiers());
+    };
+    static const QRegularExpression part(
+        QStringLiteral("<@(\\w+)>|<(\\w)>|<([^*>]+)(?:\\*(\\d+))?>|\\[(\\w+)\\]|([^<\\[]+)"));
+    for (const QRegularExpressionMatch& one : part.globalMatch(QString::fromUtf8(keys))) {
+        if (one.hasCaptured(6)) {
+            write(one.captured(6));
+        } else if (one.hasCaptured(5)) {
+            boxes.expect(QKeySequence::fromString(one.captured(5))[0].key());
+        } else if (one.hasCaptured(3)) {
+            for (int n = std::max(one.captured(4).toInt(), 1); n > 0; --n)
+                click(QKeySequence::fromString(one.captured(3))[0]);
+        } else if (one.hasCaptured(2)) {
+            click(Qt::ALT | static_cast<Qt::Key>(one.captured(2).toUpper()[0].unicode()));
+        } else {
+            constexpr int controls = 120;
+            for (int n = 0; n < controls && focusName() != one.captured(1).toStdString(); ++n)
+                click(Qt::Key_Tab);
+            EXPECT_EQ(focusName(), one.captured(1).toStdString());
+        }
+    }
 }
 
-void DesktopTest::write(const char* text) {
-    for (const QChar c : QString::fromUtf8(text)) {
+void DesktopTest::write(const QString& text) {
+    for (const QChar c : text) {
         QWidget* const focus = QApplication::focusWidget();
         ASSERT_NE(focus, nullptr);
         QTest::sendKeyEvent(QTest::Click, focus, static_cast<Qt::Key>(c.toUpper().unicode()), c, Qt::NoModifier);
     }
 }
 
-void DesktopTest::tab(int times) {
-    for (int i = 0; i < times; ++i)
-        key(Qt::Key_Tab);
+void DesktopTest::sees(const char* looks) {
+    for (const QString& look : QString::fromUtf8(looks).split(u';', Qt::SkipEmptyParts)) {
+        const char16_t kind = look[0].unicode();
+        const QString name = look.mid(1);
+        const qsizetype equals = look.indexOf(u'=');
+        if (kind == u'@')
+            EXPECT_EQ(focusName(), name.toStdString());
+        else if (kind == u'+' || kind == u'-')
+            EXPECT_EQ(isSeen(name), kind == u'+') << look.toStdString();
+        else if (kind == u'*' || kind == u'/')
+            EXPECT_EQ(find(name)->isEnabled(), kind == u'*') << look.toStdString();
+        else if (kind == u'?')
+            EXPECT_EQ(boxes.take().text.left(name.size()).toStdString(), name.toStdString());
+        else
+            EXPECT_EQ(textOf(look.left(equals)), look.mid(equals + 1).toStdString()) << look.toStdString();
+    }
 }
 
-void DesktopTest::tabTo(const char* name) {
-    constexpr int controls = 120;
-    for (int i = 0; i < controls && focusName() != QLatin1StringView(name); ++i)
-        key(Qt::Key_Tab);
-    ASSERT_EQ(focusName().toStdString(), name);
+void DesktopTest::story(std::initializer_list<Step> steps) {
+    for (const Step& step : steps) {
+        SCOPED_TRACE(step.keys);
+        press(step.keys);
+        sees(step.seen);
+        while (!boxes.none())
+            ADD_FAILURE() << boxes.take().text.toStdString();
+    }
 }
 
-void DesktopTest::chooseRow(const char* table, int row, const char* button) {
-    tabTo(table);
-    const auto* const grid = dynamic_cast<Grid*>(form().find(QLatin1StringView(table)));
-    while (grid->rowAtHand() != row)
-        key(grid->rowAtHand() < row ? Qt::Key_Down : Qt::Key_Up);
-    tabTo(button);
-    key(Qt::Key_Space);
+void DesktopTest::work(const char* commands) {
+    for (const QString& command : QString::fromUtf8(commands).split(u';', Qt::SkipEmptyParts)) {
+        if (command.startsWith(u'<')) {
+            press(command.toUtf8().constData());
+            continue;
+        }
+        const batch::Line line = batch::split(command);
+        const batch::Line on = batch::split(line.rest);
+        const auto* const known = batch::controlCommand(line.word);
+        Control* const control = form().find(on.word);
+        ASSERT_TRUE(known != nullptr && control != nullptr) << command.toStdString();
+        EXPECT_TRUE(known->run(*control, on.rest).isEmpty()) << command.toStdString();
+    }
+    window().binder().flush();
 }
 
 void DesktopTest::turnWheel(QWidget& over) {
@@ -170,9 +251,9 @@ void DesktopTest::inside(const std::function<void()>& hand) {
     once([this] { return form().comandoInCorso; }, hand);
 }
 
-void DesktopTest::withFile(const QString& path, const std::function<void()>& work) {
+void DesktopTest::pressFor(const QString& path, const char* keys) {
     QTimer answer;
-    QObject::connect(&answer, &QTimer::timeout, [&answer, &path] {
+    answer.callOnTimeout([&answer, &path] {
         auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         if (dialog == nullptr)
             return;
@@ -181,7 +262,7 @@ void DesktopTest::withFile(const QString& path, const std::function<void()>& wor
         QTest::keyClick(dialog, Qt::Key_Return);
     });
     answer.start(20);
-    work();
+    press(keys);
     // The dialog took the focus; keys are for the window again once it has it back.
     window().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
@@ -189,11 +270,8 @@ void DesktopTest::withFile(const QString& path, const std::function<void()>& wor
 
 void DesktopTest::storeTrip(int legs) {
     open();
-    form().txtLocalita.type(QStringLiteral("PROVA"));
-    form().txtNazione.type(QStringLiteral("ITALIA"));
     boxes.expect(Qt::Key_Return);
-    form().cmdSalva.click();
-    form().cmdItinerario.click();
+    work("set txtLocalita PROVA;set txtNazione ITALIA;click cmdSalva;click cmdItinerario");
     for (int i = 1; i <= legs; ++i) {
         form().txtTappa.type(QStringLiteral("LUOGO %1").arg(i));
         form().txtKm.type(i == 1 ? QString() : QStringLiteral("90"));
@@ -201,32 +279,26 @@ void DesktopTest::storeTrip(int legs) {
         form().cmdInserisce.click();
     }
     boxes.expect(Qt::Key_Return);
-    form().cmdFine.click();
+    work("click cmdFine");
     boxes.forget();
     close();
 }
 
-void DesktopTest::typeDestination(const char* place, const char* nation) {
-    letter('n');
-    write(place);
-    tab();
-    write(nation);
-    boxes.expect(Qt::Key_Return);
-    letter('v');
+QString output(const char* program, const QStringList& arguments) {
+    QProcess process;
+    process.start(QLatin1StringView(program), arguments);
+    EXPECT_TRUE(process.waitForFinished() && process.exitCode() == 0) << program;
+    return QString::fromUtf8(process.readAllStandardOutput());
 }
 
-void DesktopTest::typeLegs(std::span<const TypedLeg> legs) {
-    for (const TypedLeg& leg : legs) {
-        ASSERT_EQ(focusName(), QStringLiteral("txtTappa"));
-        key(Qt::Key_A, Qt::ControlModifier);
-        write(leg.place);
-        tab();
-        key(Qt::Key_A, Qt::ControlModifier);
-        write(leg.road);
-        tab();
-        write(leg.km);
-        letter('i');
-    }
+QByteArray contents(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeFile(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size()) << path.toStdString();
 }
 
 } // namespace vanzer::desktop
