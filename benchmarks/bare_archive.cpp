@@ -13,8 +13,8 @@ namespace vanzer::bench {
 namespace {
 
 int collate(void*, int aLength, const void* a, int bLength, const void* b) {
-    return confronta({static_cast<const char*>(a), static_cast<std::size_t>(aLength)},
-                     {static_cast<const char*>(b), static_cast<std::size_t>(bLength)});
+    return compare({static_cast<const char*>(a), static_cast<std::size_t>(aLength)},
+                   {static_cast<const char*>(b), static_cast<std::size_t>(bLength)});
 }
 
 struct Finalizer {

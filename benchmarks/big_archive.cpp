@@ -34,7 +34,7 @@ class Filler {
             current.AddNew();
         else
             current.Edit();
-        current.scrive("MetaCorrente", codeOf(sizes_.destinations / 2));
+        current.write("MetaCorrente", codeOf(sizes_.destinations / 2));
         current.Update();
     }
 
@@ -46,7 +46,7 @@ class Filler {
     static void add(store::Recordset& table, Values values) {
         table.AddNew();
         for (const auto& [field, text] : values)
-            table.scrive(QLatin1StringView(field), text);
+            table.write(QLatin1StringView(field), text);
         table.Update();
     }
 

@@ -109,7 +109,7 @@ void closeGuide(benchmark::State& state) {
     const auto unsort = [](BigTrip& trip) {
         comando(trip.form(), [&trip] {
             store::Database& archive = *trip.form().archivio.Db(0);
-            archive.prepara("UPDATE GuidaCitta SET Gruppo = 'B-A' WHERE Gruppo = 'A-B'")->step();
+            archive.prepare("UPDATE GuidaCitta SET Gruppo = 'B-A' WHERE Gruppo = 'A-B'")->step();
         });
         intoGuide(trip);
     };

@@ -78,11 +78,11 @@ BENCHMARK(startOfWindow)->Iterations(1)->UseManualTime();
 /// The first start of a day copies the archive.
 void copyOfTheDay(benchmark::State& state) {
     const Folder folder;
-    const auto archive = store::Database::apre(folder.file("Vanzer.mdb"));
+    const auto archive = store::Database::open(folder.file("Vanzer.mdb"));
     const QString plainCopy = folder.file("copia.mdb");
     const auto ours = [&] {
         QDir(folder.file("Copie")).removeRecursively();
-        return seconds([&] { static_cast<void>(store::copiaDelGiorno(*archive, QDate(2026, 5, 4), {})); });
+        return seconds([&] { static_cast<void>(store::makeDailyCopy(*archive, QDate(2026, 5, 4), {})); });
     };
     measure(state, {.work = "copy of the day, big archive, checked", .against = "the file copied by the system"}, ours,
             [&] {

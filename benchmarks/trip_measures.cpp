@@ -88,7 +88,7 @@ void calculation(benchmark::State& state) {
             ours, timed([&] {
                 for (int i = 0; i < tests; ++i)
                     schedule =
-                        simula(rows.righe, with, 1 + static_cast<float>(i) / tests, {}, std::move(schedule.righe));
+                        simulate(rows.righe, with, 1 + static_cast<float>(i) / tests, {}, std::move(schedule.righe));
                 benchmark::DoNotOptimize(both.bare->readGuide(both.places));
             }));
 }

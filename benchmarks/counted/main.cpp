@@ -33,8 +33,8 @@ std::size_t simulation(BigTrip& trip) {
     RigheDiLavoro rows;
     comando(trip.form(), [&] { rows = *PreparaTabellaPerCalcoloViandoria(trip.form()); });
     const ParametriSimulazione with = parametriSimulazione(trip.form());
-    Viandoria schedule = simula(rows.righe, with, 1);
-    counted([&] { schedule = simula(rows.righe, with, 1, {}, std::move(schedule.righe)); });
+    Viandoria schedule = simulate(rows.righe, with, 1);
+    counted([&] { schedule = simulate(rows.righe, with, 1, {}, std::move(schedule.righe)); });
     return schedule.righe.size();
 }
 

@@ -122,7 +122,7 @@ bool Interpreter::possibleNow(const Line& line) const {
     if (window == nullptr)
         return false;
     const Control* const control = window->find(split(line.rest).word);
-    return control == nullptr || !command->acts || interrompe(*window, *control);
+    return control == nullptr || !command->acts || stopsWork(*window, *control);
 }
 
 QJsonObject Interpreter::start(const QString& /*rest*/) {
@@ -199,7 +199,7 @@ QJsonObject Interpreter::exportSchedule(const QString& rest) {
     if (window->viandoria == nullptr)
         return failure(QStringLiteral("no schedule"));
     const QString reason =
-        scriveViandoria(*window, calendar ? FormatoViandoria::Calendario : FormatoViandoria::Tabella, format.rest);
+        writeSchedule(*window, calendar ? FormatoViandoria::Calendario : FormatoViandoria::Tabella, format.rest);
     return reason.isEmpty() ? QJsonObject() : failure(reason);
 }
 

@@ -85,7 +85,7 @@ void write(const QJsonObject& answer) {
 }
 
 void serve(batch::Interpreter& interpreter, batch::CommandLines commands) {
-    while (!interpreter.finished() && SegnaliDiFine::arrivato() == 0) {
+    while (!interpreter.finished() && SegnaliDiFine::arrived() == 0) {
         const auto bytes = commands.next();
         if (!bytes)
             break;
@@ -122,7 +122,7 @@ int main(int argc, char** argv) {
         const int commands = script.isOpen() ? script.handle() : STDIN_FILENO;
         serve(interpreter, batch::CommandLines(commands, asked.descrittore()));
     }
-    if (SegnaliDiFine::arrivato() != 0)
-        SegnaliDiFine::muore(SegnaliDiFine::arrivato());
+    if (SegnaliDiFine::arrived() != 0)
+        SegnaliDiFine::die(SegnaliDiFine::arrived());
     return 0;
 }

@@ -68,7 +68,7 @@ class VisitedYield : public EventYield {
     /// Takes the place of one that still waits; none sends that one away.
     void expect(Visitor visitor) { visitor_ = std::move(visitor); }
     void yield() override {
-        if (SegnaliDiFine::arrivato() != 0 && onEnd)
+        if (SegnaliDiFine::arrived() != 0 && onEnd)
             onEnd();
         if (visitor_)
             letIn();

@@ -56,14 +56,14 @@ Session::Session(Ambiente surroundings)
       surroundings_(std::move(surroundings)) {
     events.onEnd = [this] {
         if (form_ != nullptr)
-            interrompeSenzaChiedere(*form_);
+            interruptUnasked(*form_);
     };
 }
 
 void Session::start() {
     close();
     printer.reset();
-    form_ = avvia(surroundings_, ports_);
+    form_ = startWindow(surroundings_, ports_);
 }
 
 QJsonObject Session::table(const QString& name) const {
@@ -85,7 +85,7 @@ QJsonObject Session::textFile(const QString& name) const {
     if (!fileNormale(path))
         return fileFailure(notPlain, path);
     const bool open = form_ && form_->archivio.Db(0) != nullptr;
-    const FileLetto read = store::leggeDaAltri(path, open ? form_->archivio.PercorsoDatabase : QString());
+    const FileLetto read = store::readFromOthers(path, open ? form_->archivio.PercorsoDatabase : QString());
     if (!read.errore.isEmpty())
         return fileFailure(notReadable, path);
     return {{"lines", linesOf(read.contenuto)}};

@@ -132,7 +132,7 @@ int compareLetters(const char* a, const char* aEnd, const char* b, const char* b
 
 } // namespace
 
-int confronta(std::string_view textA, std::string_view textB) {
+int compare(std::string_view textA, std::string_view textB) {
     const char* a = textA.data();
     const char* b = textB.data();
     const char* const aEnd = a + textA.size();
@@ -148,11 +148,11 @@ int confronta(std::string_view textA, std::string_view textB) {
     return compareLetters(a, aEnd, b, bEnd);
 }
 
-int confrontaTesti(const QString& a, const QString& b) {
-    return confronta(a.toStdString(), b.toStdString());
+int compareTexts(const QString& a, const QString& b) {
+    return compare(a.toStdString(), b.toStdString());
 }
 
-bool somiglia(std::string_view pattern, std::string_view text) {
+bool resembles(std::string_view pattern, std::string_view text) {
     const char* p = pattern.data();
     const char* t = text.data();
     const char* const pEnd = p + pattern.size();

@@ -15,12 +15,12 @@
 namespace vanzer {
 
 /// Below, at or above 0 as `a` sorts before, with or behind `b`.
-[[nodiscard]] int confronta(std::string_view a, std::string_view b);
-[[nodiscard]] int confrontaTesti(const QString& a, const QString& b);
+[[nodiscard]] int compare(std::string_view a, std::string_view b);
+[[nodiscard]] int compareTexts(const QString& a, const QString& b);
 
 /// True if `text` has the form of `pattern`: "*" any text, "?" one character, nothing else is special; case is ignored,
 /// accents count. Never more than pattern length times text length steps.
-[[nodiscard]] bool somiglia(std::string_view pattern, std::string_view text);
+[[nodiscard]] bool resembles(std::string_view pattern, std::string_view text);
 
 /// The base letters of a text, folded: what the order looks at first. Every text that begins with `text`, in any case,
 /// sorts from this up to this with `oltreOgniLettera` behind it.

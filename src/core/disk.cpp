@@ -74,7 +74,7 @@ bool stessoFile(const QString& path, const QString& other) {
     return !path.isEmpty() && !other.isEmpty() && std::filesystem::equivalent(onDisk(path), onDisk(other), error);
 }
 
-bool apreInLettura(QFile& file) {
+bool openReadOnly(QFile& file) {
 #ifdef Q_OS_UNIX
     if (!file.fileName().startsWith(u':')) {
         const int flags = O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;

@@ -25,7 +25,7 @@ namespace vanzer {
 [[nodiscard]] bool fileNormale(const QString& path);
 
 /// Opens a file for reading that is plain, and still is when it's open; never waits for another program.
-[[nodiscard]] bool apreInLettura(QFile& file);
+[[nodiscard]] bool openReadOnly(QFile& file);
 
 /// Waits until a file, or a folder with the names in it, outlives a loss of power. The result is the system's reason of
 /// a failure, empty if there is none; where that can't be asked for, a file counts as safe.

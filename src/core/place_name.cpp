@@ -4,12 +4,12 @@
 
 namespace vanzer {
 
-QString taglia(const QString& name, QChar mark) {
+QString cutAt(const QString& name, QChar mark) {
     const qsizetype at = name.indexOf(mark);
     return at < 0 ? name : Trim(name.left(at));
 }
 
-LuogoConMarche separaMarche(const QString& cell) {
+LuogoConMarche splitMarks(const QString& cell) {
     LuogoConMarche place{Trim(cell)};
     const auto cut = [&place](QStringView mark) {
         const int at = posizione(place.nome, mark);
@@ -23,23 +23,23 @@ LuogoConMarche separaMarche(const QString& cell) {
 }
 
 QString PulisceNomeLocalita(const QString& name) {
-    QString s = taglia(name, u'(');
+    QString s = cutAt(name, u'(');
     if (iniziaCon(s, u"near "))
         s = Trim(Mid(s, 5));
     if (iniziaCon(s, u"vicino "))
         s = Trim(Mid(s, 7));
     if (iniziaCon(s, u"CVL "))
         s = Mid(s, 5);
-    s = taglia(s, u'[');
-    return taglia(s, u'(');
+    s = cutAt(s, u'[');
+    return cutAt(s, u'(');
 }
 
 QString RiPulisceNomeLocalita(const QString& name) {
-    return PrimoMaiuscolo(Trim(taglia(name, u'[')), false);
+    return PrimoMaiuscolo(Trim(cutAt(name, u'[')), false);
 }
 
 QString chiaveMeta(const QString& name) {
-    return senzaMaiuscole(Trim(taglia(name, u'(')));
+    return senzaMaiuscole(Trim(cutAt(name, u'(')));
 }
 
 } // namespace vanzer

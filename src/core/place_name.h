@@ -14,10 +14,10 @@ struct LuogoConMarche {
     bool start = false;
     bool end = false;
 };
-[[nodiscard]] LuogoConMarche separaMarche(const QString& cell);
+[[nodiscard]] LuogoConMarche splitMarks(const QString& cell);
 
 /// What lies before the first `mark`, trimmed; the whole text if it doesn't hold it.
-[[nodiscard]] QString taglia(const QString& name, QChar mark);
+[[nodiscard]] QString cutAt(const QString& name, QChar mark);
 
 /// The form in which the guide files a leg's place: no brackets, no "near ", "vicino ", "CVL " in front, no marks.
 [[nodiscard]] QString PulisceNomeLocalita(const QString& name);

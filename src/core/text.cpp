@@ -67,7 +67,7 @@ double Val(QStringView s) {
     return value;
 }
 
-int arrotonda(double x) {
+int roundToInt(double x) {
     if (!(x > -2147483648.0))
         return std::isnan(x) ? 0 : -2147483647 - 1;
     return x >= 2147483647.0 ? 2147483647 : static_cast<int>(std::nearbyint(x));
@@ -166,7 +166,7 @@ Intorno intorno(float b, int tolerance) {
 }
 
 bool QuasiUguale(float a, float b, int tolerance) {
-    return intorno(b, tolerance).contiene(a);
+    return intorno(b, tolerance).contains(a);
 }
 
 QString LikeTesto(const QString& s) {
@@ -235,7 +235,7 @@ bool iniziaCon(QStringView s, QStringView start) {
     return s.startsWith(start, Qt::CaseInsensitive);
 }
 
-bool contiene(QStringView s, QStringView part) {
+bool contains(QStringView s, QStringView part) {
     return s.contains(part, Qt::CaseInsensitive);
 }
 

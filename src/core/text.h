@@ -37,9 +37,9 @@ namespace vanzer {
     return whole > x ? whole - 1 : whole;
 }
 /// Rounding of a fraction that is assigned to a whole number: to the nearest, halves to the even one.
-[[nodiscard]] int arrotonda(double x);
+[[nodiscard]] int roundToInt(double x);
 /// The sum of two whole numbers; beyond the greatest or the least one it stays there.
-[[nodiscard]] inline int somma(std::int64_t a, std::int64_t b) {
+[[nodiscard]] inline int addToInt(std::int64_t a, std::int64_t b) {
     return static_cast<int>(std::clamp<std::int64_t>(a + b, INT32_MIN, INT32_MAX));
 }
 
@@ -70,7 +70,7 @@ namespace vanzer {
 struct Intorno {
     float da = 0;
     float a = 0;
-    [[nodiscard]] bool contiene(float x) const { return da <= x && x <= a; }
+    [[nodiscard]] bool contains(float x) const { return da <= x && x <= a; }
 };
 /// From a third of `tolerance` below b to all of it above b; bounds in single precision.
 [[nodiscard]] Intorno intorno(float b, int tolerance);
@@ -97,7 +97,7 @@ struct Intorno {
 /// Equal, beginning, holding: all without regard to case.
 [[nodiscard]] bool uguale(QStringView a, QStringView b);
 [[nodiscard]] bool iniziaCon(QStringView s, QStringView start);
-[[nodiscard]] bool contiene(QStringView s, QStringView part);
+[[nodiscard]] bool contains(QStringView s, QStringView part);
 /// Position from 1 of the first occurrence, case ignored; 0 if there is none.
 [[nodiscard]] int posizione(QStringView s, QStringView part);
 

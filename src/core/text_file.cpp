@@ -35,16 +35,16 @@ QString motivoNonScritto(const QString& path) {
     return QStringLiteral("il disco è pieno o protetto.");
 }
 
-QString scriveFile(const QString& path, const QByteArray& contents) {
+QString writeFile(const QString& path, const QByteArray& contents) {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return motivoNonScritto(path);
     // Of a large file that fills the disk up a part is written, which is no error; of a small one the flush tells.
-    return file.write(contents) == contents.size() ? mettePosto(file) : motivoNonScritto(path);
+    return file.write(contents) == contents.size() ? commitFile(file) : motivoNonScritto(path);
 }
 
 // Putting it into place is no word on the disk: a failure of the last write comes up when that is waited for.
-QString mettePosto(QSaveFile& file) {
+QString commitFile(QSaveFile& file) {
     const QString unsafe = QStringLiteral("il disco non conferma la scrittura (%1).");
     if (!file.flush() || file.error() != QFileDevice::NoError)
         return motivoNonScritto(file.fileName());
@@ -67,13 +67,13 @@ QString motivoNonNormale() {
     return QStringLiteral("non è un file normale.");
 }
 
-FileLetto leggeFile(const QString& path) {
+FileLetto readFile(const QString& path) {
     if (!QFileInfo::exists(path))
         return {};
     if (!fileNormale(path))
         return {{}, motivoNonNormale()};
     QFile file(path);
-    if (!apreInLettura(file))
+    if (!openReadOnly(file))
         return {{}, QStringLiteral("non è permesso leggerlo.")};
     constexpr qint64 piece = 1 << 20;
     FileLetto read;

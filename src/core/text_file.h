@@ -16,11 +16,11 @@ namespace vanzer {
 
 /// Writes the file aside and puts it into place: what was there before stays until the new one is whole and safe on the
 /// disk. The result is the reason of a failure, empty when all went well.
-[[nodiscard]] QString scriveFile(const QString& path, const QByteArray& contents);
+[[nodiscard]] QString writeFile(const QString& path, const QByteArray& contents);
 
 /// The last steps of that, for whoever writes the file piece by piece. If the file is closed afterwards without an
 /// error of its own, it is in its place and only the folder isn't safe.
-[[nodiscard]] QString mettePosto(QSaveFile& file);
+[[nodiscard]] QString commitFile(QSaveFile& file);
 
 /// The bytes of a text file.
 [[nodiscard]] QByteArray contenutoTesto(const QStringList& lines);
@@ -34,7 +34,7 @@ struct FileLetto {
 
 /// Reads a plain file of at most `fileMassimo` bytes. What has no end or waits for others is left alone: pipes,
 /// devices, views of the kernel's that only look like files.
-[[nodiscard]] FileLetto leggeFile(const QString& path);
+[[nodiscard]] FileLetto readFile(const QString& path);
 [[nodiscard]] QString motivoNonNormale();
 
 /// The lines of a text: UTF-8 where the bytes are valid UTF-8, else the code page. A line ends with CR LF or LF; CR

@@ -21,7 +21,7 @@ float ghmStringa2Centesimi(const QString& text, float dayUnit) {
     return static_cast<float>(gg * static_cast<double>(dayUnit) + hh * 100 + Int(mm * 100 / 60 + 0.5));
 }
 
-Ghm scompone(float centesimi, float dayUnit) {
+Ghm splitTime(float centesimi, float dayUnit) {
     const auto c = static_cast<double>(centesimi);
     const auto unit = static_cast<double>(dayUnit);
     const double gg = unit == 0 ? 0 : Int(c / unit);
@@ -29,7 +29,7 @@ Ghm scompone(float centesimi, float dayUnit) {
     return {gg, hh, Int((c - (gg * unit + hh * 100)) * 60 / 100 + 0.5)};
 }
 
-float ricompone(const Ghm& ghm, float dayUnit) {
+float recompose(const Ghm& ghm, float dayUnit) {
     const double gg = ghm.gg > 99 ? std::fmod(ghm.gg, 100) : ghm.gg;
     return static_cast<float>(gg * static_cast<double>(dayUnit) + ghm.hh * 100 + Int(ghm.mm * 100 / 60 + 0.5));
 }
@@ -57,7 +57,7 @@ QString inDigits(std::initializer_list<double> parts) {
 } // namespace
 
 QString ghmCentesimi2Stringa(float centesimi, float dayUnit) {
-    const Ghm time = scompone(centesimi, dayUnit);
+    const Ghm time = splitTime(centesimi, dayUnit);
     if (time.gg == 0 && time.hh == 0 && time.mm == 0)
         return {};
     if (inTwoDigits(time))
@@ -67,7 +67,7 @@ QString ghmCentesimi2Stringa(float centesimi, float dayUnit) {
 }
 
 QString ghmSenzaGiorni(float centesimi, float dayUnit) {
-    const Ghm time = scompone(centesimi, dayUnit);
+    const Ghm time = splitTime(centesimi, dayUnit);
     if (!inTwoDigits(time))
         return Mid(ghmCentesimi2Stringa(centesimi, dayUnit), 4);
     if (time.gg == 0 && time.hh == 0 && time.mm == 0)
@@ -77,7 +77,7 @@ QString ghmSenzaGiorni(float centesimi, float dayUnit) {
 
 Gma Data2Gma(const QString& data) {
     const QStringView d(data);
-    return {arrotonda(Val(d.mid(0, 2))), arrotonda(Val(d.mid(2, 2))), arrotonda(Val(d.mid(4)))};
+    return {roundToInt(Val(d.mid(0, 2))), roundToInt(Val(d.mid(2, 2))), roundToInt(Val(d.mid(4)))};
 }
 
 QString Gma2Data(const Gma& gma) {
@@ -105,7 +105,7 @@ Gma Giul2Data(float giuliano) {
         mese -= 12;
         anno += 1;
     }
-    return {arrotonda(giorno), arrotonda(mese), arrotonda(anno)};
+    return {roundToInt(giorno), roundToInt(mese), roundToInt(anno)};
 }
 
 QString Giu2Datas(float giuliano) {
@@ -123,7 +123,7 @@ QString DataChan(const QString& data) {
 QString GiornoSettimana(const QString& data) {
     if (data.size() != 8)
         return {};
-    const int day = arrotonda(static_cast<double>(Data2Giul(data))) % 7;
+    const int day = roundToInt(static_cast<double>(Data2Giul(data))) % 7;
     return day < 0 ? QString() : Mid(QStringLiteral("SabDomLunMarMerGioVen"), day * 3 + 1, 3);
 }
 

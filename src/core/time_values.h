@@ -27,8 +27,8 @@ struct Ghm {
     double hh = 0;
     double mm = 0;
 };
-[[nodiscard]] Ghm scompone(float centesimi, float dayUnit);
-[[nodiscard]] float ricompone(const Ghm& ghm, float dayUnit);
+[[nodiscard]] Ghm splitTime(float centesimi, float dayUnit);
+[[nodiscard]] float recompose(const Ghm& ghm, float dayUnit);
 
 /// The characters of the above from position 4 on: hh:mm, without the days.
 [[nodiscard]] QString ghmSenzaGiorni(float centesimi, float dayUnit);

@@ -60,9 +60,9 @@ bool InputGate::interrupts(QObject* watched, const QEvent& event) const {
         if (key == Qt::Key_Escape)
             return true;
         const bool presses = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
-        return presses && stop != nullptr && stop->hasFocus() && interrompe(form, form.cmdEsce);
+        return presses && stop != nullptr && stop->hasFocus() && stopsWork(form, form.cmdEsce);
     }
-    if (!interrompe(form, form.cmdEsce))
+    if (!stopsWork(form, form.cmdEsce))
         return false;
     if (!watched->isWindowType())
         return watched == stop;
@@ -78,7 +78,7 @@ bool InputGate::eventFilter(QObject* watched, QEvent* event) {
     if (!own)
         return false;
     // A letter that reaches a button waits as the key that it is.
-    if (event->type() == QEvent::ShortcutOverride && !interrompe(window_.form(), window_.form().cmdEsce)) {
+    if (event->type() == QEvent::ShortcutOverride && !stopsWork(window_.form(), window_.form().cmdEsce)) {
         event->accept();
         return true;
     }

@@ -62,7 +62,7 @@ int run(int argc, char** argv, const SegnaliDiFine& asked) {
         QApplication::installTranslator(&italian);
 
     const Request request = requested(argomentiComeTesto(argc, argv));
-    if (const QString warning = desktop::trascuraImpostazioniIllegibili(); !warning.isEmpty())
+    if (const QString warning = desktop::skipUnreadableSettings(); !warning.isEmpty())
         QMessageBox::warning(nullptr, QApplication::applicationName(), warning);
     // Relative paths are taken from the archive's directory. One that isn't there is told by the window.
     static_cast<void>(QDir::setCurrent(request.directory));
@@ -86,7 +86,7 @@ int run(int argc, char** argv, const SegnaliDiFine& asked) {
 int main(int argc, char** argv) {
     const SegnaliDiFine asked;
     const int result = run(argc, argv, asked);
-    if (SegnaliDiFine::arrivato() != 0)
-        SegnaliDiFine::muore(SegnaliDiFine::arrivato());
+    if (SegnaliDiFine::arrived() != 0)
+        SegnaliDiFine::die(SegnaliDiFine::arrived());
     return result;
 }

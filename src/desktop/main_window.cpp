@@ -305,14 +305,14 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter: pressEnter(); break;
-    case Qt::Key_Escape: binder_.input([this] { rinunciaAllaScelta(form_); }); break;
+    case Qt::Key_Escape: binder_.input([this] { giveUpChoice(form_); }); break;
     default: QWidget::keyPressEvent(event);
     }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     if (!form_.chiusa) {
-        binder_.input([this] { closeWaits_ = !chiedeDiChiudere(form_); });
+        binder_.input([this] { closeWaits_ = !askToClose(form_); });
         event->setAccepted(form_.chiusa);
     }
     if (event->isAccepted())

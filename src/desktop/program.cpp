@@ -44,20 +44,20 @@ Program::Program(const Ambiente& surroundings, Clock& clock, Pace pace, FileOpen
 void Program::keepDrafts() {
     draftBehind_.setSingleShot(true);
     draftBehind_.setInterval(draftDelay);
-    QObject::connect(&draftBehind_, &QTimer::timeout, [this] { draft_.tiene(); });
+    QObject::connect(&draftBehind_, &QTimer::timeout, [this] { draft_.keep(); });
     QObject::connect(&window_->binder(), &Binder::inputEnded, [this] {
-        draft_.guarda();
+        draft_.look();
         if (!draftBehind_.isActive())
             draftBehind_.start();
     });
     QObject::connect(&window_->binder(), &Binder::closed, [this] {
         draftBehind_.stop();
-        draft_.lasciata();
+        draft_.wasLeft();
     });
     // A session that ends asks nothing: it may go on after all, and then so does the window.
     const auto keepNow = [this] {
-        draft_.tiene();
-        draft_.aspetta();
+        draft_.keep();
+        draft_.wait();
     };
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, window_.get(), keepNow, Qt::DirectConnection);
     QObject::connect(qApp, &QGuiApplication::saveStateRequest, window_.get(), keepNow, Qt::DirectConnection);
@@ -66,13 +66,13 @@ void Program::keepDrafts() {
 bool Program::start() {
     window_->restorePlace();
     QTimer::singleShot(slowStart, window_.get(), &QWidget::show);
-    caricaFinestra(*form_);
+    loadWindow(*form_);
     window_->binder().flush();
     if (form_->chiusa)
         return false;
     window_->show();
     if (!ending_.isActive())
-        draft_.offre();
+        draft_.offer();
     window_->binder().flush();
     return !form_->chiusa;
 }
@@ -92,25 +92,25 @@ void Program::goOnEnding() {
     if (QWidget* const modal = QApplication::activeModalWidget()) {
         auto* const box = qobject_cast<QMessageBox*>(modal);
         if (working && (box == nullptr || box->button(QMessageBox::Ok) == nullptr))
-            draft_.nonSceglieLui();
+            draft_.notHisChoice();
         auto* const dialog = qobject_cast<QDialog*>(modal);
         dialog != nullptr ? dialog->reject() : static_cast<void>(modal->close());
-    } else if (working && interrompeSenzaChiedere(*form_)) {
-        draft_.nonSceglieLui();
+    } else if (working && interruptUnasked(*form_)) {
+        draft_.notHisChoice();
     }
 }
 
 void Program::leaveNow() {
     ending_.stop();
     draftBehind_.stop();
-    draft_.finisce();
-    form_->archivio.chiudi();
+    draft_.finish();
+    form_->archivio.close();
     form_->chiusa = true;
     QCoreApplication::exit();
 }
 
 void Program::openTrips(const QString& path) {
-    window_->binder().input([this, &path] { apreViaggi(*form_, path); });
+    window_->binder().input([this, &path] { openTripsOf(*form_, path); });
 }
 
 } // namespace vanzer::desktop

@@ -22,7 +22,7 @@ QString impostazioniIllegibili(const QString& folder) {
     return {};
 }
 
-QString trascuraImpostazioniIllegibili() {
+QString skipUnreadableSettings() {
     const QString file =
         impostazioniIllegibili(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
     if (file.isEmpty())

@@ -10,6 +10,6 @@ namespace vanzer::desktop {
 [[nodiscard]] QString impostazioniIllegibili(const QString& folder);
 
 /// The program works without settings if its file can't be read; what the user must be told then, else nothing.
-[[nodiscard]] QString trascuraImpostazioniIllegibili();
+[[nodiscard]] QString skipUnreadableSettings();
 
 } // namespace vanzer::desktop

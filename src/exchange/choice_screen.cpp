@@ -42,7 +42,7 @@ void sortByName(Grid& list) {
     std::vector<Entry> order;
     for (int r = 1; r < list.rows(); ++r)
         order.push_back({list.cell(r, scambioMeta).toStdString(), r});
-    const auto before = [](const Entry& a, const Entry& b) { return confronta(a.name, b.name) < 0; };
+    const auto before = [](const Entry& a, const Entry& b) { return compare(a.name, b.name) < 0; };
     if (std::ranges::is_sorted(order, before))
         return;
     std::ranges::stable_sort(order, before);
@@ -86,7 +86,7 @@ void chooseForExport(Form& form) {
     form.lblExSelez.setCaption(QStringLiteral("Lista delle mète selezionate per l'EXPORT"));
     form.cmdImExp(0).setCaption(QStringLiteral("Esporta"));
     if (!CaricaListaMete(form))
-        form.rifiuta(QStringLiteral("Non ci sono altre mète da esportare..."));
+        form.refuse(QStringLiteral("Non ci sono altre mète da esportare..."));
     AzzeraPercentuale(form);
     AggiornaPulsantiImportExport(form);
     form.setFocus(form.mfgImExp(0));
@@ -104,15 +104,15 @@ class ElencoDelFile {
           reader_({QStringList(), campiDellaTabella(form, store::MeteVanzer), QStringList(), QStringList()}) {}
 
     /// False when the user gave up.
-    bool legge() {
-        RigheTesto lines(leggeFileScambio(form_).value_or(QByteArray()));
+    bool read() {
+        RigheTesto lines(readExchangeFile(form_).value_or(QByteArray()));
         LavoroInCorso running(form_);
         form_.stato.PercentualeTotale = static_cast<double>(lines.lunghezza());
         form_.lblElaborazione.setCaption(QStringLiteral("Esportazione mète"));
         double done = 0;
         while (lines.prossima()) {
             done += static_cast<double>(lines.riga().size());
-            if (!running.avanza(done))
+            if (!running.advance(done))
                 return false;
             riga(lines.riga());
         }
@@ -129,10 +129,10 @@ class ElencoDelFile {
         if (section_ != store::MeteVanzer || line.isEmpty())
             return;
         if (std::exchange(headRead_, true)) {
-            reader_.leggeRecord(line);
+            reader_.readRecord(line);
             voce();
         } else {
-            reader_.leggeTesta(line, section_);
+            reader_.readHead(line, section_);
         }
     }
 
@@ -168,7 +168,7 @@ void captionsOfImport(Form& form) {
 
 void listFile(Form& form, const QString& path) {
     form.stato.NomeFileScambio = path;
-    const bool whole = ElencoDelFile(form).legge();
+    const bool whole = ElencoDelFile(form).read();
     if (!whole) {
         form.mfgImExp(1).setRows(1);
         form.messaggio(QStringLiteral("Lettura del file interrotta!"));
@@ -283,14 +283,14 @@ void ElencaFileScambio(Form& form, const QString& path) {
 }
 
 void cmdExport_Click(Form& form) {
-    if (!lasciaModifiche(form))
+    if (!leaveChanges(form))
         return;
     form.frmframe(riquadroScambio).setVisible(true);
     AbilitaPulsantiMeta(form, pulsanti::nessuno);
 }
 
 void cmdImportExport_Click(Form& form, int n) {
-    if (!lasciaModifiche(form))
+    if (!leaveChanges(form))
         return;
     PreparaExportImport(form);
     n == 0 ? chooseForExport(form) : chooseForImport(form);

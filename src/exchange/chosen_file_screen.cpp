@@ -10,9 +10,9 @@ QString percorsoScelto(const Form& form) {
     return QDir(form.archivio.PercorsoProgramma).filePath(form.stato.NomeFileScambio);
 }
 
-std::optional<QByteArray> leggeFileScambio(Form& form) {
+std::optional<QByteArray> readExchangeFile(Form& form) {
     const QString& name = form.stato.NomeFileScambio;
-    FileLetto file = store::leggeDaAltri(percorsoScelto(form), form.archivio.PercorsoDatabase);
+    FileLetto file = store::readFromOthers(percorsoScelto(form), form.archivio.PercorsoDatabase);
     if (file.errore.isEmpty())
         return std::move(file.contenuto);
     form.messaggio(

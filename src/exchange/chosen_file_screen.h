@@ -14,6 +14,6 @@ namespace vanzer {
 
 /// The file at NomeFileScambio as it is on the disk; one that isn't there is empty. One that can't be read has been
 /// told to the user and gives nothing.
-[[nodiscard]] std::optional<QByteArray> leggeFileScambio(Form& form);
+[[nodiscard]] std::optional<QByteArray> readExchangeFile(Form& form);
 
 } // namespace vanzer

@@ -48,10 +48,10 @@ QString nomeConvertito(const RecordVecchio& record) {
 
 CodiciConvertiti::CodiciConvertiti(const QStringList& stored, const QStringList& old) : before_(stored) {
     for (const QString& code : stored + old)
-        taken_.insert(arrotonda(Val(code)));
+        taken_.insert(roundToInt(Val(code)));
 }
 
-void CodiciConvertiti::legge(const QByteArray& contents) {
+void CodiciConvertiti::read(const QByteArray& contents) {
     for (const QString& line : QString::fromUtf8(contents).split(u'\n', Qt::SkipEmptyParts)) {
         const QStringList parts = line.split(u'\t');
         if (parts.size() == 4)
@@ -59,7 +59,7 @@ void CodiciConvertiti::legge(const QByteArray& contents) {
     }
 }
 
-void CodiciConvertiti::tiene(const std::function<bool(const Spostata&)>& isStored) {
+void CodiciConvertiti::keep(const std::function<bool(const Spostata&)>& isStored) {
     std::erase_if(moved_, [&isStored](const Spostata& one) { return !isStored(one); });
     for (const Spostata& one : moved_)
         before_.removeAll(one.nuovo);

@@ -35,9 +35,9 @@ class CodiciConvertiti {
     /// `stored` are the codes in the archive, `old` those in the old file.
     CodiciConvertiti(const QStringList& stored, const QStringList& old);
 
-    void legge(const QByteArray& contents);
+    void read(const QByteArray& contents);
     /// Those that `isStored` doesn't confirm are forgotten: they were never stored.
-    void tiene(const std::function<bool(const Spostata&)>& isStored);
+    void keep(const std::function<bool(const Spostata&)>& isStored);
     [[nodiscard]] QByteArray contenuto() const;
 
     /// The code that a destination comes in under: its own, unless that is `taken` by another one; then the lowest that

@@ -73,7 +73,7 @@ class Conversione {
         const OldFile file = openFile(vecchiaGuida(), store::fileVecchiaGuida.toString());
         const int left = readRecords(QStringLiteral("Conversione file guida città"), file.records,
                                      [this](const auto& record) { return writeEntry(voceConvertita(record)); });
-        rifaCategorie();
+        remakeCategories();
         adegua();
         finish(file, left);
         if (stuck_.isEmpty())
@@ -110,10 +110,10 @@ class Conversione {
     };
 
     OldFile openFile(const FormatoVecchio& format, const QString& name) {
-        const QString path = store::trovaVecchioFile(form_.archivio.PercorsoProgramma, name);
+        const QString path = store::oldFileIn(form_.archivio.PercorsoProgramma, name);
         if (path.isEmpty())
             return {{}, {format, {}}};
-        FileLetto file = store::leggeDaAltri(path, form_.archivio.PercorsoDatabase);
+        FileLetto file = store::readFromOthers(path, form_.archivio.PercorsoDatabase);
         if (!file.errore.isEmpty())
             throw Interruzione{QStringLiteral("Il file %1 non può essere letto:\n%2").arg(shown(path), file.errore)};
         return {path, {format, std::move(file.contenuto)}};
@@ -131,8 +131,8 @@ class Conversione {
                 old << codiceConvertito(*record);
         }
         codes_.emplace(codiciMemorizzati(form_), old);
-        codes_->legge(store::leggeDaAltri(codesFile(), form_.archivio.PercorsoDatabase).contenuto);
-        codes_->tiene([&](const CodiciConvertiti::Spostata& one) {
+        codes_->read(store::readFromOthers(codesFile(), form_.archivio.PercorsoDatabase).contenuto);
+        codes_->keep([&](const CodiciConvertiti::Spostata& one) {
             const auto holder = nameOf(one.nuovo);
             return holder && (file.path.isEmpty() || *holder == one.nome);
         });
@@ -142,7 +142,7 @@ class Conversione {
         if (codes_->spostate().empty())
             return;
         const QString& archive = form_.archivio.PercorsoDatabase;
-        if (const QString reason = store::scrivePerAltri(codesFile(), codes_->contenuto(), archive); !reason.isEmpty())
+        if (const QString reason = store::writeForOthers(codesFile(), codes_->contenuto(), archive); !reason.isEmpty())
             throw Interruzione{
                 QStringLiteral("Il file %1 non può essere scritto:\n%2").arg(shown(codesFile()), reason)};
     }
@@ -173,7 +173,7 @@ class Conversione {
     }
 
     void advance(double done) {
-        if (!running_.avanza(done))
+        if (!running_.advance(done))
             throw Interruzione{QStringLiteral("Conversione interrotta!")};
     }
 
@@ -226,12 +226,12 @@ class Conversione {
         const auto holder = nameOf(old);
         const QString code = codes_->perMeta(old, name, holder && !stessaMeta(*holder, name));
         store::Recordset& meta = found(store::MeteVanzer, {withCode(code)});
-        meta.scrive(0, code);
+        meta.write(0, code);
         for (int field = 1; field < static_cast<int>(record.size()); ++field)
-            meta.scrive(field,
-                        valoreAdeguato(meta.name(field), meta.size(field), record[static_cast<std::size_t>(field)]));
+            meta.write(field,
+                       valoreAdeguato(meta.name(field), meta.size(field), record[static_cast<std::size_t>(field)]));
         if (Trim(meta.testo(u"Range")).isEmpty())
-            meta.scrive(u"Range", usualRange.toString());
+            meta.write(u"Range", usualRange.toString());
         form_.txtLocalita.setText(meta.testo(u"Localita"));
         meta.Update();
     }
@@ -254,20 +254,20 @@ class Conversione {
         form_.yield();
         store::Recordset& records = found(
             store::Itinerari, {withCode(code), {QStringLiteral("Sequenza"), store::Condition::Test::Equal, sequence}});
-        records.scrive(u"CodiceMeta", code);
-        records.scrive(u"Sequenza", sequence);
-        records.scrive(u"Localita", leg.Localita);
-        records.scrive(u"Chilometri", leg.Chilometri);
-        records.scrive(u"NomeStrada", leg.NomeStrada);
-        records.scrive(u"TipoStrada", leg.TipoStrada);
-        records.scrive(u"TempoSosta", leg.TempoSosta);
-        records.scrive(u"FineGiorno", leg.FineGiorno);
+        records.write(u"CodiceMeta", code);
+        records.write(u"Sequenza", sequence);
+        records.write(u"Localita", leg.Localita);
+        records.write(u"Chilometri", leg.Chilometri);
+        records.write(u"NomeStrada", leg.NomeStrada);
+        records.write(u"TipoStrada", leg.TipoStrada);
+        records.write(u"TempoSosta", leg.TempoSosta);
+        records.write(u"FineGiorno", leg.FineGiorno);
         records.Update();
     }
 
     /// A start of the program takes a part in brackets off the guide's places: the name is found with it and without.
     static QString namePattern(const QString& place) {
-        return place.contains(u'(') ? Trim(taglia(place, u'(')) + u'(' : place;
+        return place.contains(u'(') ? Trim(cutAt(place, u'(')) + u'(' : place;
     }
 
     /// False for an entry without a place or a description, unless it holds nothing at all.
@@ -283,23 +283,23 @@ class Conversione {
             guide.MoveNext();
         guide.EOF_() ? guide.AddNew() : guide.Edit();
         form_.txtLocalita.setText(entry.Localita);
-        guide.scrive(place, entry.Localita);
-        guide.scrive(description, entry.Descrizione);
-        guide.scrive(u"CodiceGuida", entry.CodiceGuida);
-        guide.scrive(u"TempoSosta", entry.TempoSosta);
-        guide.scrive(u"FlagVisto", entry.FlagVisto);
+        guide.write(place, entry.Localita);
+        guide.write(description, entry.Descrizione);
+        guide.write(u"CodiceGuida", entry.CodiceGuida);
+        guide.write(u"TempoSosta", entry.TempoSosta);
+        guide.write(u"FlagVisto", entry.FlagVisto);
         guide.Update();
         return true;
     }
 
-    void rifaCategorie() {
+    void remakeCategories() {
         constexpr std::size_t known = 9; // to the old generation
         CancellaTabella(form_, store::TipoGuida, {}, {});
         store::Recordset& categories = open(store::TipoGuida, {});
         for (std::size_t i = 0; i < known; ++i) {
             categories.AddNew();
-            categories.scrive(0, Zero(static_cast<double>(i + 1), 2));
-            categories.scrive(1, QString::fromUtf16(primeCategorie[i]));
+            categories.write(0, Zero(static_cast<double>(i + 1), 2));
+            categories.write(1, QString::fromUtf16(primeCategorie[i]));
             categories.Update();
         }
     }
@@ -316,7 +316,7 @@ class Conversione {
                 const QString value = meta.testo(field);
                 if (const QString adjusted = valoreAdeguato(meta.name(field), meta.size(field), value);
                     adjusted != value)
-                    meta.scrive(field, adjusted);
+                    meta.write(field, adjusted);
             }
             meta.Update();
         }
@@ -339,7 +339,7 @@ void tellBrokenOff(Form& form, const QString& reason) {
                    titolo, Icona::Avviso);
 }
 
-void converte(Form& form) {
+void convert(Form& form) {
     try {
         Conversione work(form);
         work.mete();
@@ -359,7 +359,7 @@ void converte(Form& form) {
 
 } // namespace
 
-void cercaVecchiFile(Form& form) {
+void findOldFiles(Form& form) {
     form.stato.VecchiFile =
         store::vecchiFileInAttesa(form.archivio.PercorsoProgramma, [&form] { return codiciMemorizzati(form); });
     if (!form.stato.VecchiFile)
@@ -373,13 +373,13 @@ void cmdConverte_Click(Form& form) {
         form.domanda(QStringLiteral("Vuoi convertire i vecchi file nel corrente database?\n\nI dati già presenti nel "
                                     "database saranno integrati e non cancellati.\n\nProcedo?"),
                      titolo, Pulsanti::SiNo);
-    if (form.stato.Risposta == rispostaSi && !lasciaModifiche(form))
+    if (form.stato.Risposta == rispostaSi && !leaveChanges(form))
         return;
     if (form.stato.Risposta == rispostaSi) {
         AttivaFormMeta(form, true);
         form.txtNazione.setText({});
-        converte(form);
-        cercaVecchiFile(form);
+        convert(form);
+        findOldFiles(form);
     }
     RicercaMetaCorrente(form);
     RicaricaItinerario(form);

@@ -63,7 +63,7 @@ void reloadMainScreen(Form& form) {
 EsitoImport importChosen(Form& form) {
     AttivaFormMeta(form, true);
     form.frmframe(riquadroScambio).setVisible(false);
-    EsitoImport result = leggeFileImport(form);
+    EsitoImport result = readImportFile(form);
     AzzeraPercentuale(form);
     EsciExportImport(form);
     return result;
@@ -110,7 +110,7 @@ void exportDestinations(Form& form) {
     BoxConferma(form, QStringLiteral("EX"));
     if (form.stato.Risposta == rispostaSi) {
         const ElenchiSpenti off(form);
-        scriveFileScambio(form);
+        writeExchangeFile(form);
     } else {
         giveListsBack(form);
     }
@@ -135,7 +135,7 @@ EsitoImport ImportaTutto(Form& form, const QString& path) {
 
 void cmdImExp_Click(Form& form, int n) {
     if (n != 0) {
-        if (!lasciaCampi(form))
+        if (!leaveFields(form))
             return;
         form.frmframe(riquadroScambio).setVisible(false);
         reloadMainScreen(form);

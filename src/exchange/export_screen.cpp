@@ -22,7 +22,7 @@ class Esportazione {
     explicit Esportazione(Form& form) : form_(form), running_(form), codes_(codiciDellaLista(form.mfgImExp(1))) {}
 
     /// False when the user gave up.
-    bool raccoglie() { return destinations() && legs() && guide(); }
+    bool collect() { return destinations() && legs() && guide(); }
 
     [[nodiscard]] const ScrittoreIei& file() const { return file_; }
 
@@ -55,7 +55,7 @@ class Esportazione {
         begins(QStringLiteral("Esportazione mète"), static_cast<double>(codes_.size()));
         AbilitaPulsantiMeta(form_, pulsanti::soloStop);
         for (qsizetype i = 0; i < codes_.size(); ++i) {
-            if (!running_.avanza(static_cast<double>(i) + 1))
+            if (!running_.advance(static_cast<double>(i) + 1))
                 return false;
             if (const store::Recordset& found = recordsOf(store::MeteVanzer, codes_[i]); !found.EOF_())
                 record(store::MeteVanzer, found);
@@ -67,7 +67,7 @@ class Esportazione {
         head(store::Itinerari);
         begins(QStringLiteral("Esportazione itinerari"), static_cast<double>(codes_.size()));
         for (qsizetype i = 0; i < codes_.size(); ++i) {
-            if (!running_.avanza(static_cast<double>(i) + 1))
+            if (!running_.advance(static_cast<double>(i) + 1))
                 return false;
             for (store::Recordset& found = recordsOf(store::Itinerari, codes_[i]); !found.EOF_(); found.MoveNext())
                 record(store::Itinerari, found);
@@ -82,7 +82,7 @@ class Esportazione {
         head(store::GuidaCitta);
         begins(QStringLiteral("Esportazione guida città"), form_.archivio.NumeroRecord());
         for (double done = 1; !entries.EOF_(); entries.MoveNext(), ++done) {
-            if (!running_.avanza(done))
+            if (!running_.advance(done))
                 return false;
             record(store::GuidaCitta, entries);
         }
@@ -118,16 +118,16 @@ void tellReplaced(Form& form, const std::vector<TestoSostituito>& texts) {
 
 } // namespace
 
-void scriveFileScambio(Form& form) {
+void writeExchangeFile(Form& form) {
     const QString path = QDir::toNativeSeparators(form.stato.NomeFileScambio);
     Esportazione work(form);
-    if (!work.raccoglie()) {
+    if (!work.collect()) {
         form.messaggio(QStringLiteral("Export interrotto: il file %1 non è stato scritto.").arg(path), titoloExport);
         return;
     }
     tellReplaced(form, work.file().sostituiti());
     const QString file = percorsoScelto(form);
-    const QString reason = store::scrivePerAltri(file, work.file().contenuto(), form.archivio.PercorsoDatabase);
+    const QString reason = store::writeForOthers(file, work.file().contenuto(), form.archivio.PercorsoDatabase);
     if (reason.isEmpty())
         form.messaggioFile(QStringLiteral("Le mète esportate si trovano sul file ") + path, {file});
     else

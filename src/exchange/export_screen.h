@@ -6,6 +6,6 @@
 namespace vanzer {
 
 /// Writes the second list's destinations to NomeFileScambio, and tells the user how it went.
-void scriveFileScambio(Form& form);
+void writeExchangeFile(Form& form);
 
 } // namespace vanzer

@@ -38,7 +38,7 @@ void cmdImportaViaggi_Click(Form& form) {
 }
 
 void cmdViaggiEsempio_Click(Form& form) {
-    if (!lasciaModifiche(form))
+    if (!leaveChanges(form))
         return;
     loadSamples();
     const QDir samples(sampleFolder);
@@ -56,7 +56,7 @@ void cmdViaggiEsempio_Click(Form& form) {
         QStringLiteral("Viaggi di esempio"), Icona::Informazione);
 }
 
-void apreFileDiViaggi(Form& form, const QString& path) {
+void openTripsFile(Form& form, const QString& path) {
     if (!QFileInfo(path).isFile()) {
         form.messaggio(QStringLiteral("Il file %1 non c'è.").arg(QDir::toNativeSeparators(path)),
                        QStringLiteral("Import"), Icona::Avviso);

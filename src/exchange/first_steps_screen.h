@@ -12,6 +12,6 @@ void cmdImportaViaggi_Click(Form& form);
 void cmdViaggiEsempio_Click(Form& form);
 
 /// Offers the trips of a file, as when it is chosen in the exchange. An archive without trips is enough.
-void apreFileDiViaggi(Form& form, const QString& path);
+void openTripsFile(Form& form, const QString& path);
 
 } // namespace vanzer

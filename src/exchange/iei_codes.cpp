@@ -20,7 +20,7 @@ class Brani {
   public:
     explicit Brani(const QString& text) : text_(text) {}
 
-    [[nodiscard]] bool contiene(const QString& part) {
+    [[nodiscard]] bool contains(const QString& part) {
         if (part.size() > text_.size())
             return false;
         const auto [of, fresh] = byLength_.try_emplace(part.size());
@@ -36,7 +36,7 @@ class Brani {
 
 } // namespace
 
-CodiciMete::Esito CodiciMete::assegna(const QStringList& stored, const QStringList& chosen, int longest) {
+CodiciMete::Esito CodiciMete::assign(const QStringList& stored, const QStringList& chosen, int longest) {
     codes_.clear();
     QString all;
     QSet<QString> taken;
@@ -50,7 +50,7 @@ CodiciMete::Esito CodiciMete::assegna(const QStringList& stored, const QStringLi
         failed_ = code;
         if (code.size() > longest)
             return Esito::CodiceTroppoLungo;
-        inUse.push_back(parts.contiene(key(code)) || taken.contains(key(code)));
+        inUse.push_back(parts.contains(key(code)) || taken.contains(key(code)));
         if (!inUse.back())
             taken.insert(key(code));
     }
@@ -79,7 +79,7 @@ const QString* CodiciMete::perMeta(QStringView old) const {
     return found == codes_.cend() || found->daDare.empty() ? nullptr : &found->daDare.front();
 }
 
-void CodiciMete::accetta(QStringView old) {
+void CodiciMete::accept(QStringView old) {
     const auto found = codes_.find(key(old));
     if (found == codes_.end() || found->daDare.empty())
         return;
@@ -88,7 +88,7 @@ void CodiciMete::accetta(QStringView old) {
     found->daDare.pop_front();
 }
 
-void CodiciMete::rifiuta(QStringView old) {
+void CodiciMete::refuse(QStringView old) {
     if (const auto found = codes_.find(key(old)); found != codes_.end() && !found->daDare.empty())
         found->daDare.pop_front();
 }

@@ -51,25 +51,25 @@ int sezioneDellaRiga(QStringView line, int before) {
     return before;
 }
 
-LettoreIei::Riga LettoreIei::legge(QStringView line) {
+LettoreIei::Riga LettoreIei::read(QStringView line) {
     const int section = sezioneDellaRiga(line, section_);
     if (section == nessunaSezione)
         return Riga::Estranea;
     if (section != section_) {
-        leggeTesta(line, section);
+        readHead(line, section);
         return Riga::Testa;
     }
-    leggeRecord(line);
+    readRecord(line);
     return Riga::Record;
 }
 
-void LettoreIei::leggeTesta(QStringView line, int section) {
+void LettoreIei::readHead(QStringView line, int section) {
     section_ = section;
-    leggeRecord(line);
+    readRecord(line);
     tieColumns();
 }
 
-void LettoreIei::leggeRecord(QStringView line) {
+void LettoreIei::readRecord(QStringView line) {
     line_ = line;
     divided_ = false;
 }
@@ -108,12 +108,12 @@ void LettoreIei::tieColumns() {
     }
 }
 
-bool LettoreIei::haColonna(int field) const {
+bool LettoreIei::hasColumn(int field) const {
     return field >= 0 && columnOf_[static_cast<std::size_t>(field)] > 0;
 }
 
 QStringView LettoreIei::colonna(int field) {
-    if (!haColonna(field))
+    if (!hasColumn(field))
         return {};
     if (!divided_)
         divide();

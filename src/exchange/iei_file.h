@@ -51,10 +51,10 @@ class LettoreIei {
     explicit LettoreIei(CampiIei fields) : fields_(std::move(fields)) {}
 
     /// What a line is, by the lines before it. It must stay as it is until the next one is read.
-    Riga legge(QStringView line);
+    Riga read(QStringView line);
     /// Takes a line as a head line, or as a record line, of a section.
-    void leggeTesta(QStringView line, int section);
-    void leggeRecord(QStringView line);
+    void readHead(QStringView line, int section);
+    void readRecord(QStringView line);
 
     /// Of the current line.
     [[nodiscard]] int sezione() const { return section_; }
@@ -63,7 +63,7 @@ class LettoreIei {
     [[nodiscard]] int campo(QStringView name) const;
 
     /// The last head line names the field.
-    [[nodiscard]] bool haColonna(int field) const;
+    [[nodiscard]] bool hasColumn(int field) const;
     /// The text of a field's column on the current line, trimmed; empty where there is no such column.
     [[nodiscard]] QStringView colonna(int field);
     /// The text as it is stored: a blank in place of an empty one.

@@ -25,7 +25,7 @@ std::size_t dopoIlCarattere(const std::string& text, std::size_t at) {
 
 } // namespace
 
-void MetePresenti::aggiunge(const QString& name) {
+void MetePresenti::add(const QString& name) {
     names_[chiaveMeta(name)].push_back(name.toStdString());
 }
 
@@ -33,7 +33,7 @@ bool MetePresenti::trova(const QString& name) const {
     const auto same = names_.constFind(chiaveMeta(name));
     const std::string pattern = LikeTesto(name).toStdString();
     return same != names_.cend() &&
-           std::ranges::any_of(*same, [&pattern](const std::string& known) { return somiglia(pattern, known); });
+           std::ranges::any_of(*same, [&pattern](const std::string& known) { return resembles(pattern, known); });
 }
 
 std::optional<std::size_t> Descrizioni::Forma::chiave(const std::string& text) const {
@@ -49,16 +49,16 @@ std::optional<std::size_t> Descrizioni::Forma::chiave(const std::string& text) c
     return intera && at < text.size() ? std::nullopt : std::optional(std::hash<std::string>()(own));
 }
 
-void Descrizioni::Forma::aggiunge(const std::string& text) {
+void Descrizioni::Forma::add(const std::string& text) {
     if (const auto key = chiave(text))
         testi.emplace(*key, &text);
 }
 
-void Descrizioni::aggiunge(const std::string& text) {
+void Descrizioni::add(const std::string& text) {
     const auto [known, fresh] = texts_.insert(text);
     for (Forma& form : forms_) {
         if (fresh)
-            form.aggiunge(*known);
+            form.add(*known);
     }
 }
 
@@ -68,13 +68,13 @@ bool Descrizioni::trova(const std::string& pattern) {
     const std::string beginning = pattern.substr(0, pattern.find_first_of("*?"));
     int looks = 0;
     for (auto d = texts_.lower_bound(beginning); d != texts_.end() && d->starts_with(beginning); ++d) {
-        if (somiglia(pattern, *d))
+        if (resembles(pattern, *d))
             return true;
         if (++looks != many)
             continue;
         if (const Forma* const form = forma(pattern)) {
             const auto [first, last] = form->testi.equal_range(*form->chiave(pattern.substr(0, pattern.find('*'))));
-            return std::any_of(first, last, [&pattern](const auto& text) { return somiglia(pattern, *text.second); });
+            return std::any_of(first, last, [&pattern](const auto& text) { return resembles(pattern, *text.second); });
         }
     }
     return false;
@@ -98,21 +98,21 @@ Descrizioni::Forma* Descrizioni::forma(const std::string& pattern) {
     if (forms_.size() == most || lying > mostTimes * texts_.size())
         return nullptr;
     for (const std::string& text : texts_)
-        wanted.aggiunge(text);
+        wanted.add(text);
     return &forms_.emplace_back(std::move(wanted));
 }
 
-void VociPresenti::aggiunge(const QString& place, const QString& description) {
-    const auto number = static_cast<std::size_t>(places_.aggiunge(place));
+void VociPresenti::add(const QString& place, const QString& description) {
+    const auto number = static_cast<std::size_t>(places_.add(place));
     if (number >= descriptions_.size())
         descriptions_.resize(number + 1);
-    descriptions_[number].aggiunge(senzaMaiuscole(description).toStdString());
+    descriptions_[number].add(senzaMaiuscole(description).toStdString());
 }
 
 bool VociPresenti::trova(const QString& place, const QString& description) {
     const std::string pattern = senzaMaiuscole(LikeTesto(description)).toStdString();
     bool any = false;
-    places_.cerca(place, [&](int number) {
+    places_.find(place, [&](int number) {
         any = descriptions_[static_cast<std::size_t>(number)].trova(pattern);
         return !any;
     });
@@ -120,7 +120,7 @@ bool VociPresenti::trova(const QString& place, const QString& description) {
 }
 
 bool Importazione::riga(QStringView line) {
-    switch (reader_.legge(line)) {
+    switch (reader_.read(line)) {
     case LettoreIei::Riga::Estranea: return true;
     case LettoreIei::Riga::Testa: return testa();
     case LettoreIei::Riga::Record: break;
@@ -137,7 +137,7 @@ bool Importazione::testa() {
     code_ = reader_.campo(campoCodice);
     place_ = reader_.campo(campoLocalita);
     description_ = reader_.campo(campoDescrizione);
-    return reader_.haColonna(reader_.sezione() == sezioneGuida ? place_ : code_);
+    return reader_.hasColumn(reader_.sezione() == sezioneGuida ? place_ : code_);
 }
 
 void Importazione::meta() {
@@ -148,17 +148,17 @@ void Importazione::meta() {
     if (!destinations_) {
         destinations_.emplace();
         for (const QString& name : archive_.nomiMete())
-            destinations_->aggiunge(name);
+            destinations_->add(name);
     }
     if (destinations_->trova(reader_.colonna(place_).toString())) {
-        codes_.rifiuta(old);
+        codes_.refuse(old);
         ++counters_.meteScartate;
         return;
     }
-    aggiunge(fresh);
+    add(fresh);
     if (place_ >= 0)
-        destinations_->aggiunge(values_[static_cast<std::size_t>(place_)]);
-    codes_.accetta(old);
+        destinations_->add(values_[static_cast<std::size_t>(place_)]);
+    codes_.accept(old);
     ++counters_.meteInserite;
 }
 
@@ -166,17 +166,17 @@ void Importazione::tappa() {
     const QString* const fresh = codes_.perTappe(reader_.colonna(code_));
     if (fresh == nullptr)
         return;
-    aggiunge(fresh);
+    add(fresh);
     ++counters_.tappeInserite;
     if (legs_)
-        legs_->aggiunge(values_[static_cast<std::size_t>(place_)]);
+        legs_->add(values_[static_cast<std::size_t>(place_)]);
 }
 
 void Importazione::voce() {
     if (!legs_) {
         legs_.emplace();
         for (const QString& place : archive_.luoghiTappe())
-            legs_->aggiunge(place);
+            legs_->add(place);
     }
     const QString place = reader_.colonna(place_).toString();
     if (!legs_->trova(place))
@@ -184,23 +184,23 @@ void Importazione::voce() {
     if (!guide_) {
         guide_.emplace();
         for (const auto& [where, what] : archive_.vociGuida())
-            guide_->aggiunge(where, what);
+            guide_->add(where, what);
     }
     if (guide_->trova(place, reader_.colonna(description_).toString())) {
         ++counters_.vociScartate;
         return;
     }
-    aggiunge(nullptr);
+    add(nullptr);
     ++counters_.vociInserite;
-    guide_->aggiunge(values_[static_cast<std::size_t>(place_)], values_[static_cast<std::size_t>(description_)]);
+    guide_->add(values_[static_cast<std::size_t>(place_)], values_[static_cast<std::size_t>(description_)]);
 }
 
-void Importazione::aggiunge(const QString* newCode) {
+void Importazione::add(const QString* newCode) {
     values_.resize(static_cast<std::size_t>(reader_.campi().size()));
     for (std::size_t field = 0; field < values_.size(); ++field)
         values_[field] =
             newCode != nullptr && static_cast<int>(field) == code_ ? *newCode : reader_.valore(static_cast<int>(field));
-    archive_.aggiunge(reader_.sezione(), values_);
+    archive_.add(reader_.sezione(), values_);
 }
 
 } // namespace vanzer

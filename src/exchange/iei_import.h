@@ -22,7 +22,7 @@ class ArchivioImport {
   public:
     virtual ~ArchivioImport() = default;
     /// A record for the table of the section, a text for each of its fields; the texts become what is stored of them.
-    virtual void aggiunge(int section, std::vector<QString>& values) = 0;
+    virtual void add(int section, std::vector<QString>& values) = 0;
     /// The names of all destinations, the places of all legs, and place and description of all entries of the guide
     /// that have both.
     [[nodiscard]] virtual std::vector<QString> nomiMete() = 0;
@@ -45,7 +45,7 @@ struct ContatoriImport {
 /// Which destinations there are.
 class MetePresenti {
   public:
-    void aggiunge(const QString& name);
+    void add(const QString& name);
     /// One of the same name: up to the bracket, and as a query for the name finds it.
     [[nodiscard]] bool trova(const QString& name) const;
 
@@ -56,7 +56,7 @@ class MetePresenti {
 /// Descriptions of one place, UTF-8 with case put away, and whether a pattern fits one of them.
 class Descrizioni {
   public:
-    void aggiunge(const std::string& text);
+    void add(const std::string& text);
     [[nodiscard]] bool trova(const std::string& pattern);
 
   private:
@@ -69,7 +69,7 @@ class Descrizioni {
 
         /// Of the text's characters there; nothing if it has fewer or, for a whole form, more.
         [[nodiscard]] std::optional<std::size_t> chiave(const std::string& text) const;
-        void aggiunge(const std::string& text);
+        void add(const std::string& text);
     };
 
     [[nodiscard]] Forma* forma(const std::string& pattern);
@@ -81,7 +81,7 @@ class Descrizioni {
 /// Which descriptions the guide has for which places.
 class VociPresenti {
   public:
-    void aggiunge(const QString& place, const QString& description);
+    void add(const QString& place, const QString& description);
     /// An entry like the description at a place of the form of `place`.
     [[nodiscard]] bool trova(const QString& place, const QString& description);
 
@@ -105,7 +105,7 @@ class Importazione {
     void meta();
     void tappa();
     void voce();
-    void aggiunge(const QString* newCode);
+    void add(const QString* newCode);
 
     LettoreIei reader_;
     CodiciMete codes_;

@@ -38,7 +38,7 @@ class ArchivioAperto final : public ArchivioImport {
             tables_[static_cast<std::size_t>(table)] = wholeTable(form, table);
     }
 
-    void aggiunge(int section, std::vector<QString>& values) override {
+    void add(int section, std::vector<QString>& values) override {
         store::Recordset& table = tables_[static_cast<std::size_t>(section)];
         table.AddNew();
         for (std::size_t i = 0; i < values.size(); ++i) {
@@ -46,7 +46,7 @@ class ArchivioAperto final : public ArchivioImport {
             const bool text = table.kind(field) == store::FieldKind::Text;
             if (section == store::MeteVanzer && !text)
                 continue;
-            table.scrive(field, values[i]);
+            table.write(field, values[i]);
             if (text && values[i].size() > table.size(field))
                 values[i] = table.testo(field);
         }
@@ -63,7 +63,7 @@ class ArchivioAperto final : public ArchivioImport {
         const int description = guide.campo(u"Descrizione");
         for (; !guide.EOF_(); guide.MoveNext()) {
             form_.yield();
-            if (guide.haValore(place) && guide.haValore(description))
+            if (guide.hasValue(place) && guide.hasValue(description))
                 entries.push_back({guide.testo(place), guide.testo(description)});
         }
         return entries;
@@ -119,17 +119,17 @@ class Lettura {
   public:
     Lettura(Form& form, CodiciMete codes)
         : form_(form), archive_(form), import_(fieldsOfTables(form), std::move(codes), archive_),
-          lines_(leggeFileScambio(form).value_or(QByteArray())), running_(form) {}
+          lines_(readExchangeFile(form).value_or(QByteArray())), running_(form) {}
 
     /// Empty when all was read, else the reason why not.
-    QString legge() {
+    QString read() {
         form_.stato.PercentualeTotale = static_cast<double>(lines_.lunghezza());
         form_.lblElaborazione.setCaption(QStringLiteral("Importazione mète"));
         AbilitaPulsantiMeta(form_, pulsanti::soloStop);
         double done = 0;
         while (lines_.prossima()) {
             done += static_cast<double>(lines_.riga().size());
-            if (!running_.avanza(done))
+            if (!running_.advance(done))
                 return QStringLiteral("Import interrotto!") + niente;
             if (!import_.riga(lines_.riga()))
                 return damaged(form_, lines_.numero(), import_.sezione());
@@ -152,16 +152,16 @@ class Lettura {
 
 } // namespace
 
-EsitoImport leggeFileImport(Form& form) {
+EsitoImport readImportFile(Form& form) {
     try {
         CodiciMete codes;
         const CodiciMete::Esito assigned =
-            codes.assegna(codiciMemorizzati(form), codiciDellaLista(form.mfgImExp(0)),
-                          form.archivio.dimensioneCampo(store::MeteVanzer, u"CodiceMeta"));
+            codes.assign(codiciMemorizzati(form), codiciDellaLista(form.mfgImExp(0)),
+                         form.archivio.dimensioneCampo(store::MeteVanzer, u"CodiceMeta"));
         if (assigned != CodiciMete::Esito::Assegnati)
             return {false, cantAssign(codes, assigned)};
         Lettura reading(form, std::move(codes));
-        QString failure = reading.legge();
+        QString failure = reading.read();
         if (failure.isEmpty()) {
             form.archivio.storeSoFar();
             return {true, report(reading.contatori())};

@@ -12,6 +12,6 @@ struct EsitoImport {
 
 /// Reads NomeFileScambio for the first list's destinations and stores what comes in. An import that fails or is given
 /// up leaves nothing of itself in the archive.
-[[nodiscard]] EsitoImport leggeFileImport(Form& form);
+[[nodiscard]] EsitoImport readImportFile(Form& form);
 
 } // namespace vanzer

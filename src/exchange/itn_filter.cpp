@@ -178,7 +178,7 @@ QString shownName(QString place, int nameSize) {
         place = QStringLiteral("Ingresso in ") + PrimoMaiuscolo(Mid(place, behindEntry), false);
     else
         place = shortMarks(place);
-    if (contiene(place, u"[Park]"))
+    if (contains(place, u"[Park]"))
         place.replace(QStringLiteral("Park] ["), QStringLiteral("Park: "), Qt::CaseInsensitive);
     const qsizetype bracket = place.indexOf(u'[');
     return bracket > nameSize ? Left(place, nameSize) + place.mid(bracket) : place;
@@ -186,7 +186,7 @@ QString shownName(QString place, int nameSize) {
 
 } // namespace
 
-QStringList leggeMete(const QByteArray& contents) {
+QStringList readDestinations(const QByteArray& contents) {
     constexpr int numberWidth = 4;
     QStringList stops;
     for (RigheTesto lines(contents); lines.prossima();) {
@@ -197,7 +197,7 @@ QStringList leggeMete(const QByteArray& contents) {
     return stops;
 }
 
-void segnaMete(std::vector<RigaPercorso>& legs, const QStringList& stops) {
+void markDestinations(std::vector<RigaPercorso>& legs, const QStringList& stops) {
     QStringList places;
     std::vector<bool> marked;
     places.reserve(static_cast<qsizetype>(legs.size()));
@@ -230,15 +230,15 @@ void segnaMete(std::vector<RigaPercorso>& legs, const QStringList& stops) {
     }
 }
 
-std::vector<RigaRimasta> piegaTappe(const std::vector<RigaPercorso>& legs, int nameSize) {
+std::vector<RigaRimasta> foldLegs(const std::vector<RigaPercorso>& legs, int nameSize) {
     std::vector<RigaRimasta> left;
     QString roads;
     int km = 0;
     for (std::size_t i = 0; i < legs.size(); ++i) {
         const RigaPercorso& leg = legs[i];
-        if (!contiene(roads, leg.strade))
+        if (!contains(roads, leg.strade))
             roads += (roads.isEmpty() ? u""_s : u" "_s) + leg.strade;
-        km = somma(km, leg.km);
+        km = addToInt(km, leg.km);
         if (!leg.luogo.contains(segno) && !isEntry(leg.luogo))
             continue;
         left.push_back({static_cast<int>(i) + 1, {shownName(leg.luogo, nameSize), roads, km}});

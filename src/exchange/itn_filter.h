@@ -30,16 +30,16 @@ struct RigaRimasta {
 };
 
 /// The names of the stops in the order of the file; a stop's number is its place in the list, from 1.
-[[nodiscard]] QStringList leggeMete(const QByteArray& contents);
+[[nodiscard]] QStringList readDestinations(const QByteArray& contents);
 
 /// Writes the number of each stop behind the place that it falls on: the first unmarked one that begins with the stop's
 /// name, else the first that holds the longest part of the name. A stop that fits nowhere is dropped.
-void segnaMete(std::vector<RigaPercorso>& legs, const QStringList& stops);
+void markDestinations(std::vector<RigaPercorso>& legs, const QStringList& stops);
 
 /// What is left of the marked legs: those with a stop and the entries into a country. The others go into the next leg
 /// that stays, with their kilometres and roads. Several stops on a leg become a range, and a name keeps at most
 /// `nameSize` characters before its first bracket.
-[[nodiscard]] std::vector<RigaRimasta> piegaTappe(const std::vector<RigaPercorso>& legs, int nameSize);
+[[nodiscard]] std::vector<RigaRimasta> foldLegs(const std::vector<RigaPercorso>& legs, int nameSize);
 
 /// The name without its numbers: cut at the last bracket.
 [[nodiscard]] QString senzaNumerazione(const QString& place);

@@ -40,7 +40,7 @@ QString modelloLuogo(const QString& place) {
     return QString::fromUcs4(reinterpret_cast<const char32_t*>(characters.constData()), characters.size());
 }
 
-int LuoghiPerModello::aggiunge(const QString& text) {
+int LuoghiPerModello::add(const QString& text) {
     const QString plain = senzaMaiuscole(text);
     const auto next = static_cast<int>(known_.size());
     if (const auto known = known_.constFind(plain); known != known_.cend())
@@ -62,7 +62,7 @@ int LuoghiPerModello::aggiunge(const QString& text) {
     return next;
 }
 
-void LuoghiPerModello::cerca(const QString& place, const std::function<bool(int)>& found) const {
+void LuoghiPerModello::find(const QString& place, const std::function<bool(int)>& found) const {
     const QList<uint> characters = place.toUcs4();
     const auto known = groups_.find(static_cast<std::size_t>(characters.size()));
     if (known == groups_.end())
@@ -91,7 +91,7 @@ void LuoghiPerModello::cerca(const QString& place, const std::function<bool(int)
 
 bool LuoghiPerModello::trova(const QString& place) const {
     bool any = false;
-    cerca(place, [&any](int) {
+    find(place, [&any](int) {
         any = true;
         return false;
     });

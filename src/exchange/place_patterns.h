@@ -23,10 +23,10 @@ namespace vanzer {
 class LuoghiPerModello {
   public:
     /// The number of the text, from 0; a text that differs in case alone has the same one.
-    int aggiunge(const QString& text);
+    int add(const QString& text);
 
     /// Calls `found` with the number of each text that has the form of the place's pattern, until it returns false.
-    void cerca(const QString& place, const std::function<bool(int)>& found) const;
+    void find(const QString& place, const std::function<bool(int)>& found) const;
     [[nodiscard]] bool trova(const QString& place) const;
 
   private:

@@ -72,11 +72,11 @@ class Percorso {
   public:
     [[nodiscard]] int km() const { return km_; }
     void setKm(int km) { km_ = km; }
-    [[nodiscard]] int kmDallUltima() const { return somma(km_, -std::int64_t{kmLast_}); }
+    [[nodiscard]] int kmDallUltima() const { return addToInt(km_, -std::int64_t{kmLast_}); }
 
     [[nodiscard]] bool senzaStrade() const { return roads_.size() <= 1; }
-    [[nodiscard]] bool haStrada(const QString& road) const { return contiene(roads_, road); }
-    void aggiungeStrade(const QString& text) { roads_ += text; }
+    [[nodiscard]] bool hasRoad(const QString& road) const { return contains(roads_, road); }
+    void addRoads(const QString& text) { roads_ += text; }
 
     [[nodiscard]] bool ultima(const QString& place) const { return uguale(place, last_); }
 
@@ -85,7 +85,7 @@ class Percorso {
         last_ = place;
         const QString roads = Mid(roads_, 2);
         legs_.push_back({maiuscolo(Trim(iniziaCon(place, u"vicino a") ? Mid(place, 10) : place)), Trim(roads),
-                         kmDallUltima(), km_, iniziaCon(roads, u"A"), contiene(roads, traghetto)});
+                         kmDallUltima(), km_, iniziaCon(roads, u"A"), contains(roads, traghetto)});
         roads_ = nessuna;
         kmLast_ = km_;
     }
@@ -105,29 +105,29 @@ class Percorso {
 class ListaOraria {
   public:
     void riga(const ColonneTappa& columns) {
-        km_ = arrotonda(Val(columns[2]));
+        km_ = roundToInt(Val(columns[2]));
         instruction_ = columns[3];
         place_.clear();
-        prepara();
+        prepare();
         nonLuogo();
         partenza();
         arrivo();
         passaggio();
         confine();
         traghetti();
-        chiudeTappa();
+        closeLeg();
         seguita();
     }
 
     [[nodiscard]] Percorso& percorso() { return route_; }
 
   private:
-    void prepara() {
+    void prepare() {
         instruction_ =
             Trim(senza(senza(instruction_, QStringLiteral("*Toll road*")), QStringLiteral("*gate access required*")));
         if (const int comma = posizioneDa(instruction_, u',', 1); comma > 0 && iniziaCon(instruction_, u"At exit"))
             instruction_ = Mid(instruction_, comma + 2);
-        if (contiene(instruction_, u"arrive"))
+        if (contains(instruction_, u"arrive"))
             instruction_ =
                 Trim(instruction_.replace(QStringLiteral("arrive"), QStringLiteral("At "), Qt::CaseInsensitive));
         word_ = parola(instruction_, 1);
@@ -161,7 +161,7 @@ class ListaOraria {
         if (const int near = posizioneVicino(instruction_); near > 0)
             instruction_ = Mid(instruction_, near + pastNear);
         place_ = parola(instruction_, 2);
-        leggeKm();
+        readKm();
         esaurita();
     }
 
@@ -171,21 +171,21 @@ class ListaOraria {
         int from = 0;
         int end = 0;
         if (parolaE(u"a") ||
-            (parolaE(u"at") && !contiene(instruction_, u"exit") && !contiene(instruction_, u"roundabout"))) {
+            (parolaE(u"at") && !contains(instruction_, u"exit") && !contains(instruction_, u"roundabout"))) {
             from = pastAt;
             end = primaDellaVirgola(from);
-            leggeKm();
+            readKm();
         }
         if (iniziaCon(instruction_, u"at exit")) {
             const int bracket = posizioneDa(instruction_, u'[', 1);
             from = bracket > 0 ? bracket + 1 : 0;
             end = posizioneDa(instruction_, u']', 1);
-            leggeKm();
+            readKm();
         }
         if (parolaE(u"presso")) {
             from = pastPresso;
             end = primaDellaVirgola(from);
-            leggeKm();
+            readKm();
         }
         if (from > 0)
             place_ = Trim(
@@ -196,14 +196,14 @@ class ListaOraria {
         const QString entering = QStringLiteral("Entering");
         if (!parolaE(u"Ingresso") && !parolaE(entering))
             return;
-        leggeKm();
+        readKm();
         place_ = instruction_;
         place_.replace(entering, QStringLiteral("Ingresso in"), Qt::CaseInsensitive);
     }
 
     void traghetti() {
         constexpr int past = 4; // a star and what stands between it and the name, or " su "
-        if (contiene(instruction_, u"controllo orari")) {
+        if (contains(instruction_, u"controllo orari")) {
             int from = posizioneDa(instruction_, u'*', past) + past;
             int end = posizioneDa(instruction_, u',', from);
             if (end == 0) {
@@ -212,21 +212,21 @@ class ListaOraria {
             }
             if (from > past) {
                 place_ = tra(instruction_, from, end > 0 ? end : oltreLaFine(instruction_));
-                route_.aggiungeStrade(traghetto + u' ');
+                route_.addRoads(traghetto + u' ');
             }
-            leggeKm();
+            readKm();
         }
-        if (contiene(instruction_, u"check timetable"))
-            route_.aggiungeStrade(traghetto + u' ');
+        if (contains(instruction_, u"check timetable"))
+            route_.addRoads(traghetto + u' ');
     }
 
-    void chiudeTappa() {
+    void closeLeg() {
         if (place_.isEmpty() || route_.ultima(place_))
             return;
         if (route_.senzaStrade()) {
-            cercaStrada();
+            findRoad();
             instruction_.clear();
-            route_.aggiungeStrade(road_);
+            route_.addRoads(road_);
         }
         route_.chiude(place_);
         road_.clear();
@@ -235,19 +235,19 @@ class ListaOraria {
     /// The road on which the row goes on belongs to the leg that is under way now.
     void seguita() {
         constexpr int shortestRoad = 2;
-        cercaStrada();
-        if (road_.size() >= shortestRoad && !route_.haStrada(road_))
-            route_.aggiungeStrade(road_ + u' ');
+        findRoad();
+        if (road_.size() >= shortestRoad && !route_.hasRoad(road_))
+            route_.addRoads(road_ + u' ');
     }
 
     [[nodiscard]] bool parolaE(QStringView word) const { return uguale(word_, word); }
     void esaurita() { instruction_ = nessuna; }
-    void leggeKm() { route_.setKm(km_); }
+    void readKm() { route_.setKm(km_); }
     [[nodiscard]] int primaDellaVirgola(int from) const {
         const int comma = posizioneDa(instruction_, u',', from);
         return comma > 0 ? comma : oltreLaFine(instruction_);
     }
-    void cercaStrada() {
+    void findRoad() {
         if (const auto road = RilevaStradaCorrente(instruction_))
             road_ = *road;
     }
@@ -269,22 +269,22 @@ class ListaLuoghi {
         if (std::ranges::all_of(columns, &QString::isEmpty))
             return;
         if (!head_) {
-            leggeTesta(columns);
+            readHead(columns);
             return;
         }
         const QString& counter = columns[kmColumn_];
         place_ = columns[1];
         direction_ = columns[2];
-        const int passes = contiene(direction_, u"confine") ? 2 : 1;
+        const int passes = contains(direction_, u"confine") ? 2 : 1;
         for (int pass = 1; pass <= passes; ++pass) {
-            const int raw = contiene(counter, u"KM") ? arrotonda(Val(counter)) : 0;
+            const int raw = contains(counter, u"KM") ? roundToInt(Val(counter)) : 0;
             const bool without = bracketedRoad();
-            separaStrada(without);
+            splitRoad(without);
             if (Trim(place_).isEmpty())
                 luogoDallaDirezione();
             conta(raw);
             EstraeTappaStrada();
-            if (chiudeTappa())
+            if (closeLeg())
                 break;
             place_.clear();
         }
@@ -293,7 +293,7 @@ class ListaLuoghi {
     [[nodiscard]] Percorso& percorso() { return route_; }
 
   private:
-    void leggeTesta(const ColonneTappa& columns) {
+    void readHead(const ColonneTappa& columns) {
         head_ = true;
         const auto found =
             std::ranges::find_if(columns, [](const QString& head) { return uguale(head, u"posizione opposta"); });
@@ -320,7 +320,7 @@ class ListaLuoghi {
         return true;
     }
 
-    void separaStrada(bool without) {
+    void splitRoad(bool without) {
         if (without) {
             road_ = place_;
             place_.clear();
@@ -339,18 +339,18 @@ class ListaLuoghi {
         constexpr int pastVerso = 6;
         if (const int at = posizione(direction_, u"direzione di"); at > 0)
             place_ = QStringLiteral("Direzione ") + Mid(direction_, at + toward.size());
-        if (contiene(direction_, u"confine"))
+        if (contains(direction_, u"confine"))
             place_ = ingresso + u" in "_s + Mid(direction_, posizione(direction_, u"verso") + pastVerso);
-        if (contiene(direction_, u"traghetto"))
-            route_.aggiungeStrade(traghetto);
+        if (contains(direction_, u"traghetto"))
+            route_.addRoads(traghetto);
     }
 
     /// A counter that starts again goes on from where it was.
     void conta(int raw) {
         if (raw < lastRaw_)
-            correction_ = somma(correction_, lastRaw_);
+            correction_ = addToInt(correction_, lastRaw_);
         lastRaw_ = raw;
-        route_.setKm(somma(raw, correction_));
+        route_.setKm(addToInt(raw, correction_));
     }
 
     /// Parts place and road, which share a column, and shortens the place.
@@ -367,13 +367,13 @@ class ListaLuoghi {
             road_ = direction.section(u' ', -1);
         if (place_.size() + 1 + road_.size() > nameWidth)
             place_ = place_.section(u'(', 0, 0);
-        accorciaRepubblica();
+        shortenRepublic();
         if (place_.contains(u'(') && !place_.contains(u')'))
             place_ = Trim(place_.section(u'(', 0, 0));
     }
 
     /// "Repubblica Ceca" as "Rep.  Ceca".
-    void accorciaRepubblica() {
+    void shortenRepublic() {
         constexpr int kept = 3;
         const int at = posizione(place_, u"REPUBBL");
         if (at == 0)
@@ -383,11 +383,11 @@ class ListaLuoghi {
     }
 
     /// True if it was the entry into a country, after which the row is done.
-    bool chiudeTappa() {
-        const bool entry = contiene(place_, ingresso);
+    bool closeLeg() {
+        const bool entry = contains(place_, ingresso);
         if (entry || (!place_.isEmpty() && route_.kmDallUltima() >= 1 && !route_.ultima(place_))) {
-            if (!road_.isEmpty() && !route_.haStrada(road_))
-                route_.aggiungeStrade(Trim(road_) + u'\\');
+            if (!road_.isEmpty() && !route_.hasRoad(road_))
+                route_.addRoads(Trim(road_) + u'\\');
             if (!route_.senzaStrade())
                 road_.clear();
             route_.chiude(place_);
@@ -423,7 +423,7 @@ Pacchetto formatoDellaTesta(const ColonneTappa& c) {
 }
 
 /// Reads the lines up to the head row, which is the current one then.
-Pacchetto riconosce(RigheTesto& lines) {
+Pacchetto recognise(RigheTesto& lines) {
     auto found = Pacchetto::Sconosciuto;
     while (found == Pacchetto::Sconosciuto && lines.numero() < headLines && lines.prossima())
         found = formatoDellaTesta(EstraeColonneTappa(lines.riga()));
@@ -431,7 +431,7 @@ Pacchetto riconosce(RigheTesto& lines) {
 }
 
 /// From the head row on to the end of the file.
-template<typename Lista> std::vector<TappaImportata> leggeRighe(RigheTesto& lines) {
+template<typename Lista> std::vector<TappaImportata> readRows(RigheTesto& lines) {
     Lista list;
     do {
         list.riga(EstraeColonneTappa(lines.riga()));
@@ -488,15 +488,15 @@ std::optional<QString> RilevaStradaCorrente(const QString& instruction) {
     return std::nullopt;
 }
 
-PercorsoImportato leggePacchetto(const QByteArray& contents) {
+PercorsoImportato readPackage(const QByteArray& contents) {
     if (contents.size() < shortestFile)
         return {};
     RigheTesto lines(contents);
-    const Pacchetto format = riconosce(lines);
+    const Pacchetto format = recognise(lines);
     switch (format) {
     case Pacchetto::MapPointItaliano:
-    case Pacchetto::MapPointInglese: return {format, leggeRighe<ListaOraria>(lines)};
-    case Pacchetto::Autoroute: return {format, leggeRighe<ListaLuoghi>(lines)};
+    case Pacchetto::MapPointInglese: return {format, readRows<ListaOraria>(lines)};
+    case Pacchetto::Autoroute: return {format, readRows<ListaLuoghi>(lines)};
     case Pacchetto::Sconosciuto: break;
     }
     return {};

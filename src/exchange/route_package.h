@@ -41,6 +41,6 @@ struct PercorsoImportato {
 [[nodiscard]] std::optional<QString> RilevaStradaCorrente(const QString& instruction);
 
 /// Reads a whole file. Rows that say nothing, or lack columns, give no leg.
-[[nodiscard]] PercorsoImportato leggePacchetto(const QByteArray& contents);
+[[nodiscard]] PercorsoImportato readPackage(const QByteArray& contents);
 
 } // namespace vanzer

@@ -98,14 +98,14 @@ void CaricaDaPacchetto(Form& form) {
     form.frmframe(riquadroPulsantiTappe).setEnabled(true);
     StatoFinestra& s = form.stato;
     s.RigaCorrente = 1;
-    const auto contents = leggeFileScambio(form);
+    const auto contents = readExchangeFile(form);
     if (!contents)
         return;
-    const PercorsoImportato route = leggePacchetto(*contents);
+    const PercorsoImportato route = readPackage(*contents);
     if (route.formato == Pacchetto::Sconosciuto) {
-        form.rifiuta(QStringLiteral("Attenzione!\n\nFile non riconosciuto!\n\n"
-                                    "Attualmente sono riconosciuti:\n. MapPoint\n. Autoroute 66\n"
-                                    ". Route 2000-2001\n\nContatta l'autore per l'eventuale abilitazione."));
+        form.refuse(QStringLiteral("Attenzione!\n\nFile non riconosciuto!\n\n"
+                                   "Attualmente sono riconosciuti:\n. MapPoint\n. Autoroute 66\n"
+                                   ". Route 2000-2001\n\nContatta l'autore per l'eventuale abilitazione."));
         return;
     }
     writeLegs(form, route);
@@ -120,18 +120,18 @@ void SelezionaMeteValide(Form& form) {
     form.lstMete.clear();
     const bool unnumbered = form.domanda(QStringLiteral("Vuoi eliminare la numerazione finale delle tappe?"),
                                          QStringLiteral("Numerazione tappe"), Pulsanti::SiNo) == rispostaSi;
-    const auto contents = leggeFileScambio(form);
+    const auto contents = readExchangeFile(form);
     if (!contents)
         return;
-    const QStringList stops = leggeMete(*contents);
+    const QStringList stops = readDestinations(*contents);
     form.lstMete.setEntries(stops);
     Grid& grid = form.mfgTab;
     const SenzaRidisegno quiet(grid);
     std::vector<RigaPercorso> legs = readLegs(grid);
-    segnaMete(legs, stops);
+    markDestinations(legs, stops);
     const QString lastPlace = legs.back().luogo;
     legs.pop_back();
-    writeFolded(grid, piegaTappe(legs, form.archivio.dimensioneCampo(store::Itinerari, u"Localita")));
+    writeFolded(grid, foldLegs(legs, form.archivio.dimensioneCampo(store::Itinerari, u"Localita")));
     grid.setCell(grid.rows() - 1, tappaLuogo, lastPlace);
     if (unnumbered) {
         for (int r = 1; r < grid.rows(); ++r)
@@ -144,10 +144,10 @@ void SelezionaMeteValide(Form& form) {
 
 void cmdMapPoint_Click(Form& form) {
     if (!emptyItinerary(form)) {
-        form.rifiuta(QStringLiteral("Impossibile: sono presenti delle tappe!\n\n"
-                                    "E' ammesso solo con itinerario vuoto.\n\n"
-                                    "Se vuoi procedere con l'import da MapPoint,\n"
-                                    "è necessario cancellare l'itinerario."));
+        form.refuse(QStringLiteral("Impossibile: sono presenti delle tappe!\n\n"
+                                   "E' ammesso solo con itinerario vuoto.\n\n"
+                                   "Se vuoi procedere con l'import da MapPoint,\n"
+                                   "è necessario cancellare l'itinerario."));
         return;
     }
     if (!askForFile(form, QStringLiteral("File Excel salvato in modalità testo (*.TXT)|*.txt")))
@@ -158,7 +158,7 @@ void cmdMapPoint_Click(Form& form) {
 
 void cmdSelezionaMete_Click(Form& form) {
     if (emptyItinerary(form)) {
-        form.rifiuta(QStringLiteral("Impossibile: non sono presenti delle tappe!"), QStringLiteral("Revisione tappe"));
+        form.refuse(QStringLiteral("Impossibile: non sono presenti delle tappe!"), QStringLiteral("Revisione tappe"));
         return;
     }
     if (!askForFile(form, QStringLiteral("File export ITN in modalità testo (*.cvs)|*.csv")))

@@ -16,9 +16,9 @@ store::Recordset& openCategories(Form& form) {
 
 void addCategory(store::Recordset& table, int code, const QString& name, bool timeNeeded) {
     table.AddNew();
-    table.scrive(0, Zero(code, 2));
-    table.scrive(1, name);
-    table.scriveSiNo(2, timeNeeded);
+    table.write(0, Zero(code, 2));
+    table.write(1, name);
+    table.writeYesNo(2, timeNeeded);
     table.Update();
 }
 
@@ -38,7 +38,7 @@ void CaricaTipiGuida(Form& form) {
         const QString name = table.testo(1);
         if (const int at = posizione(wanted, name + u'^'); at > 0)
             wanted.remove(at - 1, name.size() + 1);
-        last = arrotonda(Val(table.testo(0)));
+        last = roundToInt(Val(table.testo(0)));
         if (last >= 0 && last < static_cast<int>(form.TipiGuidaDescrizione.size())) {
             form.TipiGuidaDescrizione[static_cast<std::size_t>(last)] = name;
             form.TipiGuidaTempoObbligatorio[static_cast<std::size_t>(last)] = table.siNo(2);
@@ -47,7 +47,7 @@ void CaricaTipiGuida(Form& form) {
     }
     store::Recordset& table = form.archivio.Rs(store::TipoGuida);
     for (const QString& missing : wanted.split(u'^', Qt::SkipEmptyParts)) {
-        last = somma(last, 1);
+        last = addToInt(last, 1);
         addCategory(table, last, missing, true);
     }
     form.cmbGTipo.setText(form.TipiGuidaDescrizione[1]);
@@ -59,9 +59,9 @@ void RipulisceLuoghiGuida(Form& form) {
     form.archivio.StringaSQL = QStringLiteral("SELECT * FROM GuidaCitta WHERE Localita LIKE '*(*'");
     form.archivio.RecordSetImposta(0, store::GuidaCitta);
     for (store::Recordset& guide = form.archivio.Rs(store::GuidaCitta); !guide.EOF_(); guide.MoveNext()) {
-        const QString place = taglia(guide.testo(0), u'(');
+        const QString place = cutAt(guide.testo(0), u'(');
         guide.Edit();
-        guide.scrive(0, place);
+        guide.write(0, place);
         guide.Update();
     }
 }

@@ -73,7 +73,7 @@ QString gruppoOrdinato(const QString& group) {
             marks << pieces(i);
     }
     std::stable_sort(marks.begin(), marks.end(),
-                     [](const QString& a, const QString& b) { return confrontaTesti(a, b) < 0; });
+                     [](const QString& a, const QString& b) { return compareTexts(a, b) < 0; });
     return marks.join(u'-');
 }
 
@@ -90,7 +90,7 @@ QString minutiMostrati(const QString& time) {
     return Zero(Val(Right(time, 2)), 2);
 }
 
-EsitoVoce controllaVoce(const VoceDigitata& entry) {
+EsitoVoce checkEntry(const VoceDigitata& entry) {
     if (Trim(entry.descrizione).isEmpty())
         return EsitoVoce::MancaDescrizione;
     if (entry.codice < 0)

@@ -61,7 +61,7 @@ struct VoceDigitata {
 
 enum class EsitoVoce { Buona, MancaDescrizione, MancaTipologia, MancaTempo, MancaLuogo };
 /// The first thing that keeps an entry from being stored.
-[[nodiscard]] EsitoVoce controllaVoce(const VoceDigitata& entry);
+[[nodiscard]] EsitoVoce checkEntry(const VoceDigitata& entry);
 /// What the user is told; empty for a good entry.
 [[nodiscard]] QString messaggioVoce(EsitoVoce result);
 

@@ -86,12 +86,12 @@ void storeEntry(Form& form, const VoceDigitata& entry) {
         records.AddNew();
     if (form.txtGGruppo.text().isEmpty())
         form.txtGGruppo.setText(QStringLiteral(" "));
-    records.scrive(u"Localita", entry.luogo);
-    records.scrive(u"CodiceGuida", Zero(entry.codice, 2));
-    records.scrive(u"Gruppo", form.txtGGruppo.text());
-    records.scrive(u"Descrizione", PrimoMaiuscolo(Trim(entry.descrizione), false));
-    records.scrive(u"TempoSosta", entry.tempo);
-    records.scrive(u"FlagVisto", QStringLiteral("0"));
+    records.write(u"Localita", entry.luogo);
+    records.write(u"CodiceGuida", Zero(entry.codice, 2));
+    records.write(u"Gruppo", form.txtGGruppo.text());
+    records.write(u"Descrizione", PrimoMaiuscolo(Trim(entry.descrizione), false));
+    records.write(u"TempoSosta", entry.tempo);
+    records.write(u"FlagVisto", QStringLiteral("0"));
     records.Update();
 }
 
@@ -112,7 +112,7 @@ void askAndDelete(Form& form, store::Recordset& records) {
             continue;
         const QString entry = records.testo(u"Localita") + QStringLiteral(": ") + records.testo(u"Descrizione");
         if (form.domandaPericolosa(QStringLiteral("Vuoi cancellare questa riga?"), QStringLiteral("Cancella riga"),
-                                   entry + u'\n' + descriveMeta(form)) == rispostaSi)
+                                   entry + u'\n' + describeTrip(form)) == rispostaSi)
             records.Delete();
     }
 }
@@ -141,7 +141,7 @@ bool saveAndMove(Form& form, int code) {
         return false;
     if (!anotherList) {
         SalvaLaRigaGuidaCitta(form, false);
-        if (!lasciaVoce(form, next)) // one that lacks something
+        if (!leaveEntry(form, next)) // one that lacks something
             return true;
     }
     row = next;
@@ -158,10 +158,10 @@ void CmdSalvaRiga_Click(Form& form) {
 void SalvaLaRigaGuidaCitta(Form& form, bool avvisa) {
     takeMarkedRow(form);
     const VoceDigitata entry = typedEntry(form);
-    const EsitoVoce result = controllaVoce(entry);
+    const EsitoVoce result = checkEntry(entry);
     if (result != EsitoVoce::Buona) {
         if (avvisa)
-            form.rifiuta(messaggioVoce(result));
+            form.refuse(messaggioVoce(result));
         return;
     }
     storeEntry(form, entry);

@@ -48,8 +48,8 @@ class ListaGuida {
 
     void luogo(const TappaGuida& leg) {
         prossima();
-        scrive(guidaLuogo, leg.localita);
-        scrive(guidaSosta, leg.tempoSosta);
+        write(guidaLuogo, leg.localita);
+        write(guidaSosta, leg.tempoSosta);
     }
 
     void voci(const QString& place) {
@@ -67,22 +67,22 @@ class ListaGuida {
   private:
     void voce(const QString& place, const store::Recordset& record) {
         prossima();
-        scrive(guidaLuogo, place);
-        scrive(guidaGruppo, record.testo(u"Gruppo"));
-        scrive(guidaDescrizione, record.testo(u"Descrizione"));
-        scrive(guidaTempo, record.testo(u"TempoSosta"));
-        scrive(guidaTipo, nomeTipoGuida(form_.TipiGuidaDescrizione, record.testo(u"CodiceGuida")));
-        scrive(guidaSegno, segnoVoce.toString());
+        write(guidaLuogo, place);
+        write(guidaGruppo, record.testo(u"Gruppo"));
+        write(guidaDescrizione, record.testo(u"Descrizione"));
+        write(guidaTempo, record.testo(u"TempoSosta"));
+        write(guidaTipo, nomeTipoGuida(form_.TipiGuidaDescrizione, record.testo(u"CodiceGuida")));
+        write(guidaSegno, segnoVoce.toString());
     }
 
     void prossima() {
         ++row_;
         if (row_ >= form_.mfgTab.rows())
             form_.mfgTab.setRows(2 * row_ + 5);
-        scrive(guidaNumero, QString::number(row_));
+        write(guidaNumero, QString::number(row_));
     }
 
-    void scrive(int column, const QString& text) { form_.mfgTab.setCell(row_, column, text); }
+    void write(int column, const QString& text) { form_.mfgTab.setCell(row_, column, text); }
 
     Form& form_;
     int& row_;
@@ -135,7 +135,7 @@ void showTime(Form& form, const QString& cell) {
 void cmdGuidaCitta_Click(Form& form) {
     StatoFinestra& s = form.stato;
     AttivaFormMeta(form, true);
-    if (!lasciaTratto(form))
+    if (!leaveStretch(form))
         return;
     AbilitaPulsantiMeta(form, pulsanti::nessuno);
     form.mfgTab.setRows(1);
@@ -154,7 +154,7 @@ void CreaLaListadellaGuida(Form& form) {
     StatoFinestra& s = form.stato;
     std::vector<TappaGuida> legs = readPlaces(form);
     if (legs.empty()) {
-        form.rifiuta(QStringLiteral("Impossibile... non esistono tappe memorizzate!"), QStringLiteral("Guida Città"));
+        form.refuse(QStringLiteral("Impossibile... non esistono tappe memorizzate!"), QStringLiteral("Guida Città"));
         if (!s.FiltroGuida.isEmpty()) {
             s.FiltroGuida.clear();
             legs = readPlaces(form);

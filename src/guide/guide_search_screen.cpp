@@ -72,7 +72,7 @@ void sortGroup(Form& form, int row) {
     if (!moveToOnly(records, group))
         return;
     records.Edit();
-    records.scrive(u"Gruppo", sorted);
+    records.write(u"Gruppo", sorted);
     records.Update();
 }
 
@@ -102,12 +102,12 @@ void RinunciaRicercaGuida(Form& form) {
 
 void cmdFineInserimento_Click(Form& form) {
     int row = form.mfgTab.row();
-    if (!lasciaVoce(form, row))
+    if (!leaveEntry(form, row))
         return;
     for (int r = 1; r < form.mfgTab.rows(); ++r)
         sortGroup(form, r);
     form.archivio.storeSoFar();
-    if (!lasciaCampi(form))
+    if (!leaveFields(form))
         return;
     RicaricaItinerario(form);
     form.mfgTab.setHeight(altezzaGrigliaTappe);

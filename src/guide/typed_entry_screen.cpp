@@ -48,7 +48,7 @@ bool voceDigitata(const Form& form) {
     return true;
 }
 
-bool lasciaVoce(Form& form, int& row) {
+bool leaveEntry(Form& form, int& row) {
     if (!form.interattiva || !form.cmdSalvaRiga.reachable() || !voceDigitata(form))
         return true;
     const int answer = form.domanda(

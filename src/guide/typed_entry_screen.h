@@ -13,6 +13,6 @@ namespace vanzer {
 /// Before a user, when the fields are about to show another row or to go: asks whether an entry that is typed and not
 /// stored is to be stored, and does so. False if it can't be, or the user wants to go on with it. `row` is a row of the
 /// list, and still that one when the list is sorted anew.
-[[nodiscard]] bool lasciaVoce(Form& form, int& row);
+[[nodiscard]] bool leaveEntry(Form& form, int& row);
 
 } // namespace vanzer

@@ -4,7 +4,7 @@
 
 namespace vanzer {
 
-std::vector<RigaSorgente> copiaTratto(const std::vector<RigaSorgente>& source, int from, int to, bool withStops) {
+std::vector<RigaSorgente> copyStretch(const std::vector<RigaSorgente>& source, int from, int to, bool withStops) {
     const auto row = [&source](int r) {
         return r >= 1 && r <= static_cast<int>(source.size()) ? source[static_cast<std::size_t>(r - 1)]
                                                               : RigaSorgente();

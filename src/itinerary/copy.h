@@ -20,7 +20,7 @@ struct RigaSorgente {
 
 /// The legs from row `from` to row `to` (from 1) in that direction. Going backward one reaches a place by the road of
 /// the row behind it. A row that the source lacks is empty; a stop comes without the mark of the end of the day.
-[[nodiscard]] std::vector<RigaSorgente> copiaTratto(const std::vector<RigaSorgente>& source, int from, int to,
+[[nodiscard]] std::vector<RigaSorgente> copyStretch(const std::vector<RigaSorgente>& source, int from, int to,
                                                     bool withStops);
 
 /// Rows from `prima` to `ultima` (from 1).

@@ -73,7 +73,7 @@ void listLegs(Form& form, const QString& code) {
 
 /// Shows the stretch as it is chosen so far, with the row at hand in it.
 void SelezioneTappeDuplica(Form& form) {
-    const auto number = [&form](int i) { return arrotonda(Val(form.txtInsNum(i).text())); };
+    const auto number = [&form](int i) { return roundToInt(Val(form.txtInsNum(i).text())); };
     const Blocco chosen = bloccoScelto(number(0), number(1), form.stato.RigaCopia);
     form.mfgCopia.select(chosen.prima, 0, chosen.ultima, ultimaColonna);
     form.mfgCopia.setRowAtHand(form.stato.RigaCopia);
@@ -112,8 +112,8 @@ void insertStretch(Form& form) {
     Grid& grid = form.mfgTab;
     int& row = form.stato.RigaCorrente;
     const std::vector<RigaSorgente> legs =
-        copiaTratto(readSource(form.mfgCopia), arrotonda(Val(form.txtInsNum(0).text())),
-                    arrotonda(Val(form.txtInsNum(1).text())), form.chkInsSoste.value());
+        copyStretch(readSource(form.mfgCopia), roundToInt(Val(form.txtInsNum(0).text())),
+                    roundToInt(Val(form.txtInsNum(1).text())), form.chkInsSoste.value());
     const SenzaRidisegno quiet(grid);
     if (!grid.cell(row, tappaLuogo).isEmpty())
         ++row;
@@ -163,7 +163,7 @@ void cmdDuplica_Click(Form& form) {
     ImpostaGriglia(form, Disposizione::Mete);
     store::Recordset destinations = records(form, store::MeteVanzer, {}, u"Localita");
     if (destinations.EOF_()) {
-        form.rifiuta(QStringLiteral("Non trovate mète memorizzate"));
+        form.refuse(QStringLiteral("Non trovate mète memorizzate"));
         return;
     }
     listDestinations(form, destinations);
@@ -221,7 +221,7 @@ void cmdInsEsegui_Click(Form& form, int i) {
     AbilitaPulsantiComando(form);
     CalcolaKmTempiItinerario(form);
     AggiornaNumeroRiga(form);
-    mostraKmProgressivi(form);
+    showRunningKm(form);
     form.yield();
 }
 

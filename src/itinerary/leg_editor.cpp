@@ -18,13 +18,13 @@ Rifiuto refusal(const TappaDigitata& typed, const QString& km, const QString& st
     const bool noPlace = Trim(typed.luogo).isEmpty();
     if (tooFar || noPlace)
         return tooFar && noPlace ? Rifiuto::KmELuogo : tooFar ? Rifiuto::KmTroppi : Rifiuto::LuogoMancante;
-    const bool nothing = Val(km) == 0 && stop.isEmpty() && !typed.fineGiornata && !contiene(typed.strada, u"TRAGH");
+    const bool nothing = Val(km) == 0 && stop.isEmpty() && !typed.fineGiornata && !contains(typed.strada, u"TRAGH");
     return nothing && typed.riga >= 2 ? Rifiuto::NienteDaSegnare : Rifiuto::Nessuno;
 }
 
 } // namespace
 
-SostaConFine separaSosta(const QString& cell) {
+SostaConFine splitStop(const QString& cell) {
     if (cell.isEmpty())
         return {senzaSosta.toString()};
     return cell.startsWith(u'*') ? SostaConFine{Mid(cell, 2), true} : SostaConFine{cell};
@@ -37,14 +37,14 @@ std::optional<int> tipoStrada(const QString& cell) {
 }
 
 QString senzaMarca(const QString& cell, QStringView mark) {
-    return contiene(cell, mark) ? Trim(QString(cell).remove(mark.toString(), Qt::CaseInsensitive)) : Trim(cell);
+    return contains(cell, mark) ? Trim(QString(cell).remove(mark.toString(), Qt::CaseInsensitive)) : Trim(cell);
 }
 
 bool kmProgressivi(double kmPrecedenti) {
     return kmPrecedenti > sogliaProgressivi;
 }
 
-TappaControllata controllaTappa(const TappaDigitata& typed) {
+TappaControllata checkLeg(const TappaDigitata& typed) {
     TappaControllata row;
     const double km = Val(typed.km);
     row.totale = typed.kmComeTotale && typed.riga > 2 && kmProgressivi(typed.kmPrecedenti) && km > typed.kmPrecedenti;

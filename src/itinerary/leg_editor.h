@@ -14,7 +14,7 @@ struct SostaConFine {
     QString durata; ///< gg:hh:mm
     bool fineGiornata = false;
 };
-[[nodiscard]] SostaConFine separaSosta(const QString& cell);
+[[nodiscard]] SostaConFine splitStop(const QString& cell);
 
 /// Index of a row's road type; none if the row has no such letter.
 [[nodiscard]] std::optional<int> tipoStrada(const QString& cell);
@@ -54,7 +54,7 @@ struct TappaControllata {
     QString sosta; ///< the cell: empty for none, "*" in front for the end of the day
 };
 
-[[nodiscard]] TappaControllata controllaTappa(const TappaDigitata& typed);
+[[nodiscard]] TappaControllata checkLeg(const TappaDigitata& typed);
 
 /// Whether running kilometres are typed behind a row that shows so many.
 [[nodiscard]] bool kmProgressivi(double kmPrecedenti);

@@ -58,7 +58,7 @@ void scrollToRow(Form& form) {
 }
 
 void showPlace(Form& form, const QString& cell) {
-    const LuogoConMarche place = separaMarche(cell);
+    const LuogoConMarche place = splitMarks(cell);
     if (place.start)
         form.chkMeta(0).setValue(true);
     if (place.end)
@@ -73,7 +73,7 @@ void showRoadType(Form& form, const QString& cell) {
 }
 
 void showStop(Form& form, const QString& cell) {
-    const SostaConFine stop = separaSosta(cell);
+    const SostaConFine stop = splitStop(cell);
     form.chkEndDay.setValue(stop.fineGiornata);
     for (int i = 0; i < 3; ++i)
         form.cmbSosta(i).setText(Mid(stop.durata, 1 + 3 * i, 2));
@@ -95,11 +95,11 @@ void showRow(Form& form) {
 bool refused(Form& form, Rifiuto reason) {
     const QString impossible = QStringLiteral("Impossibile:\n");
     if (reason == Rifiuto::KmTroppi || reason == Rifiuto::KmELuogo)
-        form.rifiuta(impossible + QStringLiteral("Indica un valore compreso tra 1 e 999"));
+        form.refuse(impossible + QStringLiteral("Indica un valore compreso tra 1 e 999"));
     if (reason == Rifiuto::LuogoMancante || reason == Rifiuto::KmELuogo)
-        form.rifiuta(impossible + QStringLiteral("Indica il nome della località!"));
+        form.refuse(impossible + QStringLiteral("Indica il nome della località!"));
     if (reason == Rifiuto::NienteDaSegnare)
-        form.rifiuta(QStringLiteral("Chilometri (o sosta): dato obbligatorio!"), QStringLiteral("Dato obbligatorio"));
+        form.refuse(QStringLiteral("Chilometri (o sosta): dato obbligatorio!"), QStringLiteral("Dato obbligatorio"));
     return reason != Rifiuto::Nessuno;
 }
 
@@ -142,10 +142,10 @@ void reloadDestination(Form& form) {
 
 /// Before a user the mark stays on the row at hand until what is typed for it is dealt with.
 bool leavesRowFor(Form& form, int& row) {
-    if (!form.interattiva || !form.lasciaRiga)
+    if (!form.interattiva || !form.leaveRow)
         return true;
     SelezionaRiga(form, form.stato.RigaCorrente);
-    return form.lasciaRiga(row);
+    return form.leaveRow(row);
 }
 
 void closeLists(Form& form) {
@@ -195,12 +195,12 @@ void AttivitaInserimentoItinerario(Form& form) {
     form.mfgTab.setWidth(largoAccanto);
     form.cmbRicercaTappa.setVisible(false);
     form.cmdMapPoint.setEnabled(form.stato.NumeroTappe < 2);
-    mostraKmProgressivi(form);
+    showRunningKm(form);
     form.setFocus(form.txtTappa);
     form.stato.TornaAlleTappe = false;
 }
 
-void sbloccaTappe(Form& form) {
+void unlockLegs(Form& form) {
     AttivitaInserimentoItinerario(form);
     AbilitaPulsantiMeta(form, pulsanti::tutti);
     AttivaFormMeta(form, true);
@@ -232,7 +232,7 @@ void AggiornaNumeroRiga(Form& form) {
     form.yield();
 }
 
-void mostraKmProgressivi(Form& form) {
+void showRunningKm(Form& form) {
     const bool shown = form.frmframe(riquadroTappe).visible() && form.stato.RigaCorrente >= 3;
     form.chkKm.setVisible(shown);
     form.chkKm.setEnabled(shown);
@@ -247,7 +247,7 @@ void chkKm_Click(Form& form) {
 
 void AggiornaTabellaRigaCorrenteItinerario(Form& form) {
     AggiornaNumeroRiga(form);
-    mostraKmProgressivi(form);
+    showRunningKm(form);
     focusPlace(form);
     if (form.stato.ModoGuida && form.guideRowShown)
         form.guideRowShown();
@@ -259,7 +259,7 @@ void cmdInserisce_Click(Form& form) {
         form.chkKm.setVisible(true);
         form.chkKm.setEnabled(true);
     }
-    const TappaControllata row = controllaTappa({
+    const TappaControllata row = checkLeg({
         .riga = s.RigaCorrente,
         .luogo = form.txtTappa.text(),
         .km = form.txtKm.text(),
@@ -288,7 +288,7 @@ void cmdInserisce_Click(Form& form) {
     form.cmdMapPoint.setEnabled(s.NumeroTappe == 0);
     focusPlace(form);
     CalcolaKmTempiItinerario(form);
-    mostraKmProgressivi(form);
+    showRunningKm(form);
 }
 
 void CancellaFlagStartEnd(Form& form, int which) {
@@ -313,7 +313,7 @@ void InserisciRigheItinerario(Form& form, int n) {
 void cmdAggiunge_Click(Form& form) {
     InserisciRigheItinerario(form, 1);
     AggiornaNumeroRiga(form);
-    mostraKmProgressivi(form);
+    showRunningKm(form);
     focusPlace(form);
 }
 
@@ -334,7 +334,7 @@ void cmdCancella_Click(Form& form) {
     }
     focusPlace(form);
     CalcolaKmTempiItinerario(form);
-    mostraKmProgressivi(form);
+    showRunningKm(form);
 }
 
 void cmdCerca_Click(Form& form) {
@@ -369,7 +369,7 @@ void cmdMemorizza_Click(Form& form) {
         AbilitaPulsantiMeta(form, pulsanti::nessunoMaiuscolo);
     } else if (answer == rispostaNo &&
                form.domandaPericolosa(QStringLiteral("Vuoi recuperare l'itinerario originale?"), title) == rispostaSi &&
-               lasciaCampi(form)) {
+               leaveFields(form)) {
         reloadDestination(form);
     }
 }
@@ -384,7 +384,7 @@ void cmdFine_Click(Form& form) {
                                             "Vuoi salvare le eventuali modifiche?");
     const int answer = form.domanda(question, QStringLiteral("Fine inserimento"), Pulsanti::SiNoAnnulla);
     const bool refused = answer == rispostaSi && !MemorizzaTappeItinerario(form);
-    if (answer != rispostaAnnulla && !refused && lasciaCampi(form)) {
+    if (answer != rispostaAnnulla && !refused && leaveFields(form)) {
         form.frmframe(riquadroTappe).setVisible(false);
         form.mfgTab.setWidth(larghezzaTabella);
         reloadDestination(form);
@@ -401,7 +401,7 @@ void mfgTab_Click(Form& form) {
     clearMarkBoxes(form);
     form.stato.RigaCorrente = clicked;
     AggiornaTabellaRigaCorrenteItinerario(form);
-    scegliSingolaTappa(form, clicked);
+    chooseSingleLeg(form, clicked);
 }
 
 void mfgTab_DblClick(Form& form) {
@@ -410,7 +410,7 @@ void mfgTab_DblClick(Form& form) {
     for (int c = 1; c < grid.columns(); ++c) {
         text +=
             grid.cell(0, c) + u":\t"_s + QString(c == 2 ? u""_s : u"\t"_s) + u' ' + grid.cell(grid.row(), c) + u'\n';
-        if (contiene(grid.cell(0, c), u"NOTE"))
+        if (contains(grid.cell(0, c), u"NOTE"))
             break;
     }
     form.messaggio(text);
@@ -433,7 +433,7 @@ void mfgTab_KeyPress(Form& form, int code) {
         clearMarkBoxes(form);
     form.stato.RigaCorrente = row;
     AggiornaNumeroRiga(form);
-    mostraKmProgressivi(form);
+    showRunningKm(form);
     if (form.stato.ModoGuida && form.guideRowShown)
         form.guideRowShown();
 }

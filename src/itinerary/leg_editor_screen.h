@@ -19,7 +19,7 @@ void cmdItinerario_Click(Form& form);
 /// replaced come back first.
 void AttivitaInserimentoItinerario(Form& form);
 /// The schedule makes room for the legs again: the destination can be changed, all commands are on.
-void sbloccaTappe(Form& form);
+void unlockLegs(Form& form);
 /// The legs that a schedule has replaced come back into the table, saved or not, with their totals.
 void RimetteTappe(Form& form);
 
@@ -27,7 +27,7 @@ void RimetteTappe(Form& form);
 void AggiornaNumeroRiga(Form& form);
 /// From the third row on, while the frame is open: whether typed kilometres above the running total of the row above
 /// are a running total themselves. On by itself where they can be, unless the user has switched it off.
-void mostraKmProgressivi(Form& form);
+void showRunningKm(Form& form);
 /// The user's choice holds until the next one.
 void chkKm_Click(Form& form);
 /// After a change of row: all of the above.

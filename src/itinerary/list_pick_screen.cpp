@@ -27,7 +27,7 @@ void cmbRicercaTappa_Click(Form& form) {
         return;
     showAround(form);
     form.frmframe(riquadroGuida).setEnabled(true);
-    s.RigaCorrente = arrotonda(Val(Right(form.cmbRicercaTappa.text(), 4)));
+    s.RigaCorrente = roundToInt(Val(Right(form.cmbRicercaTappa.text(), 4)));
     if (s.ModoGuida) {
         showAround(form);
         s.PulsantiItinerario = pulsanti::tutti;
@@ -45,7 +45,7 @@ void cmbRicercaTappa_Click(Form& form) {
         AbilitaPulsantiComando(form);
         s.RigaCorrente = form.mfgTab.row();
         AggiornaNumeroRiga(form);
-        mostraKmProgressivi(form);
+        showRunningKm(form);
     }
 }
 

@@ -21,7 +21,7 @@ int joinRow(const std::vector<QStringView>& places) {
 } // namespace
 
 QString luogoDiSvolta(const QString& place) {
-    return taglia(taglia(Trim(place), u'('), u'[');
+    return cutAt(cutAt(Trim(place), u'('), u'[');
 }
 
 Ritorno ritornoAStart(const std::vector<QStringView>& places) {

@@ -11,7 +11,7 @@ namespace {
 /// Whoever types an end may name any row: one behind all tables then.
 int rowOf(const QString& end) {
     constexpr double behindAll = 999'999;
-    return arrotonda(std::clamp(Val(end.section(u' ', 0, 0)), 0.0, behindAll));
+    return roundToInt(std::clamp(Val(end.section(u' ', 0, 0)), 0.0, behindAll));
 }
 
 } // namespace
@@ -22,7 +22,7 @@ QString testoEstremo(int riga, const QString& numero, const QString& tipoStrada,
     return number.rightJustified(digits, u'0') + u' ' + tipoStrada + u' ' + luogo;
 }
 
-void TrattoScelto::sceglie(bool comePrima, const QString& estremo) {
+void TrattoScelto::choose(bool comePrima, const QString& estremo) {
     QString& chosen = comePrima ? prima : ultima;
     QString& other = comePrima ? ultima : prima;
     chosen = estremo;
@@ -39,7 +39,7 @@ int TrattoScelto::aRiga() const {
 }
 
 int TrattoScelto::tappe() const {
-    return scelto() ? Maggiore(aRiga() - daRiga() + 1, 0) : 0;
+    return isChosen() ? Maggiore(aRiga() - daRiga() + 1, 0) : 0;
 }
 
 QString conModifiche(QString mappa, int da, int a) {

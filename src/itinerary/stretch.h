@@ -14,9 +14,9 @@ struct TrattoScelto {
     QString ultima;
 
     /// The row as first or last leg. An end that would stand the wrong way round, or isn't chosen yet, comes along.
-    void sceglie(bool comePrima, const QString& estremo);
+    void choose(bool comePrima, const QString& estremo);
 
-    [[nodiscard]] bool scelto() const { return !prima.isEmpty() && !ultima.isEmpty(); }
+    [[nodiscard]] bool isChosen() const { return !prima.isEmpty() && !ultima.isEmpty(); }
     /// Rows of the ends, from 1; 0 while the end isn't chosen.
     [[nodiscard]] int daRiga() const;
     [[nodiscard]] int aRiga() const;

@@ -34,7 +34,7 @@ QString endAtRow(const Form& form, int row) {
 
 void choose(Form& form, bool asFirst) {
     TrattoScelto stretch = shownStretch(form);
-    stretch.sceglie(asFirst, endAtRow(form, form.mfgTab.row()));
+    stretch.choose(asFirst, endAtRow(form, form.mfgTab.row()));
     showEnds(form, stretch);
 }
 
@@ -78,7 +78,7 @@ bool storeIfWanted(Form& form) {
 }
 
 void leave(Form& form) {
-    if (!storeIfWanted(form) || !lasciaCampi(form))
+    if (!storeIfWanted(form) || !leaveFields(form))
         return;
     close(form);
     RicaricaItinerario(form);
@@ -86,7 +86,7 @@ void leave(Form& form) {
 
 void showStretch(Form& form) {
     const TrattoScelto stretch = shownStretch(form);
-    form.cmdTappaSEl(2).setEnabled(stretch.scelto());
+    form.cmdTappaSEl(2).setEnabled(stretch.isChosen());
     form.txttappasel(2).setText(QString::number(stretch.tappe()));
     if (stretch.daRiga() < stretch.aRiga())
         SelezioneGriglia(form, stretch.daRiga(), stretch.aRiga(), 0, 99);
@@ -97,7 +97,7 @@ bool legsInTable(Form& form) {
     if (form.stato.ModoGuida)
         return false;
     if (form.tappeConservate)
-        sbloccaTappe(form);
+        unlockLegs(form);
     return true;
 }
 
@@ -110,7 +110,7 @@ void cmdModStrada_Click(Form& form) {
     form.cmdTappaSEl(2).setEnabled(false);
 }
 
-bool chiudeTratto(Form& form) {
+bool closeStretch(Form& form) {
     if (legsInTable(form) && !storeIfWanted(form))
         return false;
     close(form);
@@ -122,8 +122,8 @@ void cmdTappaSEl_Click(Form& form, int i) {
         if (i == 3)
             close(form);
         else
-            form.rifiuta(QStringLiteral("Impossibile: nella tabella c'è la guida.\n\nChiudere prima la guida."),
-                         QStringLiteral("Modifica tratto"));
+            form.refuse(QStringLiteral("Impossibile: nella tabella c'è la guida.\n\nChiudere prima la guida."),
+                        QStringLiteral("Modifica tratto"));
         return;
     }
     if (form.stato.MappaModifiche.isEmpty())
@@ -139,7 +139,7 @@ void cmdTappaSEl_Click(Form& form, int i) {
     showStretch(form);
 }
 
-void scegliSingolaTappa(Form& form, int riga) {
+void chooseSingleLeg(Form& form, int riga) {
     if (!form.chkTappaSingola.value() || form.stato.ModoGuida || form.tappeConservate)
         return;
     cmdTappaSEl_Click(form, 0);

@@ -11,8 +11,8 @@ void cmdModStrada_Click(Form& form);
 void cmdTappaSEl_Click(Form& form, int i);
 /// Leaves the mode, asking for what was assigned and leaving the table as it is; false if it was to be stored and
 /// can't be.
-[[nodiscard]] bool chiudeTratto(Form& form);
+[[nodiscard]] bool closeStretch(Form& form);
 /// A click on a row of the table while every leg is worked by itself: the row is the stretch.
-void scegliSingolaTappa(Form& form, int riga);
+void chooseSingleLeg(Form& form, int riga);
 
 } // namespace vanzer

@@ -10,8 +10,8 @@ namespace vanzer {
 bool tappaDigitata(const Form& form) {
     const Grid& grid = form.mfgTab;
     const int row = form.stato.RigaCorrente;
-    const LuogoConMarche place = separaMarche(grid.cell(row, tappaLuogo));
-    const SostaConFine stop = separaSosta(grid.cell(row, tappaSosta));
+    const LuogoConMarche place = splitMarks(grid.cell(row, tappaLuogo));
+    const SostaConFine stop = splitStop(grid.cell(row, tappaSosta));
     if (form.txtTappa.text() != place.nome || form.txtNumStrada.text() != stradaMostrata(grid, row) ||
         form.txtKm.text() != Trim(grid.cell(row, tappaKm)) || form.chkEndDay.value() != stop.fineGiornata ||
         sostaDigitata(form) != (stop.durata.isEmpty() ? senzaSosta : QStringView(stop.durata)))
@@ -23,7 +23,7 @@ bool tappaDigitata(const Form& form) {
            (type && !form.optStrada(*type).value());
 }
 
-bool lasciaTappa(Form& form) {
+bool leaveLeg(Form& form) {
     if (!form.interattiva || !form.cmdInserisce.reachable() || !tappaDigitata(form))
         return true;
     const QString place = Trim(form.txtTappa.text());

@@ -11,6 +11,6 @@ namespace vanzer {
 
 /// Before a user, when the fields are about to show another row or to go: asks whether a leg that is typed and not in
 /// the table is to be put in, and does so. False if it can't be, or the user wants to go on with it.
-[[nodiscard]] bool lasciaTappa(Form& form);
+[[nodiscard]] bool leaveLeg(Form& form);
 
 } // namespace vanzer

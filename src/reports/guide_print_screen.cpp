@@ -65,7 +65,7 @@ class StampaGuida {
     void stampa() {
         constexpr int numberBeforeName = 6;
         form_.lstStampanti.clear();
-        run_.passo([this] { run_.foglio().imposta(); });
+        run_.step([this] { run_.foglio().setUp(); });
         form_.lblElaborazione.setCaption(QStringLiteral("Stampa della viandoria"));
         form_.lblElaborazione.setCaption(QStringLiteral("Stampa della viandoria") + pageShown());
         form_.lstStampanti.setEntries(ofTrip_ ? placesOfTrip(form_) : allPlaces(form_));
@@ -78,7 +78,7 @@ class StampaGuida {
             form_.lblElaborazione.setCaption(QStringLiteral("Stampa della guida citta") + pageShown());
         }
         bool printed = false;
-        run_.passo([&] { printed = report_.chiude(); });
+        run_.step([&] { printed = report_.chiude(); });
         if (printed)
             run_.fineDocumento();
         AzzeraPercentuale(form_);
@@ -86,7 +86,7 @@ class StampaGuida {
         if (!run_.fileFatti().isEmpty())
             form_.messaggioFile(QStringLiteral("La guida è nel file:"), run_.fileFatti(), QStringLiteral("Guida Città"),
                                 Icona::Informazione);
-        run_.dicePerduto();
+        run_.tellLost();
     }
 
   private:
@@ -107,7 +107,7 @@ class StampaGuida {
                                         ? openGuide(form_, {{localita, Equal, name}}, {{QStringLiteral("CodiceGuida")}})
                                         : openGuide(form_, {{localita, Like, LikeTesto(name)}}, {});
         for (; !records.EOF_() && !run_.finita(); records.MoveNext()) {
-            run_.passo([&] { report_.StampaRigaGuidaCitta(entryOf(records)); });
+            run_.step([&] { report_.StampaRigaGuidaCitta(entryOf(records)); });
             if (!entries)
                 return;
         }

@@ -31,15 +31,15 @@ ReportGuida::Edges ReportGuida::edgesOf(DettaglioGuida detail) {
 }
 
 void ReportGuida::StampaIntestaPaginaGuida() {
-    sheet_.imposta();
+    sheet_.setUp();
     y_ = 15;
     sheet_.immagine(Immagine::LogoSito, 10, 0, 15);
     sheet_.StampaTesto(title_, y_, x_[1], x_[columns], {.dimensione = 10, .grassetto = true, .posizione = Centro});
     y_ += interlinea + 3;
-    sheet_.riempie(verdeChiaro);
+    sheet_.fill(verdeChiaro);
     sheet_.penna(3);
     sheet_.riquadro(x_[0] - 2, y_ - 5, x_[columns], y_ + 1);
-    sheet_.riempie({});
+    sheet_.fill({});
     sheet_.penna(1);
     const Headings& headings = detail_ == DettaglioGuida::Voci ? entryHeadings : nameHeadings;
     for (std::size_t i = 0; i < columns; ++i)
@@ -48,7 +48,7 @@ void ReportGuida::StampaIntestaPaginaGuida() {
     for (std::size_t i = 1; i < columns; ++i)
         sheet_.linea(x_[i] - 1, y_ - 5, x_[i] - 1, y_ + 1);
     nextName_ = 0;
-    top_ = arrotonda(y_ + 2);
+    top_ = roundToInt(y_ + 2);
     y_ += interlinea + 2;
 }
 

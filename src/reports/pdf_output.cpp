@@ -29,7 +29,7 @@ class PdfOutput : public PageOutput {
     bool finish() override {
         if (!pdf_->finish())
             throw error(motivoNonScritto(file_.fileName()));
-        if (const QString reason = mettePosto(file_); !reason.isEmpty())
+        if (const QString reason = commitFile(file_); !reason.isEmpty())
             throw error(reason);
         return true;
     }

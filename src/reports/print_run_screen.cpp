@@ -17,10 +17,10 @@ Piede CorsaDiStampa::piede() const {
 
 void CorsaDiStampa::fallita(const QString& reason) {
     failed_ = true;
-    manca(reason);
+    isMissing(reason);
 }
 
-void CorsaDiStampa::manca(const QString& what) {
+void CorsaDiStampa::isMissing(const QString& what) {
     if (!what.isEmpty() && !missing_.contains(what))
         missing_ << what;
 }
@@ -31,14 +31,14 @@ void CorsaDiStampa::fineDocumento() {
         unwanted_ = true;
         printer.dropDoc();
     } else {
-        passo([this, &printer] {
+        step([this, &printer] {
             unwanted_ = !printer.endDoc();
             files_ += printer.madeFiles();
         });
     }
 }
 
-void CorsaDiStampa::dicePerduto() {
+void CorsaDiStampa::tellLost() {
     if (!missing_.isEmpty())
         form_.messaggio(QStringLiteral("La stampa non è completa:\n\n") + missing_.join(u'\n'),
                         QStringLiteral("Stampa"), Icona::Avviso);

@@ -20,7 +20,7 @@ class CorsaDiStampa {
     [[nodiscard]] Piede piede() const;
 
     /// Carries out a step of the drawing, unless one before it has failed. A step that fails ends the print.
-    template<typename Step> void passo(const Step& step) {
+    template<typename Step> void step(const Step& step) {
         if (failed_)
             return;
         try {
@@ -32,7 +32,7 @@ class CorsaDiStampa {
     /// Keeps what failed, for the message at the end, and ends the print.
     void fallita(const QString& reason);
     /// Kept for the message at the end; the print goes on.
-    void manca(const QString& what);
+    void isMissing(const QString& what);
 
     /// A step has failed, or the user wants no more.
     [[nodiscard]] bool finita() const { return failed_ || form_.stato.InterrompiStampa; }
@@ -43,7 +43,7 @@ class CorsaDiStampa {
     /// The files that the documents went into.
     [[nodiscard]] const QStringList& fileFatti() const { return files_; }
     /// Tells what is missing of the print, if anything is.
-    void dicePerduto();
+    void tellLost();
 
   private:
     Form& form_;

@@ -84,7 +84,7 @@ void cmdSelStampante_Click(Form& form, int index) {
     }
 }
 
-void chiedeDiInterrompereLaStampa(Form& form) {
+void askToInterruptPrint(Form& form) {
     if (form.domanda(QStringLiteral("Vuoi interrompere la stampa?"), QStringLiteral("Stampa"), Pulsanti::SiNo) ==
         rispostaSi)
         form.stato.InterrompiStampa = true;

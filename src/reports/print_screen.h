@@ -19,6 +19,6 @@ void VisualizzaListaStampanti(Form& form);
 void cmdSelStampante_Click(Form& form, int index);
 
 /// Asks whether the print that is running is to be given up.
-void chiedeDiInterrompereLaStampa(Form& form);
+void askToInterruptPrint(Form& form);
 
 } // namespace vanzer

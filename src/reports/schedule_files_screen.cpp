@@ -42,7 +42,7 @@ void askAndWrite(Form& form, FormatoViandoria format) {
     if (path.isEmpty())
         return;
     const QString shown = QDir::toNativeSeparators(path);
-    if (const QString reason = scriveViandoria(form, format, path); reason.isEmpty())
+    if (const QString reason = writeSchedule(form, format, path); reason.isEmpty())
         form.messaggioFile(QStringLiteral("La viandoria è nel file:\n\n") + shown, {fileAt(form, path)}, title,
                            Icona::Informazione);
     else
@@ -51,8 +51,8 @@ void askAndWrite(Form& form, FormatoViandoria format) {
 
 } // namespace
 
-QString scriveViandoria(const Form& form, FormatoViandoria format, const QString& path) {
-    return store::scrivePerAltri(fileAt(form, path), contents(form, format), form.archivio.PercorsoDatabase);
+QString writeSchedule(const Form& form, FormatoViandoria format, const QString& path) {
+    return store::writeForOthers(fileAt(form, path), contents(form, format), form.archivio.PercorsoDatabase);
 }
 
 void cmdCalendario_Click(Form& form) {

@@ -77,7 +77,7 @@ class StampaItinerario {
         form_.frmframe(riquadroOpzioniStampa).setVisible(false);
         table_ = intestazioneTabella(trip_.localita);
         if (pages() || forms() || cover() || line())
-            run_.passo([this] { run_.foglio().imposta(); });
+            run_.step([this] { run_.foglio().setUp(); });
         form_.lblElaborazione.setCaption(printing);
         form_.stato.PercentualeTotale = form_.mfgTab.rows() - 1;
         covers();
@@ -86,9 +86,9 @@ class StampaItinerario {
         writeFile(placesFile, listaLocalita(form_.mfgTab.rows(), cell_));
         AzzeraPercentuale(form_);
         if (pages())
-            run_.passo([this] { report_.finePagina(); });
+            run_.step([this] { report_.finePagina(); });
         if (line() && !run_.finita())
-            run_.passo([this] { stampaLinea(run_.foglio(), trip_.localita, lineaMostrata(form_), run_.piede()); });
+            run_.step([this] { stampaLinea(run_.foglio(), trip_.localita, lineaMostrata(form_), run_.piede()); });
         if (!pages() && cover())
             run_.fineDocumento();
         if (forms())
@@ -108,9 +108,9 @@ class StampaItinerario {
         for (std::size_t i = 0; i < titles.size(); ++i)
             titles[i] = form_.chkVociFrontespizio(static_cast<int>(i)).value();
         if (cover())
-            run_.passo([&] { report_.frontespizioGenerale(titles); });
+            run_.step([&] { report_.frontespizioGenerale(titles); });
         if (pages())
-            run_.passo([this] { report_.frontespizioViandoria(); });
+            run_.step([this] { report_.frontespizioViandoria(); });
     }
 
     /// The table gets all rows, even if the pages end early.
@@ -121,7 +121,7 @@ class StampaItinerario {
                 form_.stato.PercentualeCorrente = r;
                 AggiornaPercentuale(form_);
                 if (pages())
-                    run_.passo([this, r] { printRow(r); });
+                    run_.step([this, r] { printRow(r); });
                 form_.yield();
             }
             table_ << rigaTabella(r, cell_);
@@ -129,7 +129,7 @@ class StampaItinerario {
     }
 
     void printRow(int r) {
-        report_.preparaPagina(r);
+        report_.preparePage(r);
         form_.lblElaborazione.setCaption(pageShown());
         form_.mfgTab.setCell(r, colFineGiornata, {});
         report_.StampaRiga(r);
@@ -142,10 +142,10 @@ class StampaItinerario {
     }
 
     void writeFile(const QString& name, const QStringList& lines) {
-        const QString reason = store::scrivePerAltri(form_.archivio.PercorsoProgramma + name, contenutoTesto(lines),
+        const QString reason = store::writeForOthers(form_.archivio.PercorsoProgramma + name, contenutoTesto(lines),
                                                      form_.archivio.PercorsoDatabase);
         if (!reason.isEmpty())
-            run_.manca(QStringLiteral("%1: %2").arg(percorsoMostrato(form_, name), reason));
+            run_.isMissing(QStringLiteral("%1: %2").arg(percorsoMostrato(form_, name), reason));
     }
 
     void logbook() {
@@ -182,7 +182,7 @@ class StampaItinerario {
                             (done.isEmpty() ? run_.fileFatti() : QStringList()) +
                                 QStringList{form_.archivio.PercorsoProgramma + fileTabella.toString(),
                                             form_.archivio.PercorsoProgramma + placesFile});
-        run_.dicePerduto();
+        run_.tellLost();
     }
 
     Form& form_;

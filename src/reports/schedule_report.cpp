@@ -59,7 +59,7 @@ constexpr std::array<double, 17> baseEdges = [] {
 
 /// Edges are whole millimetres.
 void move(double& edge, double to) {
-    edge = arrotonda(to);
+    edge = roundToInt(to);
 }
 
 Stile bold(double size, Posizione at = Sinistra) {
@@ -160,7 +160,7 @@ std::vector<QString> titleLines(Foglio& sheet, const QString& name) {
     const QString first = lines.front();
     if (sheet.larghezza(first, plain(titleSize)) <= widest)
         return lines;
-    const qsizetype half = arrotonda(static_cast<double>(first.size()) / 2);
+    const qsizetype half = roundToInt(static_cast<double>(first.size()) / 2);
     qsizetype at = first.indexOf(u' ', half - 1);
     if (at < 0)
         at = first.lastIndexOf(u' ', half - 1);
@@ -200,7 +200,7 @@ void ReportViandoria::finePagina() {
     StampaFinePagina(sheet_, foot_, y_, top_, baseEdges[1], baseEdges[4], lastEdge);
 }
 
-void ReportViandoria::preparaPagina(int row) {
+void ReportViandoria::preparePage(int row) {
     if (y_ <= lastScheduleLine)
         return;
     finePagina();
@@ -208,9 +208,9 @@ void ReportViandoria::preparaPagina(int row) {
 }
 
 void ReportViandoria::StampaIntestaPagina(bool first) {
-    sheet_.imposta();
+    sheet_.setUp();
     sheet_.penna(3);
-    sheet_.riempie(verdeChiaro);
+    sheet_.fill(verdeChiaro);
     sheet_.riquadro(40, 10, 130, 20);
     sheet_.riquadro(135, 10, 175, 20);
     sheet_.riquadro(180, 10, 200, 20);
@@ -224,13 +224,13 @@ void ReportViandoria::StampaIntestaPagina(bool first) {
         y_ -= 1;
     }
     sheet_.penna(3);
-    sheet_.riempie(verdeChiaro);
+    sheet_.fill(verdeChiaro);
     sheet_.riquadro(firstEdge - 2, y_, lastEdge, y_ + 6);
     sheet_.penna(1);
-    sheet_.riempie({});
+    sheet_.fill({});
     y_ += interlinea;
     headings(y_);
-    top_ = arrotonda(y_ + 2.5);
+    top_ = roundToInt(y_ + 2.5);
     y_ = top_ + interlinea;
 }
 
@@ -248,12 +248,12 @@ void ReportViandoria::headings(double y) {
 }
 
 void ReportViandoria::StampaCaratteristiche() {
-    sheet_.riempie({});
+    sheet_.fill({});
     tripTimes(y_);
     roads(y_);
     dayTimes(y_);
     rests(y_);
-    sheet_.riempie(verdeChiaro);
+    sheet_.fill(verdeChiaro);
     y_ += 23;
 }
 
@@ -373,7 +373,7 @@ void ReportViandoria::cell(int row, int column, Edges& x) {
     }
     if (j == colLuogo)
         s = name(row, PrimoMaiuscolo(s, false), x, style.grassetto);
-    style.corsivo = j == colSostaMassima || (j == colNota && contiene(s, u"Riposo"));
+    style.corsivo = j == colSostaMassima || (j == colNota && contains(s, u"Riposo"));
     if (j == colNota && s.contains(u'[')) {
         note(s, style.corsivo, x);
         return;

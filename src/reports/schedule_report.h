@@ -55,7 +55,7 @@ class ReportViandoria {
     void frontespizioGenerale(const VociFrontespizio& titles);
     void frontespizioViandoria();
     /// A page begins where the row needs one; the first row's has the trip's data.
-    void preparaPagina(int row);
+    void preparePage(int row);
     void StampaRiga(int row);
     void finePagina();
 

@@ -15,7 +15,7 @@ const QString serif = QStringLiteral("Times new roman");
 
 } // namespace
 
-void Foglio::imposta() {
+void Foglio::setUp() {
     printer_.setPaperSize(9);
     printer_.setOrientation(1);
     printer_.setScaleMode(6);
@@ -81,7 +81,7 @@ void StampaFinePagina(Foglio& sheet, const Piede& foot, double y, double top, do
     sheet.StampaTesto(foot.data, y, left, dateRight, small);
     sheet.StampaTesto(foot.finestra, y, 1, right, {.dimensione = 6, .corsivo = true, .posizione = Posizione::Destra});
     sheet.penna(3);
-    sheet.riempie({});
+    sheet.fill({});
     sheet.riquadro(left - 2, top, right, y - interlinea);
     sheet.nuovaPagina();
 }

@@ -30,7 +30,7 @@ class Foglio {
     explicit Foglio(Printer& printer) : printer_(printer) {}
 
     /// A4, portrait, mm, the report's font, a thin pen and no fill.
-    void imposta();
+    void setUp();
     /// The condensed font of the reports, or the other one where it is missing.
     void SettaFontNamePrinter();
 
@@ -42,7 +42,7 @@ class Foglio {
 
     void penna(int steps) { pen_ = steps; }
     /// Nothing leaves boxes open.
-    void riempie(std::optional<quint32> colour) { fill_ = colour; }
+    void fill(std::optional<quint32> colour) { fill_ = colour; }
     void linea(double x1, double y1, double x2, double y2);
     void riquadro(double x1, double y1, double x2, double y2);
     void immagine(Immagine picture, double x, double y, double size);

@@ -58,7 +58,7 @@ QStringList listaLocalita(int rows, const CellaViandoria& cell) {
         const QString place = Trim(cell(r, colTappa));
         if (passedOver(place))
             continue;
-        if (contiene(place, u"INGRESSO "))
+        if (contains(place, u"INGRESSO "))
             nation = Trim(Mid(place, posizione(place, u"IN ") + 3));
         else
             lines << nation + tab + withoutDirections(place);

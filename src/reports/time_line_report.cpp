@@ -65,7 +65,7 @@ class Pagina {
             riga(day, y);
             y += height;
         }
-        sheet_.riempie({});
+        sheet_.fill({});
         sheet_.riquadro(left, top, right, end);
         sheet_.StampaTesto(foot_.data, bottom + interlinea, left, firstHour + 10, {.dimensione = 6, .corsivo = true});
         sheet_.StampaTesto(foot_.finestra, bottom + interlinea, left, right,
@@ -80,12 +80,12 @@ class Pagina {
         for (const Colore& c : colori) {
             constexpr double sample = 5;
             constexpr double each = 30;
-            sheet_.riempie(c.colore);
+            sheet_.fill(c.colore);
             sheet_.riquadro(x, legendLine - 3.5, x + sample, legendLine);
             sheet_.StampaTesto(nomeAttivita(c.tipo), legendLine, x + sample + 1.5, x + each, {.dimensione = 8});
             x += each;
         }
-        sheet_.riempie({});
+        sheet_.fill({});
     }
 
     void hours(double end) {
@@ -108,7 +108,7 @@ class Pagina {
                                {.dimensione = size, .posizione = Destra});
         for (const Barra& bar : day.barre)
             barra(bar, y, base, size);
-        sheet_.riempie({});
+        sheet_.fill({});
     }
 
     void barra(const Barra& bar, double y, double base, double size) {
@@ -118,7 +118,7 @@ class Pagina {
             return;
         const double from = across(bar.da);
         const double to = across(bar.a);
-        sheet_.riempie(fill);
+        sheet_.fill(fill);
         sheet_.riquadro(from, y + height_ * air, to, y + height_ * (1 - air));
         if (const QString name = shortened(activity.nome, to - from); !name.isEmpty())
             inTheMiddle(name, base, from, to, std::min(size, 8.0));

@@ -43,7 +43,7 @@ void storeCoefficient(Form& form) {
     if (record.EOF_() || record.testo(QStringLiteral("Coefficiente")) == value)
         return;
     record.Edit();
-    record.scrive(QStringLiteral("Coefficiente"), value);
+    record.write(QStringLiteral("Coefficiente"), value);
     record.Update();
 }
 
@@ -164,7 +164,7 @@ class Calcolo {
 
     void chiude(ScopoCalcolo purpose) {
         if (trip_.Coefficiente != 1)
-            form_.archivio.scriveRicavati([this] { storeCoefficient(form_); });
+            form_.archivio.writeDerived([this] { storeCoefficient(form_); });
         showPanel(form_, last_.pannello);
         if (last_.pannello.giuliano != 0)
             form_.txtFine(6).setText(QString::number(trip_.GiorniCalcolati));
@@ -186,7 +186,7 @@ class Calcolo {
 
     DatiAdeguamento fittingData() {
         const int driving =
-            arrotonda(static_cast<double>(ghmStringa2Centesimi(form_.txtTempo(4).text(), trip_.OreGuidaGiorno)));
+            roundToInt(static_cast<double>(ghmStringa2Centesimi(form_.txtTempo(4).text(), trip_.OreGuidaGiorno)));
         DatiAdeguamento data;
         data.valoreMemorizzato = storedCoefficient(form_);
         data.giorniGuida = giorniDiGuida(driving, trip_.OreGuidaGiorno);
@@ -213,13 +213,13 @@ class Calcolo {
             if (s_.InterrompiCalcolo || row < next)
                 return s_.InterrompiCalcolo;
             next = row + step;
-            view.mostra(soFar);
+            view.showIfDue(soFar);
             s_.PercentualeCorrente = row;
             AggiornaPercentuale(form_);
             return false;
         };
         used_ = parametriSimulazione(form_);
-        last_ = simula(prepared_->righe, used_, trip_.Coefficiente, looksUp, std::move(last_.righe));
+        last_ = simulate(prepared_->righe, used_, trip_.Coefficiente, looksUp, std::move(last_.righe));
         trip_.GiulianoCorrente = last_.giuliano;
         trip_.OraCorrente = last_.ora;
         trip_.NumeroTraghetti = last_.traghetti;
@@ -284,7 +284,7 @@ ParametriSimulazione parametriSimulazione(const Form& form) {
         .oraInizioViaggio = s.OraInizioViaggio,
         .giulianoInizio = s.GiulianoInizio,
         .giorniDesiderati = s.GiorniDesiderati,
-        .range = arrotonda(Int(Val(form.cmbRange.text()) * 100 / 60)),
+        .range = roundToInt(Int(Val(form.cmbRange.text()) * 100 / 60)),
         .medie = medieMostrate(form),
     };
 }
@@ -297,7 +297,7 @@ void cmdCalcola_Click(Form& form) {
     AbilitaPulsantiMeta(form, pulsanti::nessuno);
     if (!uguale(form.cmdCalcola.caption(), u"&Calcola")) {
         RinunciaStampa(form);
-        sbloccaTappe(form);
+        unlockLegs(form);
     } else {
         form.cmbRicerca.setVisible(false);
         CalcolaViandoria(form);

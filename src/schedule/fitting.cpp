@@ -15,7 +15,7 @@ constexpr double milionesimi = 1000000;
 int giorniDiGuida(int drivingTime, float oreGuidaGiorno) {
     if (oreGuidaGiorno == 0)
         return 1;
-    return std::max(arrotonda(Int(drivingTime / static_cast<double>(oreGuidaGiorno) + 0.99)), 1);
+    return std::max(roundToInt(Int(drivingTime / static_cast<double>(oreGuidaGiorno) + 0.99)), 1);
 }
 
 double coefficienteDiPartenza(const DatiAdeguamento& data, int giorniDesiderati) {
@@ -44,7 +44,7 @@ Adeguamento::Passo Adeguamento::prossimo(int giorniCalcolati, int giorniDesidera
         // The fresh start has failed too: the search goes on at 1, and its tests are counted on.
         coefficiente_ = 1;
     } else if (numeroTest_ != 0) {
-        cambia(giorniCalcolati, giorniDesiderati);
+        change(giorniCalcolati, giorniDesiderati);
     }
     if (!conSoste || giorniDesiderati == 0)
         coefficiente_ = 1;
@@ -52,7 +52,7 @@ Adeguamento::Passo Adeguamento::prossimo(int giorniCalcolati, int giorniDesidera
     return Passo::Prova;
 }
 
-void Adeguamento::cambia(int giorniCalcolati, int giorniDesiderati) {
+void Adeguamento::change(int giorniCalcolati, int giorniDesiderati) {
     const double change = giorniDesiderati <= giorniCalcolati ? -passo_ : passo_;
     coefficiente_ = static_cast<float>(Int((static_cast<double>(coefficiente_) + change) * milionesimi) / milionesimi);
     if (coefficiente_ < 0) {

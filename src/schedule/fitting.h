@@ -46,7 +46,7 @@ class Adeguamento {
     [[nodiscard]] int numeroTest() const { return numeroTest_; }
 
   private:
-    void cambia(int giorniCalcolati, int giorniDesiderati);
+    void change(int giorniCalcolati, int giorniDesiderati);
 
     DatiAdeguamento data_;
     double partenza_;

@@ -7,8 +7,8 @@
 
 namespace vanzer {
 
-void cresce(TestiTabella& rows, const Viandoria& soFar, const std::vector<RigaDiLavoro>& work,
-            const TestiViandoria& texts) {
+void grow(TestiTabella& rows, const Viandoria& soFar, const std::vector<RigaDiLavoro>& work,
+          const TestiViandoria& texts) {
     // A long rest may have been noted on the last two rows since.
     constexpr std::size_t unsettled = 2;
     const std::size_t made = std::min(static_cast<std::size_t>(rows.rows()), soFar.righe.size());

@@ -12,8 +12,8 @@ inline constexpr std::size_t massimoRigheNuove = 400;
 
 /// Brings the texts of a test's first rows up to what it has written so far, or as near as one call goes. `rows` holds
 /// what an earlier call made for the same test, or nothing; all but its last two rows stay as they are.
-void cresce(TestiTabella& rows, const Viandoria& soFar, const std::vector<RigaDiLavoro>& work,
-            const TestiViandoria& texts);
+void grow(TestiTabella& rows, const Viandoria& soFar, const std::vector<RigaDiLavoro>& work,
+          const TestiViandoria& texts);
 
 /// Keeps showings apart by twenty times what the last one took: all of them together take a twentieth of the time.
 class RitmoMostre {
@@ -22,8 +22,8 @@ class RitmoMostre {
 
     [[nodiscard]] static Istante adesso() { return std::chrono::steady_clock::now(); }
     /// Whether a showing may begin.
-    [[nodiscard]] bool tocca(Istante now) const { return now >= next_; }
-    void mostrata(Istante begin, Istante end) { next_ = end + 20 * (end - begin); }
+    [[nodiscard]] bool isDue(Istante now) const { return now >= next_; }
+    void shown(Istante begin, Istante end) { next_ = end + 20 * (end - begin); }
 
   private:
     Istante next_ = Istante::min();

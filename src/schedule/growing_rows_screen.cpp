@@ -15,14 +15,14 @@ VistaCrescente::~VistaCrescente() {
     form_.mfgTab.setEnabled(enabled_);
 }
 
-void VistaCrescente::mostra(const Viandoria& soFar) {
+void VistaCrescente::showIfDue(const Viandoria& soFar) {
     if (soFar.righe.empty() || !form_.ports.events.frameDue())
         return;
     const RitmoMostre::Istante begin = RitmoMostre::adesso();
-    if (!rhythm_.tocca(begin))
+    if (!rhythm_.isDue(begin))
         return;
     show(soFar);
-    rhythm_.mostrata(begin, RitmoMostre::adesso());
+    rhythm_.shown(begin, RitmoMostre::adesso());
 }
 
 void VistaCrescente::show(const Viandoria& soFar) {
@@ -33,7 +33,7 @@ void VistaCrescente::show(const Viandoria& soFar) {
     TestiTabella rows = grid.takeContents();
     if (std::exchange(fresh_, false))
         rows = {};
-    cresce(rows, soFar, work_, texts_);
+    grow(rows, soFar, work_, texts_);
     grid.setContents(std::move(rows));
     grid.setTopRow(grid.rows() - 1);
     shown_ = true;

@@ -19,7 +19,7 @@ class VistaCrescente {
     void nuovaProva() { fresh_ = true; }
     /// Shows the rows so far, the newest in view, if a frame is due and the last showing is paid for. The next yield
     /// lets the window draw them.
-    void mostra(const Viandoria& soFar);
+    void showIfDue(const Viandoria& soFar);
 
   private:
     void show(const Viandoria& soFar);

@@ -18,7 +18,7 @@ namespace {
 constexpr float sostaRidotta = 1;
 
 bool holdsMark(const QString& place, QStringView mark) {
-    return place.contains(u'[') && contiene(place, mark);
+    return place.contains(u'[') && contains(place, mark);
 }
 
 void makeMarksConsistent(std::vector<TappaDaPreparare>& legs) {
@@ -55,8 +55,8 @@ class Preparatore {
     }
 
     void tappa(const TappaDaPreparare& leg) {
-        if (with_.avanza)
-            with_.avanza(leg.riga);
+        if (with_.advance)
+            with_.advance(leg.riga);
         if (leg.luogo.isEmpty())
             return;
         inside_ = inside_ || holdsMark(leg.luogo, marcaStart);
@@ -64,13 +64,13 @@ class Preparatore {
         RigaDiLavoro& row = conLuogo(RigaDiLavoro::Tipo::Tappa, leg);
         row.km = leg.km;
         row.strada = indiceStrada(leg.tipoStrada);
-        row.traghetto = contiene(leg.strada, u"TRAGH");
+        row.traghetto = contains(leg.strada, u"TRAGH");
         const float planned = sostaItinerario(leg);
         const float visited = inside_ && !past_ && conGuida() ? vociGuida(leg) : 0;
         if (leg.sosta.startsWith(u'*'))
             result_.righe.back().fineGiorno = true;
         if (planned > 0 && visited > 0)
-            riduce(first, planned, visited);
+            narrowDown(first, planned, visited);
         past_ = past_ || holdsMark(leg.luogo, marcaEnd);
     }
 
@@ -96,14 +96,14 @@ class Preparatore {
         return with_.fonte == Guida || with_.fonte == Entrambe || with_.fonte == Maggiore || with_.fonte == Minore;
     }
 
-    RigaDiLavoro& aggiunge(RigaDiLavoro::Tipo type, const TappaDaPreparare& leg) {
+    RigaDiLavoro& add(RigaDiLavoro::Tipo type, const TappaDaPreparare& leg) {
         RigaDiLavoro& row = result_.righe.emplace_back();
         row.tipo = type;
         row.tappa = leg.riga;
         return row;
     }
     RigaDiLavoro& conLuogo(RigaDiLavoro::Tipo type, const TappaDaPreparare& leg) {
-        RigaDiLavoro& row = aggiunge(type, leg);
+        RigaDiLavoro& row = add(type, leg);
         row.nome = leg.luogo;
         return row;
     }
@@ -121,7 +121,7 @@ class Preparatore {
         for (const VoceGuida* const entry : with_.guida(PulisceNomeLocalita(leg.luogo))) {
             const float stop = tempoVoce(entry->tempoSosta, with_.oreVisitaGiorno, LetturaTempo::Viandoria);
             const auto type = stop == 0 ? RigaDiLavoro::Tipo::Menzione : RigaDiLavoro::Tipo::SostaGuida;
-            RigaDiLavoro& row = aggiunge(type, leg);
+            RigaDiLavoro& row = add(type, leg);
             row.nome = nomeDellaVoce(*entry, type);
             row.nota = with_.categoria(entry->codice);
             row.sostaGuida = stop;
@@ -131,7 +131,7 @@ class Preparatore {
     }
 
     /// The choices of the larger and the smaller sum: the stops of the other source shrink.
-    void riduce(std::size_t first, float planned, float visited) {
+    void narrowDown(std::size_t first, float planned, float visited) {
         const bool larger = with_.fonte == FonteSoste::Maggiore;
         if (!larger && with_.fonte != FonteSoste::Minore)
             return;
@@ -157,7 +157,7 @@ FonteSoste fonteSoste(const QString& choice) {
     return digit >= 1 && digit <= 6 ? static_cast<FonteSoste>(digit) : FonteSoste::Nessuna;
 }
 
-RigheDiLavoro preparaRighe(std::vector<TappaDaPreparare> legs, const Preparazione& with) {
+RigheDiLavoro prepareRows(std::vector<TappaDaPreparare> legs, const Preparazione& with) {
     makeMarksConsistent(legs);
     Preparatore maker(with, legs.size());
     for (const TappaDaPreparare& leg : legs)

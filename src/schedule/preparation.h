@@ -29,11 +29,11 @@ struct Preparazione {
     std::function<std::vector<const VoceGuida*>(const QString& place)> guida;
     std::function<QString(int category)> categoria;
     /// Called once a leg.
-    std::function<void(int row)> avanza;
+    std::function<void(int row)> advance;
 };
 
 /// Rows without a place may be among the legs. The marks of the stretch are made consistent on the way: an "[End]"
 /// before any "[Start]" goes, and without a "[Start]" the first place receives it.
-[[nodiscard]] RigheDiLavoro preparaRighe(std::vector<TappaDaPreparare> legs, const Preparazione& with);
+[[nodiscard]] RigheDiLavoro prepareRows(std::vector<TappaDaPreparare> legs, const Preparazione& with);
 
 } // namespace vanzer

@@ -89,20 +89,20 @@ std::shared_ptr<const RigheDiLavoro> PreparaTabellaPerCalcoloViandoria(Form& for
     const Preparazione with{
         .fonte = fonteSoste(form.cmbSoste.text()),
         .oreVisitaGiorno = form.viaggio->OreVisitaGiorno,
-        .guida = [&guide](const QString& place) { return guide.usaLuogo(place); },
+        .guida = [&guide](const QString& place) { return guide.usePlace(place); },
         .categoria =
             [&form](int category) {
                 const auto i = static_cast<std::size_t>(category);
                 return i < form.TipiGuidaDescrizione.size() ? form.TipiGuidaDescrizione[i] : QString();
             },
-        .avanza =
+        .advance =
             [&form, &s](int row) {
                 s.PercentualeCorrente = row;
                 AggiornaPercentuale(form);
             },
     };
-    auto prepared = std::make_shared<const RigheDiLavoro>(preparaRighe(legsToPrepare(*form.tappeConservate), with));
-    guide.scrive();
+    auto prepared = std::make_shared<const RigheDiLavoro>(prepareRows(legsToPrepare(*form.tappeConservate), with));
+    guide.write();
     showWorkingRows(form, prepared->righe);
     return prepared;
 }

@@ -51,7 +51,7 @@ class AspettoViandoria {
   public:
     AspettoViandoria(std::vector<AspettoRiga>& looks, const Cella& cell) : looks_(looks), cell_(cell) {}
 
-    void scrive() {
+    void write() {
         for (int r = 1; r < static_cast<int>(looks_.size()); ++r)
             riga(r);
         endDay();
@@ -112,7 +112,7 @@ std::vector<AspettoRiga> aspettoRighe(int rows, const Cella& cell, std::span<con
     if (cell(0, guidaGruppo) == testaGruppo)
         guideLooks(looks, cell, categories);
     else if (isSchedule(rows, cell))
-        AspettoViandoria(looks, cell).scrive();
+        AspettoViandoria(looks, cell).write();
     else
         legLooks(looks, cell);
     return looks;

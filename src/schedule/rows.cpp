@@ -28,13 +28,13 @@ constexpr int righeTotali = 7;
 /// A stop as its text tells it, hundredths.
 float minutiInteri(float stop, float visitingDay) {
     const float unit = visitingDay > 0 ? visitingDay : giornoIntero;
-    return ricompone(scompone(stop, unit), unit);
+    return recompose(splitTime(stop, unit), unit);
 }
 
 /// A stop within a day shows hours and minutes alone.
 QString lunghezzaSosta(float length, float visitingDay) {
     const float unit = visitingDay > 0 ? visitingDay : giornoIntero;
-    if (scompone(length, unit).gg == 0)
+    if (splitTime(length, unit).gg == 0)
         return ghmSenzaGiorni(length, unit);
     const QString text = ghmCentesimi2Stringa(length, unit);
     return text.size() >= 7 && text.startsWith(u"00") ? Mid(text, 4) : text;
@@ -58,7 +58,7 @@ QString noteDelTratto(const RigaViandoria& row, const QString& breakMinutes) {
     return row.pausa ? u"Riposo "_s + breakMinutes + u'\'' + note : note;
 }
 
-void scriveTratto(RigaDiTesti cells, int number, const RigaViandoria& row, const RigaDiLavoro& work,
+void writeStretch(RigaDiTesti cells, int number, const RigaViandoria& row, const RigaDiLavoro& work,
                   const TestiViandoria& texts) {
     cells[colNumero] = QString::number(number);
     cells[colTappa] = row.verso ? u"verso: "_s + RiPulisceNomeLocalita(work.nome) : work.nome;
@@ -70,7 +70,7 @@ void scriveTratto(RigaDiTesti cells, int number, const RigaViandoria& row, const
     cells[colNote] = noteDelTratto(row, texts.minutiPausa);
 }
 
-void scriveSosta(RigaDiTesti cells, const RigaViandoria& row, const RigaDiLavoro& work, const TestiViandoria& texts) {
+void writeStop(RigaDiTesti cells, const RigaViandoria& row, const RigaDiLavoro& work, const TestiViandoria& texts) {
     cells[colTappa] = senzaMarche(RiPulisceNomeLocalita(nomeMostrato(work)));
     cells[colSostaGuida] = lunghezzaSosta(row.sostaGuida, texts.oreVisitaGiorno);
     cells[colSosta] = lunghezzaSosta(minutiInteri(row.sosta, texts.oreVisitaGiorno), texts.oreVisitaGiorno);
@@ -97,7 +97,7 @@ struct TestiGiorno {
     QString settimana; ///< "Lun"
     QString data;      ///< "gg/mm"
 
-    void mostra(float day) {
+    void showIfDue(float day) {
         if (day == giuliano)
             return;
         giuliano = day;
@@ -107,11 +107,11 @@ struct TestiGiorno {
 };
 
 /// The cells of a row as the simulation wrote it. A stop without any length has neither day nor hour.
-void scriveRiga(RigaDiTesti cells, int number, const RigaViandoria& row, const RigaDiLavoro& work,
-                const TestiViandoria& texts, TestiGiorno& day) {
+void writeRow(RigaDiTesti cells, int number, const RigaViandoria& row, const RigaDiLavoro& work,
+              const TestiViandoria& texts, TestiGiorno& day) {
     switch (row.tipo) {
-    case RigaViandoria::Tipo::Tratto: scriveTratto(cells, number, row, work, texts); break;
-    case RigaViandoria::Tipo::Sosta: scriveSosta(cells, row, work, texts); break;
+    case RigaViandoria::Tipo::Tratto: writeStretch(cells, number, row, work, texts); break;
+    case RigaViandoria::Tipo::Sosta: writeStop(cells, row, work, texts); break;
     case RigaViandoria::Tipo::Menzione:
         cells[colTappa] = senzaMarche(nomeMostrato(work));
         cells[colNote] = work.nota;
@@ -123,7 +123,7 @@ void scriveRiga(RigaDiTesti cells, int number, const RigaViandoria& row, const R
     }
     if (row.tipo == RigaViandoria::Tipo::Sosta && cells.text(colSosta).isEmpty() && cells.text(colSostaGuida).isEmpty())
         return;
-    day.mostra(row.giuliano);
+    day.showIfDue(row.giuliano);
     cells[colGiorno] = day.settimana;
     cells[colData] = day.data;
     cells[colOra] = row.riposoDopo ? u"* "_s + oraMostrata(row.ora) : oraMostrata(row.ora);
@@ -158,9 +158,9 @@ class Chiusura {
             const QString& name = rows_.text(i, colTappa);
             if (!name.contains(u'['))
                 continue;
-            if (contiene(name, marcaStart))
+            if (contains(name, marcaStart))
                 first_ = i;
-            if (contiene(name, marcaEnd))
+            if (contains(name, marcaEnd))
                 end = i;
         }
         last_ = none;
@@ -208,19 +208,19 @@ class Chiusura {
     }
 
     static void adds(SommaViandoria& sum, int km, float time) {
-        sum.km = somma(sum.km, km);
+        sum.km = addToInt(sum.km, km);
         sum.guida += time;
     }
 
     /// What the texts of a row say, read with a day of 24 hours.
     [[nodiscard]] float timeShown(const RigaViandoria& row) const {
-        Ghm time = scompone(row.tempo, texts_.oreGuidaGiorno);
+        Ghm time = splitTime(row.tempo, texts_.oreGuidaGiorno);
         time.gg = 0;
-        return ricompone(time, giornoIntero);
+        return recompose(time, giornoIntero);
     }
     [[nodiscard]] float stopShown(const RigaViandoria& row) const {
         const float visitingDay = texts_.oreVisitaGiorno > 0 ? texts_.oreVisitaGiorno : giornoIntero;
-        return ricompone(scompone(minutiInteri(row.sosta, visitingDay), visitingDay), giornoIntero);
+        return recompose(splitTime(minutiInteri(row.sosta, visitingDay), visitingDay), giornoIntero);
     }
 
     [[nodiscard]] QString inBothDays(float time) const {
@@ -232,7 +232,7 @@ class Chiusura {
         const auto line = [this](const SommaViandoria& sum) {
             return u"\t\tKm. "_s + migliaiaZero(sum.km) + u"  \tGuida "_s + inBothDays(sum.guida);
         };
-        const SommaViandoria rest{somma(trip_.km, -std::int64_t{stretch_.km}), trip_.guida - stretch_.guida,
+        const SommaViandoria rest{addToInt(trip_.km, -std::int64_t{stretch_.km}), trip_.guida - stretch_.guida,
                                   trip_.soste - stretch_.soste};
         return {titoloTotali.toString(),
                 QStringLiteral("Percorso specifico:\t"),
@@ -279,7 +279,7 @@ TestiTabella celleViandoria(const Viandoria& schedule, const std::vector<RigaDiL
     TestiGiorno day;
     for (int i = 0; i < written; ++i) {
         const RigaViandoria& row = schedule.righe[static_cast<std::size_t>(i)];
-        scriveRiga(RigaDiTesti(rows, i), i + 1, row, work[static_cast<std::size_t>(row.lavoro)], texts, day);
+        writeRow(RigaDiTesti(rows, i), i + 1, row, work[static_cast<std::size_t>(row.lavoro)], texts, day);
     }
     return rows;
 }

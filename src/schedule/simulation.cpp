@@ -20,7 +20,7 @@ float f(double x) {
 /// Kilometres that fit into a time, in whole ones; no speed makes a piece longer than any trip.
 int lunghezza(double speed, double hundredths) {
     constexpr double longest = 1000000;
-    return arrotonda(std::min(Int(speed * hundredths / 100), longest));
+    return roundToInt(std::min(Int(speed * hundredths / 100), longest));
 }
 
 /// A milestone of the day with what a walk asks of it at every row.
@@ -67,8 +67,8 @@ class Prova {
     }
 
   private:
-    [[nodiscard]] int daysSoFar() const { return arrotonda(d(giuliano_) - d(p_.giulianoInizio) + 1); }
-    [[nodiscard]] bool vicino(const Traguardo& milestone) const { return milestone.vicino.contiene(ora_); }
+    [[nodiscard]] int daysSoFar() const { return roundToInt(d(giuliano_) - d(p_.giulianoInizio) + 1); }
+    [[nodiscard]] bool vicino(const Traguardo& milestone) const { return milestone.vicino.contains(ora_); }
 
     /// A departure within a meal waits for its end, one behind the night is at the hour of activity of the same date.
     void prepareStart() {
@@ -97,7 +97,7 @@ class Prova {
         cenaFatta_ = false;
     }
 
-    RigaViandoria& aggiunge(RigaViandoria::Tipo type, int work) {
+    RigaViandoria& add(RigaViandoria::Tipo type, int work) {
         RigaViandoria& row = result_.righe.emplace_back();
         row.tipo = type;
         row.lavoro = work;
@@ -109,13 +109,13 @@ class Prova {
     void riga(int index, const RigaDiLavoro& row) {
         switch (row.tipo) {
         case RigaDiLavoro::Tipo::Tappa: tappa(index, row); break;
-        case RigaDiLavoro::Tipo::Menzione: aggiunge(RigaViandoria::Tipo::Menzione, index); break;
+        case RigaDiLavoro::Tipo::Menzione: add(RigaViandoria::Tipo::Menzione, index); break;
         default: sosta(index, row); break;
         }
         if (row.fineGiorno && ora_ > p_.oraColazione) {
             ora_ = p_.oraColazione;
             giuliano_ += 1;
-            aggiunge(RigaViandoria::Tipo::NuovoGiorno, index);
+            add(RigaViandoria::Tipo::NuovoGiorno, index);
         }
     }
 
@@ -145,9 +145,9 @@ class Prova {
             longRest();
             const float departure = ora_;
             ora_ = f(d(ora_) + d(tempoTratta_));
-            panel.kmTotali = somma(panel.kmTotali, km);
-            panel.km[road] = somma(panel.km[road], km);
-            RigaViandoria& row = aggiunge(RigaViandoria::Tipo::Tratto, index);
+            panel.kmTotali = addToInt(panel.kmTotali, km);
+            panel.km[road] = addToInt(panel.km[road], km);
+            RigaViandoria& row = add(RigaViandoria::Tipo::Tratto, index);
             row.km = km;
             row.kmTotali = panel.kmTotali;
             row.tempo = tempoTratta_;
@@ -244,7 +244,7 @@ class Prova {
         const float begin = ora_;
         spend(total);
         mealsFromClock();
-        RigaViandoria& written = aggiunge(RigaViandoria::Tipo::Sosta, index);
+        RigaViandoria& written = add(RigaViandoria::Tipo::Sosta, index);
         written.sosta = total;
         written.inizio = begin;
         written.giornoInizio = dayBefore;
@@ -304,8 +304,8 @@ class Prova {
 
 } // namespace
 
-Viandoria simula(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& with, float coefficiente,
-                 const FermaRiga& stop, std::vector<RigaViandoria> memory) {
+Viandoria simulate(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& with, float coefficiente,
+                   const FermaRiga& stop, std::vector<RigaViandoria> memory) {
     return Prova(rows, with, coefficiente, std::move(memory)).corre(stop);
 }
 

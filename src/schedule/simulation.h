@@ -97,7 +97,8 @@ using FermaRiga = std::function<bool(int row, const Viandoria& soFar)>;
 
 /// `coefficiente` stretches the guide's stops and nothing else. The new rows are written into the memory of earlier
 /// ones that are done with.
-[[nodiscard]] Viandoria simula(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& with,
-                               float coefficiente, const FermaRiga& stop = {}, std::vector<RigaViandoria> memory = {});
+[[nodiscard]] Viandoria simulate(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& with,
+                                 float coefficiente, const FermaRiga& stop = {},
+                                 std::vector<RigaViandoria> memory = {});
 
 } // namespace vanzer

@@ -26,14 +26,14 @@ bool addGuideStops(Form& form) {
         if (grid.cell(r, tappaLuogo).isEmpty())
             continue;
         std::vector<QString> times;
-        for (const VoceGuida* const entry : guide.usaModello(LikeTesto(grid.cell(r, tappaLuogo))))
+        for (const VoceGuida* const entry : guide.usePattern(LikeTesto(grid.cell(r, tappaLuogo))))
             times.push_back(entry->tempoSosta);
         if (times.empty())
             continue;
         grid.setCell(r, tappaSosta, sostaConGuida(grid.cell(r, tappaSosta), times, form.viaggio->OreVisitaGiorno));
         any = true;
     }
-    guide.scrive();
+    guide.write();
     return any;
 }
 
@@ -56,7 +56,7 @@ void cmdAzzeraSoste_Click(Form& form) {
         QStringLiteral("Vuoi azzerare le soste indicate nell'itinerario?\n\n"
                        "I tempi traghetto e riposi non sono influenzati e la\n"
                        "cancellazione sarà effettiva dopo il salvataggio dell'itinerario.\n\nProcedo?");
-    if (form.domandaPericolosa(question, QStringLiteral("Azzera soste itinerario"), descriveMeta(form)) != rispostaSi)
+    if (form.domandaPericolosa(question, QStringLiteral("Azzera soste itinerario"), describeTrip(form)) != rispostaSi)
         return;
     for (int r = 1; r < form.mfgTab.rows(); ++r)
         form.mfgTab.setCell(r, tappaSosta, {});

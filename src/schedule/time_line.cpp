@@ -173,7 +173,7 @@ void counts(Giornata& day, const Attivita& activity, double hundredths, bool beg
     if (activity.tipo != Attivita::Tipo::Guida)
         return;
     day.guida += hundredths;
-    day.km = somma(day.km, begins ? activity.km : 0);
+    day.km = addToInt(day.km, begins ? activity.km : 0);
 }
 
 QString dataMostrata(float giuliano) {
@@ -239,7 +239,7 @@ QString descrizione(const LineaDelTempo& line, const Attivita& activity) {
 Istante istante(const LineaDelTempo& line, double hundredths) {
     const double minutes = std::floor(hundredths * 60 / 100 + 0.5);
     const double days = std::floor(minutes / minutiDelGiorno);
-    const int left = arrotonda(minutes - days * minutiDelGiorno);
+    const int left = roundToInt(minutes - days * minutiDelGiorno);
     return {line.giulianoInizio + static_cast<float>(days), left / 60, left % 60};
 }
 

@@ -66,7 +66,7 @@ std::optional<Request> requested(const QStringList& arguments) {
 QString wordOfFile(const QString& directory) {
     constexpr qsizetype enough = 65536; // bytes of one line
     const QString path = QDir(directory).filePath(u"CommandLine.txt"_s);
-    const vanzer::FileLetto file = vanzer::leggeFile(path);
+    const vanzer::FileLetto file = vanzer::readFile(path);
     const QString reason = QFileInfo::exists(path) ? file.errore : u"non c'è."_s;
     if (!reason.isEmpty())
         throw Problem(u"Il file %1 non può essere letto: %2"_s.arg(QDir::toNativeSeparators(path), reason));

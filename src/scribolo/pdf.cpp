@@ -42,7 +42,7 @@ QString writePdf(const Trip& trip, const QString& directory) {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         throw Problem(u"Il file %1 non può essere scritto: forse la cartella è protetta."_s.arg(shown));
-    const QString reason = drawLogbook(trip, file) ? mettePosto(file) : motivoNonScritto(path);
+    const QString reason = drawLogbook(trip, file) ? commitFile(file) : motivoNonScritto(path);
     if (!reason.isEmpty())
         throw Problem(u"Il file %1 non può essere scritto: %2"_s.arg(shown, reason));
     return path;

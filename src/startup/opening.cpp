@@ -54,11 +54,11 @@ QStringList copyOfTheDay(Form& form, store::Database& archive) {
             form.stato.PercentualeTotale = static_cast<double>(total);
             AbilitaPulsantiMeta(form, pulsanti::soloStop);
         }
-        return shown->avanza(static_cast<double>(done));
+        return shown->advance(static_cast<double>(done));
     };
     QStringList failure;
     try {
-        store::copiaDelGiorno(archive, form.ports.clock.now().date(), progress);
+        store::makeDailyCopy(archive, form.ports.clock.now().date(), progress);
     } catch (const store::StoreError& error) {
         failure += error.kind() == store::StoreError::Kind::Corrupt
                        ? isDamaged(form)
@@ -76,10 +76,10 @@ QStringList copyOfTheDay(Form& form, store::Database& archive) {
 /// once. The result is what the user must be told.
 QStringList checkAndCopy(Form& form, store::Database& archive) {
     using enum store::Database::Salute;
-    const bool due = store::copiaDovuta(archive.percorso(), form.ports.clock.now().date());
+    const bool due = store::copyDue(archive.percorso(), form.ports.clock.now().date());
     if (archive.chiusoInOrdine() && !due)
         return {};
-    const auto health = archive.verifica();
+    const auto health = archive.check();
     if (health == Danneggiato)
         return {isDamaged(form)};
     QStringList told;
@@ -95,7 +95,7 @@ store::Archive::SenzaArchivio askForCopy(Form& form, const store::CopiaTrovata& 
     using enum store::Archive::SenzaArchivio;
     const QFileInfo file(copy.path);
     const QString trips = copy.mete == 1 ? QStringLiteral("1 meta") : QStringLiteral("%1 mete").arg(copy.mete);
-    const int answer = form.chiede(
+    const int answer = form.ask(
         {.text =
              QStringLiteral("L'archivio %1 non c'è, ma in %2 ci sono le sue copie. Riprendere la copia \"%3\" (%4)?")
                  .arg(QDir::toNativeSeparators(form.archivio.PercorsoDatabase), QDir::toNativeSeparators(file.path()),
@@ -128,12 +128,12 @@ QStringList told(const Form& form, const store::Archive::Apertura& opening) {
 /// The result is what the user must be told once the window stands.
 QStringList openArchive(Form& form) {
     QStringList warnings;
-    const store::Archive::Apertura opening = form.archivio.apriArchivio(
+    const store::Archive::Apertura opening = form.archivio.openArchive(
         [&form, &warnings](store::Database& archive) { warnings = checkAndCopy(form, archive); },
         [&form](const store::CopiaTrovata& copy) { return askForCopy(form, copy); });
     form.lblPath.setCaption(form.archivio.PercorsoDatabase);
     if (opening.archivioDiPrima.isEmpty())
-        store::contaAvvio(form.archivio.PercorsoDatabase);
+        store::countStart(form.archivio.PercorsoDatabase);
     return told(form, opening) + warnings;
 }
 
@@ -167,20 +167,20 @@ void Form_Load(Form& form) {
         form.txtGDescr.setMaxLength(form.archivio.Rs(store::GuidaCitta).size(3));
         form.mfgCopia.setVisible(false);
         form.yield();
-        cercaVecchiFile(form);
+        findOldFiles(form);
         AbilitaPulsantiMeta(form, pulsantiDiBase(form));
         ImpostaGiorniMeseInizio(form);
         RipulisceLuoghiGuida(form);
         loaded = true;
     };
     try {
-        memorizzaInsieme(form, load);
+        storeTogether(form, load);
     } catch (const store::StoreError& error) {
         if (!loaded)
             throw;
         warnings += error.testo();
     }
-    ricordaCampi(form);
+    rememberFields(form);
     for (const QString& warning : warnings)
         form.messaggio(warning, QStringLiteral("Archivio"), Icona::Avviso);
 }
@@ -199,12 +199,12 @@ QString openingFailed(const Form& form, const store::StoreError& error) {
 
 } // namespace
 
-void caricaFinestra(Form& form) {
+void loadWindow(Form& form) {
     try {
         Form_Load(form);
     } catch (const store::StoreError& error) {
-        form.rifiuta(openingFailed(form, error));
-        form.archivio.chiudi();
+        form.refuse(openingFailed(form, error));
+        form.archivio.close();
         form.chiusa = true;
     }
 }

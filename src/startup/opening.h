@@ -8,6 +8,6 @@ namespace vanzer {
 
 /// Opens the archive and shows the current trip. If the archive can't be opened the user has been told and the window
 /// is left at once.
-void caricaFinestra(Form& form);
+void loadWindow(Form& form);
 
 } // namespace vanzer

@@ -8,14 +8,14 @@
 
 namespace vanzer {
 
-std::unique_ptr<Form> avvia(const Ambiente& surroundings, Ports& ports) {
+std::unique_ptr<Form> startWindow(const Ambiente& surroundings, Ports& ports) {
     auto form = nuovaFinestra(surroundings, ports);
-    caricaFinestra(*form);
+    loadWindow(*form);
     return form;
 }
 
-void apreViaggi(Form& form, const QString& path) {
-    comando(form, [&form, &path] { apreFileDiViaggi(form, path); });
+void openTripsOf(Form& form, const QString& path) {
+    comando(form, [&form, &path] { openTripsFile(form, path); });
 }
 
 QString nomeRiservato(const Form& form, const QString& path) {

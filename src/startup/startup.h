@@ -9,10 +9,10 @@
 namespace vanzer {
 
 /// The window, wired and with the current trip in it; left at once if the archive can't be opened.
-[[nodiscard]] std::unique_ptr<Form> avvia(const Ambiente& surroundings, Ports& ports);
+[[nodiscard]] std::unique_ptr<Form> startWindow(const Ambiente& surroundings, Ports& ports);
 
 /// Offers the trips of a file that the program was opened with; a command of the user.
-void apreViaggi(Form& form, const QString& path);
+void openTripsOf(Form& form, const QString& path);
 
 /// Why no file for other programs may have that name, as the end of a sentence that begins with "Il file …"; empty if
 /// it is free.

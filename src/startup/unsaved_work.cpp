@@ -75,7 +75,7 @@ void putLegsBack(Form& form, const Bozza& draft, bool lost) {
     if (lost && (changed || typed || draft.editor || draft.tratto))
         daCodiceNuovo(form);
     if (changed)
-        metteTappe(form, draft.tappe);
+        putLegs(form, draft.tappe);
     if (draft.tratto) {
         cmdModStrada_Click(form);
         form.stato.MappaModifiche =
@@ -90,13 +90,13 @@ void putLegsBack(Form& form, const Bozza& draft, bool lost) {
 }
 
 void putBack(Form& form, const Bozza& draft) {
-    const bool stored = !draft.codice.isEmpty() && caricaMeta(form, draft.codice, draft.nome);
+    const bool stored = !draft.codice.isEmpty() && loadDestination(form, draft.codice, draft.nome);
     if (!stored)
         cmdNuovo_Click(form);
     TestiDeiCampi typed = draft.campi;
     if (stored)
         std::erase_if(typed, [&draft](const auto& field) { return !draft.cambiati.contains(field.first); });
-    rimetteCampi(form, typed);
+    putFieldsBack(form, typed);
     ImpostaGiorniMeseInizio(form);
     putLegsBack(form, draft, !stored && !draft.codice.isEmpty());
     form.campiDaRicordare = false;
@@ -146,7 +146,7 @@ std::optional<Bozza> lavoroNonSalvato(const Form& form) {
     return draft;
 }
 
-bool riprendeBozza(Form& form, const Bozza& draft) {
+bool resumeDraft(Form& form, const Bozza& draft) {
     bool whole = false;
     comando(form, [&form, &draft, &whole] {
         putBack(form, draft);
@@ -157,17 +157,17 @@ bool riprendeBozza(Form& form, const Bozza& draft) {
 
 CustodeBozza::CustodeBozza(Form& form) : form_(form), path_(form.archivio.PercorsoProgramma + store::nomeBozza) {
     pool_.setMaxThreadCount(1);
-    form_.primaDelComando = [this] { before_ = lavoroNonSalvato(form_); };
+    form_.beforeCommand = [this] { before_ = lavoroNonSalvato(form_); };
 }
 
 CustodeBozza::~CustodeBozza() {
-    form_.primaDelComando = {};
-    aspetta();
+    form_.beforeCommand = {};
+    wait();
 }
 
 void CustodeBozza::setsAside(QLatin1String ending, const QString& told) {
     try {
-        const QString where = store::metteDaParteBozza(path_, ending);
+        const QString where = store::setDraftAside(path_, ending);
         if (!told.isEmpty())
             form_.messaggio(told.arg(QDir::toNativeSeparators(where)), title, Icona::Avviso);
     } catch (const store::StoreError&) {
@@ -178,12 +178,12 @@ void CustodeBozza::setsAside(QLatin1String ending, const QString& told) {
     }
 }
 
-void CustodeBozza::offre() {
+void CustodeBozza::offer() {
     if (!form_.interattiva || form_.chiusa)
         return;
     std::optional<Bozza> draft;
     try {
-        const std::optional<QByteArray> bytes = store::leggeBozza(path_);
+        const std::optional<QByteArray> bytes = store::readDraft(path_);
         if (!bytes)
             return;
         draft = bozzaDaiByte(*bytes);
@@ -195,25 +195,25 @@ void CustodeBozza::offre() {
         return;
     }
     const int answer =
-        form_.chiede({.text = question(*draft, form_.ports.clock.now().date()),
-                      .title = title,
-                      .buttons = Pulsanti::SiNo,
-                      .detail = QStringLiteral("Con «No» resta accanto all'archivio, in %1, fino al prossimo «No».")
-                                    .arg(store::nomeBozza + store::bozzaRifiutata)});
+        form_.ask({.text = question(*draft, form_.ports.clock.now().date()),
+                   .title = title,
+                   .buttons = Pulsanti::SiNo,
+                   .detail = QStringLiteral("Con «No» resta accanto all'archivio, in %1, fino al prossimo «No».")
+                                 .arg(store::nomeBozza + store::bozzaRifiutata)});
     if (form_.chiusa)
         return; // nobody has answered
     if (answer != rispostaSi)
         setsAside(store::bozzaRifiutata, {});
     else
-        exists_ = riprendeBozza(form_, *draft);
+        exists_ = resumeDraft(form_, *draft);
 }
 
-void CustodeBozza::guarda() {
+void CustodeBozza::look() {
     if (exists_ && !form_.comandoInCorso && !nonSalvato(form_))
         takesAway();
 }
 
-void CustodeBozza::tiene() {
+void CustodeBozza::keep() {
     if (failed_.exchange(false)) {
         written_.reset();
         form_.lblAvviso.setCaption(QStringLiteral("La bozza del lavoro non salvato non è scritta: ") +
@@ -226,13 +226,13 @@ void CustodeBozza::tiene() {
         writes(*work);
 }
 
-void CustodeBozza::lasciata() {
+void CustodeBozza::wasLeft() {
     takesAway();
 }
 
-void CustodeBozza::finisce() {
-    tiene();
-    aspetta();
+void CustodeBozza::finish() {
+    keep();
+    wait();
     exists_ = false;
 }
 
@@ -241,7 +241,7 @@ void CustodeBozza::writes(const Bozza& draft) {
     exists_ = true;
     pool_.start([this, draft, now = form_.ports.clock.now()] {
         try {
-            store::scriveBozza(path_, byteDellaBozza(draft, now));
+            store::writeDraft(path_, byteDellaBozza(draft, now));
         } catch (const store::StoreError&) {
             failed_ = true;
         }
@@ -251,7 +251,7 @@ void CustodeBozza::writes(const Bozza& draft) {
 void CustodeBozza::takesAway() {
     written_.reset();
     if (std::exchange(exists_, false))
-        pool_.start([this] { store::toglieBozza(path_); });
+        pool_.start([this] { store::removeDraft(path_); });
 }
 
 } // namespace vanzer

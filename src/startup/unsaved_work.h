@@ -21,7 +21,7 @@ namespace vanzer {
 
 /// A command of the user: the destination is loaded, or made anew if it isn't stored any more, and what was typed
 /// stands in the window as it stood, unsaved. False if the archive failed.
-[[nodiscard]] bool riprendeBozza(Form& form, const Bozza& draft);
+[[nodiscard]] bool resumeDraft(Form& form, const Bozza& draft);
 
 /// Keeps the draft's file as the work in the window is.
 class CustodeBozza {
@@ -33,20 +33,20 @@ class CustodeBozza {
     CustodeBozza& operator=(const CustodeBozza&) = delete;
 
     /// Offers a draft that lies there. One that is refused, or is none, gets another name.
-    void offre();
+    void offer();
     /// Takes the draft away once everything is stored. Costs nothing while there is none.
-    void guarda();
+    void look();
     /// Writes the draft if the work has changed since it was written last, or takes it away. The work of a command that
     /// is running counts as it stood before it. The disk is written behind; a failure is told by the next call.
-    void tiene();
+    void keep();
     /// What a command that is running does from here on isn't the user's choice: the work stays as it stood before it.
-    void nonSceglieLui() { chosenForHim_ = true; }
+    void notHisChoice() { chosenForHim_ = true; }
     /// The window has been left by its own questions.
-    void lasciata();
+    void wasLeft();
     /// Writes for the last time and waits for it: from here on the file stays as it is.
-    void finisce();
+    void finish();
     /// Waits until what was written is safe on the disk.
-    void aspetta() { pool_.waitForDone(); }
+    void wait() { pool_.waitForDone(); }
 
   private:
     void writes(const Bozza& draft);

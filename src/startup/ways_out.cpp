@@ -44,9 +44,9 @@ constexpr std::array<Aperto, 10> apribili{{
 /// Asks the work that is running to end; false if it can't be asked.
 bool asksToInterrupt(Form& form) {
     if (form.stato.StampaInCorso)
-        chiedeDiInterrompereLaStampa(form);
+        askToInterruptPrint(form);
     else if (form.stato.LavoroInCorso)
-        chiedeDiInterrompere(form);
+        askToInterrupt(form);
     else if (uguale(form.cmdEsce.caption(), u"&Stop") && form.cmdEsce.reachable())
         form.cmdEsce.click();
     else
@@ -56,18 +56,18 @@ bool asksToInterrupt(Form& form) {
 
 } // namespace
 
-bool interrompeSenzaChiedere(Form& form) {
+bool interruptUnasked(Form& form) {
     StatoFinestra& s = form.stato;
     if (s.StampaInCorso)
         s.InterrompiStampa = true;
-    else if (form.comandoInCorso && (s.LavoroInCorso || interrompe(form, form.cmdEsce)))
+    else if (form.comandoInCorso && (s.LavoroInCorso || stopsWork(form, form.cmdEsce)))
         s.InterrompiCalcolo = true;
     else
         return false;
     return true;
 }
 
-bool chiedeDiChiudere(Form& form) {
+bool askToClose(Form& form) {
     if (form.comandoInCorso)
         return asksToInterrupt(form);
     for (const Aperto& thing : apribili) {
@@ -81,14 +81,14 @@ bool chiedeDiChiudere(Form& form) {
     return true;
 }
 
-void rinunciaAllaScelta(Form& form) {
+void giveUpChoice(Form& form) {
     Button* const choices[] = {&form.cmdSelStampante(1), &form.cmdEsegui(1), &form.cmdStampaGuida(1),
                                &form.cmdInsEsegui(1)};
     const auto* const open = std::ranges::find_if(choices, [](const Button* b) { return b->reachable(); });
     if (form.stato.StampaInCorso)
-        chiedeDiInterrompereLaStampa(form);
+        askToInterruptPrint(form);
     else if (form.stato.LavoroInCorso)
-        chiedeDiInterrompere(form);
+        askToInterrupt(form);
     else if (form.comandoInCorso)
         return;
     else if (open != std::end(choices))

@@ -52,22 +52,22 @@ std::function<void()> wired(Form& form, HandlerConIndice handler, int index) {
 std::function<void()> wiredLeaving(Form& form, Handler handler) {
     return [&form, handler] {
         comando(form, [&form, handler] {
-            if (lasciaTappa(form))
+            if (leaveLeg(form))
                 handler(form);
         });
     };
 }
 
 void wireMenu(Form& form) {
-    form.salvaMeta = [&form] { return salvaMeta(form, false); };
+    form.saveDestination = [&form] { return saveDestination(form, false); };
     form.cmdNuovo.onClick = wired(form, cmdNuovo_Click);
     form.cmdSalva.onClick = wired(form, cmdSalva_Click);
     form.cmdRicerca.onClick = wired(form, cmdRicerca_Click);
     form.cmdCancMeta.onClick = wired(form, cmdCancMeta_Click);
     form.cmdCancItin.onClick = wired(form, cmdCancItin_Click);
     form.cmdEsce.onClick = [&form, leaves = wired(form, cmdEsce_Click)] {
-        if (form.comandoInCorso && interrompe(form, form.cmdEsce))
-            chiedeDiInterrompere(form);
+        if (form.comandoInCorso && stopsWork(form, form.cmdEsce))
+            askToInterrupt(form);
         else
             leaves();
     };
@@ -114,7 +114,7 @@ void wireStretches(Form& form) {
     for (int i = 0; i < form.cmdTappaSEl.count(); ++i)
         form.cmdTappaSEl(i).onClick = wired(form, cmdTappaSEl_Click, i);
     form.cmdDuplica.onClick = wiredLeaving(form, cmdDuplica_Click);
-    form.chiudeTratto = [&form] { return chiudeTratto(form); };
+    form.closeStretch = [&form] { return closeStretch(form); };
     form.mfgCopia.onClick = wired(form, mfgCopia_Click);
     form.mfgCopia.onMark = wired(form, mfgCopia_Mark);
     for (int i = 0; i < 2; ++i) {
@@ -125,7 +125,7 @@ void wireStretches(Form& form) {
 
 void wireGuide(Form& form) {
     form.guideRowShown = [&form] { InserisciGuida(form); };
-    form.lasciaRiga = [&form](int& row) { return form.stato.ModoGuida ? lasciaVoce(form, row) : lasciaTappa(form); };
+    form.leaveRow = [&form](int& row) { return form.stato.ModoGuida ? leaveEntry(form, row) : leaveLeg(form); };
     form.cmdSalvaRiga.onClick = wired(form, CmdSalvaRiga_Click);
     form.cmbGTipo.onClick = wired(form, cmbGTipo_Click);
     form.cmdCancellaRiga.onClick = wired(form, cmdCancellaRiga_Click);

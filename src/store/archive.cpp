@@ -35,7 +35,7 @@ bool passes(const TableInfo& stored, const FieldDef& declared) {
 TabellaLetta::Cella cellOf(const Recordset& records, int field) {
     if (records.kind(field) == FieldKind::YesNo)
         return records.siNo(field);
-    return records.haValore(field) ? TabellaLetta::Cella(records.testo(field)) : TabellaLetta::Cella();
+    return records.hasValue(field) ? TabellaLetta::Cella(records.testo(field)) : TabellaLetta::Cella();
 }
 
 } // namespace
@@ -48,7 +48,7 @@ Archive::Archive(const QString& directory) : PercorsoProgramma(QDir::fromNativeS
 }
 
 Archive::~Archive() {
-    chiudi();
+    close();
 }
 
 Database& Archive::database(int index) const {
@@ -67,7 +67,7 @@ void Archive::closeSlots() {
         records = Recordset();
 }
 
-void Archive::chiudi() {
+void Archive::close() {
     closeSlots();
     found_ = 0;
     for (auto& database : databases_)
@@ -80,13 +80,13 @@ void Archive::DatabaseCrea(int db, bool& created) {
         return;
     auto& handle = databases_.at(static_cast<std::size_t>(db));
     handle.reset();
-    handle = Database::crea(PercorsoDatabase);
+    handle = Database::create(PercorsoDatabase);
 }
 
 void Archive::DatabaseApre(int db) {
     auto& handle = databases_.at(static_cast<std::size_t>(db));
     handle.reset(); // first: a file that is open can't be opened again
-    handle = Database::apre(PercorsoDatabase);
+    handle = Database::open(PercorsoDatabase);
 }
 
 void Archive::DatabaseTabelleCreazione(int db) {
@@ -97,7 +97,7 @@ void Archive::DatabaseTabelleCreazione(int db) {
 }
 
 void Archive::DatabaseTabellaCrea(int db, int table) {
-    database(db).creaTabella(TabelleNomi(table), campiDescritti(TabelleCampi(table)));
+    database(db).createTable(TabelleNomi(table), campiDescritti(TabelleCampi(table)));
 }
 
 void Archive::DataBaseTabelleAggiorna(int db) {
@@ -126,14 +126,14 @@ void Archive::DataBaseVerificaIndici(int db, int table) {
         wanted.removeIf([&](const QString& name) { return uguale(name, index); });
     for (const FieldDef& field : stored->campi) {
         if (wanted.contains(field.name, Qt::CaseInsensitive))
-            file.cambiaSchema(createIndexSql(stored->nome, field.name));
+            file.changeSchema(createIndexSql(stored->nome, field.name));
     }
     if (table != GuidaCitta)
         return;
-    if (stored->campo(markField()) >= 0 && !file.haIndice(internalIndexName(stored->nome, markField())))
-        file.cambiaSchema(createMarkIndexSql(stored->nome, markField()));
-    if (stored->campo(placeField()) >= 0 && !file.haIndice(internalIndexName(stored->nome, indiceParentesi)))
-        file.cambiaSchema(createBracketIndexSql(stored->nome, placeField()));
+    if (stored->campo(markField()) >= 0 && !file.hasIndex(internalIndexName(stored->nome, markField())))
+        file.changeSchema(createMarkIndexSql(stored->nome, markField()));
+    if (stored->campo(placeField()) >= 0 && !file.hasIndex(internalIndexName(stored->nome, indiceParentesi)))
+        file.changeSchema(createBracketIndexSql(stored->nome, placeField()));
 }
 
 void Archive::RecordSetImposta(int db, int slot) {
@@ -191,10 +191,10 @@ void Archive::CancellaTabella(int table, const QString& field, const QString& va
         return;
     if (progress)
         progress(0, total);
-    const TranslatedQuery translated = traduce(archive(), query);
-    const StatementLease statement = archive().prepara(translated.form->deleteAll);
+    const TranslatedQuery translated = translate(archive(), query);
+    const StatementLease statement = archive().prepare(translated.form->deleteAll);
     translated.bind(*statement);
-    archive().scrive(*translated.form->tabella, *statement);
+    archive().write(*translated.form->tabella, *statement);
     Rs(slotAppoggio) = Recordset(archive(), query);
     if (progress)
         progress(total, total);
@@ -202,7 +202,7 @@ void Archive::CancellaTabella(int table, const QString& field, const QString& va
 
 bool Archive::guidaConParentesi() {
     const auto guide = storedTable(0, GuidaCitta);
-    const StatementLease first = archive().prepara("SELECT 1 FROM " + quotedName(guide->nome) + " WHERE " +
+    const StatementLease first = archive().prepare("SELECT 1 FROM " + quotedName(guide->nome) + " WHERE " +
                                                    bracketSql(placeField()) + " LIMIT 1");
     return first->step();
 }
@@ -213,8 +213,8 @@ LettoreGuida& Archive::guida() {
     return *guida_;
 }
 
-void Archive::rimetteVisti(const InsiemeDiRighe& used) {
-    if (guida().segnate(used))
+void Archive::putMarksBack(const InsiemeDiRighe& used) {
+    if (guida().areMarked(used))
         return;
     const auto guide = storedTable(0, GuidaCitta);
     const QByteArray table = quotedName(guide->nome);
@@ -222,7 +222,7 @@ void Archive::rimetteVisti(const InsiemeDiRighe& used) {
     std::vector<qint64> toClear;
     InsiemeDiRighe asWanted;
     const StatementLease marked =
-        archive().prepara("SELECT rowid, " + mark + "='1' FROM " + table + " WHERE " + mark + " IS NOT '0'");
+        archive().prepare("SELECT rowid, " + mark + "='1' FROM " + table + " WHERE " + mark + " IS NOT '0'");
     while (marked->step()) {
         const qint64 rowid = marked->integer(0);
         if (!used.contains(rowid))
@@ -238,15 +238,15 @@ void Archive::rimetteVisti(const InsiemeDiRighe& used) {
         if (rowids.empty())
             return;
         const StatementLease change =
-            archive().prepara("UPDATE " + table + " SET " + mark + "='" + value + "' WHERE rowid=?");
+            archive().prepare("UPDATE " + table + " SET " + mark + "='" + value + "' WHERE rowid=?");
         for (const qint64 rowid : rowids) {
             change->bind(1, rowid);
-            archive().scrive(*guide, *change);
+            archive().write(*guide, *change);
         }
     };
-    scriveRicavati([&] {
+    writeDerived([&] {
         Transaction all(archive());
-        guida().scriveSegni(used, [&] {
+        guida().writeMarks(used, [&] {
             write("0", toClear);
             write("1", toSet);
         });

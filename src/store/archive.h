@@ -75,8 +75,8 @@ class Archive {
     /// there already, locked, before anything in it is changed. `missing` is asked where there are copies but no
     /// archive, with the newest that has trips; without it, or if it gives up, the opening fails with NotFound. Throws
     /// Unlike for a file to be rebuilt whose fields stand in another order.
-    Apertura apriArchivio(const PrimaDellUso& before = {}, const SeManca& missing = {});
-    void chiudi();
+    Apertura openArchive(const PrimaDellUso& before = {}, const SeManca& missing = {});
+    void close();
 
     void DatabaseCrea(int db, bool& created);
     void DatabaseApre(int db);
@@ -112,8 +112,8 @@ class Archive {
     [[nodiscard]] LettoreGuida& guida();
 
     /// Exactly these entries of the guide carry the mark of use from here on. Costs what is marked before and after,
-    /// not the size of the guide, and writes only what changes. They can be made anew: see scriveRicavati.
-    void rimetteVisti(const InsiemeDiRighe& used);
+    /// not the size of the guide, and writes only what changes. They can be made anew: see writeDerived.
+    void putMarksBack(const InsiemeDiRighe& used);
 
     /// Commands on the archive in use, see Database.
     void beginCommand() { archive().beginCommand(); }
@@ -121,7 +121,7 @@ class Archive {
     void rollbackCommand() noexcept;
     void storeSoFar() { archive().storeSoFar(); }
     void undoSoFar() noexcept;
-    void scriveRicavati(const std::function<void()>& write) { archive().scriveRicavati(write); }
+    void writeDerived(const std::function<void()>& write) { archive().writeDerived(write); }
 
     [[nodiscard]] TabellaLetta tabella(const QString& name);
     /// The most characters that a text field of the table holds.
@@ -136,9 +136,9 @@ class Archive {
     [[nodiscard]] std::shared_ptr<const TableInfo> storedTable(int db, int table) const;
     void closeSlots();
     void makeFile(const std::function<void()>& fill, const QString& kept = {});
-    void creaArchivio(const SeManca& missing);
-    void ricostruisce(Apertura& opening);
-    [[nodiscard]] qint64 copiaTabelle();
+    void createArchive(const SeManca& missing);
+    void rebuild(Apertura& opening);
+    [[nodiscard]] qint64 copyTables();
 
     std::array<std::unique_ptr<Database>, numeroDatabase> databases_;
     std::array<Recordset, numeroSlot> slots_;

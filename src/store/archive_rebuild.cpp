@@ -68,7 +68,7 @@ std::shared_ptr<const TableInfo> carryFields(Database& from, const TableInfo& ol
                                              const TableInfo& made) {
     for (const FieldDef& field : old.campi) {
         if (made.campo(field.name) < 0)
-            to.cambiaSchema("ALTER TABLE " + quotedName(made.nome) + " ADD COLUMN " + quotedName(field.name) + ' ' +
+            to.changeSchema("ALTER TABLE " + quotedName(made.nome) + " ADD COLUMN " + quotedName(field.name) + ' ' +
                             from.tipo(old.nome, field.name));
     }
     return to.tabella(made.nome);
@@ -79,8 +79,8 @@ qint64 copyTable(Database& from, const TableInfo& old, Database& to, const Table
     const std::vector<int> places = sources(old, declared);
     const auto made = carryFields(from, old, to, declared);
     qint64 cut = 0;
-    const StatementLease source = from.prepara(old.selezione + " ORDER BY rowid");
-    const StatementLease target = to.prepara(made->inserimento);
+    const StatementLease source = from.prepare(old.selezione + " ORDER BY rowid");
+    const StatementLease target = to.prepare(made->inserimento);
     while (source->step()) {
         for (std::size_t place = 0; place < made->campi.size(); ++place) {
             const int parameter = static_cast<int>(place) + 1;
@@ -100,7 +100,7 @@ qint64 copyTable(Database& from, const TableInfo& old, Database& to, const Table
             cut += isCut(value, field) ? 1 : 0;
             target->bind(parameter, adattato(value, kind, field));
         }
-        to.scrive(*made, *target);
+        to.write(*made, *target);
     }
     return cut;
 }
@@ -108,17 +108,17 @@ qint64 copyTable(Database& from, const TableInfo& old, Database& to, const Table
 /// A table that only the old file has.
 void carryTable(Database& from, const QString& name, Database& to) {
     for (const QByteArray& statement : from.dichiarazioni(name))
-        to.cambiaSchema(statement);
+        to.changeSchema(statement);
     const auto table = to.tabella(name);
     QByteArray fields;
     for (const FieldDef& field : table->campi)
         fields += (fields.isEmpty() ? "" : ",") + quotedName(field.name);
-    const StatementLease source = from.prepara("SELECT " + fields + " FROM " + quotedName(name));
-    const StatementLease target = to.prepara(table->inserimento);
+    const StatementLease source = from.prepare("SELECT " + fields + " FROM " + quotedName(name));
+    const StatementLease target = to.prepare(table->inserimento);
     while (source->step()) {
         for (int column = 0; column < static_cast<int>(table->campi.size()); ++column)
             target->bindColumn(column + 1, *source, column);
-        to.scrive(*table, *target);
+        to.write(*table, *target);
     }
 }
 
@@ -141,8 +141,8 @@ void requireOurs(Database& file) {
 /// On a disk that is full the next start does it.
 void givesFormat(Database& archive) {
     try {
-        if (!archive.haFormato())
-            archive.distingue();
+        if (!archive.hasFormat())
+            archive.makeDistinct();
     } catch (const StoreError&) {
         return;
     }
@@ -153,12 +153,12 @@ void clearPlace(const QString& temporary) {
     if (!QFileInfo::exists(temporary))
         return;
     try {
-        static_cast<void>(Database::crea(temporary));
+        static_cast<void>(Database::create(temporary));
     } catch (const StoreError& error) {
         if (error.kind() == StoreError::Kind::Busy)
             throw;
     }
-    toglieFile(temporary);
+    removeFile(temporary);
     if (QFileInfo::exists(temporary))
         throw StoreError(StoreError::Kind::ReadOnly, temporary);
 }
@@ -174,15 +174,15 @@ std::optional<CopiaTrovata> copyToResume(const QString& archivePath) {
 
 } // namespace
 
-Archive::Apertura Archive::apriArchivio(const PrimaDellUso& before, const SeManca& missing) {
-    chiudi();
+Archive::Apertura Archive::openArchive(const PrimaDellUso& before, const SeManca& missing) {
+    close();
     Apertura opening;
     const QString archivePath = PercorsoProgramma + nomeArchivio;
     for (int round = 1;; ++round) {
         PercorsoDatabase = archivePath;
         const bool made = !QFileInfo::exists(archivePath);
         if (made)
-            creaArchivio(missing);
+            createArchive(missing);
         DatabaseApre(0);
         if (!Db(0)->giornaleEstraneo().isEmpty())
             opening.giornaleEstraneo = Db(0)->giornaleEstraneo();
@@ -193,7 +193,7 @@ Archive::Apertura Archive::apriArchivio(const PrimaDellUso& before, const SeManc
             break;
         if (round == mostRounds)
             throw StoreError(StoreError::Kind::Corrupt, PercorsoDatabase);
-        ricostruisce(opening);
+        rebuild(opening);
     }
     givesFormat(*Db(0));
     RecordSetImpostaDefault();
@@ -211,31 +211,31 @@ void Archive::makeFile(const std::function<void()>& fill, const QString& kept) {
         clearPlace(temporary);
         ours = true;
         if (databases_[1] != nullptr)
-            copiaDiritti(archivePath, temporary);
-        databases_[0] = Database::crea(temporary);
+            copyRights(archivePath, temporary);
+        databases_[0] = Database::create(temporary);
         DatabaseTabelleCreazione(0);
         PercorsoDatabase = archivePath;
         fill();
         databases_[0].reset();
-        toglieResti(temporary);
+        removeRemains(temporary);
 #ifdef Q_OS_WIN
         databases_[1].reset(); // there an open file can't be replaced
 #endif
-        metteAlPosto(temporary, archivePath);
+        putInPlace(temporary, archivePath);
         databases_[1].reset();
     } catch (const StoreError&) {
-        chiudi();
+        close();
         PercorsoDatabase = archivePath;
         const bool inPlace = ours && !QFileInfo::exists(temporary);
         if (ours)
-            toglieFile(temporary);
+            removeFile(temporary);
         if (!inPlace && !kept.isEmpty())
-            toglieFile(kept);
+            removeFile(kept);
         throw;
     }
 }
 
-void Archive::creaArchivio(const SeManca& missing) {
+void Archive::createArchive(const SeManca& missing) {
     const auto copy = copyToResume(PercorsoDatabase);
     const SenzaArchivio choice = !copy ? SenzaArchivio::Comincia : missing ? missing(*copy) : SenzaArchivio::Rinuncia;
     if (choice == SenzaArchivio::Rinuncia)
@@ -244,25 +244,25 @@ void Archive::creaArchivio(const SeManca& missing) {
         return makeFile([] {});
     const QString temporary = PercorsoProgramma + nomeRicostruzione;
     clearPlace(temporary);
-    copiaDiritti(copy->path, temporary);
+    copyRights(copy->path, temporary);
     if (std::error_code error; !std::filesystem::copy_file(QFileInfo(copy->path).filesystemFilePath(),
                                                            QFileInfo(temporary).filesystemFilePath(),
                                                            std::filesystem::copy_options::overwrite_existing, error))
         throw StoreError(StoreError::Kind::Io, copy->path, QString::fromStdString(error.message()));
-    metteAlPosto(temporary, PercorsoDatabase);
+    putInPlace(temporary, PercorsoDatabase);
 }
 
-void Archive::ricostruisce(Apertura& opening) {
+void Archive::rebuild(Apertura& opening) {
     closeSlots();
     requireOurs(*Db(0));
-    const QString kept = tieneDaParte(*Db(0));
+    const QString kept = keepAside(*Db(0));
     databases_[1] = std::move(databases_[0]);
-    makeFile([&] { opening.valoriTagliati += copiaTabelle(); }, kept);
+    makeFile([&] { opening.valoriTagliati += copyTables(); }, kept);
     opening.archivioDiPrima = kept;
 }
 
 /// Returns how many values had to be cut.
-qint64 Archive::copiaTabelle() {
+qint64 Archive::copyTables() {
     Database& old = database(1);
     Database& made = database(0);
     Transaction all(made);

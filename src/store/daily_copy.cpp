@@ -65,7 +65,7 @@ void removeUnfinished(const QDir& folder) {
     for (QString name : folder.entryList({QStringLiteral("Vanzer *") + unfinished + u'*'}, QDir::Files)) {
         name.truncate(name.lastIndexOf(unfinished));
         if (dayOf(name).isValid())
-            toglieFile(folder.filePath(name + unfinished));
+            removeFile(folder.filePath(name + unfinished));
     }
 }
 
@@ -123,13 +123,13 @@ void keepNewestOfFullest(Copies copies, std::set<QDate>& kept) {
 
 /// False if it was left.
 bool copyTo(Database& archive, const QString& path, const Database::CopyProgress& progress) {
-    copiaDiritti(archive.percorso(), path);
-    const auto copy = Database::crea(path);
-    if (!archive.copiaIn(*copy, progress))
+    copyRights(archive.percorso(), path);
+    const auto copy = Database::create(path);
+    if (!archive.copyInto(*copy, progress))
         return false;
     if (!copy->intatto())
         throw StoreError(StoreError::Kind::Corrupt, archive.percorso());
-    copy->distingue(); // put in the archive's place it must not be taken for it
+    copy->makeDistinct(); // put in the archive's place it must not be taken for it
     return true;
 }
 
@@ -139,12 +139,12 @@ QString cartellaCopie(const QString& archivePath) {
     return QFileInfo(archivePath).absolutePath() + u'/' + folderName;
 }
 
-bool copiaDovuta(const QString& archivePath, const QDate& day) {
+bool copyDue(const QString& archivePath, const QDate& day) {
     return !QDir(cartellaCopie(archivePath)).exists(day.toString(nameOfDay));
 }
 
-void copiaDelGiorno(Database& archive, const QDate& day, const Database::CopyProgress& progress) {
-    if (!copiaDovuta(archive.percorso(), day))
+void makeDailyCopy(Database& archive, const QDate& day, const Database::CopyProgress& progress) {
+    if (!copyDue(archive.percorso(), day))
         return;
     const QDir folder(cartellaCopie(archive.percorso()));
     removeUnfinished(folder);
@@ -159,14 +159,14 @@ bool copiaIntera(Database& archive, const QString& name, const Database::CopyPro
     const QString temporary = folder.filePath(name + unfinished);
     try {
         if (!copyTo(archive, temporary, progress)) {
-            toglieFile(temporary);
+            removeFile(temporary);
             return false;
         }
-        toglieResti(temporary);
-        metteAlPosto(temporary, folder.filePath(name));
+        removeRemains(temporary);
+        putInPlace(temporary, folder.filePath(name));
         return true;
     } catch (const StoreError&) {
-        toglieFile(temporary);
+        removeFile(temporary);
         throw;
     }
 }

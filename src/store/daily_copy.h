@@ -19,10 +19,10 @@ inline constexpr int mesiTenuti = 12;
 /// copies that are too many. A copy has its name when it is whole and safe on the disk, and the rights of the archive;
 /// one that `progress` leaves, or that fails, leaves nothing. Throws StoreError; Corrupt, with the archive's own path,
 /// if the archive is damaged inside: then the older copies stay, all of them.
-void copiaDelGiorno(Database& archive, const QDate& day, const Database::CopyProgress& progress);
+void makeDailyCopy(Database& archive, const QDate& day, const Database::CopyProgress& progress);
 
 /// Whether the day has no copy yet.
-[[nodiscard]] bool copiaDovuta(const QString& archivePath, const QDate& day);
+[[nodiscard]] bool copyDue(const QString& archivePath, const QDate& day);
 
 /// The folder of the copies beside an archive.
 [[nodiscard]] QString cartellaCopie(const QString& archivePath);

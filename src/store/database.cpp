@@ -23,8 +23,8 @@ namespace vanzer::store {
 namespace {
 
 int collate(void* /*unused*/, int sizeA, const void* a, int sizeB, const void* b) {
-    return confronta({static_cast<const char*>(a), static_cast<std::size_t>(sizeA)},
-                     {static_cast<const char*>(b), static_cast<std::size_t>(sizeB)});
+    return compare({static_cast<const char*>(a), static_cast<std::size_t>(sizeA)},
+                   {static_cast<const char*>(b), static_cast<std::size_t>(sizeB)});
 }
 
 std::string_view textOf(sqlite3_value* value) {
@@ -35,7 +35,7 @@ std::string_view textOf(sqlite3_value* value) {
 
 void likeFunction(sqlite3_context* context, int /*count*/, sqlite3_value** arguments) {
     const bool found =
-        sqlite3_value_type(arguments[1]) != SQLITE_NULL && somiglia(textOf(arguments[0]), textOf(arguments[1]));
+        sqlite3_value_type(arguments[1]) != SQLITE_NULL && resembles(textOf(arguments[0]), textOf(arguments[1]));
     sqlite3_result_int(context, static_cast<int>(found));
 }
 
@@ -82,7 +82,7 @@ void Database::Closer::operator()(sqlite3* connection) const {
     sqlite3_close_v2(connection);
 }
 
-std::unique_ptr<Database> Database::apre(const QString& path) {
+std::unique_ptr<Database> Database::open(const QString& path) {
     const QFileInfo file(path);
     if (!file.exists())
         throw StoreError(StoreError::Kind::NotFound, path);
@@ -92,7 +92,7 @@ std::unique_ptr<Database> Database::apre(const QString& path) {
     return std::unique_ptr<Database>(new Database(path, SQLITE_OPEN_READWRITE));
 }
 
-std::unique_ptr<Database> Database::crea(const QString& path) {
+std::unique_ptr<Database> Database::create(const QString& path) {
     std::unique_ptr<Database> made(new Database(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE));
     made->sound_ = true;
     return made;
@@ -129,7 +129,7 @@ Database::Database(const QString& path, int flags) : path_(path) {
 
 Database::~Database() {
     for (LiveSet* const set : std::exchange(sets_, {}))
-        set->abbandona();
+        set->abandon();
     rollbackNow();
     statements_.clear();
     try {
@@ -252,7 +252,7 @@ void Database::run(const char* sql) {
 QStringList Database::tabelle() {
     QStringList names;
     const StatementLease list =
-        prepara("SELECT name FROM sqlite_schema WHERE type='table' AND name NOT GLOB 'sqlite_*' ORDER BY rowid");
+        prepare("SELECT name FROM sqlite_schema WHERE type='table' AND name NOT GLOB 'sqlite_*' ORDER BY rowid");
     while (list->step())
         names += list->text(0);
     return names;
@@ -269,7 +269,7 @@ std::shared_ptr<const TableInfo> Database::tabella(const QString& name) {
         return nullptr;
     auto table = std::make_shared<TableInfo>();
     table->nome = *found;
-    const StatementLease fields = prepara("SELECT name, type FROM pragma_table_info(?)");
+    const StatementLease fields = prepare("SELECT name, type FROM pragma_table_info(?)");
     fields->bindText(1, QStringView(*found));
     while (fields->step())
         table->campi.push_back(fieldOfType(fields->text(0), fields->text(1)));
@@ -282,7 +282,7 @@ std::shared_ptr<const TableInfo> Database::tabella(const QString& name) {
 QStringList Database::indici(const QString& table) {
     QStringList names;
     const StatementLease list =
-        prepara("SELECT name FROM sqlite_schema WHERE type='index' AND tbl_name=? COLLATE VANZER ORDER BY rowid");
+        prepare("SELECT name FROM sqlite_schema WHERE type='index' AND tbl_name=? COLLATE VANZER ORDER BY rowid");
     list->bindText(1, QStringView(table));
     while (list->step()) {
         const QString name = logicalIndexName(table, list->text(0));
@@ -292,24 +292,24 @@ QStringList Database::indici(const QString& table) {
     return names;
 }
 
-bool Database::haIndice(const QString& name) {
-    const StatementLease found = prepara("SELECT 1 FROM sqlite_schema WHERE type='index' AND name=? COLLATE NOCASE");
+bool Database::hasIndex(const QString& name) {
+    const StatementLease found = prepare("SELECT 1 FROM sqlite_schema WHERE type='index' AND name=? COLLATE NOCASE");
     found->bindText(1, QStringView(name));
     return found->step();
 }
 
-void Database::creaTabella(const QString& name, const std::vector<FieldDef>& fields) {
-    cambiaSchema(createTableSql(name, fields));
+void Database::createTable(const QString& name, const std::vector<FieldDef>& fields) {
+    changeSchema(createTableSql(name, fields));
 }
 
-void Database::cambiaSchema(const QByteArray& sql) {
-    const StatementLease change = prepara(sql);
-    scrive(TableInfo(), *change);
+void Database::changeSchema(const QByteArray& sql) {
+    const StatementLease change = prepare(sql);
+    write(TableInfo(), *change);
     tables_.clear();
     translations_.clear();
 }
 
-StatementLease Database::prepara(const QByteArray& sql) {
+StatementLease Database::prepare(const QByteArray& sql) {
     StatementPool& pool = statements_[sql.toStdString()];
     if (pool.empty())
         return {std::make_unique<Statement>(connection_.get(), sql, path_), pool};
@@ -322,15 +322,15 @@ void Database::beforeWrite(const TableInfo& table) {
     if (spoiled_)
         throw StoreError(*spoiled_);
     for (LiveSet* const set : sets_)
-        set->primaDiScrivere(table);
+        set->beforeWriting(table);
     if (!inTransaction())
         beginTransaction();
 }
 
-qint64 Database::scrive(const TableInfo& table, Statement& statement) {
+qint64 Database::write(const TableInfo& table, Statement& statement) {
     if (depth_ == 0) {
         Transaction alone(*this);
-        const qint64 changed = scrive(table, statement);
+        const qint64 changed = write(table, statement);
         alone.commit();
         return changed;
     }
@@ -360,7 +360,7 @@ void Database::commitCommand() {
 }
 
 quint32 Database::storedVersion() {
-    const StatementLease version = prepara("PRAGMA user_version");
+    const StatementLease version = prepare("PRAGMA user_version");
     version->step();
     return static_cast<quint32>(version->integer(0));
 }
@@ -446,7 +446,7 @@ void Database::storeSoFar() {
     }
 }
 
-void Database::scriveRicavati(const std::function<void()>& write) {
+void Database::writeDerived(const std::function<void()>& write) {
     const bool waiting = std::exchange(waiting_, false);
     try {
         write();
@@ -471,7 +471,7 @@ void Database::rollbackCommand() noexcept {
 
 void Database::rollbackNow() noexcept {
     for (LiveSet* const set : sets_)
-        set->annullato();
+        set->rolledBack();
     if (inTransaction())
         sqlite3_exec(connection_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
     tables_.clear();
@@ -488,15 +488,15 @@ bool Database::inTransaction() const {
     return sqlite3_get_autocommit(connection_.get()) == 0;
 }
 
-void Database::aggiunge(LiveSet& set) {
+void Database::add(LiveSet& set) {
     sets_.push_back(&set);
 }
 
-void Database::toglie(LiveSet& set) noexcept {
+void Database::remove(LiveSet& set) noexcept {
     sets_.erase(std::remove(sets_.begin(), sets_.end(), &set), sets_.end());
 }
 
-bool Database::copiaIn(Database& other, const CopyProgress& progress) {
+bool Database::copyInto(Database& other, const CopyProgress& progress) {
     constexpr int step = 512; // pages
     struct Finisher {
         void operator()(sqlite3_backup* backup) const { sqlite3_backup_finish(backup); }
@@ -523,20 +523,20 @@ bool Database::copiaIn(Database& other, const CopyProgress& progress) {
 }
 
 bool Database::intatto() {
-    const StatementLease check = prepara("PRAGMA quick_check(1)");
+    const StatementLease check = prepare("PRAGMA quick_check(1)");
     return check->step() && check->text(0) == u"ok";
 }
 
-Database::Salute Database::verifica() {
+Database::Salute Database::check() {
     const auto agrees = [this] {
-        const StatementLease check = prepara("PRAGMA integrity_check(1)");
+        const StatementLease check = prepare("PRAGMA integrity_check(1)");
         return check->step() && check->text(0) == u"ok";
     };
     try {
         Salute health = Salute::Sano;
         if (!agrees() && !agrees()) { // a read that fails once looks the same
             Transaction indexes(*this);
-            cambiaSchema("REINDEX");
+            changeSchema("REINDEX");
             if (!agrees())
                 return Salute::Danneggiato;
             indexes.commit();
@@ -551,20 +551,20 @@ Database::Salute Database::verifica() {
     }
 }
 
-bool Database::haFormato() const {
+bool Database::hasFormat() const {
     const auto head = headOnDisk();
     return head && head->formato().value_or(0) > 0;
 }
 
-void Database::distingue() {
+void Database::makeDistinct() {
     Transaction all(*this);
-    cambiaSchema("PRAGMA application_id=" + QByteArray::number(applicazione));
+    changeSchema("PRAGMA application_id=" + QByteArray::number(applicazione));
     setVersion(versionByChance());
     all.commit();
 }
 
 QByteArray Database::tipo(const QString& table, const QString& field) {
-    const StatementLease declared = prepara("SELECT type FROM pragma_table_info(?) WHERE name=?");
+    const StatementLease declared = prepare("SELECT type FROM pragma_table_info(?) WHERE name=?");
     declared->bindText(1, QStringView(table));
     declared->bindText(2, QStringView(field));
     static const QRegularExpression others(QStringLiteral("[^A-Za-z0-9 (),]"));
@@ -572,7 +572,7 @@ QByteArray Database::tipo(const QString& table, const QString& field) {
 }
 
 QByteArrayList Database::dichiarazioni(const QString& table) {
-    const StatementLease made = prepara("SELECT sql FROM sqlite_schema WHERE tbl_name=? AND type IN ('table','index') "
+    const StatementLease made = prepare("SELECT sql FROM sqlite_schema WHERE tbl_name=? AND type IN ('table','index') "
                                         "AND sql IS NOT NULL ORDER BY type DESC, rowid");
     made->bindText(1, QStringView(table));
     QByteArrayList statements;

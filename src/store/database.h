@@ -32,11 +32,11 @@ class LiveSet {
     virtual ~LiveSet() = default;
 
     /// Reads what it still needs of its table.
-    virtual void primaDiScrivere(const TableInfo& table) = 0;
+    virtual void beforeWriting(const TableInfo& table) = 0;
     /// What was written last is rolled back: nothing that this has open may stay so.
-    virtual void annullato() noexcept = 0;
+    virtual void rolledBack() noexcept = 0;
     /// The connection goes; nothing of it may be used any more.
-    virtual void abbandona() noexcept = 0;
+    virtual void abandon() noexcept = 0;
 };
 
 class Database {
@@ -44,9 +44,9 @@ class Database {
     /// Opens an existing file. A journal that a killed program left is rolled back into it, or put aside if it belongs
     /// to another file or another state of this one. Throws NotFound; Busy if any other connection has it; Corrupt if
     /// it is no archive; Newer; ReadOnly if the file or its directory can't be written.
-    [[nodiscard]] static std::unique_ptr<Database> apre(const QString& path);
+    [[nodiscard]] static std::unique_ptr<Database> open(const QString& path);
     /// Makes a new empty file. The same failures.
-    [[nodiscard]] static std::unique_ptr<Database> crea(const QString& path);
+    [[nodiscard]] static std::unique_ptr<Database> create(const QString& path);
 
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
@@ -63,16 +63,16 @@ class Database {
     /// Logical names of a table's indexes, in the order of their making; internal ones aren't told.
     [[nodiscard]] QStringList indici(const QString& table);
     /// By its name in the file.
-    [[nodiscard]] bool haIndice(const QString& name);
-    void creaTabella(const QString& name, const std::vector<FieldDef>& fields);
+    [[nodiscard]] bool hasIndex(const QString& name);
+    void createTable(const QString& name, const std::vector<FieldDef>& fields);
     /// Runs a statement that changes the schema.
-    void cambiaSchema(const QByteArray& sql);
+    void changeSchema(const QByteArray& sql);
 
     /// A statement for exclusive use; prepared once and kept (the system has a few dozen different ones).
-    [[nodiscard]] StatementLease prepara(const QByteArray& sql);
+    [[nodiscard]] StatementLease prepare(const QByteArray& sql);
     /// Runs a statement that writes `table`: first all sets on it step aside and, within a command, the transaction
     /// begins. Returns the number of records changed. A failure spoils the command.
-    qint64 scrive(const TableInfo& table, Statement& statement);
+    qint64 write(const TableInfo& table, Statement& statement);
     [[nodiscard]] qint64 ultimoRowid() const;
 
     /// Commands may be nested. The first write within one begins a transaction, the end of the outermost commits it.
@@ -85,13 +85,13 @@ class Database {
     void storeSoFar();
     /// Runs what writes nothing but what can be made anew from the rest. If that fails, now or when it is stored, and
     /// nothing else waits to be stored with it, it is undone and no failure.
-    void scriveRicavati(const std::function<void()>& write);
+    void writeDerived(const std::function<void()>& write);
     /// Undoes what the running command has written since then; it goes on with a clean sheet.
     void undoSoFar() noexcept;
     [[nodiscard]] bool inTransaction() const;
 
-    void aggiunge(LiveSet& set);
-    void toglie(LiveSet& set) noexcept;
+    void add(LiveSet& set);
+    void remove(LiveSet& set) noexcept;
 
     /// Translated queries by their shape.
     [[nodiscard]] QHash<QString, std::shared_ptr<const Translation>>& traduzioni() { return translations_; }
@@ -100,19 +100,19 @@ class Database {
     using CopyProgress = std::function<bool(qint64 done, qint64 total)>;
     /// Copies the whole file into another, page by page; `progress` is asked each 2 MB but not at the end. False if it
     /// was left: the other file is then as it was.
-    [[nodiscard]] bool copiaIn(Database& other, const CopyProgress& progress);
+    [[nodiscard]] bool copyInto(Database& other, const CopyProgress& progress);
     /// False if the file is damaged inside; whether the indexes agree with their tables isn't looked at.
     [[nodiscard]] bool intatto();
     /// Whether the file is as a program left it that had found it sound and ended in order.
     [[nodiscard]] bool chiusoInOrdine() const { return sound_; }
     enum class Salute { Sano, IndiciRifatti, Danneggiato };
     /// Looks at everything, and makes the indexes anew where nothing but they is wrong. Takes about 5 us a record.
-    [[nodiscard]] Salute verifica();
+    [[nodiscard]] Salute check();
     /// Whether the file bears the number of a format: archives of the first versions don't.
-    [[nodiscard]] bool haFormato() const;
+    [[nodiscard]] bool hasFormat() const;
     /// Gives the file the number of our format and a version of its own: what was copied from another file isn't taken
     /// for it any more.
-    void distingue();
+    void makeDistinct();
     /// The declared type of a field, reduced to what a type may hold.
     [[nodiscard]] QByteArray tipo(const QString& table, const QString& field);
     /// The statements that made a table and its indexes.

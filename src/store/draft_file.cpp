@@ -13,14 +13,14 @@
 
 namespace vanzer::store {
 
-std::optional<QByteArray> leggeBozza(const QString& path) {
+std::optional<QByteArray> readDraft(const QString& path) {
     const QFileInfo info(path);
     if (!info.exists() && !info.isSymLink())
         return std::nullopt;
     if (!fileNormale(path))
         throw StoreError(StoreError::Kind::Corrupt, path);
     QFile file(path);
-    if (!apreInLettura(file))
+    if (!openReadOnly(file))
         throw StoreError(StoreError::Kind::Io, path, file.errorString());
     QByteArray bytes = file.read(massimaBozza + 1);
     if (file.error() != QFileDevice::NoError)
@@ -30,7 +30,7 @@ std::optional<QByteArray> leggeBozza(const QString& path) {
     return bytes;
 }
 
-void scriveBozza(const QString& path, const QByteArray& bytes) {
+void writeDraft(const QString& path, const QByteArray& bytes) {
     const QString aside = path + QStringLiteral(".parte");
     QFile::remove(aside); // of a program that was killed
     QFile file(aside);
@@ -41,18 +41,18 @@ void scriveBozza(const QString& path, const QByteArray& bytes) {
     try {
         if (!written)
             throw StoreError(failure);
-        metteAlPosto(aside, path);
+        putInPlace(aside, path);
     } catch (const StoreError&) {
         QFile::remove(aside);
         throw;
     }
 }
 
-void toglieBozza(const QString& path) noexcept {
+void removeDraft(const QString& path) noexcept {
     QFile::remove(path);
 }
 
-QString metteDaParteBozza(const QString& path, QLatin1String ending) {
+QString setDraftAside(const QString& path, QLatin1String ending) {
     QString other = path + ending;
     std::error_code error;
     std::filesystem::rename(QFileInfo(path).filesystemFilePath(), QFileInfo(other).filesystemFilePath(), error);

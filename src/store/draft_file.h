@@ -16,16 +16,16 @@ inline constexpr QLatin1String bozzaDanneggiata(".danneggiata");
 
 /// The bytes of the draft; nothing if there is none. Throws Corrupt for what is no plain file or larger than a draft,
 /// Io for what can't be read.
-[[nodiscard]] std::optional<QByteArray> leggeBozza(const QString& path);
+[[nodiscard]] std::optional<QByteArray> readDraft(const QString& path);
 
 /// Writes aside, for its owner's eyes only, and puts into place what is safe on the disk. Throws Io; the draft before
 /// is still there then.
-void scriveBozza(const QString& path, const QByteArray& bytes);
+void writeDraft(const QString& path, const QByteArray& bytes);
 
-void toglieBozza(const QString& path) noexcept;
+void removeDraft(const QString& path) noexcept;
 
 /// Gives the draft, whatever it is, another name: its own with `ending`, in place of what had that name before. Returns
 /// the path. Throws Io.
-QString metteDaParteBozza(const QString& path, QLatin1String ending);
+QString setDraftAside(const QString& path, QLatin1String ending);
 
 } // namespace vanzer::store

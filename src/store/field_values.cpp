@@ -22,7 +22,7 @@ bool isYesWord(const QString& text) {
 }
 
 qint64 integer16(double x) {
-    return std::clamp(arrotonda(x), -32768, 32767);
+    return std::clamp(roundToInt(x), -32768, 32767);
 }
 
 } // namespace

@@ -11,14 +11,14 @@ SegniGuida::Voci SegniGuida::unused(const VociGuida& entries) {
     return fresh;
 }
 
-SegniGuida::Voci SegniGuida::usaLuogo(const QString& place) {
-    return unused(archive_.guida().leggeLuogo(place));
+SegniGuida::Voci SegniGuida::usePlace(const QString& place) {
+    return unused(archive_.guida().readPlace(place));
 }
 
-SegniGuida::Voci SegniGuida::usaModello(const QString& pattern) {
+SegniGuida::Voci SegniGuida::usePattern(const QString& pattern) {
     if (!pattern.contains(u'*') && !pattern.contains(u'?'))
-        return usaLuogo(pattern);
-    return unused(archive_.guida().leggeModello(pattern));
+        return usePlace(pattern);
+    return unused(archive_.guida().readPattern(pattern));
 }
 
 } // namespace vanzer::store

@@ -18,11 +18,11 @@ class SegniGuida {
 
     /// The entries of exactly this place, case ignored, that weren't used yet: by category, the longest first, then by
     /// group. They count as used from here on.
-    [[nodiscard]] Voci usaLuogo(const QString& place);
+    [[nodiscard]] Voci usePlace(const QString& place);
     /// The entries whose place matches the pattern, used in the same way.
-    [[nodiscard]] Voci usaModello(const QString& pattern);
+    [[nodiscard]] Voci usePattern(const QString& pattern);
     /// Writes the marks of the run to the archive.
-    void scrive() { archive_.rimetteVisti(used_); }
+    void write() { archive_.putMarksBack(used_); }
 
   private:
     [[nodiscard]] Voci unused(const VociGuida& entries);

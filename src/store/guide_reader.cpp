@@ -16,34 +16,34 @@ constexpr std::size_t mostKept = 50'000; ///< entries: some 15 MB, more than the
 } // namespace
 
 LettoreGuida::LettoreGuida(Database& archive) : database_(&archive) {
-    archive.aggiunge(*this);
+    archive.add(*this);
 }
 
 LettoreGuida::~LettoreGuida() {
     if (database_ != nullptr)
-        database_->toglie(*this);
+        database_->remove(*this);
 }
 
-const VociGuida& LettoreGuida::leggeLuogo(const QString& place) {
+const VociGuida& LettoreGuida::readPlace(const QString& place) {
     const QString key = senzaMaiuscole(place);
     if (const auto known = places_.find(key); known != places_.end())
         return known->second;
     const StatementLease found =
-        database_->prepara("SELECT rowid, CodiceGuida, Gruppo, Descrizione, TempoSosta FROM GuidaCitta "
+        database_->prepare("SELECT rowid, CodiceGuida, Gruppo, Descrizione, TempoSosta FROM GuidaCitta "
                            "WHERE Localita = ?1 ORDER BY CodiceGuida, TempoSosta DESC, Gruppo, rowid");
     found->bindText(1, QStringView(place));
     VociGuida entries;
     while (found->step())
         entries.push_back({.rowid = found->integer(0),
                            .tempoSosta = found->text(4),
-                           .codice = arrotonda(std::trunc(Val(found->text(1)))),
+                           .codice = roundToInt(std::trunc(Val(found->text(1)))),
                            .gruppo = found->text(2),
                            .descrizione = found->text(3)});
     makeRoom(entries.size());
     return places_[key] = std::move(entries);
 }
 
-const VociGuida& LettoreGuida::leggeModello(const QString& pattern) {
+const VociGuida& LettoreGuida::readPattern(const QString& pattern) {
     if (const auto known = patterns_.find(pattern); known != patterns_.end())
         return known->second;
     using enum Condition::Test;
@@ -52,7 +52,7 @@ const VociGuida& LettoreGuida::leggeModello(const QString& pattern) {
     for (; !found.EOF_(); found.MoveNext())
         entries.push_back({.rowid = found.rowid(),
                            .tempoSosta = found.testo(4),
-                           .codice = arrotonda(Val(found.testo(1))),
+                           .codice = roundToInt(Val(found.testo(1))),
                            .gruppo = found.testo(2),
                            .descrizione = found.testo(3)});
     makeRoom(entries.size());
@@ -72,7 +72,7 @@ void LettoreGuida::forget() noexcept {
     marked_.reset();
 }
 
-void LettoreGuida::scriveSegni(const InsiemeDiRighe& entries, const std::function<void()>& write) {
+void LettoreGuida::writeMarks(const InsiemeDiRighe& entries, const std::function<void()>& write) {
     onlyMarks_ = true;
     try {
         write();
@@ -84,13 +84,13 @@ void LettoreGuida::scriveSegni(const InsiemeDiRighe& entries, const std::functio
     marked_ = entries;
 }
 
-void LettoreGuida::primaDiScrivere(const TableInfo& table) {
+void LettoreGuida::beforeWriting(const TableInfo& table) {
     // A change of the schema names no table.
     if (!onlyMarks_ && (table.nome.isEmpty() || uguale(table.nome, TabelleNomi(GuidaCitta))))
         forget();
 }
 
-void LettoreGuida::abbandona() noexcept {
+void LettoreGuida::abandon() noexcept {
     forget();
     database_ = nullptr;
 }

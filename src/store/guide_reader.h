@@ -28,19 +28,19 @@ class LettoreGuida final : public LiveSet {
 
     /// The entries of exactly this place, case ignored: by category, the longest first, then by group. They hold until
     /// the guide is written, or so much was read that what is kept is forgotten.
-    [[nodiscard]] const VociGuida& leggeLuogo(const QString& place);
+    [[nodiscard]] const VociGuida& readPlace(const QString& place);
     /// The entries whose place matches the pattern, in the order in which they were added.
-    [[nodiscard]] const VociGuida& leggeModello(const QString& pattern);
+    [[nodiscard]] const VociGuida& readPattern(const QString& pattern);
 
     /// Whether exactly these entries are known to carry the mark of use.
-    [[nodiscard]] bool segnate(const InsiemeDiRighe& entries) const { return marked_ == entries; }
+    [[nodiscard]] bool areMarked(const InsiemeDiRighe& entries) const { return marked_ == entries; }
     /// Runs what writes nothing of the guide but the marks of use of these entries: no entry tells them, so what was
     /// read is kept.
-    void scriveSegni(const InsiemeDiRighe& entries, const std::function<void()>& write);
+    void writeMarks(const InsiemeDiRighe& entries, const std::function<void()>& write);
 
-    void primaDiScrivere(const TableInfo& table) override;
-    void annullato() noexcept override { forget(); }
-    void abbandona() noexcept override;
+    void beforeWriting(const TableInfo& table) override;
+    void rolledBack() noexcept override { forget(); }
+    void abandon() noexcept override;
 
   private:
     void makeRoom(std::size_t entries);

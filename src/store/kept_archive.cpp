@@ -34,7 +34,7 @@ QStringList keptIn(const QDir& folder) {
 
 } // namespace
 
-QString tieneDaParte(Database& archive) {
+QString keepAside(Database& archive) {
     const QDir folder(cartellaCopie(archive.percorso()));
     QStringList taken;
     for (const QString& name : keptIn(folder)) {
@@ -49,7 +49,7 @@ QString tieneDaParte(Database& archive) {
     return folder.filePath(name);
 }
 
-void contaAvvio(const QString& archivePath) {
+void countStart(const QString& archivePath) {
     const QDir folder(cartellaCopie(archivePath));
     for (const QString& name : keptIn(folder)) {
         const auto kept = keptOf(name);

@@ -11,9 +11,9 @@ inline constexpr int avviiTenuti = 10;
 
 /// Copies an open archive to "Copie/Vanzer prima della ricostruzione (ancora 10 avvii).mdb" beside it, whole and safe
 /// on the disk, and returns its path. Throws StoreError, and leaves nothing then.
-[[nodiscard]] QString tieneDaParte(Database& archive);
+[[nodiscard]] QString keepAside(Database& archive);
 
 /// A start is done: the names of what is kept beside the archive count one less, and what comes to nothing goes.
-void contaAvvio(const QString& archivePath);
+void countStart(const QString& archivePath);
 
 } // namespace vanzer::store

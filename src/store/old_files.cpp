@@ -22,7 +22,7 @@ QString fileVecchieTappe(const QString& code) {
     return usable && !same(fileVecchieMete) && !same(fileVecchiaGuida) ? name : QString();
 }
 
-QString trovaVecchioFile(const QString& directory, QStringView name) {
+QString oldFileIn(const QString& directory, QStringView name) {
     const QDir dir(directory);
     if (name.isEmpty() || dir.exists(name.toString()))
         return name.isEmpty() ? QString() : dir.filePath(name.toString());

@@ -16,7 +16,7 @@ inline constexpr QStringView fileVecchiaGuida = u"VanzGuid.dat";
 [[nodiscard]] QString fileVecchieTappe(const QString& code);
 
 /// The file of that name in the directory, capitals ignored; empty if there is none.
-[[nodiscard]] QString trovaVecchioFile(const QString& directory, QStringView name);
+[[nodiscard]] QString oldFileIn(const QString& directory, QStringView name);
 
 /// Whether old files lie in the directory: destinations, guide, or the itinerary of a destination with one of the
 /// codes, which are asked for only where that matters.

@@ -64,13 +64,13 @@ QString motivoRiservato(const QString& path, const QString& archivePath) {
     return file.exists() && !file.isFile() && !file.isDir() ? motivoNonNormale() : QString();
 }
 
-QString scrivePerAltri(const QString& path, const QByteArray& contents, const QString& archivePath) {
+QString writeForOthers(const QString& path, const QByteArray& contents, const QString& archivePath) {
     const QString reserved = motivoRiservato(path, archivePath);
-    return reserved.isEmpty() ? scriveFile(path, contents) : reserved;
+    return reserved.isEmpty() ? writeFile(path, contents) : reserved;
 }
 
-FileLetto leggeDaAltri(const QString& path, const QString& archivePath) {
-    return stessoFile(path, archivePath) ? FileLetto{{}, QStringLiteral("è l'archivio stesso.")} : leggeFile(path);
+FileLetto readFromOthers(const QString& path, const QString& archivePath) {
+    return stessoFile(path, archivePath) ? FileLetto{{}, QStringLiteral("è l'archivio stesso.")} : readFile(path);
 }
 
 } // namespace vanzer::store

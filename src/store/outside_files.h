@@ -13,10 +13,10 @@ namespace vanzer::store {
 /// name counts by where it leads, through links of every kind. Empty if the name is free.
 [[nodiscard]] QString motivoRiservato(const QString& path, const QString& archivePath);
 
-/// As scriveFile, unless the name is reserved.
-[[nodiscard]] QString scrivePerAltri(const QString& path, const QByteArray& contents, const QString& archivePath);
+/// As writeFile, unless the name is reserved.
+[[nodiscard]] QString writeForOthers(const QString& path, const QByteArray& contents, const QString& archivePath);
 
-/// As leggeFile, but never the archive: whoever opens and closes its file besides the archive lets go of its lock.
-[[nodiscard]] FileLetto leggeDaAltri(const QString& path, const QString& archivePath);
+/// As readFile, but never the archive: whoever opens and closes its file besides the archive lets go of its lock.
+[[nodiscard]] FileLetto readFromOthers(const QString& path, const QString& archivePath);
 
 } // namespace vanzer::store

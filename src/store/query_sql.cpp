@@ -117,7 +117,7 @@ void TranslatedQuery::bind(Statement& statement) const {
         statement.bindText(++parameter, value);
 }
 
-TranslatedQuery traduce(Database& database, const Query& query) {
+TranslatedQuery translate(Database& database, const Query& query) {
     std::vector<PlainCondition> conditions;
     conditions.reserve(query.where.size());
     for (const Condition& condition : query.where)

@@ -37,6 +37,6 @@ struct TranslatedQuery {
 };
 
 /// Throws StoreError (Other) for an unknown table or field.
-[[nodiscard]] TranslatedQuery traduce(Database& database, const Query& query);
+[[nodiscard]] TranslatedQuery translate(Database& database, const Query& query);
 
 } // namespace vanzer::store

@@ -21,7 +21,7 @@ struct Recordset::Impl {
     enum class Editing { None, New, Change };
 
     Impl(Database& database, const Query& query)
-        : walk(database, traduce(database, query)), written(walk.tabella().campi.size()) {}
+        : walk(database, translate(database, query)), written(walk.tabella().campi.size()) {}
 
     [[nodiscard]] const std::vector<FieldDef>& fields() const { return walk.tabella().campi; }
     [[nodiscard]] Valore value(std::size_t field);
@@ -48,10 +48,10 @@ void Recordset::Impl::begin(Editing how) {
 
 void Recordset::Impl::insert() {
     Database& database = walk.database();
-    const StatementLease statement = database.prepara(walk.form().insert);
+    const StatementLease statement = database.prepare(walk.form().insert);
     for (std::size_t i = 0; i < written.size(); ++i)
         statement->bind(static_cast<int>(i) + 1, written[i] ? *written[i] : valoreIniziale(fields()[i]));
-    database.scrive(walk.tabella(), *statement);
+    database.write(walk.tabella(), *statement);
     walk.added(database.ultimoRowid());
 }
 
@@ -66,14 +66,14 @@ void Recordset::Impl::change() {
         return;
     Database& database = walk.database();
     const StatementLease statement =
-        database.prepara("UPDATE " + quotedName(walk.tabella().nome) + " SET " + assignments + " WHERE rowid=?");
+        database.prepare("UPDATE " + quotedName(walk.tabella().nome) + " SET " + assignments + " WHERE rowid=?");
     int parameter = 0;
     for (const auto& value : written) {
         if (value)
             statement->bind(++parameter, *value);
     }
     statement->bind(parameter + 1, rowid);
-    database.scrive(walk.tabella(), *statement);
+    database.write(walk.tabella(), *statement);
     for (std::size_t i = 0; i < written.size(); ++i) {
         if (written[i])
             walk.changed(i, std::move(*written[i]));
@@ -139,9 +139,9 @@ void Recordset::Delete() {
     impl_->begin(Impl::Editing::None);
     Database& database = walk.database();
     const StatementLease statement =
-        database.prepara("DELETE FROM " + quotedName(walk.tabella().nome) + " WHERE rowid=?");
+        database.prepare("DELETE FROM " + quotedName(walk.tabella().nome) + " WHERE rowid=?");
     statement->bind(1, walk.rowid());
-    database.scrive(walk.tabella(), *statement);
+    database.write(walk.tabella(), *statement);
     walk.deleted();
 }
 
@@ -186,7 +186,7 @@ QString Recordset::testo(int position) const {
     return testoDa(impl_->value(at), kind);
 }
 
-bool Recordset::haValore(int position) const {
+bool Recordset::hasValue(int position) const {
     (void)field(position);
     const auto at = static_cast<std::size_t>(position);
     if (impl_->editing == Impl::Editing::None)
@@ -199,18 +199,18 @@ bool Recordset::siNo(int position) const {
     return siNoDa(impl_->value(static_cast<std::size_t>(position)));
 }
 
-void Recordset::scrive(int position, const QString& text) {
+void Recordset::write(int position, const QString& text) {
     const FieldDef& target = field(position);
     if (impl_->editing == Impl::Editing::None)
         misuse(QStringLiteral("scrittura di %1 senza AddNew o Edit").arg(target.name));
     impl_->written[static_cast<std::size_t>(position)] = valoreDa(text, target);
 }
 
-void Recordset::scriveSiNo(int position, bool yes) {
-    scrive(position, yes ? QStringLiteral("1") : QStringLiteral("0"));
+void Recordset::writeYesNo(int position, bool yes) {
+    write(position, yes ? QStringLiteral("1") : QStringLiteral("0"));
 }
 
-void Recordset::scriveNullo(int position) {
+void Recordset::writeNull(int position) {
     const FieldDef& target = field(position);
     if (impl_->editing == Impl::Editing::None)
         misuse(QStringLiteral("scrittura di %1 senza AddNew o Edit").arg(target.name));

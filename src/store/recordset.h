@@ -58,20 +58,20 @@ class Recordset {
     /// a value the text is empty and yes/no is no. The text of yes/no is "True" or "False".
     [[nodiscard]] QString testo(int field) const;
     [[nodiscard]] QString testo(QAnyStringView field) const { return testo(position(field)); }
-    [[nodiscard]] bool haValore(int field) const;
-    [[nodiscard]] bool haValore(QAnyStringView field) const { return haValore(position(field)); }
+    [[nodiscard]] bool hasValue(int field) const;
+    [[nodiscard]] bool hasValue(QAnyStringView field) const { return hasValue(position(field)); }
     [[nodiscard]] bool siNo(int field) const;
     [[nodiscard]] bool siNo(QAnyStringView field) const { return siNo(position(field)); }
 
     /// A text longer than its field is cut to it, an empty one becomes a blank; for yes/no, "True", "Vero", "-1" and
     /// "1" are yes.
-    void scrive(int field, const QString& text);
-    void scrive(QAnyStringView field, const QString& text) { scrive(position(field), text); }
+    void write(int field, const QString& text);
+    void write(QAnyStringView field, const QString& text) { write(position(field), text); }
     /// "1" or "0" in a text field.
-    void scriveSiNo(int field, bool yes);
-    void scriveSiNo(QAnyStringView field, bool yes) { scriveSiNo(position(field), yes); }
-    void scriveNullo(int field);
-    void scriveNullo(QAnyStringView field) { scriveNullo(position(field)); }
+    void writeYesNo(int field, bool yes);
+    void writeYesNo(QAnyStringView field, bool yes) { writeYesNo(position(field), yes); }
+    void writeNull(int field);
+    void writeNull(QAnyStringView field) { writeNull(position(field)); }
 
     /// Identity of the current record: it never changes while the record lives, and grows in the order of adding.
     [[nodiscard]] qint64 rowid() const;

@@ -40,8 +40,8 @@ std::error_code renamed(const QString& from, const QString& to) {
 void moveAcross(const QString& from, const QString& to) {
     const QString beside = to + QStringLiteral(".parte");
     try {
-        toglieFile(beside);
-        copiaDiritti(from, beside);
+        removeFile(beside);
+        copyRights(from, beside);
         std::error_code error;
         std::filesystem::copy_file(QFileInfo(from).filesystemFilePath(), QFileInfo(beside).filesystemFilePath(),
                                    std::filesystem::copy_options::overwrite_existing, error);
@@ -52,10 +52,10 @@ void moveAcross(const QString& from, const QString& to) {
         if (error)
             failed(to, QString::fromStdString(error.message()));
     } catch (const StoreError&) {
-        toglieFile(beside);
+        removeFile(beside);
         throw;
     }
-    toglieFile(from);
+    removeFile(from);
 }
 
 #ifdef Q_OS_UNIX
@@ -99,16 +99,16 @@ void narrow(const QByteArray& folder, const struct stat& file) {
 
 } // namespace
 
-void toglieFile(const QString& path) noexcept {
-    toglieResti(path);
+void removeFile(const QString& path) noexcept {
+    removeRemains(path);
     QFile::remove(path);
 }
 
-void toglieResti(const QString& path) noexcept {
+void removeRemains(const QString& path) noexcept {
     QFile::remove(path + QStringLiteral("-journal"));
 }
 
-void copiaDiritti(const QString& from, const QString& to) {
+void copyRights(const QString& from, const QString& to) {
 #ifdef Q_OS_UNIX
     struct stat source {};
     if (::stat(QFile::encodeName(from).constData(), &source) != 0)
@@ -145,7 +145,7 @@ bool cartellaPer(const QString& file, const QString& folder) {
     return QDir().mkpath(folder);
 }
 
-void metteAlPosto(const QString& from, const QString& to) {
+void putInPlace(const QString& from, const QString& to) {
     const QString place = doveConduce(to);
     makeSafe(from, to);
     if (const std::error_code error = renamed(from, place); error == std::errc::cross_device_link)

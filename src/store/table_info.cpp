@@ -55,7 +55,7 @@ FieldDef fieldOfType(const QString& name, const QString& declaredType) {
         if (word.compare(QLatin1String(entry.name), Qt::CaseInsensitive) == 0 && entry.kind != FieldKind::Text)
             return {name, entry.kind, 0};
     }
-    return {name, FieldKind::Text, open < 0 ? 0 : arrotonda(std::trunc(Val(QStringView(declaredType).mid(open + 1))))};
+    return {name, FieldKind::Text, open < 0 ? 0 : roundToInt(std::trunc(Val(QStringView(declaredType).mid(open + 1))))};
 }
 
 QByteArray createTableSql(const QString& table, const std::vector<FieldDef>& fields) {

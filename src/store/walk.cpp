@@ -7,12 +7,12 @@
 namespace vanzer::store {
 
 Walk::Walk(Database& database, TranslatedQuery query) : database_(&database), query_(std::move(query)) {
-    database.aggiunge(*this);
+    database.add(*this);
 }
 
 Walk::~Walk() {
     if (database_ != nullptr)
-        database_->toglie(*this);
+        database_->remove(*this);
 }
 
 Database& Walk::database() const {
@@ -21,7 +21,7 @@ Database& Walk::database() const {
     return *database_;
 }
 
-void Walk::abbandona() noexcept {
+void Walk::abandon() noexcept {
     end();
     database_ = nullptr;
 }
@@ -67,7 +67,7 @@ void Walk::first() {
 void Walk::openCursor(qint64 behindRowid) {
     cursor_.giveBack();
     interrupted_ = false;
-    cursor_ = database().prepara(form().select);
+    cursor_ = database().prepare(form().select);
     query_.bind(*cursor_);
     if (form().wholeTable)
         cursor_->bind(1, behindRowid);
@@ -109,7 +109,7 @@ bool Walk::stepCursor() {
 
 bool Walk::nextAdded() {
     while (addedAt_ < added_.size()) {
-        const StatementLease record = database().prepara(form().byRowid);
+        const StatementLease record = database().prepare(form().byRowid);
         record->bind(1, added_[addedAt_++]);
         if (load(*record))
             return true;
@@ -129,7 +129,7 @@ void Walk::last() {
     orEnd([this] {
         if (lastAdded())
             return;
-        const StatementLease record = database().prepara(form().last);
+        const StatementLease record = database().prepare(form().last);
         query_.bind(*record);
         place_ = load(*record) ? Place::OnRecord : Place::End;
         interrupted_ = form().wholeTable; // what is added from now on lies behind
@@ -138,7 +138,7 @@ void Walk::last() {
 
 bool Walk::lastAdded() {
     for (addedAt_ = added_.size(); addedAt_ > 0;) {
-        const StatementLease record = database().prepara(form().byRowid);
+        const StatementLease record = database().prepare(form().byRowid);
         record->bind(1, added_[--addedAt_]);
         if (!load(*record))
             continue;
@@ -158,7 +158,7 @@ qint64 Walk::count() {
 // Added records stand at the end of the table: the query is asked for what lies below the first of them.
 qint64 Walk::countNow() const {
     const bool apart = !added_.empty();
-    const StatementLease number = database().prepara(apart ? form().countBelow : form().count);
+    const StatementLease number = database().prepare(apart ? form().countBelow : form().count);
     query_.bind(*number);
     if (apart)
         number->bind(form().parameters + 1, added_.front());
@@ -222,7 +222,7 @@ void Walk::deleted() {
 
 // A statement that is still stepping would keep a file that has failed from being read again. Where the table is walked
 // as a whole, the walk may go on; the records of another query may be others now.
-void Walk::annullato() noexcept {
+void Walk::rolledBack() noexcept {
     const bool goesOn = cursor_ && form().wholeTable;
     const Place place = place_;
     bool kept = true;
@@ -243,7 +243,7 @@ void Walk::annullato() noexcept {
     count_.reset();
 }
 
-void Walk::primaDiScrivere(const TableInfo& table) {
+void Walk::beforeWriting(const TableInfo& table) {
     if (!cursor_ || (!table.nome.isEmpty() && table.nome != tabella().nome))
         return;
     orEnd([this] {

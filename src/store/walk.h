@@ -41,9 +41,9 @@ class Walk final : public LiveSet {
     void changed(std::size_t field, Valore value);
     void deleted();
 
-    void primaDiScrivere(const TableInfo& table) override;
-    void annullato() noexcept override;
-    void abbandona() noexcept override;
+    void beforeWriting(const TableInfo& table) override;
+    void rolledBack() noexcept override;
+    void abandon() noexcept override;
 
   private:
     enum class Place { NotStarted, OnRecord, Deleted, End };

@@ -16,7 +16,7 @@ QStringList sorted(const QStringList& entries) {
     for (const QString& entry : entries)
         order.emplace_back(lettereBase(entry), entry);
     std::ranges::stable_sort(order, [](const auto& a, const auto& b) {
-        return a.first != b.first ? a.first < b.first : confrontaTesti(a.second, b.second) < 0;
+        return a.first != b.first ? a.first < b.first : compareTexts(a.second, b.second) < 0;
     });
     QStringList result;
     for (const auto& [letters, entry] : order)
@@ -138,7 +138,7 @@ ListControl::ListControl(QString baseName, int index, Frame* frame, bool box)
     : TextControl(std::move(baseName), index, frame), box_(box) {}
 
 void ListControl::add(const QString& entry) {
-    const auto before = [](const QString& a, const QString& b) { return confrontaTesti(a, b) < 0; };
+    const auto before = [](const QString& a, const QString& b) { return compareTexts(a, b) < 0; };
     if (sorted_)
         entries_.insert(std::upper_bound(entries_.begin(), entries_.end(), entry, before), entry);
     else

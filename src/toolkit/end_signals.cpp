@@ -60,7 +60,7 @@ SegnaliDiFine::~SegnaliDiFine() {
     ::close(pipe_[1]);
 }
 
-void SegnaliDiFine::muore(int signal) {
+void SegnaliDiFine::die(int signal) {
     std::signal(signal, SIG_DFL);
     std::raise(signal);
     std::abort();
@@ -71,7 +71,7 @@ void SegnaliDiFine::muore(int signal) {
 SegnaliDiFine::SegnaliDiFine() = default;
 SegnaliDiFine::~SegnaliDiFine() = default;
 
-void SegnaliDiFine::muore(int /*signal*/) {
+void SegnaliDiFine::die(int /*signal*/) {
     std::abort();
 }
 

@@ -18,9 +18,9 @@ class SegnaliDiFine {
     [[nodiscard]] int descrittore() const { return pipe_[0]; }
     /// The first signal that has come, 0 for none. A second one ends the program at once, but for SIGHUP, which a
     /// terminal that goes sends twice.
-    [[nodiscard]] static int arrivato() { return first_; }
+    [[nodiscard]] static int arrived() { return first_; }
     /// Ends the program by that signal.
-    [[noreturn]] static void muore(int signal);
+    [[noreturn]] static void die(int signal);
 
   private:
     static void note(int signal);

@@ -19,14 +19,14 @@ QString codiceNuovaMeta(const std::vector<int>& codes) {
 }
 
 bool stessaMeta(const QString& a, const QString& b) {
-    return uguale(Trim(taglia(a, u'(')), Trim(taglia(b, u'(')));
+    return uguale(Trim(cutAt(a, u'(')), Trim(cutAt(b, u'(')));
 }
 
 QStringList elencoRicerca(const QStringList& names) {
     QStringList list;
     QStringList motorways;
     for (const QString& name : names)
-        (contiene(name, u"autostrada") ? motorways : list) << name;
+        (contains(name, u"autostrada") ? motorways : list) << name;
     return list + motorways;
 }
 

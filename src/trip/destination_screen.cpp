@@ -52,7 +52,7 @@ class MostraRecord {
             coppia(f);
         form_.txtTragh.setText({});
         form_.viaggio->NumeroTraghetti = 0;
-        if (ha(u"CalcoloSoste"))
+        if (has(u"CalcoloSoste"))
             form_.cmbSoste.setText(voceSoste(form_, valore(u"CalcoloSoste")));
         testo(form_.cmbRange, u"Range");
         numero(form_.cmbRipM, u"RiposoMinuti", 2);
@@ -65,30 +65,30 @@ class MostraRecord {
     }
 
   private:
-    [[nodiscard]] bool ha(const char16_t* field) const { return record_.haValore(QString::fromUtf16(field)); }
+    [[nodiscard]] bool has(const char16_t* field) const { return record_.hasValue(QString::fromUtf16(field)); }
     [[nodiscard]] QString valore(const char16_t* field) const { return record_.testo(QString::fromUtf16(field)); }
 
     void testo(TextControl& control, const char16_t* field) {
-        if (ha(field))
+        if (has(field))
             control.setText(valore(field));
     }
     void numero(TextControl& control, const char16_t* field, int width) {
-        if (ha(field))
+        if (has(field))
             control.setText(Zero(Val(valore(field)), width));
     }
     void coppia(const CampoCoppia& f) {
         // A blank pair leaves its lists blank; the next check takes the first entries.
-        if (ha(f.field))
-            scriveCoppia(form_, f.pair, Trim(Left(valore(f.field), 2)), Trim(Mid(valore(f.field), 3, 2)));
+        if (has(f.field))
+            writePair(form_, f.pair, Trim(Left(valore(f.field), 2)), Trim(Mid(valore(f.field), 3, 2)));
     }
     void inizio() {
-        if (ha(u"DataInizio")) {
+        if (has(u"DataInizio")) {
             const QString date = valore(u"DataInizio");
             form_.cmbInizio(0).setText(Mid(date, 1, 2));
             form_.cmbInizio(1).setText(Mid(date, 3, 2));
             form_.cmbInizio(2).setText(Right(date, 4));
         }
-        if (ha(u"OraInizio")) {
+        if (has(u"OraInizio")) {
             const QString hour = valore(u"OraInizio");
             form_.cmbInizio(3).setText(Left(hour, 2));
             form_.cmbInizio(4).setText(Right(hour, 2));
@@ -113,7 +113,7 @@ void emptyResults(Form& form) {
 
 void writeRecord(Form& form, store::Recordset& record) {
     const auto write = [&record](const char16_t* field, const QString& value) {
-        record.scrive(QString::fromUtf16(field), value);
+        record.write(QString::fromUtf16(field), value);
     };
     const auto number = [](const ListControl& list) { return testoNumero(Val(list.text())); };
     write(u"Localita", Trim(form.txtLocalita.text()));
@@ -156,19 +156,19 @@ QString newCode(Form& form) {
     store::Recordset& all = open(form, appoggio, QStringLiteral("SELECT * FROM MeteVanzer ORDER BY CodiceMeta"));
     std::vector<int> codes;
     for (; !all.EOF_(); all.MoveNext())
-        codes.push_back(arrotonda(Val(all.testo(0))));
+        codes.push_back(roundToInt(Val(all.testo(0))));
     return codiceNuovaMeta(codes);
 }
 
 /// Into the open slot of the destinations, as the current one.
 void storeRecord(Form& form, bool insertion) {
-    if (contiene(form.txtLocalita.text(), u"AUTOSTRADA"))
+    if (contains(form.txtLocalita.text(), u"AUTOSTRADA"))
         form.txtLocalita.setText(minuscolo(form.txtLocalita.text()));
     store::Recordset& record = form.archivio.Rs(store::MeteVanzer);
     if (insertion) {
         record.AddNew();
-        record.scrive(QStringLiteral("Coefficiente"), QStringLiteral("0"));
-        record.scrive(QStringLiteral("CodiceMeta"), form.stato.CodiceMeta);
+        record.write(QStringLiteral("Coefficiente"), QStringLiteral("0"));
+        record.write(QStringLiteral("CodiceMeta"), form.stato.CodiceMeta);
     } else {
         record.Edit();
     }
@@ -190,9 +190,9 @@ bool hasNames(Form& form) {
     const bool place = !Trim(form.txtLocalita.text()).isEmpty();
     const bool nation = !Trim(form.txtNazione.text()).isEmpty();
     if (!place)
-        form.rifiuta(QStringLiteral("Campo Località: obbligatorio!"));
+        form.refuse(QStringLiteral("Campo Località: obbligatorio!"));
     else if (!nation)
-        form.rifiuta(QStringLiteral("Campo Nazione: obbligatorio!"));
+        form.refuse(QStringLiteral("Campo Nazione: obbligatorio!"));
     return place && nation;
 }
 
@@ -241,7 +241,7 @@ void RicaricaItinerario(Form& form) {
     form.campiDaRicordare = true;
 }
 
-QString descriveMeta(Form& form) {
+QString describeTrip(Form& form) {
     using enum store::Condition::Test;
     store::Recordset legs(
         *form.archivio.Db(0),
@@ -260,7 +260,7 @@ void SalvaIlCodiceMetaCorrente(Form& form) {
         current.AddNew();
     else
         current.Edit();
-    current.scrive(0, form.txtCodice.text());
+    current.write(0, form.txtCodice.text());
     current.Update();
 }
 
@@ -271,10 +271,10 @@ void AzzeraSchermo(Form& form) {
         result->setText({});
     MetteAdesso(form);
     CancellaMatrice(form);
-    ricordaTappe(form);
+    rememberLegs(form);
 }
 
-bool caricaMeta(Form& form, const QString& code, const QString& localita) {
+bool loadDestination(Form& form, const QString& code, const QString& localita) {
     const store::Recordset& record = openDestination(form, code);
     if (record.EOF_() || !stessaMeta(record.testo(QStringLiteral("Localita")), localita))
         return false;
@@ -290,17 +290,17 @@ void daCodiceNuovo(Form& form) {
     form.metaNuova = true;
 }
 
-bool inserisceMetaNuova(Form& form) {
+bool insertNewDestination(Form& form) {
     if (!hasNames(form))
         return false;
     open(form, store::MeteVanzer, QStringLiteral("SELECT * FROM MeteVanzer"));
     storeRecord(form, true);
-    ricordaCampi(form);
+    rememberFields(form);
     return true;
 }
 
 void cmdNuovo_Click(Form& form) {
-    if (!lasciaModifiche(form))
+    if (!leaveChanges(form))
         return;
     AzzeraSchermo(form);
     AttivaFormMeta(form, true);
@@ -315,9 +315,9 @@ void cmdNuovo_Click(Form& form) {
                         form.stato.CodiceMeta.isEmpty() ? pulsanti::viaggioNuovo : pulsanti::viaggioNuovoFraAltri);
 }
 
-bool salvaMeta(Form& form, bool asks) {
+bool saveDestination(Form& form, bool asks) {
     AttivaFormMeta(form, true);
-    if (!hasNames(form) || !lasciaTratto(form))
+    if (!hasNames(form) || !leaveStretch(form))
         return false;
     PulisciFinestre(form);
     const QString codeBefore = form.stato.CodiceMeta;
@@ -348,19 +348,19 @@ bool salvaMeta(Form& form, bool asks) {
 }
 
 void cmdSalva_Click(Form& form) {
-    static_cast<void>(salvaMeta(form, true));
+    static_cast<void>(saveDestination(form, true));
 }
 
 void cmdCancMeta_Click(Form& form) {
     AttivaFormMeta(form, true);
-    if (!lasciaModifiche(form))
+    if (!leaveChanges(form))
         return;
     form.frmframe(riquadroTappe).setVisible(false);
     form.mfgTab.setWidth(larghezzaTabella);
     CancellaMatrice(form);
     Aggiorna(form, false);
     reload(form);
-    BoxConferma(form, QStringLiteral("A"), descriveMeta(form));
+    BoxConferma(form, QStringLiteral("A"), describeTrip(form));
     if (form.stato.Risposta == rispostaSi) {
         AbilitaPulsantiMeta(form, pulsanti::nessuno);
         CancellaTabella(form, store::Itinerari, QStringLiteral("CodiceMeta"), form.txtCodice.text());
@@ -373,14 +373,14 @@ void cmdCancMeta_Click(Form& form) {
 
 void cmdCancItin_Click(Form& form) {
     AttivaFormMeta(form, true);
-    if (!lasciaModifiche(form))
+    if (!leaveChanges(form))
         return;
-    BoxConferma(form, QStringLiteral("AI"), descriveMeta(form));
+    BoxConferma(form, QStringLiteral("AI"), describeTrip(form));
     if (form.stato.Risposta != rispostaSi)
         return;
     const QString sure = QStringLiteral("Sei sicuro di voler cancellare l'itinerario?\n"
                                         "In caso positivo, non sarà più recuperabile!");
-    if (form.domandaPericolosa(sure, QStringLiteral("Annullamento itinerario"), descriveMeta(form)) != rispostaSi)
+    if (form.domandaPericolosa(sure, QStringLiteral("Annullamento itinerario"), describeTrip(form)) != rispostaSi)
         return;
     AbilitaPulsantiMeta(form, pulsanti::nessuno);
     CancellaTabella(form, store::Itinerari, QStringLiteral("CodiceMeta"), form.txtCodice.text());
@@ -425,7 +425,7 @@ void RichiamaMeta(Form& form, const QString& localita) {
              QStringLiteral("SELECT * FROM MeteVanzer WHERE Localita = '") + store::quotato(localita) + u'\'');
     if (!found.EOF_()) {
         form.txtCodice.setText(found.testo(QStringLiteral("CodiceMeta")));
-        form.archivio.scriveRicavati([&form] { SalvaIlCodiceMetaCorrente(form); });
+        form.archivio.writeDerived([&form] { SalvaIlCodiceMetaCorrente(form); });
     }
     RicaricaItinerario(form);
     form.cmbRicerca.setVisible(false);
@@ -433,7 +433,7 @@ void RichiamaMeta(Form& form, const QString& localita) {
 
 void cmbRicerca_Click(Form& form) {
     form.cmbRicerca.setVisible(false);
-    if (!lasciaModifiche(form)) {
+    if (!leaveChanges(form)) {
         RinunciaRicerca(form);
         return;
     }

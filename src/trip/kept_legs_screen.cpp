@@ -64,7 +64,7 @@ bool holdsLegs(const Form& form) {
 
 } // namespace
 
-void ricordaTappe(Form& form) {
+void rememberLegs(Form& form) {
     form.tappeMemorizzate.reset();
     if (form.interattiva)
         form.tappeMemorizzate = Righe(form).all();
@@ -80,7 +80,7 @@ bool tappeCambiate(const Form& form) {
     return form.tappeMemorizzate && worked && holdsLegs(form) && !Righe(form).are(*form.tappeMemorizzate);
 }
 
-void metteTappe(Form& form, const TappeTenute& legs) {
+void putLegs(Form& form, const TappeTenute& legs) {
     constexpr std::size_t place = 0;
     constexpr std::size_t stop = 4;
     const int rows = static_cast<int>(legs.size());

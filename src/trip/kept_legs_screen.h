@@ -7,7 +7,7 @@
 namespace vanzer {
 
 /// What is in the table counts as stored. Kept for a user only: nobody asks a script.
-void ricordaTappe(Form& form);
+void rememberLegs(Form& form);
 
 /// The trip's legs as they stand, those that a schedule has replaced too; the stored ones while the table shows the
 /// guide.
@@ -17,6 +17,6 @@ void ricordaTappe(Form& form);
 [[nodiscard]] bool tappeCambiate(const Form& form);
 
 /// The legs come into the table in place of what is there, not stored, with their totals.
-void metteTappe(Form& form, const TappeTenute& legs);
+void putLegs(Form& form, const TappeTenute& legs);
 
 } // namespace vanzer

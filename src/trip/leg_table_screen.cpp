@@ -50,7 +50,7 @@ TestiTabella readLegs(Form& form) {
 /// The guide's stops of a place as the text of its cell.
 QString guideStops(store::SegniGuida& guide, const QString& place, float visitingDay) {
     double sum = 0;
-    for (const VoceGuida* const entry : guide.usaLuogo(place))
+    for (const VoceGuida* const entry : guide.usePlace(place))
         sum += static_cast<double>(tempoVoce(entry->tempoSosta, visitingDay, LetturaTempo::Itinerario));
     return ghmCentesimi2Stringa(static_cast<float>(sum), giornoIntero);
 }
@@ -67,7 +67,7 @@ void addGuideStops(Form& form, TestiTabella& rows) {
             rows.at(row, tappaGuida) = guideStops(guide, step.luogo, form.viaggio->OreVisitaGiorno);
         form.yield();
     }
-    guide.scrive();
+    guide.write();
 }
 
 void markEndsOfDay(Grid& grid, int rows) {
@@ -91,7 +91,7 @@ qint64 recordsNeeded(const Form& form) {
 /// All that the guide knows for a place as it is stored; a wider pattern may find more than the place itself.
 QString guideSnapshot(store::SegniGuida& guide, const QString& place) {
     double sum = 0;
-    for (const VoceGuida* const entry : guide.usaModello(LikeTesto(place)))
+    for (const VoceGuida* const entry : guide.usePattern(LikeTesto(place)))
         sum += static_cast<double>(ghmStringa2Centesimi(entry->tempoSosta, giornoIntero));
     return ghmCentesimi2Stringa(static_cast<float>(sum), giornoIntero);
 }
@@ -106,7 +106,7 @@ class ScrittoreTappe {
             fields_[i] = records_.campo(QString::fromUtf16(names[i]));
     }
 
-    void scrive(const RecordTappa& leg) {
+    void write(const RecordTappa& leg) {
         ++form_.stato.NumeroTappe;
         records_.AddNew();
         const std::array<QString, 9> values{form_.stato.CodiceMeta,
@@ -119,7 +119,7 @@ class ScrittoreTappe {
                                             leg.sostaGuidaCitta,
                                             leg.fineGiorno ? QStringLiteral("1") : QStringLiteral("0")};
         for (std::size_t i = 0; i < values.size(); ++i)
-            records_.scrive(fields_[i], values[i]);
+            records_.write(fields_[i], values[i]);
         records_.Update();
     }
 
@@ -144,7 +144,7 @@ void storeRows(Form& form, store::Recordset& records, store::SegniGuida& guide) 
         const RigaTappa row{place, grid.cell(r, tappaStrada), chilometri(grid.cell(r, tappaKm)),
                             grid.cell(r, tappaTipo), grid.cell(r, tappaSosta)};
         for (const RecordTappa& leg : recordDellaRiga(row, stops, placeSize))
-            writer.scrive(leg);
+            writer.write(leg);
     }
 }
 
@@ -162,7 +162,7 @@ void storeTable(Form& form) {
     store::SegniGuida guide(form.archivio);
     storeRows(form, form.archivio.Rs(store::Itinerari), guide);
     form.archivio.storeSoFar();
-    guide.scrive();
+    guide.write();
 }
 
 } // namespace
@@ -196,7 +196,7 @@ void CaricaTappeItinerario(Form& form) {
         markEndsOfDay(form.mfgTab, legs);
     }
     CalcolaKmTempiItinerario(form);
-    ricordaTappe(form);
+    rememberLegs(form);
     form.frmframe(riquadroGuida).setVisible(false);
 }
 
@@ -208,12 +208,12 @@ void SettaAZeroFlaGVisto(Form& form) {
 bool MemorizzaTappeItinerario(Form& form) {
     AzzeraPercentuale(form);
     if (recordsNeeded(form) > massimoTratti) {
-        form.rifiuta(QStringLiteral("Impossibile: l'itinerario supera 9.999 tratti!"));
+        form.refuse(QStringLiteral("Impossibile: l'itinerario supera 9.999 tratti!"));
         return false;
     }
     const int stored = form.stato.NumeroTappe;
     const bool withDestination = form.metaNuova;
-    if (withDestination && !inserisceMetaNuova(form))
+    if (withDestination && !insertNewDestination(form))
         return false;
     try {
         storeTable(form);
@@ -222,7 +222,7 @@ bool MemorizzaTappeItinerario(Form& form) {
         form.metaNuova = withDestination;
         throw;
     }
-    ricordaTappe(form);
+    rememberLegs(form);
     AzzeraPercentuale(form);
     return true;
 }

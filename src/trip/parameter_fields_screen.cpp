@@ -85,7 +85,7 @@ void writeStandardValues(Form& form) {
         form.cmbMediaKm(i).setText(QString::fromUtf16(speed[static_cast<std::size_t>(i)]));
     for (int i = 0; i < numeroCoppie; ++i) {
         const auto& pair = clock[static_cast<std::size_t>(i)];
-        scriveCoppia(form, i, QString::fromUtf16(pair[0]), QString::fromUtf16(pair[1]));
+        writePair(form, i, QString::fromUtf16(pair[0]), QString::fromUtf16(pair[1]));
     }
     form.cmbRipM.setText(QStringLiteral("15"));
     form.cmbRipH.setText(QStringLiteral("03"));
@@ -129,7 +129,7 @@ float ControlloOrarioCmbOra(Form& form, int pair, bool& corrected) {
 }
 
 int within(double value, int greatest) {
-    const int n = arrotonda(value);
+    const int n = roundToInt(value);
     return n < 0 || n > greatest ? 0 : n;
 }
 
@@ -143,9 +143,9 @@ void readRests(Form& form) {
 
 void readStart(Form& form) {
     NumeriViaggio& s = *form.viaggio;
-    s.GiornoInizio = arrotonda(Val(form.cmbInizio(0).text()));
-    s.MeseInizio = arrotonda(Val(form.cmbInizio(1).text()));
-    s.AnnoInizio = arrotonda(Val(form.cmbInizio(2).text()));
+    s.GiornoInizio = roundToInt(Val(form.cmbInizio(0).text()));
+    s.MeseInizio = roundToInt(Val(form.cmbInizio(1).text()));
+    s.AnnoInizio = roundToInt(Val(form.cmbInizio(2).text()));
     s.GiulianoInizio = Data2Giul(Zero(s.GiornoInizio, 2) + Zero(s.MeseInizio, 2) + Zero(s.AnnoInizio, 4));
     s.GiulianoCorrente = s.GiulianoInizio;
     s.OraInizioViaggio = ghmStringa2Centesimi(form.cmbInizio(3).text() + u':' + form.cmbInizio(4).text(), giornoIntero);
@@ -156,7 +156,7 @@ void readStart(Form& form) {
 void writeTime(Form& form, int pair, float value) {
     const bool endOfDay = value >= giornoIntero;
     const QString text = Right(ghmCentesimi2Stringa(value, giornoIntero), 5);
-    scriveCoppia(form, pair, endOfDay ? QStringLiteral("24") : Left(text, 2), Mid(text, 4, 2));
+    writePair(form, pair, endOfDay ? QStringLiteral("24") : Left(text, 2), Mid(text, 4, 2));
 }
 
 /// The order of the day; true if something had to be moved that asks for another round.
@@ -176,14 +176,13 @@ bool orderDay(Form& form) {
         corrected = true;
     }
     if (s.OraNotte > giornoIntero)
-        scriveCoppia(form, coppiaNotte, QStringLiteral("24"), QStringLiteral("00"));
+        writePair(form, coppiaNotte, QStringLiteral("24"), QStringLiteral("00"));
     if (s.InizioVisita < s.OraColazione) {
-        scriveCoppia(form, coppiaInizioVisita, form.cmbOra(coppiaColazione).text(),
-                     form.cmbMin(coppiaColazione).text());
+        writePair(form, coppiaInizioVisita, form.cmbOra(coppiaColazione).text(), form.cmbMin(coppiaColazione).text());
         corrected = true;
     }
     if (s.FineVisita > s.OraNotte) {
-        scriveCoppia(form, coppiaFineVisita, form.cmbOra(coppiaNotte).text(), form.cmbMin(coppiaNotte).text());
+        writePair(form, coppiaFineVisita, form.cmbOra(coppiaNotte).text(), form.cmbMin(coppiaNotte).text());
         corrected = true;
     }
     return corrected;
@@ -191,14 +190,14 @@ bool orderDay(Form& form) {
 
 } // namespace
 
-void scriveCoppia(Form& form, int pair, const QString& hour, const QString& minute) {
+void writePair(Form& form, int pair, const QString& hour, const QString& minute) {
     form.cmbOra(pair).setText(hour);
     form.cmbMin(pair).setText(minute);
 }
 
 QString voceSoste(Form& form, const QString& code) {
     const QString s = Trim(code).isEmpty() ? QStringLiteral("3") : Trim(code);
-    return form.cmbSoste.List(arrotonda(Maggiore(Val(s) - 1, 0.0)));
+    return form.cmbSoste.List(roundToInt(Maggiore(Val(s) - 1, 0.0)));
 }
 
 void MetteAdesso(Form& form) {
@@ -240,7 +239,7 @@ void CaricaDefaultMeta(Form& form, int modo) {
         form.cmbMediaKm(i).setText(record.testo(QString::fromUtf16(campiMedie[static_cast<std::size_t>(i)])));
     for (const CampoCoppia& f : campiCoppie) {
         const QString value = record.testo(QString::fromUtf16(f.field));
-        scriveCoppia(form, f.pair, Left(value, 2), Mid(value, 3, 2));
+        writePair(form, f.pair, Left(value, 2), Mid(value, 3, 2));
     }
     form.cmbRipM.setText(record.testo(QStringLiteral("RiposoMinuti")));
     form.cmbRipH.setText(record.testo(QStringLiteral("RiposoOre")));
@@ -257,15 +256,15 @@ void MemorizzaVariabiliMeta(Form& form) {
     else
         record.Edit();
     for (int i = 0; i < 4; ++i)
-        record.scrive(QString::fromUtf16(campiMedie[static_cast<std::size_t>(i)]), form.cmbMediaKm(i).text());
+        record.write(QString::fromUtf16(campiMedie[static_cast<std::size_t>(i)]), form.cmbMediaKm(i).text());
     for (const CampoCoppia& f : campiCoppie)
-        record.scrive(QString::fromUtf16(f.field), form.cmbOra(f.pair).text() + form.cmbMin(f.pair).text());
-    record.scrive(QStringLiteral("RiposoMinuti"), form.cmbRipM.text());
-    record.scrive(QStringLiteral("RiposoOre"), form.cmbRipH.text());
-    record.scrive(QStringLiteral("RiposoGiorno"), form.cmbRipG.text());
-    record.scrive(QStringLiteral("RiposoDopoGiorni"), form.cmbRipGG.text());
-    record.scrive(QStringLiteral("CalcoloSoste"), Left(form.cmbSoste.text(), 1));
-    record.scrive(QStringLiteral("Range"), form.cmbRange.text());
+        record.write(QString::fromUtf16(f.field), form.cmbOra(f.pair).text() + form.cmbMin(f.pair).text());
+    record.write(QStringLiteral("RiposoMinuti"), form.cmbRipM.text());
+    record.write(QStringLiteral("RiposoOre"), form.cmbRipH.text());
+    record.write(QStringLiteral("RiposoGiorno"), form.cmbRipG.text());
+    record.write(QStringLiteral("RiposoDopoGiorni"), form.cmbRipGG.text());
+    record.write(QStringLiteral("CalcoloSoste"), Left(form.cmbSoste.text(), 1));
+    record.write(QStringLiteral("Range"), form.cmbRange.text());
     record.Update();
 }
 
@@ -285,7 +284,7 @@ void ControllaVariabiliConvertite(Form& form) {
         corrected = orderDay(form) || corrected;
     }
     form.yield();
-    s.GiorniDesiderati = arrotonda(Val(form.cmbGiorni.text()));
+    s.GiorniDesiderati = roundToInt(Val(form.cmbGiorni.text()));
     s.OreGuidaGiorno = s.OraNotte - s.OraColazione - s.DurataPranzo - s.DurataCena;
     s.OreVisitaGiorno = s.FineVisita - s.InizioVisita;
 }
@@ -294,7 +293,7 @@ void Aggiorna(Form& form, bool tieniSchermo) {
     MettiGiornoSett(form);
     ControllaVariabiliConvertite(form);
     NumeriViaggio& s = *form.viaggio;
-    limitaOrari(s);
+    limitClocks(s);
     const NumeriViaggio bounded = s; // the write-back raises change events, which set the variables from half a pair
     for (const int pair : {0, 1, 2, 3, 4, 5, 8, 6, 7}) {
         NumeriViaggio copy = bounded;
@@ -321,8 +320,8 @@ void MettiGiornoSett(Form& form) {
 }
 
 void ImpostaGiorniMeseInizio(Form& form) {
-    const int shown = arrotonda(Val(form.cmbInizio(0).text()));
-    const int days = GiorniMese(arrotonda(Val(form.cmbInizio(2).text())), arrotonda(Val(form.cmbInizio(1).text())));
+    const int shown = roundToInt(Val(form.cmbInizio(0).text()));
+    const int days = GiorniMese(roundToInt(Val(form.cmbInizio(2).text())), roundToInt(Val(form.cmbInizio(1).text())));
     form.cmbInizio(0).setEntries(values({1, days, 2}));
     form.cmbInizio(0).setText(Zero(Minore(shown, days), 2));
     MettiGiornoSett(form);

@@ -8,7 +8,7 @@
 namespace vanzer {
 
 /// Writes a pair of clock lists, the hours first: their change event reads the minutes that still stand there.
-void scriveCoppia(Form& form, int pair, const QString& hour, const QString& minute);
+void writePair(Form& form, int pair, const QString& hour, const QString& minute);
 
 /// Fills the lists, loads the defaults, puts today and now into the start.
 void CaricaComboBox(Form& form);

@@ -11,7 +11,7 @@ float& variabileCoppia(NumeriViaggio& trip, int pair) {
     return *variables[static_cast<std::size_t>(pair)];
 }
 
-void limitaOrari(NumeriViaggio& trip) {
+void limitClocks(NumeriViaggio& trip) {
     if (trip.DurataPranzo > 350)
         trip.DurataPranzo = 200;
     if (trip.DurataCena > 250)

@@ -45,6 +45,6 @@ inline constexpr std::array<const char16_t*, 4> campiMedie{u"MediaAutostrada", u
 [[nodiscard]] float& variabileCoppia(NumeriViaggio& trip, int pair);
 
 /// Brings clock times and lengths of meals inside their bounds and into the order of a day.
-void limitaOrari(NumeriViaggio& trip);
+void limitClocks(NumeriViaggio& trip);
 
 } // namespace vanzer

@@ -13,7 +13,7 @@ void cmdDefault_Click(Form& form, int i) {
     const QString title = QStringLiteral("Dati di default");
     const QString question =
         QStringLiteral("Vuoi %1 i dati di default?").arg(QString::fromUtf16(verbs[static_cast<std::size_t>(i)]));
-    if (form.domandaPericolosa(question, title, descriveMeta(form)) != rispostaSi)
+    if (form.domandaPericolosa(question, title, describeTrip(form)) != rispostaSi)
         return;
     if (i == 0) {
         MemorizzaVariabiliMeta(form);

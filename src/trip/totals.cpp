@@ -27,7 +27,7 @@ float tempoTratto(const Tratto& leg, const Medie& speeds) {
 
 } // namespace
 
-void TotaliTabella::ricalcola(Righe rows, const Medie& speeds) {
+void TotaliTabella::recalculate(Righe rows, const Medie& speeds) {
     rows_ = std::move(rows);
     speeds_ = speeds;
     totals_ = {};
@@ -40,7 +40,7 @@ void TotaliTabella::ricalcola(Righe rows, const Medie& speeds) {
     }
 }
 
-bool TotaliTabella::cambia(int row, const std::optional<Tratto>& leg) {
+bool TotaliTabella::change(int row, const std::optional<Tratto>& leg) {
     const auto at = static_cast<std::size_t>(row);
     TotaliItinerario changed = totals_;
     if (const std::optional<Tratto>& old = tratto(row))
@@ -83,7 +83,7 @@ bool TotaliTabella::exact(const TotaliItinerario& totals) const {
 }
 
 int giorniMinimi(const QString& drivingTime) {
-    return arrotonda(Val(Left(drivingTime, 2))) + (Mid(drivingTime, 4) > u"00:00" ? 1 : 0);
+    return roundToInt(Val(Left(drivingTime, 2))) + (Mid(drivingTime, 4) > u"00:00" ? 1 : 0);
 }
 
 QStringList giorniOfferti(int least, bool anyKilometres) {

@@ -40,9 +40,9 @@ class TotaliTabella {
     /// A leg for each row of the table, or none; rows count from 0.
     using Righe = std::vector<std::optional<Tratto>>;
 
-    void ricalcola(Righe rows, const Medie& speeds);
+    void recalculate(Righe rows, const Medie& speeds);
     /// A row's leg as it is now. False, and nothing changed, if the totals can't be had by difference.
-    [[nodiscard]] bool cambia(int row, const std::optional<Tratto>& leg);
+    [[nodiscard]] bool change(int row, const std::optional<Tratto>& leg);
 
     [[nodiscard]] const TotaliItinerario& totali() const { return totals_; }
     [[nodiscard]] const Medie& medie() const { return speeds_; }

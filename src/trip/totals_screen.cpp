@@ -15,7 +15,7 @@ constexpr float unGiornoDi99Ore = 9900;
 
 Tratto legOf(const Grid& grid, int row) {
     return {chilometri(grid.cell(row, tappaKm)), indiceStrada(grid.cell(row, tappaTipo)),
-            contiene(grid.cell(row, tappaStrada), u"TRAGH")};
+            contains(grid.cell(row, tappaStrada), u"TRAGH")};
 }
 
 /// The row's leg as the table has it now. A row without a place has none and is blanked.
@@ -48,7 +48,7 @@ void workOutAll(Form& form, const Medie& speeds) {
     TotaliTabella::Righe legs(static_cast<std::size_t>(grid.rows()));
     for (int r = 1; r < grid.rows(); ++r)
         legs[static_cast<std::size_t>(r)] = readLeg(grid, r);
-    form.totali->ricalcola(std::move(legs), speeds);
+    form.totali->recalculate(std::move(legs), speeds);
     writeRunningTexts(grid, *form.totali, 1);
 }
 
@@ -61,7 +61,7 @@ bool workOutChanges(Form& form, const Medie& speeds) {
     if (rows->empty())
         return true;
     for (const int row : *rows) {
-        if (!form.totali->cambia(row, readLeg(grid, row)))
+        if (!form.totali->change(row, readLeg(grid, row)))
             return false;
     }
     writeRunningTexts(grid, *form.totali, rows->front());
@@ -82,7 +82,7 @@ void showPanel(Form& form, const TotaliItinerario& totals) {
 
 void offerDays(Form& form, bool anyKilometres) {
     NumeriViaggio& s = *form.viaggio;
-    s.GiorniDesiderati = arrotonda(Val(form.cmbGiorni.text()));
+    s.GiorniDesiderati = roundToInt(Val(form.cmbGiorni.text()));
     const int least = anyKilometres ? giorniMinimi(form.txtTempo(4).text()) : 0;
     form.cmbGiorni.setEntries(giorniOfferti(least, anyKilometres));
     if (s.GiorniDesiderati != 0 && s.GiorniDesiderati < least)
@@ -93,7 +93,7 @@ void offerDays(Form& form, bool anyKilometres) {
 } // namespace
 
 int chilometri(const QString& cell) {
-    return cell.contains(u'.') ? arrotonda(Val(QString(cell).remove(u'.'))) : arrotonda(Val(cell));
+    return cell.contains(u'.') ? roundToInt(Val(QString(cell).remove(u'.'))) : roundToInt(Val(cell));
 }
 
 Medie medieMostrate(const Form& form) {

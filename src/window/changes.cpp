@@ -52,7 +52,7 @@ QStringList texts(const Form& form) {
 
 } // namespace
 
-void ricordaCampi(Form& form) {
+void rememberFields(Form& form) {
     form.campiMemorizzati = texts(form);
 }
 
@@ -89,8 +89,8 @@ QStringList nomiDeiCambiati(const Form& form) {
     return changed;
 }
 
-void rimetteCampi(Form& form, const TestiDeiCampi& typed) {
-    ricordaCampi(form);
+void putFieldsBack(Form& form, const TestiDeiCampi& typed) {
+    rememberFields(form);
     for (const Campi& some : storedFields(form)) {
         for (TextControl* const field : some.fields) {
             if (const auto text = typed.find(field->name()); text != typed.end())
@@ -100,25 +100,25 @@ void rimetteCampi(Form& form, const TestiDeiCampi& typed) {
     form.campiDaRicordare = false;
 }
 
-bool lasciaTratto(Form& form) {
-    return !form.interattiva || !form.frmframe(riquadroTratto).visible() || !form.chiudeTratto || form.chiudeTratto();
+bool leaveStretch(Form& form) {
+    return !form.interattiva || !form.frmframe(riquadroTratto).visible() || !form.closeStretch || form.closeStretch();
 }
 
-bool lasciaModifiche(Form& form) {
-    return lasciaTratto(form) && lasciaCampi(form);
+bool leaveChanges(Form& form) {
+    return leaveStretch(form) && leaveFields(form);
 }
 
-bool lasciaCampi(Form& form) {
+bool leaveFields(Form& form) {
     const QStringList changed = form.interattiva ? campiCambiati(form) : QStringList();
     if (changed.isEmpty())
         return true;
-    const int answer = form.chiede({.text = QStringLiteral("Salvare le modifiche a «%1»?").arg(form.txtLocalita.text()),
-                                    .title = QStringLiteral("Modifiche non salvate"),
-                                    .buttons = Pulsanti::SalvaNonSalvareAnnulla,
-                                    .detail = QStringLiteral("Cambiati: %1.").arg(changed.join(QStringLiteral(", ")))});
-    if (answer == rispostaAnnulla || (answer == rispostaSi && !form.salvaMeta()))
+    const int answer = form.ask({.text = QStringLiteral("Salvare le modifiche a «%1»?").arg(form.txtLocalita.text()),
+                                 .title = QStringLiteral("Modifiche non salvate"),
+                                 .buttons = Pulsanti::SalvaNonSalvareAnnulla,
+                                 .detail = QStringLiteral("Cambiati: %1.").arg(changed.join(QStringLiteral(", ")))});
+    if (answer == rispostaAnnulla || (answer == rispostaSi && !form.saveDestination()))
         return false;
-    ricordaCampi(form);
+    rememberFields(form);
     form.campiDaRicordare = true;
     return true;
 }
@@ -131,7 +131,7 @@ CampiTenuti::CampiTenuti(Form& form) : form_(form) {
 CampiTenuti::~CampiTenuti() {
     if (typed_.isEmpty())
         return;
-    ricordaCampi(form_);
+    rememberFields(form_);
     qsizetype at = 0;
     for (const Campi& some : storedFields(form_)) {
         for (TextControl* const field : some.fields)

@@ -7,7 +7,7 @@
 namespace vanzer {
 
 /// The fields as they stand count as stored.
-void ricordaCampi(Form& form);
+void rememberFields(Form& form);
 
 /// The kinds of fields that differ from what is stored, in words: "nazione", "partenza"; empty if none does.
 [[nodiscard]] QStringList campiCambiati(const Form& form);
@@ -16,14 +16,14 @@ void ricordaCampi(Form& form);
 [[nodiscard]] TestiDeiCampi testiDeiCampi(const Form& form);
 [[nodiscard]] QStringList nomiDeiCambiati(const Form& form);
 /// Puts texts back as typed and not stored, those of other controls aside; the rest counts as stored as it stands.
-void rimetteCampi(Form& form, const TestiDeiCampi& typed);
+void putFieldsBack(Form& form, const TestiDeiCampi& typed);
 
 /// Before fields or legs are cleared or reloaded: an open stretch is left by its own way, and changed fields are asked
 /// for, once. False if the user wants none of it, or what was to be stored can't be.
-[[nodiscard]] bool lasciaModifiche(Form& form);
+[[nodiscard]] bool leaveChanges(Form& form);
 /// The same for the stretch alone, and for the fields alone.
-[[nodiscard]] bool lasciaTratto(Form& form);
-[[nodiscard]] bool lasciaCampi(Form& form);
+[[nodiscard]] bool leaveStretch(Form& form);
+[[nodiscard]] bool leaveFields(Form& form);
 
 /// Keeps what the user typed over a reload that he didn't ask for. Does nothing in a script.
 class CampiTenuti {

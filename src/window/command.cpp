@@ -31,7 +31,7 @@ void giveButtonsBack(Form& form, const QString& meta, const QString& itinerario)
 
 } // namespace
 
-void memorizzaInsieme(Form& form, const std::function<void()>& handler) {
+void storeTogether(Form& form, const std::function<void()>& handler) {
     form.comandoInCorso = true;
     form.archivio.beginCommand();
     try {
@@ -50,24 +50,24 @@ void memorizzaInsieme(Form& form, const std::function<void()>& handler) {
 void comando(Form& form, const std::function<void()>& handler) {
     if (form.chiusa || form.comandoInCorso)
         return;
-    if (form.primaDelComando)
-        form.primaDelComando();
+    if (form.beforeCommand)
+        form.beforeCommand();
     form.lblAvviso.setCaption({});
     const QString meta = form.stato.PulsantiMeta;
     const QString itinerario = form.stato.PulsantiItinerario;
     // What a command sets right by itself is no change of the user's.
     form.campiDaRicordare = form.interattiva && campiCambiati(form).isEmpty();
     try {
-        memorizzaInsieme(form, handler);
+        storeTogether(form, handler);
     } catch (const store::StoreError& error) {
         form.messaggio(error.testo(), QStringLiteral("Archivio"), Icona::Avviso);
         giveButtonsBack(form, meta, itinerario);
     }
     if (form.campiDaRicordare)
-        ricordaCampi(form);
+        rememberFields(form);
 }
 
-bool interrompe(const Form& form, const Control& control) {
+bool stopsWork(const Form& form, const Control& control) {
     return &control == &form.cmdEsce && uguale(form.cmdEsce.caption(), u"&Stop") && control.reachable();
 }
 

@@ -13,10 +13,10 @@ namespace vanzer {
 void comando(Form& form, const std::function<void()>& handler);
 
 /// Whether a press of the control gets through to a command at work: "&Stop" alone does.
-[[nodiscard]] bool interrompe(const Form& form, const Control& control);
+[[nodiscard]] bool stopsWork(const Form& form, const Control& control);
 
 /// The same without a word to the user: throws what the archive throws. `handler` has run to its end if the failure
 /// came with the storing.
-void memorizzaInsieme(Form& form, const std::function<void()>& handler);
+void storeTogether(Form& form, const std::function<void()>& handler);
 
 } // namespace vanzer

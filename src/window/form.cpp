@@ -129,24 +129,24 @@ Control* Form::find(const QString& name) const {
     return found == byName_.end() ? nullptr : found->second;
 }
 
-int Form::chiede(const MessageBox& question) {
+int Form::ask(const MessageBox& question) {
     stato.Risposta = ports.messages.show(question);
     return stato.Risposta;
 }
 
 int Form::domanda(const QString& text, const QString& title, Pulsanti buttons) {
-    return chiede({.text = text, .title = title, .buttons = buttons});
+    return ask({.text = text, .title = title, .buttons = buttons});
 }
 
 int Form::domandaPericolosa(const QString& text, const QString& title, const QString& detail) {
-    return chiede({.text = text, .title = title, .buttons = Pulsanti::SiNo, .destroys = true, .detail = detail});
+    return ask({.text = text, .title = title, .buttons = Pulsanti::SiNo, .destroys = true, .detail = detail});
 }
 
 void Form::messaggio(const QString& text, const QString& title, Icona icon) {
     messaggioFile(text, {}, title, icon);
 }
 
-void Form::rifiuta(const QString& text, const QString& title) {
+void Form::refuse(const QString& text, const QString& title) {
     static_cast<void>(ports.messages.show({.text = text, .title = title, .refuses = true}));
 }
 

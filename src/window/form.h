@@ -89,14 +89,14 @@ class Form {
     [[nodiscard]] const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
 
     /// The answer stays in Risposta.
-    int chiede(const MessageBox& question);
+    int ask(const MessageBox& question);
     int domanda(const QString& text, const QString& title, Pulsanti buttons);
     /// A question whose yes deletes or overwrites what `detail` names.
     int domandaPericolosa(const QString& text, const QString& title, const QString& detail = {});
     /// A message with an OK button.
     void messaggio(const QString& text, const QString& title = {}, Icona icon = Icona::Nessuna);
     /// A message that tells why something can't be done.
-    void rifiuta(const QString& text, const QString& title = {});
+    void refuse(const QString& text, const QString& title = {});
     /// A message about files that were made, given by their paths.
     void messaggioFile(const QString& text, const QStringList& files, const QString& title = {},
                        Icona icon = Icona::Nessuna);
@@ -114,16 +114,16 @@ class Form {
     std::function<void()> onManuale;
 
     QString caption;
-    bool chiusa = false;                      ///< the window has been left
-    bool comandoInCorso = false;              ///< a command of the user is being carried out
-    bool interattiva = false;                 ///< a user sits before the window, not a script
-    QStringList campiMemorizzati;             ///< the fields of the destination as they count as stored
-    bool campiDaRicordare = false;            ///< at the end of the command they count so as they stand then
-    std::function<void()> primaDelComando;    ///< raised before a command of the user begins
-    std::function<bool()> salvaMeta;          ///< stores the destination as it stands; false if it can't be
-    std::function<bool()> chiudeTratto;       ///< leaves the editing of a stretch; false if the user stays
-    std::function<bool(int& row)> lasciaRiga; ///< before the fields show another row: false if the user stays on his
-    std::function<void()> guideRowShown;      ///< raised when the grid's current row changes while the guide is open
+    bool chiusa = false;                    ///< the window has been left
+    bool comandoInCorso = false;            ///< a command of the user is being carried out
+    bool interattiva = false;               ///< a user sits before the window, not a script
+    QStringList campiMemorizzati;           ///< the fields of the destination as they count as stored
+    bool campiDaRicordare = false;          ///< at the end of the command they count so as they stand then
+    std::function<void()> beforeCommand;    ///< raised before a command of the user begins
+    std::function<bool()> saveDestination;  ///< stores the destination as it stands; false if it can't be
+    std::function<bool()> closeStretch;     ///< leaves the editing of a stretch; false if the user stays
+    std::function<bool(int& row)> leaveRow; ///< before the fields show another row: false if the user stays on his
+    std::function<void()> guideRowShown;    ///< raised when the grid's current row changes while the guide is open
 
     std::array<QString, 21> TipiGuidaDescrizione;
     std::array<bool, 21> TipiGuidaTempoObbligatorio{};

@@ -19,7 +19,7 @@ bool isAll(const QString& codes) {
 
 void enableMenu(Form& form) {
     const QString& codes = form.stato.PulsantiMeta;
-    const auto on = [&codes](QStringView code) { return contiene(codes, code); };
+    const auto on = [&codes](QStringView code) { return contains(codes, code); };
     form.cmdNuovo.setEnabled(on(u"Nu"));
     form.cmdRicerca.setEnabled(on(u"Ri"));
     form.cmdSalva.setEnabled(on(u"Sa"));
@@ -40,7 +40,7 @@ void enableMenu(Form& form) {
 
 void enableItinerary(Form& form) {
     const QString& codes = form.stato.PulsantiItinerario;
-    const auto on = [&codes](QStringView code) { return contiene(codes, code); };
+    const auto on = [&codes](QStringView code) { return contains(codes, code); };
     form.cmdInserisce.setEnabled(on(u"In"));
     form.cmdAggiunge.setEnabled(on(u"Ag"));
     form.cmdCancella.setEnabled(on(u"Ca"));
@@ -59,7 +59,7 @@ void leaveProgram(Form& form) {
     AttivaFormMeta(form, true);
     form.mfgTab.setWidth(larghezzaTabella);
     form.frmframe(riquadroTappe).setVisible(false);
-    form.archivio.chiudi();
+    form.archivio.close();
     form.chiusa = true;
 }
 
@@ -73,7 +73,7 @@ void showCompanions(Form& form) {
         form.linea.reset();
         form.frmLinea.setVisible(false);
     }
-    form.cmdLinea.setEnabled(schedule && contiene(s.PulsantiMeta, u"Ca"));
+    form.cmdLinea.setEnabled(schedule && contains(s.PulsantiMeta, u"Ca"));
     const bool idle = uguale(s.PulsantiMeta, pulsanti::archivioVuoto) || s.PulsantiMeta == allMeta;
     form.frmPrimiPassi.setVisible(idle && s.CodiceMeta.isEmpty() && !form.frmframe(riquadroScambio).visible());
 }
@@ -137,10 +137,10 @@ void RinunciaStampa(Form& form) {
 
 void cmdEsce_Click(Form& form) {
     if (uguale(form.cmdEsce.caption(), u"&Stop"))
-        chiedeDiInterrompere(form);
+        askToInterrupt(form);
     else if (form.domanda(QStringLiteral("Vuoi chiudere la procedura?"), titoloFine.toString(), Pulsanti::SiNo) ==
                  rispostaSi &&
-             lasciaModifiche(form))
+             leaveChanges(form))
         leaveProgram(form);
 }
 

@@ -14,7 +14,7 @@ void AggiornaPercentuale(Form& form) {
         form.txtPerc.setWidth(0);
         return;
     }
-    const int p = arrotonda(Int(s.PercentualeCorrente / s.PercentualeTotale * 100));
+    const int p = roundToInt(Int(s.PercentualeCorrente / s.PercentualeTotale * 100));
     if (!form.txtPerc.visible() || p != s.PercentualeMostrata) {
         s.PercentualeMostrata = p;
         form.txtPerc.setVisible(true);
@@ -30,7 +30,7 @@ void AzzeraPercentuale(Form& form) {
     AggiornaPercentuale(form);
 }
 
-void chiedeDiInterrompere(Form& form) {
+void askToInterrupt(Form& form) {
     if (form.domanda(QStringLiteral("Vuoi interrompere l'elaborazione?"), titoloFine.toString(), Pulsanti::SiNo) ==
         rispostaSi)
         form.stato.InterrompiCalcolo = true;
@@ -49,7 +49,7 @@ LavoroInCorso::~LavoroInCorso() {
         form_.frmframe(open).setEnabled(true);
 }
 
-bool LavoroInCorso::avanza(double done) {
+bool LavoroInCorso::advance(double done) {
     form_.stato.PercentualeCorrente = done;
     AggiornaPercentuale(form_);
     return !form_.stato.InterrompiCalcolo;

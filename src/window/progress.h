@@ -16,7 +16,7 @@ void AggiornaPercentuale(Form& form);
 void AzzeraPercentuale(Form& form);
 
 /// Asks whether what is running is to be given up: InterrompiCalcolo.
-void chiedeDiInterrompere(Form& form);
+void askToInterrupt(Form& form);
 
 /// Work that is running and that the user can give up: an import, an export, a conversion, the copy of the archive. The
 /// frames that may be open are off as long as it stands.
@@ -28,7 +28,7 @@ class LavoroInCorso {
     LavoroInCorso& operator=(const LavoroInCorso&) = delete;
 
     /// Progress at `done` of PercentualeTotale; false when the user has given up, or the window was left.
-    [[nodiscard]] bool avanza(double done);
+    [[nodiscard]] bool advance(double done);
 
   private:
     Form& form_;

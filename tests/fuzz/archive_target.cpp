@@ -19,7 +19,7 @@ qint64 walked(Archive& archive, const store::Query& query) {
     for (; !records.EOF_(); records.MoveNext()) {
         ++count;
         for (int field = 0; field < records.count(); ++field)
-            promise(records.haValore(field) || records.kind(field) == store::FieldKind::YesNo ||
+            promise(records.hasValue(field) || records.kind(field) == store::FieldKind::YesNo ||
                         records.testo(field).isEmpty(),
                     "a field without a value has no text");
     }
@@ -45,7 +45,7 @@ void addRecord(Archive& archive) {
     store::Comando command(archive);
     store::Recordset& guide = archive.Rs(store::GuidaCitta);
     guide.AddNew();
-    guide.scrive("Localita", QString::fromLatin1(place));
+    guide.write("Localita", QString::fromLatin1(place));
     guide.Update();
     command.commit();
 }
@@ -59,8 +59,8 @@ qint64 added(Archive& archive) {
 /// Whether the archive was found sound.
 bool open(Archive& archive) {
     bool sound = false;
-    archive.apriArchivio(
-        [&sound](store::Database& file) { sound = file.verifica() != store::Database::Salute::Danneggiato; });
+    archive.openArchive(
+        [&sound](store::Database& file) { sound = file.check() != store::Database::Salute::Danneggiato; });
     return sound;
 }
 

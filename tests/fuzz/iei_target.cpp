@@ -28,7 +28,7 @@ QStringList codesInFile(const QByteArray& input) {
     RigheTesto lines(input);
     QStringList codes;
     while (lines.prossima()) {
-        if (reader.legge(lines.riga()) != LettoreIei::Riga::Record || reader.sezione() != store::MeteVanzer)
+        if (reader.read(lines.riga()) != LettoreIei::Riga::Record || reader.sezione() != store::MeteVanzer)
             continue;
         if (const QString code = reader.colonna(reader.campo(u"CodiceMeta")).toString(); !code.isEmpty())
             codes << code;
@@ -83,7 +83,7 @@ void checkRoundTrip(const MemoryArchive& archive) {
     RigheTesto lines(file.contenuto());
     std::size_t read = 0;
     while (lines.prossima()) {
-        if (reader.legge(lines.riga()) != LettoreIei::Riga::Record)
+        if (reader.read(lines.riga()) != LettoreIei::Riga::Record)
             continue;
         promise(read < written.size(), "no more records come back than were written");
         for (std::size_t i = 0; i < written[read].size(); ++i)
@@ -100,13 +100,13 @@ void readExchangeFile(const QByteArray& input) {
     MemoryArchive archive = someArchive();
     const QStringList chosen = codesInFile(input);
     CodiciMete codes;
-    if (codes.assegna(archive.column(store::MeteVanzer, u"CodiceMeta"), chosen, codeLength) !=
+    if (codes.assign(archive.column(store::MeteVanzer, u"CodiceMeta"), chosen, codeLength) !=
         CodiciMete::Esito::Assegnati)
         return;
     std::set<QString> given;
     for (CodiciMete left = codes; const QString& old : chosen) {
         promise(given.insert(*left.perMeta(old)).second, "each destination has a code of its own");
-        left.rifiuta(old); // the next of that code comes forward
+        left.refuse(old); // the next of that code comes forward
     }
     Importazione import(MemoryArchive::names(), codes, archive);
     RigheTesto lines(input);

@@ -25,7 +25,7 @@ void checkLegs(const PercorsoImportato& route) {
         promise(km == leg.kmProgressivo, "kilometres add up");
         promise(leg.luogo == maiuscolo(Trim(leg.luogo)), "places are trimmed and in capitals");
         promise(leg.strade == Trim(leg.strade), "roads are trimmed");
-        promise(leg.traghetto == contiene(leg.strade, u"TRAGH"), "a ferry is known by its road");
+        promise(leg.traghetto == contains(leg.strade, u"TRAGH"), "a ferry is known by its road");
     }
 }
 
@@ -63,7 +63,7 @@ QStringList markedOneByOne(const std::vector<RigaPercorso>& legs, const QStringL
             for (int i = 1; i <= columns.numero; ++i)
                 longest = columns(i).size() > longest.size() ? columns(i) : longest;
             if (!longest.isEmpty())
-                found = std::ranges::find_if(places, [&](const QString& place) { return contiene(place, longest); });
+                found = std::ranges::find_if(places, [&](const QString& place) { return contains(place, longest); });
         }
         if (found != places.end())
             *found += u" ["_s + Zero(static_cast<double>(n + 1), 5) + u']';
@@ -89,22 +89,22 @@ void checkFolded(const std::vector<RigaPercorso>& legs, const std::vector<RigaRi
 } // namespace
 
 void readRoutePackage(const QByteArray& input) {
-    const PercorsoImportato route = leggePacchetto(input);
+    const PercorsoImportato route = readPackage(input);
     checkLegs(route);
     if (route.formato == Pacchetto::Sconosciuto || input.contains('\r'))
         return;
-    const PercorsoImportato again = leggePacchetto(QByteArray(input).replace("\n", "\r\n"));
+    const PercorsoImportato again = readPackage(QByteArray(input).replace("\n", "\r\n"));
     promise(std::ranges::equal(route.tappe, again.tappe, same), "line ends don't matter");
 }
 
 void readStopFile(const QByteArray& input) {
-    const QStringList stops = leggeMete(input).mid(0, 500);
+    const QStringList stops = readDestinations(input).mid(0, 500);
     std::vector<RigaPercorso> legs = routeThrough(stops);
     const QStringList expected = markedOneByOne(legs, stops);
-    segnaMete(legs, stops);
+    markDestinations(legs, stops);
     for (std::size_t i = 0; i < legs.size(); ++i)
         promise(legs[i].luogo == expected[static_cast<qsizetype>(i)], "every stop marks the leg that the rule names");
-    checkFolded(legs, piegaTappe(legs, nameSize));
+    checkFolded(legs, foldLegs(legs, nameSize));
 }
 
 } // namespace vanzer::fuzz

@@ -38,7 +38,7 @@ QString numbersOf(const Grid& grid, Looks& looks) {
 QStringList rowsWith(const QString& mark, const Grid& grid, Looks& looks) {
     QStringList places;
     for (int r = 1; r < grid.rows(); ++r) {
-        if (contiene(grid.cell(r, 1), mark))
+        if (contains(grid.cell(r, 1), mark))
             places += grid.cell(r, 1);
     }
     looks[(u"rows with "_s + mark).toStdString()] += places.size();

@@ -60,7 +60,7 @@ TEST_P(Attacked, Signals) {
             desk.run(lines(work().before));
             watch.arm({.calls = changes, .signal = SIGTERM}, n);
             for (const QString& line : lines(work().risky)) {
-                if (SegnaliDiFine::arrivato() == 0)
+                if (SegnaliDiFine::arrived() == 0)
                     desk.tries({line});
             }
             return watch.hit();

@@ -126,7 +126,7 @@ TEST(Files, PutIntoPlaceAreToldWhereTheyArentSafe) {
         disk.lay(home.path());
         Watch watch(home.path());
         watch.arm({.calls = +Call::Sync, .error = EIO}, sync);
-        EXPECT_THROW(store::metteAlPosto(made, place), store::StoreError);
+        EXPECT_THROW(store::putInPlace(made, place), store::StoreError);
         EXPECT_EQ(bytesOf(place), sync == 1 ? "quello di prima" : "nuovo");
     }
 }

@@ -93,7 +93,7 @@ inline std::string storedIn(const QString& folder) {
 
 /// Makes an archive one of another version.
 inline void changeSchema(const QString& folder, const QByteArray& sql) {
-    store::Database::apre(folder + u'/' + store::nomeArchivio)->cambiaSchema(sql);
+    store::Database::open(folder + u'/' + store::nomeArchivio)->changeSchema(sql);
 }
 
 /// The editor stays open.

@@ -52,7 +52,7 @@ class MemoryArchive final : public ArchivioImport {
         return texts;
     }
 
-    void aggiunge(int section, std::vector<QString>& values) override {
+    void add(int section, std::vector<QString>& values) override {
         for (std::size_t i = 0; i < values.size(); ++i) {
             const store::FieldDef& field = fields(section)[i];
             if (field.kind == store::FieldKind::Text)
@@ -72,7 +72,7 @@ class MemoryArchive final : public ArchivioImport {
     }
 
     [[nodiscard]] static bool like(const QString& pattern, const QString& text) {
-        return somiglia(pattern.toStdString(), text.toStdString());
+        return resembles(pattern.toStdString(), text.toStdString());
     }
 
   private:

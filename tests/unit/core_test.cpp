@@ -76,8 +76,8 @@ TEST(Text, CaseIsIgnoredLetterByLetter) {
     EXPECT_EQ(posizione(u"x [START]", u"[Start]"), 3);
     EXPECT_EQ(ValoreSenzaPunti(u"1.234,5"_s), 12345);
     EXPECT_EQ(ValoreSenzaPunti(u"km"_s), 0);
-    EXPECT_EQ(arrotonda(2.5), 2);
-    EXPECT_EQ(arrotonda(3.5), 4);
+    EXPECT_EQ(roundToInt(2.5), 2);
+    EXPECT_EQ(roundToInt(3.5), 4);
 }
 
 TEST(Durate, BothWays) {
@@ -110,7 +110,7 @@ TEST(Durate, EveryMinuteSurvivesTheRoundTrip) {
         const QString text = u"00:07:"_s + Zero(minute, 2);
         const float c = ghmStringa2Centesimi(text, 2400);
         EXPECT_EQ(ghmCentesimi2Stringa(c, 2400), text);
-        EXPECT_EQ(ricompone(scompone(c, 2400), 2400), c);
+        EXPECT_EQ(recompose(splitTime(c, 2400), 2400), c);
     }
 }
 
@@ -205,11 +205,11 @@ TEST(TextFile, IsWrittenWholeOrNotAtAll) {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "none";
     };
-    EXPECT_EQ(scriveFile(path, contenutoTesto({u"Città"_s, {}})), u"");
+    EXPECT_EQ(writeFile(path, contenutoTesto({u"Città"_s, {}})), u"");
     EXPECT_EQ(content(), "Citt\xE0\r\n\r\n");
-    EXPECT_EQ(scriveFile(path, contenutoTesto({})), u"");
+    EXPECT_EQ(writeFile(path, contenutoTesto({})), u"");
     EXPECT_EQ(content(), "");
-    ASSERT_EQ(scriveFile(path, contenutoTesto({u"di prima"_s})), u"");
+    ASSERT_EQ(writeFile(path, contenutoTesto({u"di prima"_s})), u"");
     ASSERT_TRUE(QDir(directory.path()).mkdir(u"cartella"_s));
     const FullDisk full(4096);
     const std::pair<QString, QString> cases[] = {{u"altrove/lista.txt"_s, u"cartella non c'è"_s},
@@ -218,7 +218,7 @@ TEST(TextFile, IsWrittenWholeOrNotAtAll) {
                                                  {u"lista.txt"_s, u"disco è pieno"_s}};
     for (const auto& [name, why] : cases) {
         for (const qsizetype size : {5'000, 500'000}) {
-            const QString reason = scriveFile(directory.filePath(name), QByteArray(size, 'x'));
+            const QString reason = writeFile(directory.filePath(name), QByteArray(size, 'x'));
             EXPECT_TRUE(reason.contains(why)) << name.toStdString() << ": " << reason.toStdString();
         }
     }

@@ -33,11 +33,11 @@ class DailyCopy : public StoreTest {
     }
 
     void copy(int day, const Database::CopyProgress& progress = {}) {
-        copiaDelGiorno(*archive.Db(0), QDate(2026, 5, day), progress);
+        makeDailyCopy(*archive.Db(0), QDate(2026, 5, day), progress);
     }
 
     void writeOver(qint64 at, const QByteArray& bytes) {
-        archive.chiudi();
+        archive.close();
         QFile f(file());
         ASSERT_TRUE(f.open(QIODevice::ReadWrite) && f.seek(at) && f.write(bytes) == bytes.size());
     }
@@ -110,9 +110,9 @@ TEST_F(DailyCopy, OnesTooManyGoAndOthersFilesStay) {
     const QTemporaryDir restored;
     ASSERT_TRUE(QFile::copy(copies() + u'/' + nameOf(17), path(restored, "Vanzer.mdb")));
     Archive other(restored.path());
-    other.apriArchivio();
+    other.openArchive();
     EXPECT_EQ(other.tabella("Itinerari").record, stored);
-    other.chiudi();
+    other.close();
 
     copy(2); // a clock that was put back
     EXPECT_EQ(kept(), QStringList{nameOf(2)} + expected + own);
@@ -126,7 +126,7 @@ TEST_F(DailyCopy, FullOnesOutliveEmptyOnesAndAllAreCountedWithoutATrace) {
         Recordset rs(*archive.Db(0), {TabelleNomi(MeteVanzer), {}, {}});
         for (int i = 0; i < count; ++i) {
             rs.AddNew();
-            rs.scrive("CodiceMeta", QString::number(i));
+            rs.write("CodiceMeta", QString::number(i));
             rs.Update();
         }
         command.commit();
@@ -203,10 +203,10 @@ TEST_F(DailyCopy, OneThatIsLeftOrFailsLeavesNothing) {
 class WindowOnCopies : public DailyCopy {
   protected:
     void start(int day) {
-        archive.chiudi();
+        archive.close();
         clock.set(QDateTime(QDate(2026, 5, day), QTime(8, 0)));
         form = nuovaFinestra({.directory = directory.path(), .decimalMark = u'.', .versione = {}}, ports);
-        caricaFinestra(*form);
+        loadWindow(*form);
     }
     [[nodiscard]] QString shown() {
         QStringList texts;
@@ -258,7 +258,7 @@ TEST_F(WindowOnCopies, AreNamedWhereTheyHelp) {
     start(7);
     const QString inUse = shown();
     EXPECT_TRUE(inUse.contains(u"è già aperto da un altro Vanzer") && !inUse.contains(where)) << inUse.toStdString();
-    first->archivio.chiudi();
+    first->archivio.close();
 
     writeOver(qint64{4096} * 200, QByteArray(4096, 'x'));
     start(8);
@@ -267,7 +267,7 @@ TEST_F(WindowOnCopies, AreNamedWhereTheyHelp) {
     EXPECT_TRUE(damaged.contains(u"danneggiato") && damaged.contains(where) && damaged.contains(nameOf(7)))
         << damaged.toStdString();
     EXPECT_EQ(kept(), QStringList{nameOf(7)});
-    form->archivio.chiudi();
+    form->archivio.close();
 
     writeOver(0, "that is no archive");
     start(9);
@@ -281,12 +281,12 @@ TEST_F(WindowOnCopies, AreNamedWhereTheyHelp) {
 TEST_F(WindowOnCopies, AMissingArchiveIsAskedForAndABrokenIndexMended) {
     addLegs(2);
     start(7);
-    form->archivio.chiudi();
+    form->archivio.close();
     breakIndexOfLegs(file());
     start(7);
     EXPECT_TRUE(shown().contains(u"Gli indici"));
     EXPECT_EQ(form->archivio.tabella("Itinerari").record.size(), 2U);
-    form->archivio.chiudi();
+    form->archivio.close();
 
     struct Choice {
         int answer;
@@ -302,7 +302,7 @@ TEST_F(WindowOnCopies, AMissingArchiveIsAskedForAndABrokenIndexMended) {
         if (choice.legs) {
             EXPECT_EQ(form->archivio.tabella("Itinerari").record.size(), *choice.legs);
         }
-        form->archivio.chiudi();
+        form->archivio.close();
     }
 }
 

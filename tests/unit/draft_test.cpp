@@ -69,19 +69,19 @@ class DraftScreen : public WindowTest {
     }
     /// What is unsaved is written, if it is due.
     void keep() {
-        custodian->tiene();
-        custodian->aspetta();
+        custodian->keep();
+        custodian->wait();
     }
     /// The program goes without a word of the user's, and starts again.
     void cut() {
         keep();
         ASSERT_TRUE(isThere());
-        session->window()->archivio.chiudi();
+        session->window()->archivio.close();
         restart();
     }
     void look() {
-        custodian->guarda();
-        custodian->aspetta();
+        custodian->look();
+        custodian->wait();
     }
     bool isThere() const { return QFile::exists(path()); }
     QString path() const { return inFolder(store::nomeBozza); }
@@ -110,7 +110,7 @@ TEST_F(DraftScreen, UnsavedWorkComesBackAsItStood) {
         const QString before = legs() + trips();
         ASSERT_NO_FATAL_FAILURE(cut());
         answer({rispostaSi});
-        custodian->offre();
+        custodian->offer();
         EXPECT_EQ(asked(), QStringList(u"Riprendere il lavoro non salvato a "_s + question + u'?'));
         std::optional<Bozza> back = lavoroNonSalvato(form());
         ASSERT_TRUE(back);
@@ -179,7 +179,7 @@ TEST_F(DraftScreen, GoesWhenAllIsStoredOrGivenUp) {
         keep();
         EXPECT_FALSE(isThere()) << "written only when something has changed";
         form().txtNazione.type(u"SPAGNA"_s);
-        custodian->tiene();
+        custodian->keep();
         answer({wish});
         go(form());
         look();
@@ -193,8 +193,8 @@ TEST_F(DraftScreen, IsNeverAScriptsOwn) {
     form().txtNazione.type(u"FRANCIA"_s);
     keep();
     EXPECT_FALSE(isThere());
-    store::scriveBozza(path(), byteDellaBozza(example(), written));
-    custodian->offre();
+    store::writeDraft(path(), byteDellaBozza(example(), written));
+    custodian->offer();
     EXPECT_EQ(asked(), QStringList());
 }
 
@@ -205,11 +205,11 @@ TEST_F(DraftScreen, ARefusedOneStaysUnderAnotherName) {
         form().txtNazione.type(nation);
         ASSERT_NO_FATAL_FAILURE(cut());
         session->clock.set(now.addDays(1));
-        custodian->offre(); // unasked is no
+        custodian->offer(); // unasked is no
         EXPECT_EQ(asked(), QStringList(u"Riprendere il lavoro non salvato a «PROVA» (2 tappe, 24/11/2026 18:05)?"_s));
         EXPECT_EQ(form().txtNazione.text(), u"ITALIA "_s);
         EXPECT_FALSE(isThere());
-        const QByteArray refused = store::leggeBozza(path() + store::bozzaRifiutata).value();
+        const QByteArray refused = store::readDraft(path() + store::bozzaRifiutata).value();
         EXPECT_EQ(bozzaDaiByte(refused)->campi.at(u"txtNazione"_s), nation);
     }
 }
@@ -219,8 +219,8 @@ TEST_F(DraftScreen, StaysUntilItIsAnswered) {
     begin();
     form().txtNazione.type(u"FRANCIA"_s);
     ASSERT_NO_FATAL_FAILURE(cut());
-    custodian->guarda();
-    custodian->finisce();
+    custodian->look();
+    custodian->finish();
     EXPECT_TRUE(isThere());
 }
 
@@ -231,7 +231,7 @@ TEST_F(DraftScreen, MeetsAnotherArchive) {
     addLeg(form(), u"CUNEO"_s);
     form().txtTappa.type(u"NIZZA"_s);
     keep();
-    const QByteArray draft = store::leggeBozza(path())->replace("\"riga\":", "\"riga\":99999"); // no row is so far down
+    const QByteArray draft = store::readDraft(path())->replace("\"riga\":", "\"riga\":99999"); // no row is so far down
     for (const QString& other : {u""_s, u"ROMA"_s}) { // with an empty archive, and where the code is another trip's
         const bool empty = other.isEmpty();
         for (const bool store : {true, false}) {
@@ -240,10 +240,10 @@ TEST_F(DraftScreen, MeetsAnotherArchive) {
             startAnew();
             if (!empty)
                 storeTrip(other);
-            store::scriveBozza(path(), draft);
+            store::writeDraft(path(), draft);
             custodian.emplace(form());
             answer({rispostaSi});
-            custodian->offre();
+            custodian->offer();
             EXPECT_EQ(form().txtLocalita.text() + form().mfgTab.cell(3, 1) + form().txtTappa.text(),
                       u"PROVACUNEONIZZA");
             EXPECT_TRUE(form().frmframe(12).visible());
@@ -263,7 +263,7 @@ TEST_F(DraftScreen, MeetsAnotherArchive) {
 TEST_F(DraftScreen, WhatIsNoDraftIsPutAside) {
     begin();
     const std::pair<const char*, void (*)(const QString&)> things[] = {
-        {"garbage", [](const QString& p) { store::scriveBozza(p, "\xff\x00nothing"); }},
+        {"garbage", [](const QString& p) { store::writeDraft(p, "\xff\x00nothing"); }},
         {"a pipe", [](const QString& p) { ASSERT_EQ(::mkfifo(QFile::encodeName(p).constData(), 0600), 0); }},
         {"a large file",
          [](const QString& p) {
@@ -280,7 +280,7 @@ TEST_F(DraftScreen, WhatIsNoDraftIsPutAside) {
     for (const auto& [what, put] : things) {
         SCOPED_TRACE(what);
         put(path());
-        custodian->offre();
+        custodian->offer();
         EXPECT_EQ(asked(),
                   QStringList(u"La bozza del lavoro non salvato non si può leggere. È stata messa da parte: "_s +
                               path() + store::bozzaDanneggiata));
@@ -293,9 +293,9 @@ TEST_F(DraftScreen, AFailureToWriteIsTold) {
     ASSERT_TRUE(QDir().mkdir(path()));
     form().txtNazione.type(u"FRANCIA"_s);
     keep();
-    custodian->tiene();
+    custodian->keep();
     EXPECT_TRUE(form().lblAvviso.caption().startsWith(u"La bozza del lavoro non salvato non è scritta: "_s));
-    custodian->aspetta();
+    custodian->wait();
     ASSERT_TRUE(QDir().rmdir(path()));
     keep();
     EXPECT_TRUE(isThere()) << "tried again";
@@ -311,8 +311,8 @@ TEST_F(DraftScreen, ACommandAtWorkDoesNotCount) {
         if (!form().comandoInCorso || form().cmdEsce.caption() != u"&Stop"_s)
             return false;
         keep();
-        draft = store::leggeBozza(path());
-        custodian->nonSceglieLui();
+        draft = store::readDraft(path());
+        custodian->notHisChoice();
         form().stato.InterrompiCalcolo = true; // which loads the stored legs
         return true;
     });
@@ -321,8 +321,8 @@ TEST_F(DraftScreen, ACommandAtWorkDoesNotCount) {
     std::optional<Bozza> back = bozzaDaiByte(*draft);
     back->scritta = {};
     EXPECT_EQ(back, kept);
-    custodian->finisce();
-    EXPECT_EQ(store::leggeBozza(path()), draft);
+    custodian->finish();
+    EXPECT_EQ(store::readDraft(path()), draft);
 }
 
 } // namespace

@@ -67,8 +67,8 @@ TEST(ExchangeLine, BelongsToTheLowestSectionWhoseSeparatorItHolds) {
 /// The texts of fields A, B and C on a record line, behind a head line.
 QStringList read(const QString& head, const QString& record) {
     LettoreIei reader({QStringList(), {u"A"_s, u"B"_s, u"C"_s}, QStringList(), QStringList()});
-    EXPECT_EQ(reader.legge(head), LettoreIei::Riga::Testa);
-    EXPECT_EQ(reader.legge(record), LettoreIei::Riga::Record);
+    EXPECT_EQ(reader.read(head), LettoreIei::Riga::Testa);
+    EXPECT_EQ(reader.read(record), LettoreIei::Riga::Record);
     return {reader.valore(0), reader.valore(1), reader.valore(2)};
 }
 
@@ -99,15 +99,15 @@ TEST(ExchangeLine, AHeadIsTheFirstLineBehindAnotherSection) {
         {u"niente"_s, Estranea},   {u"CodiceMetaÿ"_s, Testa}, {u"000001ÿ"_s, Record}, {u""_s, Record},
         {u"CodiceMetaþ"_s, Testa}, {u"000001þ"_s, Record},    {u"Romaý"_s, Testa},    {u"CodiceMetaÿ"_s, Testa}};
     for (const auto& [line, kind] : lines)
-        EXPECT_EQ(reader.legge(line), kind) << plain(line);
+        EXPECT_EQ(reader.read(line), kind) << plain(line);
 }
 
 TEST(RouteList, CountersBeyondAllNumbersStayAtTheGreatest) {
     constexpr int most = 2'147'483'647;
     const PercorsoImportato route =
-        leggePacchetto("Riepilogo\n. Località\tDirezione\tDistanza\tTempo\tPosizione opposta\n" + QByteArray(150, '-') +
-                       "\nASTI\t\t\t\t12 KM\nALBA\t\t\t\t99999999999 KM\n"
-                       "BRA\t\t\t\t5 KM\nACQUI\t\t\t\t4 KM\n");
+        readPackage("Riepilogo\n. Località\tDirezione\tDistanza\tTempo\tPosizione opposta\n" + QByteArray(150, '-') +
+                    "\nASTI\t\t\t\t12 KM\nALBA\t\t\t\t99999999999 KM\n"
+                    "BRA\t\t\t\t5 KM\nACQUI\t\t\t\t4 KM\n");
     std::vector<int> km;
     for (const TappaImportata& leg : route.tappe)
         km.insert(km.end(), {leg.km, leg.kmProgressivo});
@@ -132,19 +132,19 @@ TEST(ExchangeCodes, AreKeptWhenFreeElseCountedOn) {
     for (const auto& [stored, chosen, fresh] : cases) {
         CodiciMete codes;
         QStringList given;
-        if (codes.assegna(stored.split(u' ', Qt::SkipEmptyParts), chosen.split(u' '), 6) ==
+        if (codes.assign(stored.split(u' ', Qt::SkipEmptyParts), chosen.split(u' '), 6) ==
             CodiciMete::Esito::Assegnati) {
             for (const QString& old : chosen.split(u' ')) {
                 given += *codes.perMeta(old);
-                codes.accetta(old);
+                codes.accept(old);
             }
         }
         EXPECT_EQ(given.join(u' '), fresh) << plain(chosen);
     }
     CodiciMete codes;
-    static_cast<void>(codes.assegna({}, {u"000001"_s}, 6));
+    static_cast<void>(codes.assign({}, {u"000001"_s}, 6));
     EXPECT_EQ(codes.perMeta(u"000002"), nullptr);
-    codes.rifiuta(u"000001");
+    codes.refuse(u"000001");
     EXPECT_TRUE(codes.perMeta(u"000001") == nullptr && codes.perTappe(u"000001") == nullptr);
 }
 
@@ -208,7 +208,7 @@ TEST(ExchangeImport, TakesOfTheGuideWhatTheRuleSays) {
 TEST(ExchangeImport, LegsThatComeLateCountForTheGuideToo) {
     MemoryArchive archive;
     CodiciMete codes;
-    ASSERT_EQ(codes.assegna({}, {u"000001"_s}, 6), CodiciMete::Esito::Assegnati);
+    ASSERT_EQ(codes.assign({}, {u"000001"_s}, 6), CodiciMete::Esito::Assegnati);
     Importazione import(MemoryArchive::names(), codes, archive);
     const std::pair<const char16_t*, int> lines[] = {
         // with the entries so far
@@ -226,7 +226,7 @@ TEST(ExchangeImport, LegsThatComeLateCountForTheGuideToo) {
 TEST(ExchangeImport, OneCodeForTwoDestinationsIsOneCodeEach) {
     MemoryArchive archive;
     CodiciMete codes;
-    ASSERT_EQ(codes.assegna({}, {u"000071"_s, u"000071"_s}, 6), CodiciMete::Esito::Assegnati);
+    ASSERT_EQ(codes.assign({}, {u"000071"_s, u"000071"_s}, 6), CodiciMete::Esito::Assegnati);
     Importazione import(MemoryArchive::names(), codes, archive);
     for (const char16_t* line : {u"CodiceMetaÿLocalitaÿ", u"000071ÿBARIÿ", u"000071ÿROMAÿ", u"000071ÿPARIGIÿ",
                                  u"CodiceMetaþLocalitaþ", u"000071þLECCEþ"})

@@ -61,7 +61,7 @@ class Trip {
   public:
     Trip() {
         clock_.set(QDateTime(QDate(2003, 6, 21), QTime(8, 30)));
-        form_ = avvia({.directory = directory_.path(), .decimalMark = u'.', .versione = {}}, ports_);
+        form_ = startWindow({.directory = directory_.path(), .decimalMark = u'.', .versione = {}}, ports_);
         form_->cmdNuovo.click();
         form_->txtLocalita.type(u"GRAN GIRO"_s);
         form_->txtNazione.type(u"EUROPA"_s);
@@ -98,11 +98,11 @@ class Trip {
             grid.setCell(i, 4, u"A"_s);
             grid.setCell(i, 7, i % 10 == 0 ? u"*00:00:30"_s : QString());
             guide.AddNew();
-            guide.scrive("Localita", place);
-            guide.scrive("CodiceGuida", u"01"_s);
-            guide.scrive("Descrizione", u"Duomo"_s);
-            guide.scrive("TempoSosta", u"00:30"_s);
-            guide.scrive("FlagVisto", u"0"_s);
+            guide.write("Localita", place);
+            guide.write("CodiceGuida", u"01"_s);
+            guide.write("Descrizione", u"Duomo"_s);
+            guide.write("TempoSosta", u"00:30"_s);
+            guide.write("FlagVisto", u"0"_s);
             guide.Update();
         }
         MemorizzaTappeItinerario(*form_);
@@ -150,8 +150,8 @@ std::vector<Showing> showingsOfACalculation(Trip& trip) {
 
 /// The first rows of a test, as they stand when it has walked so many working rows.
 Rows firstRows(const Showing& at, const std::vector<RigaDiLavoro>& work, const TestiViandoria& with) {
-    const Viandoria first = simula(work, at.with, at.coefficient,
-                                   [&at](int row, const Viandoria& /*soFar*/) { return row == at.walked + 1; });
+    const Viandoria first = simulate(work, at.with, at.coefficient,
+                                     [&at](int row, const Viandoria& /*soFar*/) { return row == at.walked + 1; });
     return celleViandoria(first, work, with);
 }
 
@@ -166,7 +166,7 @@ TEST(RigheInCrescita, OfALongTestComeLittleByLittle) {
     const Rows whole = celleViandoria(soFar, work, with);
     Rows rows;
     for (const int size : {400, 798, 1000, 1000}) {
-        cresce(rows, soFar, work, with);
+        grow(rows, soFar, work, with);
         Rows first = whole;
         first.setRows(size);
         EXPECT_EQ(rows, first) << size;
@@ -177,12 +177,12 @@ TEST(RigheInCrescita, AreShownForATwentiethOfTheTime) {
     using std::chrono::milliseconds;
     const RitmoMostre::Istante start{milliseconds(1000)};
     RitmoMostre rhythm;
-    EXPECT_TRUE(rhythm.tocca(start));
-    rhythm.mostrata(start, start + milliseconds(10));
-    EXPECT_FALSE(rhythm.tocca(start + milliseconds(209)));
-    EXPECT_TRUE(rhythm.tocca(start + milliseconds(210)));
-    rhythm.mostrata(start + milliseconds(300), start + milliseconds(301));
-    EXPECT_TRUE(rhythm.tocca(start + milliseconds(321))) << "only the last one counts";
+    EXPECT_TRUE(rhythm.isDue(start));
+    rhythm.shown(start, start + milliseconds(10));
+    EXPECT_FALSE(rhythm.isDue(start + milliseconds(209)));
+    EXPECT_TRUE(rhythm.isDue(start + milliseconds(210)));
+    rhythm.shown(start + milliseconds(300), start + milliseconds(301));
+    EXPECT_TRUE(rhythm.isDue(start + milliseconds(321))) << "only the last one counts";
 }
 
 TEST(RigheInCrescita, StandInTheTableWhileTheirTestRuns) {

@@ -83,18 +83,18 @@ TEST(EditorTappe, WhatIsRefusedAndWhatIsKept) {
         {typed(3, u"1000"_s, 50), KmTroppi, u"1000|A|"_s},
     };
     for (const auto& c : cases) {
-        const TappaControllata row = controllaTappa(c.typed);
+        const TappaControllata row = checkLeg(c.typed);
         EXPECT_EQ(row.rifiuto, c.refused) << c.typed.km.toStdString();
         EXPECT_EQ(row.km + u'|' + row.lettera + u'|' + row.sosta, c.kept);
     }
 }
 
 TEST(EditorTappe, MarksComeOffAName) {
-    const LuogoConMarche both = separaMarche(u" ROMA [start] [END] "_s);
+    const LuogoConMarche both = splitMarks(u" ROMA [start] [END] "_s);
     EXPECT_EQ(both.nome, u"ROMA");
     EXPECT_TRUE(both.start);
     EXPECT_FALSE(both.end) << "what stands behind the first mark goes with it";
-    EXPECT_TRUE(separaMarche(u"BARI [End]"_s).end);
+    EXPECT_TRUE(splitMarks(u"BARI [End]"_s).end);
     EXPECT_EQ(senzaMarca(u"ROMA [Start] [END] [end]"_s, u"[End]"), u"ROMA [Start]");
 }
 

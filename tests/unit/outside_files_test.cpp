@@ -90,7 +90,7 @@ TEST_F(OutsideFiles, LeaveTheArchiveAndItsCopiesAlone) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         EXPECT_EQ(motivoRiservato(at(c.name), at("casa/Vanzer.mdb")), c.reason);
-        EXPECT_EQ(scrivePerAltri(at(c.name), "giro", at("casa/Vanzer.mdb")), c.reason);
+        EXPECT_EQ(writeForOthers(at(c.name), "giro", at("casa/Vanzer.mdb")), c.reason);
     }
     EXPECT_EQ(read("dati/Mio.mdb") + read("casa/Copie/Vanzer 2026-05-01.mdb"), "xx");
     EXPECT_EQ(read("fuori/giro.csv"), "giro");
@@ -113,7 +113,7 @@ TEST_F(OutsideFiles, AreReadOnlyWhereTheyEnd) {
         {u"/dev/zero"_s, "", odd},       {u"/proc/self/status"_s, "", odd},
     };
     for (const auto& c : cases) {
-        const FileLetto read = leggeFile(c.path);
+        const FileLetto read = readFile(c.path);
         EXPECT_EQ(read.contenuto.toStdString(), c.contents) << c.path.toStdString();
         EXPECT_EQ(read.errore, c.error) << c.path.toStdString();
     }
@@ -172,9 +172,9 @@ TEST_F(OutsideFiles, TakeTheirPlaceBehindALinkOnAnyDisk) {
         QFile::remove(at("casa/Vanzer.mdb"));
         ASSERT_TRUE(QFile::link(behind, at("casa/Vanzer.mdb")));
         ASSERT_EQ(::chmod(behind.toLocal8Bit().constData(), 0600), 0);
-        copiaDiritti(at("casa/Vanzer.mdb"), at("casa/DBTemp.mdb"));
+        copyRights(at("casa/Vanzer.mdb"), at("casa/DBTemp.mdb"));
         write("casa/DBTemp.mdb", "nuovo");
-        metteAlPosto(at("casa/DBTemp.mdb"), at("casa/Vanzer.mdb"));
+        putInPlace(at("casa/DBTemp.mdb"), at("casa/Vanzer.mdb"));
         EXPECT_TRUE(QFileInfo(at("casa/Vanzer.mdb")).isSymLink());
         EXPECT_EQ(read("casa/Vanzer.mdb"), "nuovo");
         struct stat made {};

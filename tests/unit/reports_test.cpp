@@ -53,7 +53,7 @@ TEST_F(Reports, TheDaysOfATimeLineShareAPageWhileTheyCanBeToldApart) {
     for (const auto& c : cases) {
         LineaDelTempo line;
         line.attivita.emplace_back().fine = 2400.0 * c.days;
-        sheet.imposta();
+        sheet.setUp();
         stampaLinea(sheet, u"GIRO"_s, line, foot);
         const QJsonArray drawn = pages();
         EXPECT_EQ(drawn.size(), c.pages) << c.days;

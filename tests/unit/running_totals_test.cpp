@@ -120,13 +120,13 @@ TEST(RunningTotals, ByDifferenceOnlyWhereNothingIsLost) {
     for (const auto& c : cases) {
         const TotaliTabella::Righe rows{{}, Tratto{100, 0, false}, Tratto{50, 3, true}, Tratto{3, 2, false}};
         TotaliTabella totals;
-        totals.ricalcola(rows, speeds);
-        EXPECT_EQ(totals.cambia(2, c.changed), c.byDifference) << c.what;
+        totals.recalculate(rows, speeds);
+        EXPECT_EQ(totals.change(2, c.changed), c.byDifference) << c.what;
         TotaliTabella::Righe expectedRows = rows;
         if (c.byDifference)
             expectedRows[2] = c.changed;
         TotaliTabella expected;
-        expected.ricalcola(expectedRows, speeds);
+        expected.recalculate(expectedRows, speeds);
         EXPECT_EQ(totals.totali().km, expected.totali().km) << c.what;
         EXPECT_EQ(totals.totali().tempo, expected.totali().tempo) << c.what;
         EXPECT_EQ(totals.totali().traghetti, expected.totali().traghetti) << c.what;

@@ -53,7 +53,7 @@ RowTexts told(const Viandoria& trip) {
 }
 
 RowTexts walk(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& p, float k = 1) {
-    return told(simula(rows, p, k));
+    return told(simulate(rows, p, k));
 }
 
 } // namespace
@@ -100,13 +100,13 @@ TEST(Simulazione, Breaks) {
     p.riposoOre = 1;
     p.riposoMinuti = 25;
     p.oraPranzo = 1500;
-    const Viandoria v = simula({leg(250)}, p, 1);
+    const Viandoria v = simulate({leg(250)}, p, 1);
     EXPECT_EQ(told(v), (RowTexts{"tratto 100 verso g0 1000 pausa", "tratto 100 verso g0 1125 pausa",
                                  "tratto 50 g0 1200 pausa"}));
     EXPECT_EQ(v.righe[0].fine, Fine::Pausa);
     // At a crawl the piece before a break still moves on.
     p.medie = {0.5, 0.5, 0.5, 0.5};
-    EXPECT_EQ(simula({leg(2)}, p, 1).righe.size(), 2U);
+    EXPECT_EQ(simulate({leg(2)}, p, 1).righe.size(), 2U);
 }
 
 TEST(Simulazione, Stops) {
@@ -136,7 +136,7 @@ TEST(Simulazione, Stops) {
     }
     p.oraInizioViaggio = 900;
     EXPECT_EQ(walk({leg(0), guideStop(75)}, p, 0).size(), 1U) << "no time, no row";
-    EXPECT_EQ(simula({leg(0), itineraryStop(38)}, p, 1).righe.back().sosta, 38) << "38 hundredths are 23 minutes";
+    EXPECT_EQ(simulate({leg(0), itineraryStop(38)}, p, 1).righe.back().sosta, 38) << "38 hundredths are 23 minutes";
 }
 
 TEST(Simulazione, AVisitingDayWithoutLengthStillEnds) {
@@ -149,12 +149,12 @@ TEST(Simulazione, AVisitingDayWithoutLengthStillEnds) {
 TEST(Simulazione, EndsWhenTheWantedDaysArePassed) {
     ParametriSimulazione p = plainDay();
     p.giorniDesiderati = 2;
-    const Viandoria v = simula({leg(0), itineraryStop(3000), leg(10)}, p, 1);
+    const Viandoria v = simulate({leg(0), itineraryStop(3000), leg(10)}, p, 1);
     EXPECT_EQ(v.esito, Viandoria::Esito::TroppiGiorni);
     EXPECT_EQ(v.giorni, 4);
     EXPECT_EQ(v.righe.size(), 2U);
     std::vector<std::size_t> soFar;
-    const Viandoria stopped = simula({leg(0), leg(10), leg(10)}, p, 1, [&soFar](int row, const Viandoria& written) {
+    const Viandoria stopped = simulate({leg(0), leg(10), leg(10)}, p, 1, [&soFar](int row, const Viandoria& written) {
         soFar.push_back(written.righe.size());
         return row == 2;
     });

@@ -27,8 +27,8 @@ struct Killed {
         const pid_t child = fork();
         if (child == 0) {
             Archive dying(folder);
-            dying.apriArchivio();
-            dying.Db(0)->prepara("PRAGMA cache_size=5")->step();
+            dying.openArchive();
+            dying.Db(0)->prepare("PRAGMA cache_size=5")->step();
             dying.beginCommand();
             work(dying);
             ::raise(SIGKILL);
@@ -45,13 +45,13 @@ class StoreArchive : public StoreTest {
 
     /// Makes the archive anew with tables of the caller's own; a table without a descriptor is left out.
     void makeOld(int table, const QString& descriptor, const std::function<void(Recordset&)>& fill = {}) {
-        archive.chiudi();
+        archive.close();
         QFile::remove(file());
-        const auto old = Database::crea(file());
+        const auto old = Database::create(file());
         for (int t = primaTabella; t <= ultimaTabella; ++t) {
             const QString fields = t == table ? descriptor : TabelleCampi(t);
             if (!fields.isEmpty())
-                old->creaTabella(TabelleNomi(t), campiDescritti(fields));
+                old->createTable(TabelleNomi(t), campiDescritti(fields));
         }
         if (fill) {
             Recordset rs(*old, {TabelleNomi(table), {}, {}});
@@ -72,12 +72,12 @@ TEST_F(StoreArchive, TablesAndIndexesAsDeclared) {
             EXPECT_EQ(archive.indici(TabelleNomi(t)).join(u',').toStdString(), indexes[t]);
             EXPECT_TRUE(archive.Rs(t).EOF_());
         }
-        archive.apriArchivio();
+        archive.openArchive();
     }
     EXPECT_EQ(archive.CercaCampoTabella(1, "MediaSuperstrada"), 6);
     EXPECT_EQ(archive.CercaCampoTabella(1, "Sequenza"), std::nullopt);
     EXPECT_EQ(archive.CaricaRiferimentiVettoreCampiTabelleDatabase(5, {"x", "", "METACORRENTE"}), "0300\\");
-    archive.chiudi();
+    archive.close();
     EXPECT_EQ(filesLeft(), QStringList{"Vanzer.mdb"});
 }
 
@@ -104,22 +104,22 @@ TEST_F(StoreArchive, IsRebuiltWhereATableDiffers) {
             TipoGuida, row.descriptor,
             row.descriptor.isEmpty() ? std::function<void(Recordset&)>() : [&](Recordset& rs) {
                 rs.AddNew();
-                rs.scrive("CodiceGuida", rs.size(rs.campo("CodiceGuida")) == 6 ? QString("01xxxx") : QString("01"));
+                rs.write("CodiceGuida", rs.size(rs.campo("CodiceGuida")) == 6 ? QString("01xxxx") : QString("01"));
                 if (rs.campo("Descrizione") >= 0)
-                    rs.scrive("Descrizione", "Ott\u00e0mo");
+                    rs.write("Descrizione", "Ott\u00e0mo");
                 if (rs.campo("TempoObbligatorio") >= 0)
-                    rs.scrive("TempoObbligatorio", "1");
+                    rs.write("TempoObbligatorio", "1");
                 rs.Update();
             });
         const QString leftover = path(directory, "DBTemp.mdb");
         write(leftover, "half a copy");
-        archive.apriArchivio();
+        archive.openArchive();
         EXPECT_FALSE(archive.Rettifica);
         EXPECT_EQ(QFileInfo::exists(leftover), !row.rebuilt);
         QStringList found;
         for (Recordset& rs = archive.Rs(TipoGuida); !rs.EOF_(); rs.MoveNext()) {
             for (int i = 0; i < rs.count(); ++i)
-                found += rs.haValore(i) ? rs.testo(i) : QStringLiteral("-");
+                found += rs.hasValue(i) ? rs.testo(i) : QStringLiteral("-");
         }
         EXPECT_EQ(found.join(u' '), row.records);
         EXPECT_EQ(archive.indici("TipoGuida").join(u',').toLower(), "codiceguida");
@@ -127,7 +127,7 @@ TEST_F(StoreArchive, IsRebuiltWhereATableDiffers) {
 }
 
 TEST_F(StoreArchive, WhatIsNoArchiveIsLeftAsItIs) {
-    archive.chiudi();
+    archive.close();
     QByteArray damaged = contents(file());
     damaged.replace(0, 16, "not what we want");
     const QByteArray whole = contents(file());
@@ -135,7 +135,7 @@ TEST_F(StoreArchive, WhatIsNoArchiveIsLeftAsItIs) {
     foreign.replace(68, 4, "Else");
     for (const QByteArray& bytes : {QByteArray(), whole.left(511), QByteArray(5000, 'x'), damaged, foreign}) {
         write(file(), bytes);
-        EXPECT_EQ(failureOf([&] { archive.apriArchivio(); }), StoreError::Kind::Corrupt);
+        EXPECT_EQ(failureOf([&] { archive.openArchive(); }), StoreError::Kind::Corrupt);
         EXPECT_EQ(archive.PercorsoDatabase, file());
         EXPECT_EQ(contents(file()), bytes);
         EXPECT_EQ(filesLeft(), QStringList{"Vanzer.mdb"});
@@ -144,14 +144,14 @@ TEST_F(StoreArchive, WhatIsNoArchiveIsLeftAsItIs) {
 
 TEST_F(StoreArchive, PlacesWhereNothingCanBeOpened) {
     Archive nowhere(path(directory, "missing"));
-    EXPECT_EQ(failureOf([&] { nowhere.apriArchivio(); }), StoreError::Kind::NotFound);
-    EXPECT_EQ(failureOf([&] { (void)Database::apre(path(directory, "none.mdb")); }), StoreError::Kind::NotFound);
+    EXPECT_EQ(failureOf([&] { nowhere.openArchive(); }), StoreError::Kind::NotFound);
+    EXPECT_EQ(failureOf([&] { (void)Database::open(path(directory, "none.mdb")); }), StoreError::Kind::NotFound);
     EXPECT_FALSE(QFileInfo::exists(path(directory, "none.mdb"))); // opening never makes a file
-    EXPECT_EQ(failureOf([&] { (void)Database::apre(directory.path()); }), StoreError::Kind::Io);
-    archive.chiudi();
+    EXPECT_EQ(failureOf([&] { (void)Database::open(directory.path()); }), StoreError::Kind::Io);
+    archive.close();
     QFile::setPermissions(directory.path(), QFile::ReadOwner | QFile::ExeOwner);
     if (!QFileInfo(directory.path()).isWritable()) { // the administrator may write anywhere
-        EXPECT_EQ(failureOf([&] { archive.apriArchivio(); }), StoreError::Kind::ReadOnly);
+        EXPECT_EQ(failureOf([&] { archive.openArchive(); }), StoreError::Kind::ReadOnly);
     }
     QFile::setPermissions(directory.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
@@ -162,28 +162,28 @@ TEST_F(StoreArchive, OnlyItsOwnJournalIsRolledBack) {
     const QString copy = path(directory, "copia.mdb");
     ASSERT_TRUE(copiaIntera(*archive.Db(0), copy, {}));
     addLegs(1'000);
-    archive.chiudi();
+    archive.close();
     Killed killed(directory.path(), [](Archive& dying) { dying.CancellaTabella(Itinerari, "CodiceMeta", "000001"); });
     const QString journal = file() + "-journal";
     const QByteArray left = contents(journal);
     ASSERT_GT(left.size(), 10'000) << "nothing was half written";
-    archive.apriArchivio();
+    archive.openArchive();
     EXPECT_EQ(open("SELECT * FROM Itinerari WHERE CodiceMeta = '000001'").RecordCount(), 3'000);
-    archive.chiudi();
+    archive.close();
     EXPECT_EQ(filesLeft(), (QStringList{"copia.mdb", "Vanzer.mdb"}));
-    archive.apriArchivio();
+    archive.openArchive();
     addLegs(1);
     addLegs(1);
-    archive.chiudi();
+    archive.close();
     const QByteArray later = contents(file());
     for (const QByteArray& other : {contents(copy), later}) {
         write(file(), other);
         write(journal, left);
-        EXPECT_EQ(archive.apriArchivio().giornaleEstraneo, journal + ".estraneo");
+        EXPECT_EQ(archive.openArchive().giornaleEstraneo, journal + ".estraneo");
         EXPECT_EQ(contents(journal + ".estraneo"), left);
         EXPECT_EQ(open("SELECT * FROM Itinerari").RecordCount(), other == later ? 3'002 : 2'000);
-        EXPECT_EQ(archive.Db(0)->verifica(), Database::Salute::Sano);
-        archive.chiudi();
+        EXPECT_EQ(archive.Db(0)->check(), Database::Salute::Sano);
+        archive.close();
         EXPECT_TRUE(QFile::remove(journal + ".estraneo"));
     }
 }
@@ -197,7 +197,7 @@ TEST_F(StoreArchive, AFileThatIsAnotherNowIsToldAndLeft) {
     addLegs(1);
     QTemporaryDir elsewhere;
     const QString other = path(elsewhere, "Vanzer.mdb");
-    Archive(elsewhere.path()).apriArchivio();
+    Archive(elsewhere.path()).openArchive();
     const QByteArray ours = contents(file());
     QByteArray sameSize = contents(other);
     sameSize.resize(ours.size());
@@ -214,60 +214,60 @@ TEST_F(StoreArchive, AFileThatIsAnotherNowIsToldAndLeft) {
 }
 
 TEST_F(StoreArchive, AFileOfAnotherVersionIsRefusedOrCarriedOver) {
-    archive.chiudi();
+    archive.close();
     QByteArray newer = contents(file());
     newer[71] = 2;
     write(file(), newer);
-    EXPECT_EQ(failureOf([&] { archive.apriArchivio(); }), StoreError::Kind::Newer);
+    EXPECT_EQ(failureOf([&] { archive.openArchive(); }), StoreError::Kind::Newer);
     EXPECT_EQ(contents(file()), newer);
     makeOld(TipoGuida, "Descrizione[T=32],CodiceGuida[T=2]"); // would be rebuilt with codes as names
     const QByteArray reordered = contents(file());
-    EXPECT_EQ(failureOf([&] { archive.apriArchivio(); }), StoreError::Kind::Unlike);
+    EXPECT_EQ(failureOf([&] { archive.openArchive(); }), StoreError::Kind::Unlike);
     EXPECT_EQ(contents(file()), reordered);
 
     makeOld(TipoGuida, "Nota[T=9],CodiceGuida[T=2],Descrizione[T=40]", [](Recordset& rs) {
         rs.AddNew();
-        rs.scrive("Nota", "bella");
-        rs.scrive("CodiceGuida", "01");
-        rs.scrive("Descrizione", QString(40, u'x'));
+        rs.write("Nota", "bella");
+        rs.write("CodiceGuida", "01");
+        rs.write("Descrizione", QString(40, u'x'));
         rs.Update();
         rs.AddNew(); // without values
         rs.Update();
     });
     {
-        const auto old = Database::apre(file());
-        old->cambiaSchema("CREATE TABLE Extra(a TEXT, b INTEGER, c AS (b + 1))");
-        old->cambiaSchema("INSERT INTO Extra(a, b) VALUES('x', 7)");
-        old->cambiaSchema("CREATE TRIGGER t AFTER INSERT ON TipoGuida BEGIN DELETE FROM TipoGuida; END");
+        const auto old = Database::open(file());
+        old->changeSchema("CREATE TABLE Extra(a TEXT, b INTEGER, c AS (b + 1))");
+        old->changeSchema("INSERT INTO Extra(a, b) VALUES('x', 7)");
+        old->changeSchema("CREATE TRIGGER t AFTER INSERT ON TipoGuida BEGIN DELETE FROM TipoGuida; END");
     }
-    const auto opening = archive.apriArchivio();
+    const auto opening = archive.openArchive();
     EXPECT_EQ(opening.valoriTagliati, 1);
     const auto record = archive.tabella("TipoGuida").record.at(0);
     using Cell = TabellaLetta::Cella;
     EXPECT_EQ(record, (std::vector<Cell>{"01", QString(32, u'x'), false, "bella"}));
     EXPECT_EQ(archive.tabella("TipoGuida").record.at(1), (std::vector<Cell>{Cell(), Cell(), false, Cell()}));
     EXPECT_EQ(archive.tabella("Extra").record.at(0), (std::vector<Cell>{"x", "7"}));
-    archive.chiudi();
-    EXPECT_TRUE(Database::apre(opening.archivioDiPrima)->intatto()); // for ten starts
+    archive.close();
+    EXPECT_TRUE(Database::open(opening.archivioDiPrima)->intatto()); // for ten starts
     for (int start = 1; start <= avviiTenuti; ++start) {
         EXPECT_EQ(QDir(directory.path() + "/Copie").count(), 3U) << start;
-        contaAvvio(file());
+        countStart(file());
     }
     EXPECT_EQ(QDir(directory.path() + "/Copie").count(), 2U);
 }
 
 TEST_F(StoreArchive, IndexesThatDontAgreeAreMadeAnew) {
     addLegs(2);
-    archive.chiudi();
-    archive.apriArchivio();
+    archive.close();
+    archive.openArchive();
     EXPECT_TRUE(archive.Db(0)->chiusoInOrdine());
-    archive.chiudi();
+    archive.close();
     breakIndexOfLegs(file());
-    archive.apriArchivio();
+    archive.openArchive();
     const QString legs = "SELECT * FROM Itinerari WHERE CodiceMeta = '000001'";
     EXPECT_EQ(open(legs).RecordCount(), 0) << "the index still agrees";
     EXPECT_FALSE(archive.Db(0)->chiusoInOrdine());
-    EXPECT_EQ(archive.Db(0)->verifica(), Database::Salute::IndiciRifatti);
+    EXPECT_EQ(archive.Db(0)->check(), Database::Salute::IndiciRifatti);
     EXPECT_EQ(open(legs).RecordCount(), 2);
 }
 

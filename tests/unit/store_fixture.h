@@ -49,7 +49,7 @@ class StoreTest : public testing::Test {
   protected:
     void SetUp() override {
         ASSERT_TRUE(directory.isValid());
-        archive.apriArchivio();
+        archive.openArchive();
     }
 
     Recordset& open(const QString& query, int slot = Archive::slotAppoggio) {
@@ -62,7 +62,7 @@ class StoreTest : public testing::Test {
     QStringList texts(const QString& query, const QString& field) {
         QStringList found;
         for (Recordset& rs = open(query); !rs.EOF_(); rs.MoveNext())
-            found += rs.haValore(field) ? rs.testo(field) : QStringLiteral("-");
+            found += rs.hasValue(field) ? rs.testo(field) : QStringLiteral("-");
         return found;
     }
 
@@ -73,8 +73,8 @@ class StoreTest : public testing::Test {
         for (const auto& [place, description] : entries) {
             rs.AddNew();
             if (!place.isNull())
-                rs.scrive("Localita", place);
-            rs.scrive("Descrizione", description);
+                rs.write("Localita", place);
+            rs.write("Descrizione", description);
             rs.Update();
         }
         command.commit();
@@ -86,9 +86,9 @@ class StoreTest : public testing::Test {
         Recordset rs(*archive.Db(0), {TabelleNomi(Itinerari), {}, {}});
         for (int i = 0; i < count; ++i) {
             rs.AddNew();
-            rs.scrive("CodiceMeta", QStringLiteral("000001"));
-            rs.scrive("Sequenza", QStringLiteral("%1").arg(i % 10000, 4, 10, QChar(u'0')));
-            rs.scrive("Localita", QStringLiteral("P%1").arg(i));
+            rs.write("CodiceMeta", QStringLiteral("000001"));
+            rs.write("Sequenza", QStringLiteral("%1").arg(i % 10000, 4, 10, QChar(u'0')));
+            rs.write("Localita", QStringLiteral("P%1").arg(i));
             rs.Update();
         }
         command.commit();

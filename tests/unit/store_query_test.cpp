@@ -27,8 +27,8 @@ TEST(Collation, LettersFirstThenAccents) {
         {"각", "나", -1},      {"\xff", "zzz", 1},      {"a\xc3", "a", 1},        {"İ", "I", 1},
     };
     for (const Row& row : rows) {
-        EXPECT_EQ(sign(confronta(row.a, row.b)), row.expected) << row.a << " / " << row.b;
-        EXPECT_EQ(sign(confronta(row.b, row.a)), -row.expected) << row.b << " / " << row.a;
+        EXPECT_EQ(sign(compare(row.a, row.b)), row.expected) << row.a << " / " << row.b;
+        EXPECT_EQ(sign(compare(row.b, row.a)), -row.expected) << row.b << " / " << row.a;
     }
 }
 
@@ -36,8 +36,8 @@ TEST(Collation, BaseLettersBoundEveryTextThatBeginsAlike) {
     for (const char* text : {"Èze", "CITTÀ", "e\xcc\x81", "Straße", "각", "Ångström"}) {
         const QByteArray from = lettereBase(QString::fromUtf8(text));
         const std::string longer = std::string(text) + "zz\U0010fffd";
-        EXPECT_LE(confronta({from.constData(), static_cast<std::size_t>(from.size())}, text), 0) << text;
-        EXPECT_GT(confronta((from + oltreOgniLettera).toStdString(), longer), 0) << text;
+        EXPECT_LE(compare({from.constData(), static_cast<std::size_t>(from.size())}, text), 0) << text;
+        EXPECT_GT(compare((from + oltreOgniLettera).toStdString(), longer), 0) << text;
     }
 }
 
@@ -70,9 +70,9 @@ TEST(Collation, Like) {
                 {"?*?", "èè", true},
                 {"*ab", "aab", true}};
     for (const auto& row : rows)
-        EXPECT_EQ(somiglia(row.pattern, row.text), row.expected) << row.pattern << " / " << row.text;
+        EXPECT_EQ(resembles(row.pattern, row.text), row.expected) << row.pattern << " / " << row.text;
     // A pattern that is hard for a matcher that tries all ways.
-    EXPECT_FALSE(somiglia("*a*a*a*a*a*a*a*a*a*a*a*a*b", std::string(3000, 'a')));
+    EXPECT_FALSE(resembles("*a*a*a*a*a*a*a*a*a*a*a*a*b", std::string(3000, 'a')));
 }
 
 TEST(QueryText, IsReadInItsOneForm) {
@@ -185,7 +185,7 @@ TEST_F(StoreQuery, UsesTheIndexes) {
         {"SELECT * FROM MeteVanzer ORDER BY Localita", "SCAN MeteVanzer USING INDEX MeteVanzer.Localita"},
     };
     for (const auto& [query, expected] : rows) {
-        const auto form = traduce(*archive.Db(0), analizza(query)).form;
+        const auto form = translate(*archive.Db(0), analizza(query)).form;
         for (const QByteArray& sql : {form->select, form->last}) {
             const QString plan = archive.Db(0)->piano(sql).join(u'\n');
             EXPECT_TRUE(plan.contains(expected)) << query.toStdString() << "\n" << plan.toStdString();

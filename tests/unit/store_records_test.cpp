@@ -19,13 +19,13 @@ TEST_F(StoreRecords, FieldsKeepWhatTheyCan) {
     EXPECT_TRUE(rs.EOF_());
     EXPECT_EQ(archive.NumeroRecord(), 0);
     rs.AddNew();
-    rs.scrive("localita", "123456789012345678901234567890X");
-    rs.scrive("NOMESTRADA", "");
-    rs.scrive(0, QString(5, u'0') + QString::fromUcs4(U"\U0001f690", 1)); // the last character doesn't fit whole
-    rs.scrive("Start", "Vero");
-    rs.scriveSiNo("FineGiorno", true);
-    rs.scrive("Flag1", "gone");
-    rs.scriveNullo("Flag1");
+    rs.write("localita", "123456789012345678901234567890X");
+    rs.write("NOMESTRADA", "");
+    rs.write(0, QString(5, u'0') + QString::fromUcs4(U"\U0001f690", 1)); // the last character doesn't fit whole
+    rs.write("Start", "Vero");
+    rs.writeYesNo("FineGiorno", true);
+    rs.write("Flag1", "gone");
+    rs.writeNull("Flag1");
     rs.Update();
     EXPECT_EQ(rs.RecordCount(), 1);
     rs.MoveFirst();
@@ -39,8 +39,8 @@ TEST_F(StoreRecords, FieldsKeepWhatTheyCan) {
     for (const auto& [field, text] : kept)
         EXPECT_EQ(rs.testo(field), text) << field;
     EXPECT_TRUE(rs.siNo("FineGiorno") && rs.siNo("Start") && !rs.siNo("Fine"));
-    EXPECT_TRUE(rs.haValore("Fine")) << "nothing written is stored as no";
-    EXPECT_FALSE(rs.haValore("Sequenza") || rs.haValore("Flag1"));
+    EXPECT_TRUE(rs.hasValue("Fine")) << "nothing written is stored as no";
+    EXPECT_FALSE(rs.hasValue("Sequenza") || rs.hasValue("Flag1"));
     EXPECT_EQ(rs.campo("MEDIA"), -1);
     EXPECT_EQ(rs.campo("flag2"), 12);
 }
@@ -48,14 +48,14 @@ TEST_F(StoreRecords, FieldsKeepWhatTheyCan) {
 TEST_F(StoreRecords, MisuseIsTold) {
     addLegs(1);
     Recordset& rs = open(allLegs);
-    EXPECT_EQ(failureOf([&] { rs.scrive("Flag1", "x"); }), StoreError::Kind::Other);
+    EXPECT_EQ(failureOf([&] { rs.write("Flag1", "x"); }), StoreError::Kind::Other);
     EXPECT_EQ(failureOf([&] { rs.Update(); }), StoreError::Kind::Other);
     EXPECT_EQ(failureOf([&] { (void)rs.testo("Nulla"); }), StoreError::Kind::Other);
     rs.Delete();
     EXPECT_EQ(failureOf([&] { (void)rs.testo(0); }), StoreError::Kind::Other);
     EXPECT_EQ(failureOf([&] { rs.Edit(); }), StoreError::Kind::Other);
     EXPECT_FALSE(rs.EOF_());
-    archive.chiudi();
+    archive.close();
     EXPECT_TRUE(archive.Rs(Archive::slotAppoggio).EOF_());
     EXPECT_EQ(failureOf([&] { archive.RecordSetImposta(0, 1); }), StoreError::Kind::Other);
 }
@@ -76,8 +76,8 @@ TEST_F(StoreRecords, WritingWhileWalking) {
             if (place.startsWith(u'N'))
                 continue;
             rs.Edit();
-            rs.scrive("Sequenza", QStringLiteral("5000"));
-            rs.scrive("CodiceMeta", QStringLiteral("000002"));
+            rs.write("Sequenza", QStringLiteral("5000"));
+            rs.write("CodiceMeta", QStringLiteral("000002"));
             rs.Update();
             EXPECT_EQ(rs.testo("Sequenza"), "5000");
             EXPECT_EQ(rs.testo("Localita"), place);
@@ -85,7 +85,7 @@ TEST_F(StoreRecords, WritingWhileWalking) {
                 rs.Delete();
             if (seen.size() % 2 == 0) {
                 rs.AddNew();
-                rs.scrive("Localita", QStringLiteral("N%1").arg(added++));
+                rs.write("Localita", QStringLiteral("N%1").arg(added++));
                 rs.Update();
             }
         }
@@ -108,7 +108,7 @@ TEST_F(StoreRecords, AddedRecordsLieInTheSetAtOnce) {
         Recordset& rs = open(way);
         const auto add = [&rs](const QString& place) {
             rs.AddNew();
-            rs.scrive("Localita", place); // it isn't what the query asks for
+            rs.write("Localita", place); // it isn't what the query asks for
             rs.Update();
         };
         add("A");
@@ -139,7 +139,7 @@ TEST_F(StoreRecords, OtherSetsOfATableStepAside) {
         for (Recordset& other = open("SELECT * FROM Itinerari WHERE Localita = 'P1'"); !other.EOF_();
              other.MoveNext()) {
             other.Edit();
-            other.scrive("Localita", "CHANGED");
+            other.write("Localita", "CHANGED");
             other.Update();
         }
         EXPECT_EQ(walked.testo("Localita"), "P1");
@@ -165,7 +165,7 @@ class DamagedPages {
     void put(int page, const QByteArray& bytes) {
         file_.seek(qint64{page} * pageSize);
         file_.write(bytes);
-        const StatementLease forget = database_.prepara("PRAGMA shrink_memory");
+        const StatementLease forget = database_.prepare("PRAGMA shrink_memory");
         forget->step();
     }
 
@@ -257,7 +257,7 @@ TEST_F(StoreRecords, CommandsAreWholeOrNothing) {
 
 TEST_F(StoreRecords, AFullDiskSpoilsTheCommandAndNothingElse) {
     addLegs(10);
-    const StatementLease limit = archive.Db(0)->prepara("PRAGMA max_page_count=40");
+    const StatementLease limit = archive.Db(0)->prepare("PRAGMA max_page_count=40");
     limit->step();
     const auto failure = failureOf([&] { addLegs(10'000); });
     EXPECT_EQ(failure, StoreError::Kind::Full);
@@ -304,7 +304,7 @@ TEST_F(StoreRecords, MarksOfUseAreSetAndTakenBack) {
     addGuide(entries);
     const QString unmarked = QStringLiteral("SELECT * FROM GuidaCitta WHERE FlagVisto = '0'");
     EXPECT_EQ(open(unmarked).RecordCount(), 0); // new entries have no mark at all
-    archive.rimetteVisti({});
+    archive.putMarksBack({});
     EXPECT_EQ(open(unmarked).RecordCount(), 20'000);
 
     InsiemeDiRighe used;
@@ -315,13 +315,13 @@ TEST_F(StoreRecords, MarksOfUseAreSetAndTakenBack) {
         if (i > 0)
             fewer.insert(walked.rowid());
     }
-    archive.rimetteVisti(used);
+    archive.putMarksBack(used);
     EXPECT_FALSE(walked.EOF_());
-    archive.rimetteVisti(fewer);
+    archive.putMarksBack(fewer);
     EXPECT_EQ(open(unmarked).RecordCount(), 19'991);
     for (Recordset& marked = open("SELECT * FROM GuidaCitta WHERE FlagVisto = '1'"); !marked.EOF_(); marked.MoveNext())
         EXPECT_TRUE(fewer.contains(marked.rowid()));
-    archive.rimetteVisti({});
+    archive.putMarksBack({});
     EXPECT_EQ(open(unmarked).RecordCount(), 20'000);
 }
 
@@ -330,10 +330,10 @@ TEST_F(StoreRecords, WhatTheGuideKnowsIsReadOnceUntilItIsWritten) {
     const auto read = [this] {
         QStringList found;
         for (const char* place : {"Arco", "ARCO", "Bari"}) {
-            for (const VoceGuida& entry : archive.guida().leggeLuogo(QString::fromLatin1(place)))
+            for (const VoceGuida& entry : archive.guida().readPlace(QString::fromLatin1(place)))
                 found += entry.descrizione;
         }
-        for (const VoceGuida& entry : archive.guida().leggeModello(QStringLiteral("L?Aquila")))
+        for (const VoceGuida& entry : archive.guida().readPattern(QStringLiteral("L?Aquila")))
             found += entry.descrizione;
         return found.join(u',').toStdString();
     };
@@ -341,11 +341,11 @@ TEST_F(StoreRecords, WhatTheGuideKnowsIsReadOnceUntilItIsWritten) {
         Recordset entry(*archive.Db(0), {TabelleNomi(GuidaCitta), {}, {}});
         entry.MoveLast();
         entry.Edit();
-        entry.scrive("Descrizione", QString::fromLatin1(text));
+        entry.write("Descrizione", QString::fromLatin1(text));
         entry.Update();
     };
     EXPECT_EQ(read(), "Area,Area,Duomo");
-    archive.rimetteVisti({1, 2});
+    archive.putMarksBack({1, 2});
     const qint64 before = archive.Db(0)->lavoro();
     EXPECT_EQ(read(), "Area,Area,Duomo");
     EXPECT_EQ(archive.Db(0)->lavoro(), before) << "marks of use are no reason to read again";
@@ -359,8 +359,8 @@ TEST_F(StoreRecords, WhatTheGuideKnowsIsReadOnceUntilItIsWritten) {
     EXPECT_EQ(read(), "Lago,Lago,Duomo");
     archive.CancellaTabella(GuidaCitta, QStringLiteral("Localita"), QStringLiteral("Arco"));
     EXPECT_EQ(read(), "Duomo");
-    archive.chiudi();
-    archive.apriArchivio();
+    archive.close();
+    archive.openArchive();
     EXPECT_EQ(read(), "Duomo");
 }
 

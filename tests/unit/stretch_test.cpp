@@ -27,14 +27,14 @@ TEST(Stretch, ItsEndsNeverStandTheWrongWayRound) {
     };
     for (const auto& c : cases) {
         TrattoScelto stretch{c.first, c.last};
-        stretch.sceglie(c.asFirst, c.chosen);
+        stretch.choose(c.asFirst, c.chosen);
         EXPECT_EQ(stretch.prima + u'-' + stretch.ultima + u": %1"_s.arg(stretch.tappe()), c.after);
     }
     EXPECT_EQ(TrattoScelto().tappe(), 0);
     // What was typed may name rows that no table has.
     const TrattoScelto nowhere{u"-2147483648"_s, u"99999999999"_s};
     EXPECT_EQ(std::pair(nowhere.daRiga(), nowhere.aRiga()), std::pair(0, 999'999));
-    EXPECT_EQ(copiaTratto({}, 1, std::numeric_limits<int>::max(), false).size(), 10'000U);
+    EXPECT_EQ(copyStretch({}, 1, std::numeric_limits<int>::max(), false).size(), 10'000U);
 }
 
 TEST(Stretch, ChangesAreKeptRowByRow) {

@@ -20,7 +20,7 @@ RigaDiLavoro visit(const QString& name, float length) {
 }
 
 LineaDelTempo lineOf(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& p) {
-    return lineaDelTempo(simula(rows, p, 1), rows, p, [](int) { return u"SS1"_s; });
+    return lineaDelTempo(simulate(rows, p, 1), rows, p, [](int) { return u"SS1"_s; });
 }
 
 TEST(TimeLine, NothingOverlapsAndNoTimeIsLost) {
@@ -38,7 +38,7 @@ TEST(TimeLine, NothingOverlapsAndNoTimeIsLost) {
     const LineaDelTempo line = lineOf(rows, p);
     double driven = 0;
     double expected = 0;
-    for (const RigaViandoria& row : simula(rows, p, 1).righe)
+    for (const RigaViandoria& row : simulate(rows, p, 1).righe)
         expected += static_cast<double>(row.tempo);
     for (std::size_t i = 0; i < line.attivita.size(); ++i) {
         const Attivita& a = line.attivita[i];
@@ -62,7 +62,7 @@ TEST(TimeLine, NothingOverlapsAndNoTimeIsLost) {
         }
     }
     EXPECT_NEAR(inDays, driven, 0.01);
-    EXPECT_EQ(km, simula(rows, p, 1).pannello.kmTotali);
+    EXPECT_EQ(km, simulate(rows, p, 1).pannello.kmTotali);
 }
 
 TEST(TimeLine, AGapThatTheCountingLeavesIsNoFreeTime) {
