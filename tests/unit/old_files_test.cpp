@@ -89,8 +89,9 @@ TEST(OldFiles, LegsPartPlaceAndRoad) {
 class Conversion : public WindowTest {
   protected:
     void old(const QString& name, const QByteArray& contents) { ASSERT_TRUE(writeOldFile(inFolder(name), contents)); }
-    QStringList convert() {
-        answer({rispostaSi});
+    QStringList convert(const batch::VisitedYield::Visitor& visitor = {}) {
+        does(u"answer 6"_s);
+        atAYield(visitor);
         form().cmdConverte.click();
         return asked();
     }
@@ -115,25 +116,23 @@ TEST_F(Conversion, StoppedAnywhereItLosesNothingAndGoesOn) {
     old(u"vanz0001.dat"_s, oldItinerary({{u"GRAZ"_s}}));
     start();
     convert();
-    session->close();
+    desk.reset();
     const QString archive = inFolder(u"Vanzer.mdb"_s);
     ASSERT_TRUE(QFile::copy(archive, archive + u".prima"_s));
     const QString done = u"Conversione eseguita...\n\n«ROMA» entra con il codice 000002."_s;
     int stops = 0;
     for (int yield = 1;; ++yield) {
-        session->close();
+        desk.reset();
         ASSERT_TRUE(QFile::remove(archive) && QFile::copy(archive + u".prima"_s, archive));
         oldArchive();
         start();
         int seen = 0;
-        session->events.expect([&] {
+        const QStringList told = convert([&] {
             if (++seen < yield || form().cmdEsce.caption() != u"&Stop")
                 return false;
-            answer({rispostaSi});
-            form().cmdEsce.click();
+            does(u"answer 6; click cmdEsce"_s);
             return true;
         });
-        const QStringList told = convert();
         if (told.last() == done)
             break;
         ++stops;
