@@ -88,14 +88,17 @@ TEST_F(DraftScreen, UnsavedWorkComesBackAsItStood) {
         {u"«PROVA» (2 tappe"_s, stretch},
         {u"«PROVA» (2 tappe"_s, stretch + u"click cmdCalcola"_s},
         {u"«PROVA» (3 tappe"_s, u"click cmdItinerario; "_s + legCuneo + u"click cmdRicalcola"_s},
-        {u"«PROVA» (3 tappe"_s, u"pick cmbRange 45; set cmbMediaKm(1) 66; click cmdItinerario; "_s + legCuneo +
-                                    u"set txtTappa NIZZA"_s}};
+        {u"«PROVA» (3 tappe"_s,
+         u"pick cmbRange 45; set cmbMediaKm(1) 66; click cmdItinerario; "_s + legCuneo + u"set txtTappa NIZZA"_s}};
     for (const auto& [what, work] : cases) {
         SCOPED_TRACE(work.toStdString());
         begin();
         does(work);
         std::optional<Bozza> kept = lavoroNonSalvato(form());
         ASSERT_TRUE(kept);
+        const QByteArray written = byteDellaBozza(*kept, now);
+        EXPECT_EQ(byteDellaBozza(bozzaDaiByte(written).value(), now), written);
+        EXPECT_EQ(bozzaDaiByte(written)->riga, kept->riga);
         const QString before = all();
         ASSERT_NO_FATAL_FAILURE(cut());
         EXPECT_EQ(offer(u"answer 6"_s), QStringList(u"Riprendere il lavoro non salvato a "_s + what + u", 18:05)?"_s));

@@ -142,8 +142,8 @@ TEST_F(StoreRecords, AWalkThatFailsIsAtItsEnd) {
         other.Update();
         placesOf(legs);
     };
-    const std::pair<const char*, std::function<void(Recordset&)>> works[] = {
-        {"next", [](Recordset& legs) { legs.MoveNext(), placesOf(legs); }},
+    const std::pair<std::string, std::function<void(Recordset&)>> works[] = {
+        {"next", [](Recordset& legs) { placesOf(legs); }},
         {"first", [](Recordset& legs) { legs.MoveFirst(); }},
         {"last", [](Recordset& legs) { legs.MoveLast(); }},
         {"write", write}};
@@ -155,13 +155,13 @@ TEST_F(StoreRecords, AWalkThatFailsIsAtItsEnd) {
             for (qsizetype page = 1; page < whole.size() / pageSize; ++page) {
                 SCOPED_TRACE(testing::Message() << way.toStdString() << ", " << name << ", page " << page);
                 Recordset& legs = open(way, 2);
-                if (name[0] == 'l' || name[0] == 'w')
+                if (name != "first")
                     legs.MoveNext();
                 put(page, QByteArray(pageSize, 0));
                 if (const auto failure = failureOf([&, &work = work] { work(legs); })) {
                     ++failures;
                     EXPECT_EQ(failure, StoreError::Kind::Corrupt);
-                    EXPECT_TRUE(legs.EOF_() || name[0] == 'w') << "the write's failure isn't one of the walk";
+                    EXPECT_TRUE(legs.EOF_() || name == "write") << "the write's failure isn't one of the walk";
                     EXPECT_TRUE(!legs.EOF_() || failureOf([&] { (void)legs.testo("Localita"); }));
                     (void)failureOf([&] { placesOf(legs); });
                 }
