@@ -59,6 +59,7 @@ class Desk {
         return texts;
     }
 
+    [[nodiscard]] batch::Interpreter& program() { return program_; }
     [[nodiscard]] bool alive() { return !program_.run(u"get cmdEsce"_s)->contains(u"error"_s); }
 
     /// Lets go of the archive.

@@ -5,7 +5,7 @@
 #include <QStringList>
 
 #include "core/code_page.h"
-#include "core/old_record.h"
+#include "store/old_files.h"
 
 namespace vanzer {
 

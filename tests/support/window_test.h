@@ -1,68 +1,48 @@
 // The window before a user, on an archive in a folder of its own.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <QJsonArray>
 #include <QTemporaryDir>
 
-#include "batch/session.h"
+#include "support/desk.h"
 
 namespace vanzer {
-
-using namespace Qt::StringLiterals;
 
 class WindowTest : public testing::Test {
   protected:
     /// Another program, on an empty archive.
     void startAnew() {
-        session.reset();
+        desk.reset();
         folder.emplace();
         start();
     }
-    /// The program on the archive of the one before.
-    void start() {
-        session.emplace(Ambiente{.directory = folder->path(), .decimalMark = u'.', .versione = {}});
-        session->clock.set(now);
-        session->start();
+    /// The program on the archive of the one before. Returns what the boxes told.
+    QStringList start() {
+        desk.emplace(folder->path());
+        desk->program().setClock(now);
+        const QStringList told = does(u"start"_s);
         form().interattiva = true;
-        asked();
+        return told;
     }
-    /// Two legs.
-    void storeTrip(const QString& name) {
-        form().cmdNuovo.click();
-        form().txtLocalita.type(name);
-        form().txtNazione.type(u"ITALIA"_s);
-        answer({rispostaSi, rispostaSi});
-        form().cmdSalva.click();
-        form().cmdItinerario.click();
-        for (const QString& place : {u"ASTI"_s, u"ALBA"_s})
-            addLeg(form(), place);
-        form().cmdFine.click();
-        asked();
-    }
-    static void addLeg(Form& f, const QString& place) {
-        f.mfgTab.clickRow(f.stato.NumeroTappe + 1);
-        f.txtTappa.type(place);
-        f.txtKm.type(u"30"_s);
-        f.cmdInserisce.click();
-    }
+    /// Two legs, NAME 0 and NAME 1.
+    void storeTrip(const QString& name) { desk->run(storedTrip(name, 2)); }
 
-    Form& form() { return *session->window(); }
-    void answer(const std::vector<int>& answers) {
-        for (const int one : answers)
-            session->boxes.enqueue(one);
-    }
-    /// The texts of the boxes since the last call.
+    /// Carries out commands of vanzer-batch, parted by "; ". Returns the texts of the boxes.
+    QStringList does(const QString& commands) { return desk->run(commands.split(u"; "_s, Qt::SkipEmptyParts)); }
+    /// The same of the boxes that came up outside a command.
     QStringList asked() {
         QStringList texts;
-        for (const QJsonValue box : session->boxes.exchange({}))
+        for (const QJsonValue box : static_cast<batch::QueuedBoxes&>(form().ports.messages).exchange({}))
             texts << box[u"text"].toString();
         return texts;
     }
+    Form& form() { return *desk->program().window(); }
+    /// Comes in at the first yield of a command that suits it.
+    void atAYield(batch::VisitedYield::Visitor visitor) {
+        static_cast<batch::VisitedYield&>(form().ports.events).expect(std::move(visitor));
+    }
     /// One field of all records of a table, joined.
     QString stored(const QString& table, const QString& field) {
-        const QJsonObject read = session->table(table);
+        const QJsonObject read = *desk->program().run(u"table "_s + table);
         const qsizetype at = read[u"fields"].toArray().toVariantList().indexOf(field);
         QStringList texts;
         for (const QJsonValue record : read[u"records"].toArray())
@@ -73,7 +53,7 @@ class WindowTest : public testing::Test {
 
     const QDateTime now{QDate(2026, 11, 24), QTime(18, 5, 7)};
     std::optional<QTemporaryDir> folder;
-    std::optional<batch::Session> session;
+    std::optional<Desk> desk;
 };
 
 } // namespace vanzer

@@ -1,9 +1,7 @@
 #include "store_fixture.h"
 
 #include "batch/batch_printer.h"
-#include "batch/interpreter.h"
 #include "batch/queue_ports.h"
-#include "batch/usage.h"
 
 namespace vanzer::batch {
 namespace {
@@ -23,23 +21,6 @@ TEST(BatchPrinter, DrawsNoPdfInPlaceOfTheArchive) {
         EXPECT_TRUE(careful.endDoc());
     }
     EXPECT_EQ(store::contents(archive), "legs");
-}
-
-TEST(BatchInterpreter, KnowsAllThatTheHelpLists) {
-    const QTemporaryDir scratch;
-    Interpreter interpreter({.directory = scratch.path(), .decimalMark = u'.', .versione = {}});
-    const QString unknown = QStringLiteral("unknown command");
-    EXPECT_EQ(interpreter.run(QStringLiteral("launch"))->value(u"error").toString(), unknown);
-    for (const Usage& usage : commandUsage()) {
-        const QString word = usage.command.toString().section(u' ', 0, 0);
-        if (word == u"stop")
-            continue;
-        EXPECT_NE(interpreter.run(word)->value(u"error").toString(), unknown) << word.toStdString();
-        EXPECT_TRUE(helpText().contains(usage.command)) << word.toStdString();
-    }
-    EXPECT_FALSE(interpreter.finished());
-    EXPECT_TRUE(interpreter.run(QStringLiteral("stop")).has_value());
-    EXPECT_TRUE(interpreter.finished());
 }
 
 } // namespace

@@ -5,14 +5,11 @@
 
 #include <QDir>
 
-#ifdef Q_OS_UNIX
 #include <sys/stat.h>
-#endif
 
-#include "batch/queue_ports.h"
-#include "batch/session.h"
 #include "startup/startup.h"
 #include "store/daily_copy.h"
+#include "support/desk.h"
 
 namespace vanzer::store {
 namespace {
@@ -21,13 +18,9 @@ class DailyCopy : public StoreTest {
   protected:
     static constexpr int ample = 30'000; ///< legs of an archive that takes more than one step to copy
 
-    [[nodiscard]] QString file() const { return path(directory, "Vanzer.mdb"); }
     [[nodiscard]] QString copies() const { return path(directory, "Copie"); }
-    [[nodiscard]] QStringList kept() const {
-        QStringList names = QDir(copies()).entryList(QDir::Files);
-        names.sort();
-        return names;
-    }
+    [[nodiscard]] QString ofDay(int day) const { return copies() + u'/' + nameOf(day); }
+    [[nodiscard]] QStringList kept() const { return QDir(copies()).entryList(QDir::Files, QDir::Name); }
     [[nodiscard]] static QString nameOf(int day) {
         return QStringLiteral("Vanzer 2026-05-%1.mdb").arg(day, 2, 10, QChar(u'0'));
     }
@@ -64,8 +57,7 @@ TEST(CopiesKept, AreTheNewestOfDaysWeeksAndMonthsAndTheFullest) {
         {"unreadable", 12, -1, "2026-04-19:-1 2026-04-18:0", "2026-04-30 2026-04-19"},
         {"a wrong clock", 10, 1,
          "2036-01-12 2036-01-11 2036-01-10 2036-01-09 2036-01-08 2036-01-07 2036-01-06 2036-01-05 2036-01-04 "
-         "2036-01-03 "
-         "2036-01-02:2 2036-01-01:2",
+         "2036-01-03 2036-01-02:2 2036-01-01:2",
          "2036-01-12 2036-01-11 2036-01-10 2036-01-09 2036-01-08 2036-01-07 2036-01-06 2036-01-05 2036-01-04 "
          "2036-01-02"},
     };
@@ -108,7 +100,7 @@ TEST_F(DailyCopy, OnesTooManyGoAndOthersFilesStay) {
     addLegs(1);
     copy(17); // the day has its copy
     const QTemporaryDir restored;
-    ASSERT_TRUE(QFile::copy(copies() + u'/' + nameOf(17), path(restored, "Vanzer.mdb")));
+    ASSERT_TRUE(QFile::copy(ofDay(17), path(restored, "Vanzer.mdb")));
     Archive other(restored.path());
     other.openArchive();
     EXPECT_EQ(other.tabella("Itinerari").record, stored);
@@ -119,34 +111,28 @@ TEST_F(DailyCopy, OnesTooManyGoAndOthersFilesStay) {
 }
 
 TEST_F(DailyCopy, FullOnesOutliveEmptyOnesAndAllAreCountedWithoutATrace) {
-    const auto trips = [this](int count) {
-        open(QStringLiteral("SELECT * FROM MeteVanzer"));
+    {
         Comando command(archive);
-        archive.CancellaTabella(MeteVanzer, {}, {});
         Recordset rs(*archive.Db(0), {TabelleNomi(MeteVanzer), {}, {}});
-        for (int i = 0; i < count; ++i) {
+        for (int i = 0; i < 3; ++i) {
             rs.AddNew();
-            rs.write("CodiceMeta", QString::number(i));
             rs.Update();
         }
         command.commit();
-    };
-    trips(3);
+    }
     copy(4);
-    trips(0);
+    archive.CancellaTabella(MeteVanzer, {}, {});
     for (int day = 5; day <= 17; ++day)
         copy(day);
-    writeOver(0, {});
-    ASSERT_TRUE(QFile::resize(copies() + u'/' + nameOf(17), 5000));
-    QStringList found;
+    archive.close();
+    ASSERT_TRUE(QFile::resize(ofDay(17), 5000));
+    QString found;
     for (const CopiaTrovata& copy : copieAccanto(file()))
-        found += copy.path.last(6).first(2) + QString(" %1 %2").arg(copy.day.day()).arg(copy.mete);
-    EXPECT_EQ(found.join(u'|'),
-              "17 17 -1|16 16 0|15 15 0|14 14 0|13 13 0|12 12 0|11 11 0|10 10 0|09 9 0|08 8 0|04 4 3");
+        found += QString("%1 %2 %3|").arg(copy.path.last(6).first(2)).arg(copy.day.day()).arg(copy.mete);
+    EXPECT_EQ(found, "17 17 -1|16 16 0|15 15 0|14 14 0|13 13 0|12 12 0|11 11 0|10 10 0|09 9 0|08 8 0|04 4 3|");
     EXPECT_EQ(kept().size(), 11);
 }
 
-#ifdef Q_OS_UNIX
 TEST_F(DailyCopy, HasTheRightsOfTheArchive) {
     const auto rights = [](const QString& path) {
         struct stat s {};
@@ -155,22 +141,19 @@ TEST_F(DailyCopy, HasTheRightsOfTheArchive) {
     addLegs(ample);
     ASSERT_TRUE(QDir().mkpath(copies()));
     ASSERT_EQ(::chmod(QFile::encodeName(copies()).constData(), 0755), 0);
-    ASSERT_EQ(::chmod(QFile::encodeName(file()).constData(), 0600), 0);
-    unsigned half = 0;
-    copy(1, [&](qint64 /*done*/, qint64 /*total*/) {
-        half = rights(copies() + u'/' + nameOf(1) + QStringLiteral(".parte"));
-        return true;
-    });
-    EXPECT_EQ(half, 0600U);
-    EXPECT_EQ(rights(copies() + u'/' + nameOf(1)), 0600U);
-    EXPECT_EQ(rights(copies()), 0700U);
-    ASSERT_TRUE(QDir(copies()).removeRecursively());
-    ASSERT_EQ(::chmod(QFile::encodeName(file()).constData(), 0640), 0);
-    copy(1);
-    EXPECT_EQ(rights(copies() + u'/' + nameOf(1)), 0640U);
-    EXPECT_EQ(rights(copies()), 0750U);
+    for (const auto& [ofArchive, ofFolder] : {std::pair(0600U, 0700U), {0640U, 0750U}}) {
+        ASSERT_EQ(::chmod(QFile::encodeName(file()).constData(), ofArchive), 0);
+        unsigned half = 0;
+        copy(1, [&](qint64 /*done*/, qint64 /*total*/) {
+            half = rights(ofDay(1) + QStringLiteral(".parte"));
+            return true;
+        });
+        EXPECT_EQ(half, ofArchive);
+        EXPECT_EQ(rights(ofDay(1)), ofArchive);
+        EXPECT_EQ(rights(copies()), ofFolder);
+        ASSERT_TRUE(QDir(copies()).removeRecursively());
+    }
 }
-#endif
 
 TEST_F(DailyCopy, OneThatIsLeftOrFailsLeavesNothing) {
     addLegs(ample);
@@ -181,56 +164,44 @@ TEST_F(DailyCopy, OneThatIsLeftOrFailsLeavesNothing) {
         return ++asked < 1;
     });
     EXPECT_EQ(asked, 1);
-    EXPECT_EQ(kept(), QStringList{nameOf(1)});
-
-    // A page inside is damaged: the file opens all the same.
-    writeOver(qint64{4096} * 200, QByteArray(4096, 'x'));
+    writeOver(qint64{4096} * 200, QByteArray(4096, 'x')); // inside: the file opens all the same
     archive.DatabaseApre(0);
-    try {
-        copy(3);
-        ADD_FAILURE() << "copied what is damaged";
-    } catch (const StoreError& error) {
-        EXPECT_EQ(error.kind(), StoreError::Kind::Corrupt);
-        EXPECT_EQ(error.path(), file());
-    }
+    EXPECT_EQ(failureOf([&] { copy(3); }), StoreError::Kind::Corrupt);
     EXPECT_EQ(kept(), QStringList{nameOf(1)});
     ASSERT_TRUE(QDir(copies()).removeRecursively());
     ASSERT_TRUE(QFile(copies()).open(QIODevice::WriteOnly)); // a file where the folder should be
     EXPECT_EQ(failureOf([&] { copy(4); }), StoreError::Kind::ReadOnly);
 }
 
-/// The window on this archive, on a day of May.
+/// The window on this archive, on days of May.
 class WindowOnCopies : public DailyCopy {
   protected:
-    void start(int day) {
+    /// Returns what the boxes told.
+    QString start(int day, const QStringList& answers = {}) {
         archive.close();
-        clock.set(QDateTime(QDate(2026, 5, day), QTime(8, 0)));
-        form = nuovaFinestra({.directory = directory.path(), .decimalMark = u'.', .versione = {}}, ports);
-        loadWindow(*form);
+        desk.reset();
+        desk.emplace(directory.path(), QDate(2026, 5, day));
+        return desk->tries(answers + QStringList(u"start"_s)).join(u'\n');
     }
-    [[nodiscard]] QString shown() {
-        QStringList texts;
-        for (const QJsonValue& box : boxes.exchange({}))
-            texts += box[u"text"].toString();
-        return texts.join(u'\n');
-    }
+    std::size_t legs() { return desk->program().window()->archivio.tabella("Itinerari").record.size(); }
 
-    batch::QueuedBoxes boxes;
-    batch::QueuedDialogs dialogs;
-    batch::SetClock clock;
-    batch::VisitedYield events;
-    DetachedStarter programs;
-    Ports ports{boxes, dialogs, clock, events, programs};
-    std::unique_ptr<Form> form;
+    std::optional<Desk> desk;
 };
 
 TEST_F(WindowOnCopies, AreMadeAtTheFirstStartOfADayAndCanBeStopped) {
     addLegs(ample);
-    start(7);
-    EXPECT_EQ(shown(), "");
+    EXPECT_EQ(start(7), "");
     EXPECT_EQ(kept(), QStringList{nameOf(7)});
-    form.reset();
-    events.expect([this] {
+    desk.reset();
+    batch::QueuedBoxes boxes;
+    batch::QueuedDialogs dialogs;
+    batch::SetClock clock;
+    clock.set(QDateTime(QDate(2026, 5, 8), QTime(8, 0)));
+    batch::VisitedYield events;
+    DetachedStarter programs;
+    Ports ports{boxes, dialogs, clock, events, programs};
+    const auto form = nuovaFinestra({.directory = directory.path(), .decimalMark = u'.', .versione = {}}, ports);
+    events.expect([&] {
         if (form->lblElaborazione.caption() != u"Copia dell'archivio" || !form->txtPerc.visible())
             return false;
         EXPECT_EQ(form->cmdEsce.caption(), "&Stop");
@@ -238,71 +209,50 @@ TEST_F(WindowOnCopies, AreMadeAtTheFirstStartOfADayAndCanBeStopped) {
         form->cmdEsce.click();
         return true;
     });
-    start(8);
-    EXPECT_EQ(shown(), "Vuoi interrompere l'elaborazione?");
+    loadWindow(*form);
+    EXPECT_EQ(boxes.exchange({}).size(), 1) << "the question";
     EXPECT_EQ(kept(), QStringList{nameOf(7)});
-    EXPECT_FALSE(form->chiusa);
-    EXPECT_TRUE(form->cmdNuovo.reachable());
-    EXPECT_EQ(form->cmdEsce.caption(), "&Esce");
-    EXPECT_FALSE(form->txtPerc.visible());
+    EXPECT_TRUE(form->cmdNuovo.reachable() && form->cmdEsce.caption() == u"&Esce" && !form->txtPerc.visible());
 }
 
 TEST_F(WindowOnCopies, AreNamedWhereTheyHelp) {
     addLegs(ample);
-    start(7);
-    EXPECT_EQ(shown(), "");
+    EXPECT_EQ(start(7), "");
     const QString where = QDir::toNativeSeparators(copies());
-
     // The archive is in use: no copy is needed.
-    const std::unique_ptr<Form> first = std::move(form);
-    start(7);
-    const QString inUse = shown();
+    const QString inUse = Desk(directory.path()).run({u"start"_s}).join(u'\n');
     EXPECT_TRUE(inUse.contains(u"è già aperto da un altro Vanzer") && !inUse.contains(where)) << inUse.toStdString();
-    first->archivio.close();
-
-    writeOver(qint64{4096} * 200, QByteArray(4096, 'x'));
-    start(8);
-    EXPECT_FALSE(form->chiusa);
-    const QString damaged = shown();
-    EXPECT_TRUE(damaged.contains(u"danneggiato") && damaged.contains(where) && damaged.contains(nameOf(7)))
-        << damaged.toStdString();
-    EXPECT_EQ(kept(), QStringList{nameOf(7)});
-    form->archivio.close();
-
-    writeOver(0, "that is no archive");
-    start(9);
-    EXPECT_TRUE(form->chiusa);
-    const QString unreadable = shown();
-    EXPECT_TRUE(unreadable.startsWith(QStringLiteral("Errore apertura database ") + file()));
-    EXPECT_TRUE(unreadable.contains(where) && unreadable.contains(nameOf(7))) << unreadable.toStdString();
+    desk.reset();
+    const struct {
+        qint64 at;
+        QByteArray bytes;
+        QString told;
+    } damages[] = {{qint64{4096} * 200, QByteArray(4096, 'x'), u"danneggiato"_s},
+                   {0, "that is no archive", u"Errore apertura database "_s + file()}};
+    for (const auto& [at, bytes, what] : damages) {
+        writeOver(at, bytes);
+        const QString told = start(8);
+        EXPECT_TRUE(told.contains(what) && told.contains(where) && told.contains(nameOf(7))) << told.toStdString();
+        EXPECT_EQ(desk->alive(), at > 0);
+        EXPECT_EQ(kept(), QStringList{nameOf(7)});
+        desk.reset();
+    }
 }
 
 // A damaged index isn't waited for until tomorrow, nor told as damage: what it leads to is whole.
 TEST_F(WindowOnCopies, AMissingArchiveIsAskedForAndABrokenIndexMended) {
     addLegs(2);
     start(7);
-    form->archivio.close();
+    desk.reset();
     breakIndexOfLegs(file());
-    start(7);
-    EXPECT_TRUE(shown().contains(u"Gli indici"));
-    EXPECT_EQ(form->archivio.tabella("Itinerari").record.size(), 2U);
-    form->archivio.close();
-
-    struct Choice {
-        int answer;
-        std::optional<std::size_t> legs; ///< of the archive that is there afterwards
-    };
-    for (const Choice& choice : {Choice{rispostaAnnulla, std::nullopt}, {rispostaSi, 2}, {rispostaNo, 0}}) {
-        ASSERT_TRUE(choice.answer == rispostaSi || !QFile::exists(file()) || QFile::remove(file()));
-        boxes.enqueue(choice.answer);
-        start(8);
-        EXPECT_TRUE(shown().contains(nameOf(7)));
-        EXPECT_EQ(form->chiusa, !choice.legs);
-        EXPECT_EQ(QFile::exists(file()), choice.legs.has_value());
-        if (choice.legs) {
-            EXPECT_EQ(form->archivio.tabella("Itinerari").record.size(), *choice.legs);
-        }
-        form->archivio.close();
+    EXPECT_TRUE(start(7).contains(u"Gli indici"));
+    EXPECT_EQ(legs(), 2U);
+    for (const auto& [answer, left] : {std::pair(u"answer 2"_s, -1), {u"answer 6"_s, 2}, {u"answer 7"_s, 0}}) {
+        desk.reset();
+        ASSERT_TRUE(!QFile::exists(file()) || QFile::remove(file()));
+        EXPECT_TRUE(start(8, {answer}).contains(nameOf(7)));
+        EXPECT_EQ(desk->alive() ? static_cast<int>(legs()) : -1, left);
+        EXPECT_EQ(QFile::exists(file()), left >= 0);
     }
 }
 

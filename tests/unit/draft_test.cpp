@@ -10,31 +10,13 @@
 namespace vanzer {
 namespace {
 
-const QDateTime written(QDate(2026, 11, 24), QTime(18, 5, 7));
-
-Bozza example() {
-    return {.codice = u"000001"_s,
-            .nome = u"PROVA"_s,
-            .campi = {{u"txtLocalita"_s, u"PROVA \"Ü\""_s}, {u"cmbOra(3)"_s, u"08"_s}},
-            .cambiati = {u"cmbOra(3)"_s},
-            .tappe = {{u"ASTI\t"_s + QString(300, u'x'), u"A21"_s, {}, u"A"_s, {}, {}},
-                      {u"ALBA"_s, {}, u"1.030"_s, u"S"_s, u"*00:01:30"_s, {}}},
-            .tappeCambiate = true,
-            .editor = true,
-            .riga = 2,
-            .modifiche = u"010"_s,
-            .digitata = {{u"txtTappa"_s, u"CUNEO"_s}}};
-}
-
-TEST(Draft, ItsBytesHoldIt) {
-    Bozza kept = example();
-    kept.scritta = written;
-    EXPECT_EQ(bozzaDaiByte(byteDellaBozza(example(), written)), kept);
-}
+const QByteArray least = R"({"bozza":1,"scritta":"2026-11-24T18:05:00"})";
+const QString legCuneo = u"row mfgTab 3; set txtTappa CUNEO; set txtKm 30; click cmdInserisce; "_s;
+const QString stretch = u"click cmdModStrada; row mfgTab 1; option optTStrada(3); click cmdTappaSEl(0); "
+                        "click cmdTappaSEl(1); click cmdTappaSEl(2); "_s;
 
 TEST(Draft, WhatNoWindowWroteIsNone) {
-    const QByteArray whole = R"({"bozza":1,"scritta":"2026-11-24T18:05:00"})";
-    const auto with = [&whole](const QByteArray& more) { return whole.chopped(1) + ',' + more + '}'; };
+    const auto with = [](const QByteArray& more) { return least.chopped(1) + ',' + more + '}'; };
     const QByteArray bytes[] = {"[1]",
                                 R"({"bozza":2,"scritta":"2026-11-24T18:05:00"})",
                                 R"({"bozza":1,"scritta":"ieri"})",
@@ -44,10 +26,10 @@ TEST(Draft, WhatNoWindowWroteIsNone) {
                                 with(R"("editor":"yes")"),
                                 with(R"("codice":")" + QByteArray(70'000, 'x') + '"'),
                                 with(R"("tappe":[)" + QByteArray("\"\",").repeated(700'000).chopped(1) + ']'),
-                                byteDellaBozza(example(), written).chopped(20)};
+                                least.chopped(1)};
     for (const QByteArray& some : bytes)
         EXPECT_FALSE(bozzaDaiByte(some)) << some.left(120).toStdString();
-    EXPECT_TRUE(bozzaDaiByte(whole));
+    EXPECT_TRUE(bozzaDaiByte(least));
 }
 
 /// A window on an archive with a trip PROVA of two legs; another start is another window.
@@ -76,42 +58,50 @@ class DraftScreen : public WindowTest {
     void cut() {
         keep();
         ASSERT_TRUE(isThere());
-        session->window()->archivio.close();
+        form().archivio.close();
         restart();
     }
     void look() {
         custodian->look();
         custodian->wait();
     }
+    QStringList offer(const QString& answer = {}) {
+        does(answer);
+        custodian->offer();
+        return asked();
+    }
     bool isThere() const { return QFile::exists(path()); }
     QString path() const { return inFolder(store::nomeBozza); }
-    QString legs() { return stored(u"Itinerari"_s, u"Localita"_s); }
-    QString trips() { return stored(u"MeteVanzer"_s, u"Localita"_s); }
+    /// Legs and trips that are stored.
+    QString all() { return stored(u"Itinerari"_s, u"Localita"_s) + u'/' + stored(u"MeteVanzer"_s, u"Localita"_s); }
 
     std::optional<CustodeBozza> custodian;
 };
 
-void changeStretch(Form& f) {
-    f.cmdModStrada.click();
-    f.mfgTab.clickRow(1);
-    f.optTStrada(3).choose();
-    for (const int i : {0, 1, 2})
-        f.cmdTappaSEl(i).click();
-}
-
 /// Whatever is unsaved comes back as it stood, with a yes; and the archive doesn't change by it.
 TEST_F(DraftScreen, UnsavedWorkComesBackAsItStood) {
-    const auto comesBack = [this](const QString& question, void (*work)(Form&)) {
-        SCOPED_TRACE(question.toStdString());
+    const std::pair<QString, QString> cases[] = {
+        {u"«OSLO» (nessuna tappa"_s, u"click cmdNuovo; set txtLocalita OSLO; set cmbInizio(2) 2031"_s},
+        {u"un nuovo viaggio (nessuna tappa"_s, u"click cmdNuovo; set txtNazione SVEZIA"_s},
+        {u"«PROVA» (2 tappe"_s, u"click cmdItinerario; row mfgTab 3; set txtTappa CUNEO; set txtKm 70; "
+                                "pick cmbSosta(1) 03; option optStrada(2); check chkEndDay 1"_s},
+        {u"«PROVA» (2 tappe"_s, stretch},
+        {u"«PROVA» (2 tappe"_s, stretch + u"click cmdCalcola"_s},
+        {u"«PROVA» (3 tappe"_s, u"click cmdItinerario; "_s + legCuneo + u"click cmdRicalcola"_s},
+        {u"«PROVA» (3 tappe"_s,
+         u"pick cmbRange 45; set cmbMediaKm(1) 66; click cmdItinerario; "_s + legCuneo + u"set txtTappa NIZZA"_s}};
+    for (const auto& [what, work] : cases) {
+        SCOPED_TRACE(work.toStdString());
         begin();
-        work(form());
+        does(work);
         std::optional<Bozza> kept = lavoroNonSalvato(form());
         ASSERT_TRUE(kept);
-        const QString before = legs() + trips();
+        const QByteArray written = byteDellaBozza(*kept, now);
+        EXPECT_EQ(byteDellaBozza(bozzaDaiByte(written).value(), now), written);
+        EXPECT_EQ(bozzaDaiByte(written)->riga, kept->riga);
+        const QString before = all();
         ASSERT_NO_FATAL_FAILURE(cut());
-        answer({rispostaSi});
-        custodian->offer();
-        EXPECT_EQ(asked(), QStringList(u"Riprendere il lavoro non salvato a "_s + question + u'?'));
+        EXPECT_EQ(offer(u"answer 6"_s), QStringList(u"Riprendere il lavoro non salvato a "_s + what + u", 18:05)?"_s));
         std::optional<Bozza> back = lavoroNonSalvato(form());
         ASSERT_TRUE(back);
         // The schedule is not made again: its legs are in the editor instead.
@@ -120,68 +110,28 @@ TEST_F(DraftScreen, UnsavedWorkComesBackAsItStood) {
         for (Bozza* const one : {&*kept, &*back}) // of a table that is longer by some blank rows
             one->modifiche = one->modifiche.left(2);
         kept->riga = back->riga = kept->editor ? back->riga : 0;
-        EXPECT_EQ(*back, *kept) << byteDellaBozza(*back, written).toStdString()
-                                << byteDellaBozza(*kept, written).toStdString();
-        EXPECT_EQ(legs() + trips(), before);
+        EXPECT_EQ(*back, *kept) << byteDellaBozza(*back, now).toStdString() << byteDellaBozza(*kept, now).toStdString();
+        EXPECT_EQ(all(), before);
         EXPECT_TRUE(isThere()) << "unsaved still";
-    };
-    comesBack(u"«OSLO» (nessuna tappa, 18:05)"_s, [](Form& f) {
-        f.cmdNuovo.click();
-        f.txtLocalita.type(u"OSLO"_s);
-        f.cmbInizio(2).setText(u"2031"_s);
-    });
-    comesBack(u"un nuovo viaggio (nessuna tappa, 18:05)"_s, [](Form& f) {
-        f.cmdNuovo.click();
-        f.txtNazione.type(u"SVEZIA"_s);
-    });
-    comesBack(u"«PROVA» (2 tappe, 18:05)"_s, [](Form& f) {
-        f.cmdItinerario.click();
-        f.mfgTab.clickRow(3);
-        f.txtTappa.type(u"CUNEO"_s);
-        f.txtKm.type(u"70"_s);
-        f.cmbSosta(1).pick(u"03"_s);
-        f.optStrada(2).choose();
-        f.chkEndDay.choose(true);
-    });
-    comesBack(u"«PROVA» (2 tappe, 18:05)"_s, changeStretch);
-    comesBack(u"«PROVA» (2 tappe, 18:05)"_s, [](Form& f) {
-        changeStretch(f);
-        f.cmdCalcola.click();
-    });
-    comesBack(u"«PROVA» (3 tappe, 18:05)"_s, [](Form& f) {
-        f.cmdItinerario.click();
-        addLeg(f, u"CUNEO"_s);
-        f.cmdRicalcola.click();
-    });
-    comesBack(u"«PROVA» (3 tappe, 18:05)"_s, [](Form& f) {
-        f.cmbRange.pick(u"45"_s);
-        f.cmbMediaKm(1).setText(u"66"_s);
-        f.cmdItinerario.click();
-        addLeg(f, u"CUNEO"_s);
-        f.txtTappa.type(u"NIZZA"_s);
-    });
+    }
 }
 
 TEST_F(DraftScreen, GoesWhenAllIsStoredOrGivenUp) {
-    const std::pair<int, void (*)(Form&)> ways[] = {
-        {rispostaSi, [](Form& f) { f.cmdSalva.click(); }},
-        {rispostaNo, [](Form& f) { f.cmdNuovo.click(); }},
-        {rispostaNo, [](Form& f) { f.txtNazione.type(u"ITALIA "_s); }}}; // typed back
-    for (const auto& [wish, go] : ways) {
+    // The last one types back what is stored.
+    for (const QString& way : {u"answer 6; click cmdSalva"_s, u"answer 7; click cmdNuovo"_s, QString()}) {
         begin();
         keep();
         EXPECT_FALSE(isThere()) << "nothing is unsaved";
-        form().txtNazione.type(u"FRANCIA"_s);
+        does(u"set txtNazione FRANCIA"_s);
         look();
         EXPECT_FALSE(isThere()) << "not yet";
         keep();
         ASSERT_TRUE(isThere() && QFile::remove(path()));
         keep();
         EXPECT_FALSE(isThere()) << "written only when something has changed";
-        form().txtNazione.type(u"SPAGNA"_s);
+        does(u"set txtNazione SPAGNA"_s);
         custodian->keep();
-        answer({wish});
-        go(form());
+        does(way.isEmpty() ? u"set txtNazione ITALIA "_s : way);
         look();
         EXPECT_FALSE(isThere() || QFile::exists(path() + u".parte"_s));
     }
@@ -190,23 +140,21 @@ TEST_F(DraftScreen, GoesWhenAllIsStoredOrGivenUp) {
 TEST_F(DraftScreen, IsNeverAScriptsOwn) {
     begin();
     form().interattiva = false;
-    form().txtNazione.type(u"FRANCIA"_s);
+    does(u"set txtNazione FRANCIA"_s);
     keep();
     EXPECT_FALSE(isThere());
-    store::writeDraft(path(), byteDellaBozza(example(), written));
-    custodian->offer();
-    EXPECT_EQ(asked(), QStringList());
+    store::writeDraft(path(), least);
+    EXPECT_EQ(offer(), QStringList());
 }
 
 TEST_F(DraftScreen, ARefusedOneStaysUnderAnotherName) {
     begin();
     for (const QString& nation : {u"FRANCIA"_s, u"SPAGNA"_s}) {
-        session->clock.set(now);
-        form().txtNazione.type(nation);
+        does(u"now 2026-11-24T18:05; set txtNazione "_s + nation);
         ASSERT_NO_FATAL_FAILURE(cut());
-        session->clock.set(now.addDays(1));
-        custodian->offer(); // unasked is no
-        EXPECT_EQ(asked(), QStringList(u"Riprendere il lavoro non salvato a «PROVA» (2 tappe, 24/11/2026 18:05)?"_s));
+        does(u"now 2026-11-25T18:05"_s);
+        // Unasked is no.
+        EXPECT_EQ(offer(), QStringList(u"Riprendere il lavoro non salvato a «PROVA» (2 tappe, 24/11/2026 18:05)?"_s));
         EXPECT_EQ(form().txtNazione.text(), u"ITALIA "_s);
         EXPECT_FALSE(isThere());
         const QByteArray refused = store::readDraft(path() + store::bozzaRifiutata).value();
@@ -217,7 +165,7 @@ TEST_F(DraftScreen, ARefusedOneStaysUnderAnotherName) {
 /// Nothing of the program that runs then is touched before the question has been answered.
 TEST_F(DraftScreen, StaysUntilItIsAnswered) {
     begin();
-    form().txtNazione.type(u"FRANCIA"_s);
+    does(u"set txtNazione FRANCIA"_s);
     ASSERT_NO_FATAL_FAILURE(cut());
     custodian->look();
     custodian->finish();
@@ -227,36 +175,33 @@ TEST_F(DraftScreen, StaysUntilItIsAnswered) {
 /// A trip that another program has changed, taken away, or put under another code.
 TEST_F(DraftScreen, MeetsAnotherArchive) {
     begin();
-    form().cmdItinerario.click();
-    addLeg(form(), u"CUNEO"_s);
-    form().txtTappa.type(u"NIZZA"_s);
+    does(u"click cmdItinerario; "_s + legCuneo + u"set txtTappa NIZZA"_s);
     keep();
     const QByteArray draft = store::readDraft(path())->replace("\"riga\":", "\"riga\":99999"); // no row is so far down
-    for (const QString& other : {u""_s, u"ROMA"_s}) { // with an empty archive, and where the code is another trip's
-        const bool empty = other.isEmpty();
-        for (const bool store : {true, false}) {
-            SCOPED_TRACE(other.toStdString() + (store ? " stored" : " given up"));
-            custodian.reset();
-            startAnew();
-            if (!empty)
-                storeTrip(other);
-            store::writeDraft(path(), draft);
-            custodian.emplace(form());
-            answer({rispostaSi});
-            custodian->offer();
-            EXPECT_EQ(form().txtLocalita.text() + form().mfgTab.cell(3, 1) + form().txtTappa.text(),
-                      u"PROVACUNEONIZZA");
-            EXPECT_TRUE(form().frmframe(12).visible());
-            const QString before = empty ? QString() : u"ASTI|ALBA"_s;
-            EXPECT_EQ(trips(), other);
-            EXPECT_EQ(legs(), before);
-            answer({rispostaNo}); // the leg that isn't in the table
-            answer(store ? std::vector{rispostaSi} : std::vector{rispostaNo, rispostaNo});
-            form().cmdFine.click();
-            EXPECT_EQ(trips(), !store ? other : empty ? u"PROVA"_s : other + u"|PROVA"_s);
-            EXPECT_EQ(legs(), !store ? before : (empty ? QString() : before + u'|') + u"ASTI|ALBA|CUNEO"_s);
-            EXPECT_EQ(form().stato.CodiceMeta, !store && empty ? u""_s : store && !empty ? u"000002"_s : u"000001"_s);
-        }
+    const struct {
+        QString trip;   ///< of the archive; none if empty
+        QString answer; ///< the leg that isn't in the table, then whether all is stored
+        QString left, code;
+    } cases[] = {{{}, u"7 6"_s, u"PROVA 0|PROVA 1|CUNEO/PROVA"_s, u"000001"_s},
+                 {{}, u"7 7 7"_s, u"/"_s, {}},
+                 {u"ROMA"_s, u"7 6"_s, u"ROMA 0|ROMA 1|PROVA 0|PROVA 1|CUNEO/ROMA|PROVA"_s, u"000002"_s},
+                 {u"ROMA"_s, u"7 7 7"_s, u"ROMA 0|ROMA 1/ROMA"_s, u"000001"_s}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE((c.trip + c.answer).toStdString());
+        custodian.reset();
+        startAnew();
+        if (!c.trip.isEmpty())
+            storeTrip(c.trip);
+        const QString before = all();
+        store::writeDraft(path(), draft);
+        custodian.emplace(form());
+        offer(u"answer 6"_s);
+        EXPECT_EQ(form().txtLocalita.text() + form().mfgTab.cell(3, 1) + form().txtTappa.text(), u"PROVACUNEONIZZA");
+        EXPECT_TRUE(form().frmframe(12).visible());
+        EXPECT_EQ(all(), before);
+        does(u"answer "_s + c.answer + u"; click cmdFine"_s);
+        EXPECT_EQ(all(), c.left);
+        EXPECT_EQ(form().stato.CodiceMeta, c.code);
     }
 }
 
@@ -280,8 +225,7 @@ TEST_F(DraftScreen, WhatIsNoDraftIsPutAside) {
     for (const auto& [what, put] : things) {
         SCOPED_TRACE(what);
         put(path());
-        custodian->offer();
-        EXPECT_EQ(asked(),
+        EXPECT_EQ(offer(),
                   QStringList(u"La bozza del lavoro non salvato non si può leggere. È stata messa da parte: "_s +
                               path() + store::bozzaDanneggiata));
         EXPECT_FALSE(QFileInfo(path()).exists() || QFileInfo(path()).isSymLink());
@@ -291,7 +235,7 @@ TEST_F(DraftScreen, WhatIsNoDraftIsPutAside) {
 TEST_F(DraftScreen, AFailureToWriteIsTold) {
     begin();
     ASSERT_TRUE(QDir().mkdir(path()));
-    form().txtNazione.type(u"FRANCIA"_s);
+    does(u"set txtNazione FRANCIA"_s);
     keep();
     custodian->keep();
     EXPECT_TRUE(form().lblAvviso.caption().startsWith(u"La bozza del lavoro non salvato non è scritta: "_s));
@@ -304,10 +248,10 @@ TEST_F(DraftScreen, AFailureToWriteIsTold) {
 /// The work of a command that is running, or that was ended in the user's place, counts as it stood before it.
 TEST_F(DraftScreen, ACommandAtWorkDoesNotCount) {
     begin();
-    changeStretch(form());
+    does(stretch);
     const std::optional<Bozza> kept = lavoroNonSalvato(form());
     std::optional<QByteArray> draft;
-    session->events.expect([&] {
+    atAYield([&] {
         if (!form().comandoInCorso || form().cmdEsce.caption() != u"&Stop"_s)
             return false;
         keep();

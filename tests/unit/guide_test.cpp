@@ -22,15 +22,9 @@ TEST(GuideCategory, IsFoundByNameAndByCode) {
         EXPECT_EQ(nomeTipoGuida(names, code), u"") << code.toStdString();
 }
 
-TEST(GuideGroup, MarksAreSortedAndBlankAndZeroAreNone) {
-    const std::pair<QString, QString> groups[] = {
-        {u"10-2-1"_s, u"1-10-2"_s}, {u"b-A-c"_s, u"A-b-c"_s}, {u"---"_s, {}},      {u"-B--A-"_s, u"A-B"_s},
-        {u"A-A"_s, u"A-A"_s},       {u"B - A"_s, u"A-B"_s},   {u"B,A"_s, u"B,A"_s}};
-    for (const auto& [group, sorted] : groups)
-        EXPECT_EQ(gruppoOrdinato(group), sorted) << group.toStdString();
+TEST(GuideGroup, BlankAndZeroAreNone) {
     EXPECT_TRUE(stessoGruppo(u" 0 "_s, u""_s) && stessoGruppo(u"a-b"_s, u"A-B "_s));
     EXPECT_FALSE(stessoGruppo(u""_s, u"A"_s) || stessoGruppo(u"0"_s, u"00"_s));
-    EXPECT_EQ(gruppoMostrato(u"0"_s), QString());
 }
 
 TEST(GuideTime, ShowsInItsBoxesWhatTheyOffer) {

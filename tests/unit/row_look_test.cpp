@@ -1,118 +1,69 @@
 // How the rows of the table are told apart.
 #include <gtest/gtest.h>
 
+#include <QStringList>
+
 #include "guide/entries.h"
 #include "schedule/row_look.h"
 #include "schedule/rows.h"
 
 namespace vanzer {
 
-namespace {
-
-/// Texts of a row by column; every other cell is empty.
-using Row = std::map<int, QString>;
-using Looks = std::vector<std::string>;
-
-/// "V" for a row of a schedule, the kind's name, the day or the category, "|" at its end.
-std::string told(const AspettoRiga& look) {
-    constexpr std::array<const char*, 8> kinds{"vuota",  "tappa",  "sosta", "mattino",
-                                               "titolo", "totale", "luogo", "voce"};
-    return std::string(look.viandoria ? "V " : "") + kinds[static_cast<std::size_t>(look.tipo)] + ' ' +
-           std::to_string(look.giorno + look.categoria) + (look.fineGiornata ? "|" : "");
-}
-
-/// Below a head row whose column of the groups is called `group`.
-Looks looks(const std::vector<Row>& rows, const QString& group = QStringLiteral("Km.")) {
-    const std::array<QString, 4> categories{QStringLiteral("Zero"), QStringLiteral("Ottimo"),
-                                            QStringLiteral("Campeggio"), QStringLiteral("Altro")};
-    const Row head{{guidaGruppo, group}};
-    const auto cell = [&rows, &head](int row, int column) -> const QString& {
-        static const QString none;
-        const Row& cells = row == 0 ? head : rows.at(static_cast<std::size_t>(row - 1));
-        const auto found = cells.find(column);
-        return found == cells.end() ? none : found->second;
+/// Rows as "1=text,2=text ..." by column, parted by "/", below a head row whose column of the groups has a name. Each
+/// becomes "V" for a row of a schedule, its kind, its day or category, and "|" at the end of a day.
+std::string looks(const QString& rows, const QString& group = QStringLiteral("Km.")) {
+    std::vector<std::map<int, QString>> cells{{{guidaGruppo, group}}};
+    for (const QString& row : rows.split(u'/')) {
+        auto& made = cells.emplace_back();
+        for (const QString& cell : row.split(u',', Qt::SkipEmptyParts))
+            made[cell.section(u'=', 0, 0).toInt()] = cell.section(u'=', 1);
+    }
+    const auto cell = [&cells](int row, int column) -> const QString& {
+        return cells.at(static_cast<std::size_t>(row))[column];
     };
-    Looks result;
-    for (const AspettoRiga& look : aspettoRighe(static_cast<int>(rows.size()) + 1, cell, categories))
-        result.push_back(told(look));
-    result.erase(result.begin());
-    return result;
+    const std::array<QString, 4> categories{"Zero", "Ottimo", "Campeggio", "Altro"};
+    constexpr std::array kinds{"vuota", "tappa", "sosta", "mattino", "titolo", "totale", "luogo", "voce"};
+    std::string told;
+    for (const AspettoRiga& look : aspettoRighe(static_cast<int>(cells.size()), cell, categories))
+        told += (look.viandoria ? "V " : "") + std::string(kinds[static_cast<std::size_t>(look.tipo)]) + ' ' +
+                std::to_string(look.giorno + look.categoria) + (look.fineGiornata ? "| " : " ");
+    return told.substr(told.find(' ', told.find(' ') + 1) + 1); // without the head
 }
-
-Row leg(const char16_t* place, const char16_t* stop = u"") {
-    return {{colNumero, QStringLiteral("1")}, {colTappa, QString::fromUtf16(place)}, {7, QString::fromUtf16(stop)}};
-}
-
-Row onDay(const char16_t* number, const char16_t* place, const char16_t* date) {
-    return {{colNumero, QString::fromUtf16(number)},
-            {colTappa, QString::fromUtf16(place)},
-            {colGiorno, QStringLiteral("Lun")},
-            {colData, QString::fromUtf16(date)}};
-}
-
-Row line(QStringView place) {
-    return {{colTappa, place.toString()}};
-}
-
-Row entry(const char16_t* place, const char16_t* category) {
-    return {{guidaLuogo, QString::fromUtf16(place)},
-            {guidaTipo, QString::fromUtf16(category)},
-            {guidaSegno, segnoVoce.toString()}};
-}
-
-} // namespace
 
 TEST(AspettoRighe, AreToldFromTheTexts) {
-    const struct {
-        const char* what;
-        std::vector<Row> rows;
-        Looks looks;
-    } cases[] = {
-        {"nothing", {}, {}},
-        {"an empty table", {{}, {}}, {"vuota 0", "vuota 0"}},
-        {"legs, one that ends a day, no day at a stop without a place",
-         {leg(u"ROMA [Start]", u"00:01:00"), leg(u"OSTIA", u"*00:02:00"), {{7, QStringLiteral("*")}}, leg(u"PISA"), {}},
-         {"tappa 0", "tappa 0|", "vuota 0", "tappa 0", "vuota 0"}},
-        {"two days with a stop, a mention without a date, a new day",
-         {onDay(u"1", u"ROMA", u"05/07"), onDay(u"", u" > Foro", u"05/07"), line(u" > Colosseo"),
-          onDay(u"", u" > Partenza mattino successivo", u"06/07"), onDay(u"5", u"OSTIA", u"06/07")},
-         {"V tappa 0", "V sosta 0", "V sosta 0|", "V mattino 1", "V tappa 1|"}},
-        {"a mention before the first date; a date that comes again is another day; a row left empty ends no day",
-         {line(u" > Foro"),
-          onDay(u"2", u"ROMA", u"05/07"),
-          onDay(u"3", u"PISA", u"06/07"),
-          onDay(u"4", u"LUCCA", u"05/07"),
-          {}},
-         {"V sosta 0", "V tappa 0|", "V tappa 1|", "V tappa 2|", "V vuota 2"}},
-        {"totals, and the empty row behind them",
-         {onDay(u"1", u"ROMA", u"05/07"),
-          onDay(u"2", u"OSTIA", u"06/07"),
-          line(u"Totali: Km e tempi (gg:hh:mm):"),
-          line(u"Percorso specifico:\t"),
-          line(u"\t\tKm. 0"),
-          line(u"Intero percorso:\t"),
-          line(u"\t\tKm. 20"),
-          {}},
-         {"V tappa 0|", "V tappa 1|", "V titolo 1", "V titolo 1", "V totale 1", "V titolo 1", "V totale 1",
-          "V vuota 1"}},
-        {"a place called like the totals is a leg while it has a number",
-         {onDay(u"1", u"Totali: Km e tempi (gg:hh:mm):", u"05/07"), onDay(u"", u" > Foro", u"05/07")},
-         {"V tappa 0", "V sosta 0|"}},
+    static_assert(colNumero == 0 && colTappa == 1 && colGiorno == 9 && colData == 10);
+    const std::pair<QString, const char*> cases[] = {
+        {"0=1,1=ROMA [Start],7=00:01:00/0=2,1=OSTIA,7=*00:02:00/7=*/0=3,1=PISA/",
+         "tappa 0 tappa 0| vuota 0 tappa 0 vuota 0 "},
+        // Two days with a stop, a mention without a date, a new day.
+        {"0=1,1=ROMA,9=Lun,10=05/1= > Foro,9=Lun,10=05/1= > Colosseo/"
+         "1= > Partenza mattino successivo,9=Lun,10=06/0=5,1=OSTIA,9=Lun,10=06",
+         "V tappa 0 V sosta 0 V sosta 0| V mattino 1 V tappa 1| "},
+        // A mention before the first date; a date that comes again is another day; a row left empty ends no day.
+        {"1= > Foro/0=2,1=ROMA,9=Lun,10=05/0=3,1=PISA,9=Lun,10=06/0=4,1=LUCCA,9=Lun,10=05/",
+         "V sosta 0 V tappa 0| V tappa 1| V tappa 2| V vuota 2 "},
+        {"0=1,1=ROMA,9=Lun,10=05/1=Totali: Km e tempi (gg:hh:mm):/1=Percorso specifico:\t/1=\t\tKm. 0/",
+         "V tappa 0| V titolo 0 V titolo 0 V totale 0 V vuota 0 "},
+        // A place called like the totals is a leg while it has a number.
+        {"0=1,1=Totali: Km e tempi (gg:hh:mm):,9=Lun,10=05/1= > Foro,9=Lun,10=05", "V tappa 0 V sosta 0| "},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(looks(c.rows), c.looks) << c.what;
+    for (const auto& [rows, told] : cases)
+        EXPECT_EQ(looks(rows), told);
 }
 
 TEST(AspettoRighe, PlacesOfTheGuideAndTheirEntries) {
-    EXPECT_EQ(looks({leg(u"ROMA [Start]", u"*"),
-                     entry(u"Roma", u"Ottimo"),
-                     entry(u"Roma", u"CAMPEGGIO"),
-                     entry(u"Roma", u"Museo"),
-                     entry(u"Roma", u"Zero"),
-                     line(u"PISA"),
-                     {}},
-                    testaGruppo.toString()),
-              Looks({"luogo 0", "voce 1", "voce 2", "voce 0", "voce 0", "luogo 0", "vuota 0"}));
+    const auto entry = [](const char* category) {
+        return QString("%1=Roma,%2=%3,%4=%5/")
+            .arg(guidaLuogo)
+            .arg(guidaTipo)
+            .arg(category)
+            .arg(guidaSegno)
+            .arg(segnoVoce);
+    };
+    EXPECT_EQ(
+        looks("1=ROMA [Start],7=*/" + entry("Ottimo") + entry("CAMPEGGIO") + entry("Museo") + entry("Zero") + "1=PISA/",
+              testaGruppo.toString()),
+        "luogo 0 voce 1 voce 2 voce 0 voce 0 luogo 0 vuota 0 ");
 }
 
 } // namespace vanzer

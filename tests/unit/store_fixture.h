@@ -94,6 +94,8 @@ class StoreTest : public testing::Test {
         command.commit();
     }
 
+    [[nodiscard]] QString file() const { return path(directory, "Vanzer.mdb"); }
+
     QTemporaryDir directory;
     Archive archive{directory.path()};
 };

