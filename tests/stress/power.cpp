@@ -1,4 +1,4 @@
-#include "stress/power.h"
+#include "stress/system_calls.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -33,17 +33,15 @@ Synced syncedUpTo(const Recording& recording, std::size_t cut) {
     return synced;
 }
 
-void doWrite(std::string& contents, std::size_t at, std::string_view bytes) {
-    contents.resize(std::max(contents.size(), at + bytes.size()));
-    std::ranges::copy(bytes, contents.begin() + static_cast<std::ptrdiff_t>(at));
-}
-
-/// The sectors of a write for which `kept` says so.
-template<typename Kept> void writeSectors(std::string& contents, const Change& change, const Kept& kept) {
+/// The pieces of a write for which `kept` says so.
+void doWrite(std::string& contents, const Change& change, std::size_t piece, const std::function<bool()>& kept) {
     for (std::size_t done = 0; done < change.bytes.size();) {
-        const std::size_t size = std::min(sector - (change.at + done) % sector, change.bytes.size() - done);
-        if (kept())
-            doWrite(contents, change.at + done, std::string_view(change.bytes).substr(done, size));
+        const std::size_t at = change.at + done;
+        const std::size_t size = std::min(piece - at % piece, change.bytes.size() - done);
+        if (kept()) {
+            contents.resize(std::max(contents.size(), at + size));
+            contents.replace(at, size, change.bytes, done, size);
+        }
         done += size;
     }
 }
@@ -87,9 +85,9 @@ Disk after(const Recording& recording, std::size_t cut, const Synced& synced, co
         const bool whole = safe(synced.files, change.file, i) || losses.of == Of::Nothing ||
                            (losses.of == Of::FromOneOn && i < losses.from) || (losses.of == Of::Some && losses.kept());
         if (change.call == Call::Write && whole)
-            doWrite(contents, change.at, change.bytes);
+            doWrite(contents, change, SIZE_MAX, [] { return true; });
         else if (change.call == Call::Write && losses.of == Of::SomeSectors)
-            writeSectors(contents, change, losses.kept);
+            doWrite(contents, change, sector, losses.kept);
         else if (change.call == Call::Truncate && (whole || (losses.of == Of::SomeSectors && losses.kept())))
             contents.resize(change.at);
         else if (!change.name.empty() && (i < losses.names || safe(synced.folders, folderOf(change.name), i)))
@@ -109,8 +107,8 @@ Disk afterPowerCut(const Recording& recording, std::size_t cut, std::mt19937_64&
     return after(recording, cut, ignoreSyncs ? Synced() : syncedUpTo(recording, cut), losses);
 }
 
-Disk afterAll(const Recording& recording, std::size_t cut) {
-    return after(recording, cut, Synced(), Losses());
+Disk afterAll(const Recording& recording) {
+    return after(recording, recording.changes.size(), Synced(), Losses());
 }
 
 } // namespace vanzer::stress
