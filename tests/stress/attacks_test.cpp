@@ -307,22 +307,18 @@ TEST_P(Attacked, PowerCuts) {
     });
 }
 
-struct NamedFault {
-    const char* name;
-    Fault fault;
-};
-constexpr NamedFault faults[] = {
-    {"write error", {+Call::Write, EIO}},
-    {"disk full once", {+Call::Write, ENOSPC}},
-    {"disk full from then on", {+Call::Write | +Call::Create | +Call::MakeFolder, ENOSPC, true}},
-    {"sync error", {+Call::Sync, EIO}},
-    {"truncate error", {+Call::Truncate, EIO}},
-    {"open error", {+Call::Open | +Call::Create, EMFILE}},
-    {"nothing opens from then on", {+Call::Open | +Call::Create, EMFILE, true}},
-    {"rename error", {+Call::Rename, EIO}},
-    {"delete error", {+Call::Unlink, EIO}},
-    {"read error", {+Call::Read, EIO}},
-    {"all reads fail from then on", {+Call::Read, EIO, true}},
+constexpr std::pair<const char*, Fault> faults[] = {
+    {"write error", Fault{+Call::Write, EIO}},
+    {"disk full once", Fault{+Call::Write, ENOSPC}},
+    {"disk full from then on", Fault{+Call::Write | +Call::Create | +Call::MakeFolder, ENOSPC, true}},
+    {"sync error", Fault{+Call::Sync, EIO}},
+    {"truncate error", Fault{+Call::Truncate, EIO}},
+    {"open error", Fault{+Call::Open | +Call::Create, EMFILE}},
+    {"nothing opens from then on", Fault{+Call::Open | +Call::Create, EMFILE, true}},
+    {"rename error", Fault{+Call::Rename, EIO}},
+    {"delete error", Fault{+Call::Unlink, EIO}},
+    {"read error", Fault{+Call::Read, EIO}},
+    {"all reads fail from then on", Fault{+Call::Read, EIO, true}},
 };
 
 /// A call fails: the user is told or all is stored, the window lives, what was stored stays, and the command given
@@ -330,10 +326,10 @@ constexpr NamedFault faults[] = {
 TEST_P(Attacked, Faults) {
     int first = -together;
     int told = 0;
-    for (const NamedFault& named : faults) {
-        SCOPED_TRACE(named.name);
+    for (const auto& [name, fault] : faults) {
+        SCOPED_TRACE(name);
         first += together;
-        eachNumber(first, [&](int n) {
+        eachNumber(first, [&, &fault = fault](int n) {
             // What the child has seen of the fault, it leaves behind.
             const QString hit = folders.filePath(u"colpito"_s);
             QDir().rmdir(hit);
@@ -341,7 +337,7 @@ TEST_P(Attacked, Faults) {
             const End end = attempt(first + n, [&] {
                 const auto desk = atWork();
                 Watch watch(folder);
-                watch.arm(named.fault, n);
+                watch.arm(fault, n);
                 const QStringList boxes = troubles(*desk, risky);
                 watch.disarm();
                 if (watch.hit)

@@ -1,5 +1,6 @@
 #include "stress/users.h"
 
+#include <map>
 #include <vector>
 
 #include "stress/desk.h"
@@ -94,16 +95,17 @@ QString Hand::anything(const Form& window) {
 }
 
 QString Hand::word(const Form* window) {
+    static const QStringList plain{u"vars"_s, u"pages"_s, u"start"_s};
     switch (below(14)) {
     case 0: return answers();
     case 1: return file();
     case 2: return u"now 20%1-0%2-1%3T1%4:30"_s.arg(count(80), 2, u'0').arg(1 + below(9)).arg(below(10)).arg(below(10));
     case 3: return u"now "_s + text();
-    case 4: return u"vars"_s;
-    case 5: return u"pages"_s;
-    case 6: return u"table "_s + (oneIn(2) ? store::TabelleNomi(store::primaTabella + below(4)) : text());
-    case 7: return u"cat "_s + file().sliced(5);
-    case 8: return u"start"_s;
+    case 4:
+    case 5:
+    case 6: return oneOf(plain);
+    case 7: return u"table "_s + (oneIn(2) ? store::TabelleNomi(store::primaTabella + below(4)) : text());
+    case 8: return u"cat "_s + file().sliced(5);
     case 9:
     case 10: return u"during "_s + (window == nullptr || oneIn(3) ? u"start"_s : onControl(*oneOf(window->controls())));
     case 11: return u"answer "_s + text();
@@ -136,17 +138,15 @@ QString Hand::next(const Form* window) {
 }
 
 QString Hand::given(const QString& wanted, const Form& window) {
+    using Give = QString (Hand::*)();
+    static const std::map<QString, Give> kinds{{u"text"_s, &Hand::text},
+                                               {u"place"_s, &Hand::place},
+                                               {u"number"_s, &Hand::number},
+                                               {u"file"_s, &Hand::file},
+                                               {u"answers"_s, &Hand::answers}};
+    if (const auto kind = kinds.find(wanted); kind != kinds.end())
+        return (this->*kind->second)();
     const auto rows = static_cast<std::size_t>(window.mfgTab.rows());
-    if (wanted == u"text"_s)
-        return text();
-    if (wanted == u"place"_s)
-        return place();
-    if (wanted == u"number"_s)
-        return number();
-    if (wanted == u"file"_s)
-        return file();
-    if (wanted == u"answers"_s)
-        return answers();
     if (wanted == u"row"_s)
         return count(rows);
     if (wanted == u"above"_s)

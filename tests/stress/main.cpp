@@ -15,11 +15,9 @@ int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     QCommandLineParser parser;
     parser.addHelpOption();
-    parser.addOptions({{QStringLiteral("seed"), {}, QStringLiteral("N"), QStringLiteral("1")},
-                       {QStringLiteral("number"), {}, QStringLiteral("N"), QStringLiteral("0")},
-                       {QStringLiteral("tries"), {}, QStringLiteral("N"), QStringLiteral("30")},
-                       {QStringLiteral("step"), {}, QStringLiteral("N"), QStringLiteral("1")},
-                       {QStringLiteral("minutes"), {}, QStringLiteral("N"), QStringLiteral("0")}});
+    for (const auto& [name, usual] :
+         {std::pair{"seed", "1"}, {"number", "0"}, {"tries", "30"}, {"step", "1"}, {"minutes", "0"}})
+        parser.addOption({QString::fromLatin1(name), {}, QStringLiteral("N"), QString::fromLatin1(usual)});
     parser.process(application);
     const auto value = [&parser](const char* name) { return parser.value(QString::fromLatin1(name)).toInt(); };
     vanzer::stress::Options& options = vanzer::stress::options();

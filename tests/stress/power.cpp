@@ -15,22 +15,11 @@ std::string folderOf(const std::string& name) {
     return slash == std::string::npos ? std::string() : name.substr(0, slash);
 }
 
-/// Files and folders with the number of changes behind which the last sync left nothing to lose.
-struct Synced {
-    std::map<int, std::size_t> files;
-    std::map<std::string, std::size_t> folders;
-};
+/// By file or folder, the number of changes behind which its last sync left nothing to lose.
+using Synced = std::map<std::string, std::size_t>;
 
-Synced syncedUpTo(const Recording& recording, std::size_t cut) {
-    Synced synced;
-    for (std::size_t i = 0; i < cut; ++i) {
-        const Change& change = recording.changes[i];
-        if (change.call == Call::Sync && change.file != 0)
-            synced.files[change.file] = i;
-        else if (change.call == Call::Sync)
-            synced.folders[change.name] = i;
-    }
-    return synced;
+std::string keyOf(int file, const std::string& folder) {
+    return file != 0 ? std::to_string(file) : '/' + folder;
 }
 
 /// The pieces of a write for which `kept` says so.
@@ -72,9 +61,8 @@ struct Losses {
 
 Disk after(const Recording& recording, std::size_t cut, const Synced& synced, const Losses& losses) {
     using Of = Losses::Of;
-    const auto safe = [](const auto& syncs, const auto& key, std::size_t i) {
-        const auto found = syncs.find(key);
-        return found != syncs.end() && i < found->second;
+    const auto safe = [&synced](const std::string& key, std::size_t i) {
+        return synced.contains(key) && i < synced.at(key);
     };
     Disk disk = recording.first;
     for (std::size_t i = 0; i < cut; ++i) {
@@ -82,15 +70,14 @@ Disk after(const Recording& recording, std::size_t cut, const Synced& synced, co
         std::string& contents = disk.contents[change.file];
         if (change.call == Call::Write || change.call == Call::Truncate)
             disk.times.erase(change.file);
-        const bool whole = safe(synced.files, change.file, i) || losses.of == Of::Nothing ||
+        const bool whole = safe(keyOf(change.file, {}), i) || losses.of == Of::Nothing ||
                            (losses.of == Of::FromOneOn && i < losses.from) || (losses.of == Of::Some && losses.kept());
-        if (change.call == Call::Write && whole)
-            doWrite(contents, change, SIZE_MAX, [] { return true; });
-        else if (change.call == Call::Write && losses.of == Of::SomeSectors)
-            doWrite(contents, change, sector, losses.kept);
-        else if (change.call == Call::Truncate && (whole || (losses.of == Of::SomeSectors && losses.kept())))
+        const bool torn = !whole && losses.of == Of::SomeSectors;
+        if (change.call == Call::Write && (whole || torn))
+            doWrite(contents, change, whole ? SIZE_MAX : sector, [&] { return whole || losses.kept(); });
+        else if (change.call == Call::Truncate && (whole || (torn && losses.kept())))
             contents.resize(change.at);
-        else if (!change.name.empty() && (i < losses.names || safe(synced.folders, folderOf(change.name), i)))
+        else if (!change.name.empty() && (i < losses.names || safe(keyOf(0, folderOf(change.name)), i)))
             changeNames(disk, change);
     }
     return disk;
@@ -104,7 +91,13 @@ Disk afterPowerCut(const Recording& recording, std::size_t cut, std::mt19937_64&
                         .from = chance() % (cut + 1),
                         .names = names[chance() % 3],
                         .kept = [&chance] { return chance() % 2 == 0; }};
-    return after(recording, cut, ignoreSyncs ? Synced() : syncedUpTo(recording, cut), losses);
+    Synced synced;
+    for (std::size_t i = 0; i < cut && !ignoreSyncs; ++i) {
+        const Change& change = recording.changes[i];
+        if (change.call == Call::Sync)
+            synced[keyOf(change.file, change.name)] = i;
+    }
+    return after(recording, cut, synced, losses);
 }
 
 Disk afterAll(const Recording& recording) {

@@ -160,25 +160,22 @@ QStringList buttonCommands(const Form& window, bool reachable) {
 class Pairs : public UsersTest {};
 
 TEST_F(Pairs, OfCommandsOneInsideTheOther) {
-    /// A command that can be given where the lines lead to.
-    struct Door {
-        QString folder;
-        QStringList lines;
-        QString command;
-    };
-    std::vector<Door> doors;
+    // Folders, and scripts that lead to a command; behind it its user stores all that he can, and has it calculated.
+    std::vector<std::pair<QString, QString>> doors;
+    const QString around = u"%1; answer 6 6 6; during {}; %2; answer 6 6; click cmdFine; click cmdCalcola; "
+                           "click cmdItinerario; answer 6 6; click cmdFine"_s;
     const QStringList others{u"row mfgTab 2"_s, u"dblclick mfgTab"_s, u"pick cmbRicerca CASA"_s};
     QStringList inside{u"set txtTappa X"_s, u"set txtLocalita X"_s, u"start"_s, u"stop"_s};
     for (const QString& window : section("users.txt", u"windows"_s)) {
         const QString name = window.section(u": "_s, 0, 0);
-        const QStringList lines = script(window.section(u": "_s, 1));
+        const QString lines = window.section(u": "_s, 1);
         ready(name).lay(folder);
         Desk desk(folder, today);
-        desk.run(lines);
+        desk.run(script(lines));
         if (doors.empty())
             inside += buttonCommands(*desk.program.window(), false) + others;
         for (const QString& command : buttonCommands(*desk.program.window(), true) + others)
-            doors.push_back({name, lines, command});
+            doors.emplace_back(name, around.arg(lines, command));
     }
     const auto count = doors.size() * static_cast<std::size_t>(inside.size());
     // Neighbouring numbers are of different windows and commands, so that some hundred of them are a fair choice.
@@ -189,15 +186,9 @@ TEST_F(Pairs, OfCommandsOneInsideTheOther) {
         [&](int number, std::mt19937_64& /*chance*/) {
             const auto first = (options().seed - 1) * static_cast<unsigned>(options().tries) * 10;
             const std::size_t pair = (first + static_cast<std::size_t>(number)) * step % count;
-            const Door& door = doors[pair / static_cast<std::size_t>(inside.size())];
-            // Behind the command its user stores all that he can, and has it calculated.
-            attemptOn({number, door.folder, false,
-                       linesOf(door.lines +
-                               QStringList{u"answer 6 6 6"_s,
-                                           u"during "_s + inside[static_cast<qsizetype>(pair) % inside.size()],
-                                           door.command} +
-                               script(u"answer 6 6; click cmdFine; click cmdCalcola; click cmdItinerario; answer 6 6; "
-                                      "click cmdFine"_s))});
+            const auto& [name, lines] = doors[pair / static_cast<std::size_t>(inside.size())];
+            attemptOn(
+                {number, name, false, linesOf(script(lines, inside[static_cast<qsizetype>(pair) % inside.size()]))});
         },
         10);
 }

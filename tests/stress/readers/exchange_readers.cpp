@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <numeric>
 #include <set>
+#include <tuple>
 
 #include "core/code_page.h"
 #include "core/columns.h"
@@ -24,12 +25,9 @@ constexpr int codeLength = 6;
 
 MemoryArchive someArchive() {
     MemoryArchive archive;
-    archive.put(store::MeteVanzer, {{QStringLiteral("CodiceMeta"), QStringLiteral("000001")},
-                                    {QStringLiteral("Localita"), QStringLiteral("BARI")}});
-    archive.put(store::Itinerari, {{QStringLiteral("CodiceMeta"), QStringLiteral("000001")},
-                                   {QStringLiteral("Localita"), QStringLiteral("ROMA NORD")}});
-    archive.put(store::GuidaCitta, {{QStringLiteral("Localita"), QStringLiteral("Roma Nord")},
-                                    {QStringLiteral("Descrizione"), QStringLiteral("Duomo (centro)")}});
+    archive.put(store::MeteVanzer, {{u"CodiceMeta"_s, u"000001"_s}, {u"Localita"_s, u"BARI"_s}});
+    archive.put(store::Itinerari, {{u"CodiceMeta"_s, u"000001"_s}, {u"Localita"_s, u"ROMA NORD"_s}});
+    archive.put(store::GuidaCitta, {{u"Localita"_s, u"Roma Nord"_s}, {u"Descrizione"_s, u"Duomo (centro)"_s}});
     return archive;
 }
 
@@ -46,10 +44,6 @@ QStringList codesInFile(const QByteArray& input) {
     return codes;
 }
 
-bool clean(const QString& text) {
-    return std::none_of(text.begin(), text.end(), [](QChar c) { return c == u'"' || (c < u' ' && c != u'\t'); });
-}
-
 /// What came in behind what was there before.
 void checkRecords(const MemoryArchive& archive, const std::set<QString>& codes) {
     for (int section = primaSezione; section <= ultimaSezione; ++section) {
@@ -57,7 +51,8 @@ void checkRecords(const MemoryArchive& archive, const std::set<QString>& codes) 
         for (std::size_t r = table.size() - archive.added[static_cast<std::size_t>(section)]; r < table.size(); ++r) {
             for (const QString& text : table[r]) {
                 promise(!text.isEmpty(), "no stored text is empty");
-                promise(clean(text), "quotes and control characters are left out");
+                promise(std::ranges::none_of(text, [](QChar c) { return c == u'"' || (c < u' ' && c != u'\t'); }),
+                        "quotes and control characters are left out");
                 promise(!text.contains(separatoreIei(section)), "no text holds its separator");
             }
             if (section != store::GuidaCitta)
@@ -70,9 +65,9 @@ void checkRecords(const MemoryArchive& archive, const std::set<QString>& codes) 
 /// As a text comes back: trimmed, in the letters of the code page but those that part the fields.
 QString asRead(const QString& text) {
     QString plain = Trim(text).normalized(QString::NormalizationForm_C);
-    const QString letters = QStringLiteral("ÿŸþÞýÝ");
+    const QString letters = u"ÿŸþÞýÝ"_s;
     for (qsizetype i = 0; i < letters.size(); ++i)
-        plain.replace(letters[i], QStringLiteral("yYtTyY")[i]);
+        plain.replace(letters[i], u"yYtTyY"_s[i]);
     return Trim(fromCodePage(toCodePage(plain)));
 }
 
@@ -128,10 +123,6 @@ void readExchangeFile(const QByteArray& input) {
             "the counts are right");
     checkRecords(archive, given);
     checkRoundTrip(archive);
-}
-
-bool same(const TappaImportata& a, const TappaImportata& b) {
-    return a.luogo == b.luogo && a.strade == b.strade && a.kmProgressivo == b.kmProgressivo;
 }
 
 void checkLegs(const PercorsoImportato& route) {
@@ -210,7 +201,8 @@ void readRoutePackage(const QByteArray& input) {
     if (route.formato == Pacchetto::Sconosciuto || input.contains('\r'))
         return;
     const PercorsoImportato again = leggePacchetto(QByteArray(input).replace("\n", "\r\n"));
-    promise(std::ranges::equal(route.tappe, again.tappe, same), "line ends don't matter");
+    const auto texts = [](const TappaImportata& leg) { return std::tie(leg.luogo, leg.strade, leg.kmProgressivo); };
+    promise(std::ranges::equal(route.tappe, again.tappe, {}, texts, texts), "line ends don't matter");
 }
 
 /// Reads a stop file and folds a route down to its stops, some of whose names are the route's.

@@ -168,21 +168,19 @@ void readDraft(const QByteArray& input) {
 /// A window that nobody sees, the same for all inputs. It lasts to the end.
 desktop::Program& program() {
     static const QTemporaryDir folder;
-    static desktop::Program* const made = [] {
-        static int count = 1;
-        static char name[] = "vanzer";
-        static char* arguments[] = {name, nullptr};
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        static const auto* const application = new QApplication(count, arguments);
-        QApplication::setApplicationName(u"Vanzer"_s);
-        QApplication::setOrganizationName(u"Vanzer"_s);
-        static desktop::SystemClock clock;
-        static_cast<void>(application);
-        auto* const window =
-            new desktop::Program({.directory = folder.path(), .decimalMark = u'.', .versione = {}}, clock);
-        window->form().chiusa = true; // nobody is asked when it is closed
-        return window;
-    }();
+    static desktop::SystemClock clock;
+    static desktop::Program* made = nullptr;
+    if (made != nullptr)
+        return *made;
+    static int count = 1;
+    static char name[] = "Vanzer";
+    static char* arguments[] = {name, nullptr};
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static const auto* const application = new QApplication(count, arguments);
+    static_cast<void>(application);
+    QApplication::setOrganizationName(u"Vanzer"_s);
+    made = new desktop::Program({.directory = folder.path(), .decimalMark = u'.', .versione = {}}, clock);
+    made->form().chiusa = true; // nobody is asked when it is closed
     return *made;
 }
 

@@ -1,6 +1,8 @@
 // Readers under fire: each takes any bytes and must neither crash nor hang nor break its promises.
 #pragma once
 
+#include <cstdio>
+#include <cstdlib>
 #include <map>
 #include <string>
 
@@ -8,16 +10,23 @@
 
 namespace vanzer::fuzz {
 
-using Function = void (*)(const QByteArray& input);
-
-[[nodiscard]] std::map<std::string, Function>& readers();
-
 /// A new one gets its name in long.sh and its corpus in a folder of that name.
 struct Reader {
-    Reader(const char* name, Function reads) { readers()[name] = reads; }
+    using Function = void (*)(const QByteArray& input);
+
+    Reader(const char* name, Function reads) { all()[name] = reads; }
+    [[nodiscard]] static std::map<std::string, Function>& all() {
+        static std::map<std::string, Function> readers;
+        return readers;
+    }
 };
 
 /// Ends the program with what was promised, if it isn't so.
-void promise(bool kept, const char* what);
+inline void promise(bool kept, const char* what) {
+    if (kept)
+        return;
+    std::fprintf(stderr, "broken promise: %s\n", what);
+    std::abort();
+}
 
 } // namespace vanzer::fuzz
