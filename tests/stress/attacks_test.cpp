@@ -23,10 +23,6 @@ std::map<QString, QStringList> groups(const QStringList& records) {
     return found;
 }
 
-QStringList storedIn(const QString& folder) {
-    return Desk(folder).records();
-}
-
 /// Boxes that nobody expects at a start; that the archive is missing beside its copies is a state in order.
 std::string wordsAtStart(QStringList boxes) {
     boxes.removeIf([](const QString& box) { return box.contains(u"ci sono le sue copie. Riprendere"_s); });
@@ -49,7 +45,7 @@ class Attacked : public testing::TestWithParam<const char*> {
         ASSERT_TRUE(folders.isValid());
         readWork();
         ready.lay(folder);
-        before = stored = storedIn(folder);
+        before = stored = Desk(folder).records();
         {
             Watch watch(folder);
             watch.record(recording);
@@ -66,7 +62,7 @@ class Attacked : public testing::TestWithParam<const char*> {
         ASSERT_EQ(kept.names.size(), done.names.size());
         for (const auto& [name, number] : done.names)
             ASSERT_TRUE(kept[name] == done[name]) << name << " changes behind the back of the recording";
-        after = storedIn(folder);
+        after = Desk(folder).records();
         startedAfter = started();
         for (const Disk& disk : {ready, done, Disk::of(folder)}) {
             for (const auto& [name, number] : disk.names)
@@ -161,7 +157,7 @@ class Attacked : public testing::TestWithParam<const char*> {
             restored.contents[number] = disk[name];
             restored.lay(folders.filePath(u"ripresa"_s));
             SCOPED_TRACE(name);
-            const QStringList records = storedIn(folders.filePath(u"ripresa"_s));
+            const QStringList records = Desk(folders.filePath(u"ripresa"_s)).records();
             expectGroups(records, {stored, before, after});
             EXPECT_TRUE(stored.isEmpty() || !records.isEmpty());
         }
@@ -171,7 +167,7 @@ class Attacked : public testing::TestWithParam<const char*> {
     /// starts on it and goes on. `finished`: all was done.
     void expectWhole(bool finished = false) const {
         expectOutputs(false);
-        const QStringList found = storedIn(folder);
+        const QStringList found = Desk(folder).records();
         if (inSteps)
             expectGroups(found, {before, after});
         else if (found != before || finished) {
@@ -222,7 +218,7 @@ class Attacked : public testing::TestWithParam<const char*> {
         }
         desk.leave();
         expectFiles();
-        EXPECT_EQ(text(storedIn(folder)), text(after));
+        EXPECT_EQ(text(Desk(folder).records()), text(after));
     }
 
     QTemporaryDir folders;

@@ -20,8 +20,7 @@ namespace vanzer::stress {
 
 namespace {
 
-constexpr unsigned longestTry = 60; // s
-constexpr int mostBad = 5;          // of a test, behind which it ends
+constexpr int mostBad = 5; // of a test, behind which it ends
 
 constexpr const char* endNames[] = {"held", "told", "killed", "lost", "crashed", "hung"};
 /// By test, how often it came to each end.
@@ -45,7 +44,7 @@ const testing::TestInfo& running() {
     const rlimit room{rlim_t{4} << 30, rlim_t{4} << 30};
     if (__lsan_do_recoverable_leak_check == nullptr)
         setrlimit(RLIMIT_AS, &room);
-    hangsLater();
+    alarm(longestTry);
     const int failures = running().result()->total_part_count();
     const bool told = body();
     std::fflush(nullptr);
@@ -59,10 +58,6 @@ const testing::TestInfo& running() {
 Options& options() {
     static Options all;
     return all;
-}
-
-void hangsLater() {
-    alarm(longestTry);
 }
 
 End inChild(const Body& body, bool muted) {

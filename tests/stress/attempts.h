@@ -22,8 +22,8 @@ enum class End { Held, Told, Killed, Lost, Crashed, Hung };
 /// so is memory that nobody gives back.
 using Body = std::function<bool()>;
 
-/// A child that takes longer from here on hangs.
-void hangsLater();
+/// One that takes longer hangs.
+inline constexpr unsigned longestTry = 60; // s
 
 /// A try that nobody counts. `muted` keeps quiet about what was lost.
 [[nodiscard]] End inChild(const Body& body, bool muted = false);

@@ -20,9 +20,7 @@ const std::string journalName = "Vanzer.mdb-journal";
 void killWhileStoring(const QString& folder) {
     const Disk before = Disk::of(folder);
     Disk now = before;
-    for (int n = 1; now[archiveName] == before[archiveName] || !now.names.contains(journalName) ||
-                    now[journalName].empty() || now[journalName][0] == '\0';
-         ++n) {
+    for (int n = 1; now[archiveName] == before[archiveName] || !now[journalName].starts_with('\xd9'); ++n) {
         before.lay(folder);
         const End end = inChild([&folder, n] {
             Desk desk(folder);
@@ -144,7 +142,7 @@ TEST(LargeArchive, Reads) {
     const auto whole = outputs();
     ASSERT_GT(reads, 5000);
     for (const std::string& bytes : whole)
-        ASSERT_TRUE(!bytes.empty() && bytes != "none");
+        ASSERT_FALSE(bytes.empty());
     eachDrawn([&](int number, std::mt19937_64& chance) {
         ready.lay(folder);
         attempt(number, [&] {

@@ -10,11 +10,6 @@ namespace {
 
 constexpr std::size_t sector = 512; // bytes, which are written all or not at all
 
-std::string folderOf(const std::string& name) {
-    const auto slash = name.rfind('/');
-    return slash == std::string::npos ? std::string() : name.substr(0, slash);
-}
-
 /// By file or folder, the number of changes behind which its last sync left nothing to lose.
 using Synced = std::map<std::string, std::size_t>;
 
@@ -36,19 +31,16 @@ void doWrite(std::string& contents, const Change& change, std::size_t piece, con
 }
 
 void changeNames(Disk& disk, const Change& change) {
-    switch (change.call) {
-    case Call::Create: disk.names[change.name] = change.file; break;
-    case Call::Rename:
-        if (const auto moved = disk.names.extract(change.name); !moved.empty())
-            disk.names[change.to] = moved.mapped();
-        break;
-    case Call::Unlink:
+    if (change.call == Call::Create)
+        disk.names[change.name] = change.file;
+    if (change.call == Call::MakeFolder)
+        disk.folders.insert(change.name);
+    if (change.call == Call::Rename && disk.names.contains(change.name))
+        disk.names[change.to] = disk.names[change.name];
+    if (change.call == Call::Rename || change.call == Call::Unlink)
         disk.names.erase(change.name);
+    if (change.call == Call::Unlink)
         disk.folders.erase(change.name);
-        break;
-    case Call::MakeFolder: disk.folders.insert(change.name); break;
-    default: break;
-    }
 }
 
 /// What is lost of the changes since their last sync.
@@ -77,7 +69,8 @@ Disk after(const Recording& recording, std::size_t cut, const Synced& synced, co
             doWrite(contents, change, whole ? SIZE_MAX : sector, [&] { return whole || losses.kept(); });
         else if (change.call == Call::Truncate && (whole || (torn && losses.kept())))
             contents.resize(change.at);
-        else if (!change.name.empty() && (i < losses.names || safe(keyOf(0, folderOf(change.name)), i)))
+        else if (!change.name.empty() &&
+                 (i < losses.names || safe(keyOf(0, std::filesystem::path(change.name).parent_path()), i)))
             changeNames(disk, change);
     }
     return disk;

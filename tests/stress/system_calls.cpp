@@ -61,7 +61,7 @@ void Disk::lay(const QString& folder) const {
 }
 
 const std::string& Disk::operator[](const std::string& name) const {
-    static const std::string none = "none";
+    static const std::string none;
     const auto found = names.find(name);
     return found == names.end() ? none : contents.at(found->second);
 }
@@ -276,10 +276,6 @@ int linkat(int folder, const char* from, int folderTo, const char* to, int flags
     if (result != 0 || name == stress::elsewhere || stress::Watch::current->recording == nullptr)
         return result;
     return stress::keep(result, {Call::Create, stress::Watch::current->numbers[stress::inodeOf(to)], name});
-}
-
-int link(const char* from, const char* to) noexcept {
-    return linkat(AT_FDCWD, from, AT_FDCWD, to, 0);
 }
 
 int unlink(const char* path) noexcept {

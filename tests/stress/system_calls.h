@@ -34,7 +34,7 @@ struct Disk {
     [[nodiscard]] static Disk of(const QString& folder);
     /// Makes the folder anew. What lies in a folder that isn't there is lost.
     void lay(const QString& folder) const;
-    /// "none" if there is no such file.
+    /// Nothing if there is no such file.
     [[nodiscard]] const std::string& operator[](const std::string& name) const;
 };
 

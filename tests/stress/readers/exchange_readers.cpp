@@ -21,8 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int codeLength = 6;
-
 MemoryArchive someArchive() {
     MemoryArchive archive;
     archive.put(store::MeteVanzer, {{u"CodiceMeta"_s, u"000001"_s}, {u"Localita"_s, u"BARI"_s}});
@@ -104,8 +102,7 @@ void readExchangeFile(const QByteArray& input) {
     MemoryArchive archive = someArchive();
     const QStringList chosen = codesInFile(input);
     CodiciMete codes;
-    if (codes.assegna(archive.column(store::MeteVanzer, u"CodiceMeta"), chosen, codeLength) !=
-        CodiciMete::Esito::Assegnati)
+    if (codes.assegna(archive.column(store::MeteVanzer, u"CodiceMeta"), chosen, 6) != CodiciMete::Esito::Assegnati)
         return;
     std::set<QString> given;
     for (CodiciMete left = codes; const QString& old : chosen) {
