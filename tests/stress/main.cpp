@@ -1,53 +1,34 @@
-// Attacks on the program and its files: vanzer_stress [--seed=N] [--number=N] [--tries=N] [--step=N] [--tally=FILE],
-// and the test framework's own options, of which --gtest_filter names attacks.
+// Attacks on the program and its files: the options below, and the test framework's own, of which --gtest_filter names
+// attacks.
 #include <algorithm>
-#include <cstdio>
 
 #include <gtest/gtest.h>
 
+#include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 
 #include "stress/attempts.h"
 
-namespace {
-
-bool readOptions(const QStringList& arguments) {
-    vanzer::stress::Options& options = vanzer::stress::options();
-    for (const QString& argument : arguments) {
-        const QString name = argument.section(u'=', 0, 0);
-        const QString value = argument.section(u'=', 1);
-        bool number = true;
-        if (name == u"--seed")
-            options.seed = value.toULongLong(&number);
-        else if (name == u"--number")
-            options.number = value.toInt(&number);
-        else if (name == u"--tries")
-            options.tries = value.toInt(&number);
-        else if (name == u"--step")
-            options.step = std::max(value.toInt(&number), 1);
-        else if (name == u"--tally")
-            options.tally = value.toStdString();
-        else if (!name.startsWith(u"--gtest"))
-            return false;
-        if (!number)
-            return false;
-    }
-    return true;
-}
-
-} // namespace
-
 int main(int argc, char** argv) {
-    const QCoreApplication application(argc, argv);
-    // First: how much there is of everything hangs on the seed.
-    if (!readOptions(QCoreApplication::arguments().mid(1))) {
-        std::fputs("vanzer_stress [--seed=N] [--number=N] [--tries=N] [--step=N] [--tally=FILE] "
-                   "[--gtest_filter=ATTACKS]\n",
-                   stderr);
-        return 2;
-    }
     testing::InitGoogleTest(&argc, argv);
-    const int result = RUN_ALL_TESTS();
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    for (const auto& [name, usual] :
+         {std::pair{"seed", "1"}, {"number", "0"}, {"tries", "30"}, {"step", "1"}, {"minutes", "0"}})
+        parser.addOption({QString::fromLatin1(name), {}, QStringLiteral("N"), QString::fromLatin1(usual)});
+    parser.process(application);
+    const auto value = [&parser](const char* name) { return parser.value(QString::fromLatin1(name)).toInt(); };
+    vanzer::stress::Options& options = vanzer::stress::options();
+    options = {static_cast<std::uint64_t>(value("seed")), value("number"), value("tries"), std::max(value("step"), 1)};
+    // As long as there is time, from one seed to the next.
+    const QDeadlineTimer end(qint64{60'000} * value("minutes"));
+    int result = RUN_ALL_TESTS();
+    while (!end.hasExpired()) {
+        ++options.seed;
+        result |= RUN_ALL_TESTS();
+    }
     vanzer::stress::printTable();
     return result;
 }

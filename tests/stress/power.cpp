@@ -1,4 +1,4 @@
-#include "stress/power.h"
+#include "stress/system_calls.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -10,58 +10,37 @@ namespace {
 
 constexpr std::size_t sector = 512; // bytes, which are written all or not at all
 
-std::string folderOf(const std::string& name) {
-    const auto slash = name.rfind('/');
-    return slash == std::string::npos ? std::string() : name.substr(0, slash);
+/// By file or folder, the number of changes behind which its last sync left nothing to lose.
+using Synced = std::map<std::string, std::size_t>;
+
+std::string keyOf(int file, const std::string& folder) {
+    return file != 0 ? std::to_string(file) : '/' + folder;
 }
 
-/// Files and folders with the number of changes behind which the last sync left nothing to lose.
-struct Synced {
-    std::map<int, std::size_t> files;
-    std::map<std::string, std::size_t> folders;
-};
-
-Synced syncedUpTo(const Recording& recording, std::size_t cut) {
-    Synced synced;
-    for (std::size_t i = 0; i < cut; ++i) {
-        const Change& change = recording.changes[i];
-        if (change.call == Call::Sync && change.file != 0)
-            synced.files[change.file] = i;
-        else if (change.call == Call::Sync)
-            synced.folders[change.name] = i;
-    }
-    return synced;
-}
-
-void doWrite(std::string& contents, std::size_t at, std::string_view bytes) {
-    contents.resize(std::max(contents.size(), at + bytes.size()));
-    std::ranges::copy(bytes, contents.begin() + static_cast<std::ptrdiff_t>(at));
-}
-
-/// The sectors of a write for which `kept` says so.
-template<typename Kept> void writeSectors(std::string& contents, const Change& change, const Kept& kept) {
+/// The pieces of a write for which `kept` says so.
+void doWrite(std::string& contents, const Change& change, std::size_t piece, const std::function<bool()>& kept) {
     for (std::size_t done = 0; done < change.bytes.size();) {
-        const std::size_t size = std::min(sector - (change.at + done) % sector, change.bytes.size() - done);
-        if (kept())
-            doWrite(contents, change.at + done, std::string_view(change.bytes).substr(done, size));
+        const std::size_t at = change.at + done;
+        const std::size_t size = std::min(piece - at % piece, change.bytes.size() - done);
+        if (kept()) {
+            contents.resize(std::max(contents.size(), at + size));
+            contents.replace(at, size, change.bytes, done, size);
+        }
         done += size;
     }
 }
 
 void changeNames(Disk& disk, const Change& change) {
-    switch (change.call) {
-    case Call::Create: disk.names[change.name] = change.file; break;
-    case Call::Rename:
-        if (const auto moved = disk.names.extract(change.name); !moved.empty())
-            disk.names[change.to] = moved.mapped();
-        break;
-    case Call::Unlink:
+    if (change.call == Call::Create)
+        disk.names[change.name] = change.file;
+    if (change.call == Call::MakeFolder)
+        disk.folders.insert(change.name);
+    if (change.call == Call::Rename && disk.names.contains(change.name))
+        disk.names[change.to] = disk.names[change.name];
+    if (change.call == Call::Rename || change.call == Call::Unlink)
         disk.names.erase(change.name);
+    if (change.call == Call::Unlink)
         disk.folders.erase(change.name);
-        break;
-    case Call::MakeFolder: disk.folders.insert(change.name); break;
-    default: break;
-    }
 }
 
 /// What is lost of the changes since their last sync.
@@ -74,9 +53,8 @@ struct Losses {
 
 Disk after(const Recording& recording, std::size_t cut, const Synced& synced, const Losses& losses) {
     using Of = Losses::Of;
-    const auto safe = [](const auto& syncs, const auto& key, std::size_t i) {
-        const auto found = syncs.find(key);
-        return found != syncs.end() && i < found->second;
+    const auto safe = [&synced](const std::string& key, std::size_t i) {
+        return synced.contains(key) && i < synced.at(key);
     };
     Disk disk = recording.first;
     for (std::size_t i = 0; i < cut; ++i) {
@@ -84,15 +62,15 @@ Disk after(const Recording& recording, std::size_t cut, const Synced& synced, co
         std::string& contents = disk.contents[change.file];
         if (change.call == Call::Write || change.call == Call::Truncate)
             disk.times.erase(change.file);
-        const bool whole = safe(synced.files, change.file, i) || losses.of == Of::Nothing ||
+        const bool whole = safe(keyOf(change.file, {}), i) || losses.of == Of::Nothing ||
                            (losses.of == Of::FromOneOn && i < losses.from) || (losses.of == Of::Some && losses.kept());
-        if (change.call == Call::Write && whole)
-            doWrite(contents, change.at, change.bytes);
-        else if (change.call == Call::Write && losses.of == Of::SomeSectors)
-            writeSectors(contents, change, losses.kept);
-        else if (change.call == Call::Truncate && (whole || (losses.of == Of::SomeSectors && losses.kept())))
+        const bool torn = !whole && losses.of == Of::SomeSectors;
+        if (change.call == Call::Write && (whole || torn))
+            doWrite(contents, change, whole ? SIZE_MAX : sector, [&] { return whole || losses.kept(); });
+        else if (change.call == Call::Truncate && (whole || (torn && losses.kept())))
             contents.resize(change.at);
-        else if (!change.name.empty() && (i < losses.names || safe(synced.folders, folderOf(change.name), i)))
+        else if (!change.name.empty() &&
+                 (i < losses.names || safe(keyOf(0, std::filesystem::path(change.name).parent_path()), i)))
             changeNames(disk, change);
     }
     return disk;
@@ -106,11 +84,17 @@ Disk afterPowerCut(const Recording& recording, std::size_t cut, std::mt19937_64&
                         .from = chance() % (cut + 1),
                         .names = names[chance() % 3],
                         .kept = [&chance] { return chance() % 2 == 0; }};
-    return after(recording, cut, ignoreSyncs ? Synced() : syncedUpTo(recording, cut), losses);
+    Synced synced;
+    for (std::size_t i = 0; i < cut && !ignoreSyncs; ++i) {
+        const Change& change = recording.changes[i];
+        if (change.call == Call::Sync)
+            synced[keyOf(change.file, change.name)] = i;
+    }
+    return after(recording, cut, synced, losses);
 }
 
-Disk afterAll(const Recording& recording, std::size_t cut) {
-    return after(recording, cut, Synced(), Losses());
+Disk afterAll(const Recording& recording) {
+    return after(recording, recording.changes.size(), Synced(), Losses());
 }
 
 } // namespace vanzer::stress

@@ -1,10 +1,11 @@
 // The calls on files that the program and its libraries make: they come through this binary, which counts them, lets
-// one fail, kills the program at one, or keeps what they change.
+// one fail, kills the program at one, or keeps what they change; and the disk as it may look after a loss of power.
 #pragma once
 
 #include <array>
 #include <filesystem>
 #include <map>
+#include <random>
 #include <set>
 #include <string>
 #include <vector>
@@ -33,9 +34,9 @@ struct Disk {
     [[nodiscard]] static Disk of(const QString& folder);
     /// Makes the folder anew. What lies in a folder that isn't there is lost.
     void lay(const QString& folder) const;
+    /// Nothing if there is no such file.
+    [[nodiscard]] const std::string& operator[](const std::string& name) const;
 };
-
-[[nodiscard]] std::string bytesOf(const QString& path);
 
 /// One change, as far as it was done.
 struct Change {
@@ -63,17 +64,39 @@ struct Fault {
 /// The calls on the files of a folder while it lives. There is one at a time.
 class Watch {
   public:
-    explicit Watch(const QString& folder);
-    ~Watch();
+    explicit Watch(const QString& watchedFolder) : folder(watchedFolder.toStdString()) { current = this; }
+    ~Watch() { current = nullptr; }
     Watch(const Watch&) = delete;
     Watch& operator=(const Watch&) = delete;
 
     /// The n-th call from here on doesn't pass.
-    void arm(const Fault& fault, int n);
-    void disarm();
-    [[nodiscard]] bool hit() const;
-    [[nodiscard]] static int count(Call call);
-    void record(Recording& recording);
+    void arm(const Fault& next, int n) {
+        fault = next;
+        countdown = n;
+        hit = false;
+    }
+    void disarm() { countdown = 0; }
+    void record(Recording& kept);
+
+    const std::string folder; ///< without a separator at its end
+    bool hit = false;
+    std::array<int, kindsOfCalls> counts{};
+
+    Fault fault;
+    int countdown = 0; ///< calls to the fault; 0 when it is not armed
+    Recording* recording = nullptr;
+    std::map<ino_t, int> numbers; ///< of the files that are there, for the recording
+    int lastNumber = 0;
+
+    static inline constinit Watch* current = nullptr;
 };
+
+/// The disk behind the first `cut` changes. All that was synced is there. Of what was written to a file since its last
+/// sync a part is there, drawn by chance, torn at sectors; of names made, changed and taken away since their folder's
+/// last sync the first few are. `ignoreSyncs` is a disk that lies: it has synced nothing.
+[[nodiscard]] Disk afterPowerCut(const Recording& recording, std::size_t cut, std::mt19937_64& chance,
+                                 bool ignoreSyncs = false);
+/// Nothing is lost.
+[[nodiscard]] Disk afterAll(const Recording& recording);
 
 } // namespace vanzer::stress

@@ -1,0 +1,32 @@
+// Readers under fire: each takes any bytes and must neither crash nor hang nor break its promises.
+#pragma once
+
+#include <cstdio>
+#include <cstdlib>
+#include <map>
+#include <string>
+
+#include <QByteArray>
+
+namespace vanzer::fuzz {
+
+/// A new one gets its name in long.sh and its corpus in a folder of that name.
+struct Reader {
+    using Function = void (*)(const QByteArray& input);
+
+    Reader(const char* name, Function reads) { all()[name] = reads; }
+    [[nodiscard]] static std::map<std::string, Function>& all() {
+        static std::map<std::string, Function> readers;
+        return readers;
+    }
+};
+
+/// Ends the program with what was promised, if it isn't so.
+inline void promise(bool kept, const char* what) {
+    if (kept)
+        return;
+    std::fprintf(stderr, "broken promise: %s\n", what);
+    std::abort();
+}
+
+} // namespace vanzer::fuzz
