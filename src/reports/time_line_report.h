@@ -7,6 +7,6 @@
 namespace vanzer {
 
 /// Draws on the page at hand; a trip of more days goes on over the next ones.
-void stampaLinea(Foglio& sheet, const QString& trip, const LineaDelTempo& line, const Piede& foot);
+void printTimeLine(Foglio& sheet, const QString& trip, const LineaDelTempo& line, const Piede& foot);
 
 } // namespace vanzer

@@ -36,7 +36,7 @@ class Adeguamento {
     explicit Adeguamento(const DatiAdeguamento& data) : data_(data), partenza_(data.valoreMemorizzato) {}
 
     /// A series of tests begins; `oreGuidaGiorno` is the driving time of a day as the parameters give it now.
-    void iniziaSerie(float oreGuidaGiorno);
+    void startSeries(float oreGuidaGiorno);
     /// What to do next, from the days of the test before.
     [[nodiscard]] Passo prossimo(int giorniCalcolati, int giorniDesiderati, bool conSoste);
     /// Whether the test just run was the last.
