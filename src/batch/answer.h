@@ -1,4 +1,4 @@
-// What commands answer, besides the line itself: an object of keys, or one with "error" alone.
+// The answer to a command: an object with its results, or with "error" alone.
 #pragma once
 
 #include <QJsonObject>

@@ -49,7 +49,7 @@ void BatchPrinter::choose(const QString& name) {
 void BatchPrinter::reset() {
     try {
         endDoc();
-    } catch (const PrinterError&) { // nobody is left to be told
+    } catch (const PrinterError&) { // nobody to report it to
     }
     chosen_ = &record_;
 }

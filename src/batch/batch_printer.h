@@ -1,5 +1,5 @@
-// The printers of the batch program: "Registro", the default, and "PDF", which asks for its file and writes what the
-// window's would write.
+// The printers of the batch program. "Registro", the default, records drawings. "PDF" asks for its file and writes the
+// same PDF as the desktop.
 #pragma once
 
 #include <utility>
@@ -12,7 +12,7 @@
 
 namespace vanzer::batch {
 
-/// A file that can't be written is told when the document ends.
+/// If the file can't be written, this shows only when the document ends.
 class PdfPrinter : public PagePrinter {
   public:
     PdfPrinter(FileDialogs& files, const Clock& clock, QString archive)
@@ -21,7 +21,7 @@ class PdfPrinter : public PagePrinter {
     [[nodiscard]] QStringList names() const override { return {current()}; }
     [[nodiscard]] QString current() const override { return QStringLiteral("PDF"); }
     void choose(const QString& /*name*/) override {}
-    /// A document that nobody wants counts as sent.
+    /// A document without a file, as the user cancelled the dialog, counts as sent.
     bool endDoc() override;
     void dropDoc() override;
 
@@ -32,13 +32,13 @@ class PdfPrinter : public PagePrinter {
     FileDialogs& files_;
     const Clock& clock_;
     QString archive_;
-    QString notWritten_; ///< the file of the document that is being drawn for nothing
+    QString notWritten_; ///< the file of the current document if it can't be written
 };
 
 class BatchPrinter : public Printer {
   public:
-    /// `files` is asked for the file of a PDF, `clock` for the time that it tells; both outlive the printer. `archive`
-    /// is the file that no PDF takes the place of.
+    /// `files` asks for the file of a PDF, `clock` gives its time; both must outlive the printer. No PDF may replace
+    /// `archive`.
     BatchPrinter(FileDialogs& files, const Clock& clock, const QString& archive) : pdf_(files, clock, archive) {}
 
     [[nodiscard]] QStringList names() const override { return {record_.current(), pdf_.current()}; }
@@ -63,9 +63,9 @@ class BatchPrinter : public Printer {
     bool endDoc() override { return chosen_->endDoc(); }
     void dropDoc() override { chosen_->dropDoc(); }
 
-    /// What a program's end does: an open document is ended, the default printer is current again.
+    /// Resets as the end of a program does: ends an open document and makes the default printer current.
     void reset();
-    /// What was recorded since the last call, and the name of the current printer.
+    /// Returns what was recorded since the last call, and the name of the current printer.
     [[nodiscard]] QJsonObject take();
 
   private:

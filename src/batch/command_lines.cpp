@@ -8,7 +8,7 @@
 
 namespace vanzer::batch {
 
-/// False at the end of both.
+/// Reads more bytes. False at the end of the commands or when the program is to end.
 bool CommandLines::readsMore() {
     std::array<pollfd, 2> waiting{pollfd{commands_, POLLIN, 0}, pollfd{ends_, POLLIN, 0}};
     if (::poll(waiting.data(), waiting.size(), -1) < 0)

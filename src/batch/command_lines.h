@@ -1,4 +1,4 @@
-// The lines of commands as they come in, until a signal wants the program to end.
+// Reads the lines of commands until their end, or until a signal ends the program.
 #pragma once
 
 #include <optional>
@@ -8,10 +8,12 @@ namespace vanzer::batch {
 
 class CommandLines {
   public:
-    /// File descriptors: of the commands, and one that can be read when the program is to end (-1 for none).
+    /// Two file descriptors: `commands` for the lines, and `ends`, which becomes readable when the program is to end
+    /// (-1 for none).
     CommandLines(int commands, int ends) : commands_(commands), ends_(ends) {}
 
-    /// The next line without its end, LF or CR LF; nothing at the end of the commands, or of the program.
+    /// The next line without its line end (LF or CR LF). Nothing at the end of the commands or when the program is to
+    /// end.
     [[nodiscard]] std::optional<std::string> next();
 
   private:
@@ -20,7 +22,7 @@ class CommandLines {
     int commands_;
     int ends_;
     std::string read_;
-    std::size_t at_ = 0; ///< in what was read: the begin of the next line
+    std::size_t at_ = 0; ///< offset in bytes of the next line in what was read
     bool ended_ = false;
 };
 

@@ -1,4 +1,4 @@
-// The commands that act on one control as the user's hand would, or look at it.
+// Commands that act on one control as a user would, or show its state.
 #pragma once
 
 #include <QJsonObject>
@@ -10,13 +10,13 @@ namespace vanzer::batch {
 
 struct ControlCommand {
     QStringView word;
-    bool refusable; ///< the control must be visible and enabled through all its frames
-    bool acts;      ///< as the user's hand does, which waits while a command is at work
-    /// `argument` is what stands behind the control's name.
+    bool refusable; ///< refused unless the control and all its frames are visible and enabled
+    bool acts;      ///< an action of the user, which waits while a command is running
+    /// Runs the command. `argument` is the text after the control's name.
     QJsonObject (*run)(Control& control, const QString& argument);
 };
 
-/// Null if there is no such command.
+/// The command of that name; null if there is none.
 [[nodiscard]] const ControlCommand* controlCommand(QStringView word);
 
 } // namespace vanzer::batch

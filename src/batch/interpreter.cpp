@@ -126,7 +126,7 @@ bool Interpreter::possibleNow(const Line& line) const {
 }
 
 QJsonObject Interpreter::start(const QString& /*rest*/) {
-    // A window whose handler runs can't be taken away.
+    // The window can't be destroyed while one of its handlers runs.
     if (depth_ > 1)
         return failure(QStringLiteral("not possible during a command"));
     session_.start();

@@ -1,4 +1,4 @@
-// Carries out command lines, one answer for each.
+// Runs command lines and returns an answer for each.
 #pragma once
 
 #include <optional>
@@ -17,11 +17,12 @@ class Interpreter {
 
     void setClock(const QDateTime& time) { session_.clock.set(time); }
 
-    /// The answer to a line; none for an empty line or a comment. Never throws for what a command does.
+    /// Runs a line and returns the answer; none for an empty line or a comment. Failures of a command are answers, not
+    /// exceptions.
     [[nodiscard]] std::optional<QJsonObject> run(const QString& line);
-    /// Null before the first start and after the window was left.
+    /// The window; null before the first start and after the window was left.
     [[nodiscard]] Form* window() const { return session_.window(); }
-    /// "stop" was read; window and archive are closed.
+    /// True after "stop": window and archive are closed.
     [[nodiscard]] bool finished() const { return finished_; }
 
   private:
@@ -34,7 +35,7 @@ class Interpreter {
     [[nodiscard]] QJsonObject execute(const QString& text);
     [[nodiscard]] QJsonObject carryOut(const Line& line);
     [[nodiscard]] QJsonObject onControl(const Line& line);
-    /// False while the window would refuse the command, or isn't there yet.
+    /// False if there is no window yet or it would refuse the command now.
     [[nodiscard]] bool possibleNow(const Line& line) const;
 
     QJsonObject start(const QString& rest);
@@ -50,12 +51,12 @@ class Interpreter {
     QJsonObject exportSchedule(const QString& rest);
 
     Session session_;
-    std::optional<QString> forNext_; ///< waits for a yield of the next command
-    int depth_ = 0;                  ///< commands that are running, one inside the other
+    std::optional<QString> forNext_; ///< a command line to run in a yield of the next command
+    int depth_ = 0;                  ///< number of running commands, nested
     bool finished_ = false;
 };
 
-/// "2003-07-05T08:20"; nothing if that is no time.
+/// Parses local time as "2003-07-05T08:20"; nothing if the text is no time.
 [[nodiscard]] std::optional<QDateTime> clockTime(const QString& text);
 
 } // namespace vanzer::batch

@@ -6,7 +6,7 @@ namespace vanzer::batch {
 
 namespace {
 
-/// The character that a letter behind a backslash stands for; a null character if it stands for none.
+/// The character for a letter after a backslash; a null character if there is none.
 QChar meaning(QChar letter) {
     switch (letter.unicode()) {
     case u'n': return u'\n';

@@ -1,23 +1,23 @@
-// The words of a command line.
+// Splits command lines.
 #pragma once
 
 #include <QString>
 
 namespace vanzer::batch {
 
-/// The first word, and all that follows the one blank behind it.
+/// The first word of a line, and the text after the blank that follows it.
 struct Line {
     QString word;
     QString rest;
 };
 
-/// Blanks in front of the first word don't count.
+/// Splits a line. Blanks before the first word are skipped.
 [[nodiscard]] Line split(const QString& text);
 
-/// Empty lines and comments.
+/// True for an empty line or a comment.
 [[nodiscard]] bool saysNothing(const QString& line);
 
-/// "\n", "\t" and "\\" as the characters that they stand for; any other backslash stays.
+/// Replaces "\n", "\t" and "\\" by their characters. Any other backslash stays.
 [[nodiscard]] QString unescaped(const QString& text);
 
 } // namespace vanzer::batch

@@ -1,4 +1,4 @@
-// vanzer-batch: reads commands, one a line, and writes a JSON object a line for each.
+// vanzer-batch: reads commands, one a line, and writes one line of JSON for each.
 
 #include <cstdio>
 #include <optional>
@@ -29,12 +29,12 @@ void say(const QString& text) {
     std::fputs((text + u'\n').toLocal8Bit().constData(), stderr);
 }
 
-/// What the arguments ask for.
+/// The arguments of the program.
 struct Request {
     QString directory; ///< absolute
     std::optional<QDateTime> now;
     QString script; ///< absolute; empty for standard input
-    QString told;   ///< what the program prints instead of working
+    QString told;   ///< text to print instead of running commands
 };
 
 std::optional<Request> requested(const QStringList& arguments) {
@@ -111,8 +111,8 @@ int main(int argc, char** argv) {
         say(QStringLiteral("can't read ") + request->script);
         return badUsage;
     }
-    // Relative paths of file dialogs are taken from the program's directory. One that isn't there is told by the
-    // window, which can't open its archive then.
+    // Relative paths of file dialogs start at the program's directory. If that doesn't exist, the window reports that
+    // it can't open its archive.
     static_cast<void>(QDir::setCurrent(request->directory));
     {
         batch::Interpreter interpreter(

@@ -62,7 +62,7 @@ QString QueuedDialogs::next(const QString& kind, const QString& filter) {
 
 void VisitedYield::letIn() {
     Visitor visitor = std::exchange(visitor_, {});
-    // One that found no moment waits on, unless another has come in its place.
+    // A visitor that didn't accept keeps waiting, unless another has replaced it.
     if (!visitor() && !visitor_)
         visitor_ = std::move(visitor);
 }

@@ -1,5 +1,5 @@
-// The ports of the batch program: message boxes and file dialogs that a queue answers, a clock that can be set, a yield
-// that lets one waiting command in.
+// The ports of the batch program. Queues answer message boxes and file dialogs. The clock can be set. A yield can run
+// one waiting command.
 #pragma once
 
 #include <deque>
@@ -14,10 +14,10 @@
 
 namespace vanzer::batch {
 
-/// What came up while a command ran, for its answer.
+/// What was shown while a command ran, for its answer.
 class ShownList {
   public:
-    /// Starts another list and hands out the one so far.
+    /// Continues with another list and returns the current one.
     [[nodiscard]] QJsonArray exchange(const QJsonArray& other) { return std::exchange(shown_, other); }
 
   protected:
@@ -30,7 +30,7 @@ class ShownList {
 class QueuedBoxes : public MessageBoxes, public ShownList {
   public:
     void enqueue(int answer) { answers_.push_back(answer); }
-    /// With no answer queued: OK, no where no can be said, cancel where that is offered too.
+    /// Returns the next queued answer. Without one: cancel if the box offers it, else no if it offers that, else OK.
     [[nodiscard]] int show(const MessageBox& box) override;
 
   private:
@@ -39,7 +39,7 @@ class QueuedBoxes : public MessageBoxes, public ShownList {
 
 class QueuedDialogs : public FileDialogs, public ShownList {
   public:
-    /// An empty path is a cancel.
+    /// Queues a path; an empty path cancels the dialog.
     void enqueue(const QString& path) { paths_.push_back(path); }
     [[nodiscard]] QString open(const QString& filter) override { return next(QStringLiteral("open"), filter); }
     [[nodiscard]] QString save(const QString& filter, Ricopertura /*overwriting*/) override {
@@ -60,12 +60,12 @@ class SetClock : public Clock {
     std::optional<QDateTime> fixed_;
 };
 
-/// A visitor waits for a yield that suits it and comes in once.
+/// A yield that runs a visitor once, at the first yield that the visitor accepts.
 class VisitedYield : public EventYield {
   public:
-    /// True if it came in. It may not come in again while it is inside.
+    /// Returns true if it accepted this yield. It isn't called again while it runs.
     using Visitor = std::function<bool()>;
-    /// Takes the place of one that still waits; none sends that one away.
+    /// Sets the visitor and replaces one that is still waiting. An empty one only removes that.
     void expect(Visitor visitor) { visitor_ = std::move(visitor); }
     void yield() override {
         if (SegnaliDiFine::arrived() != 0 && onEnd)
@@ -73,7 +73,7 @@ class VisitedYield : public EventYield {
         if (visitor_)
             letIn();
     }
-    /// Runs at each yield once the program is to end.
+    /// Called at each yield after a signal that ends the program.
     std::function<void()> onEnd;
 
   private:

@@ -6,7 +6,7 @@ namespace vanzer::batch {
 
 namespace {
 
-/// The sum takes the sign off a zero.
+/// Adding 0.0 turns -0.0 into 0.0.
 double rounded(double x) {
     return std::round(x * 100) / 100 + 0.0;
 }

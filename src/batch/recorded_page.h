@@ -1,4 +1,5 @@
-// What was drawn, as values: pages are lists of operations in the order drawn. Positions and sizes are in mm.
+// Recorded drawings. A page is a list of operations in the order in which they were drawn. Positions and sizes are in
+// mm.
 #pragma once
 
 #include <optional>
@@ -21,9 +22,9 @@ struct Carattere {
 struct Operazione {
     enum class Kind { Text, Line, Box, Picture };
     Kind kind = Kind::Text;
-    Punto a{};                     ///< top left corner, or where a line begins
-    Punto b{};                     ///< the other end; of a picture the size
-    int width = 0;                 ///< of the pen
+    Punto a{};                     ///< top left corner, or start of a line
+    Punto b{};                     ///< opposite corner, end of a line, or size of a picture
+    int width = 0;                 ///< thickness of the pen, tenths of a mm
     std::optional<quint32> fill{}; ///< 0xRRGGBB
     QString text{};
     Carattere font{};
@@ -31,7 +32,7 @@ struct Operazione {
 
 using Pagina = std::vector<Operazione>;
 
-/// An operation as it is answered, figures rounded to two decimals.
+/// The operation as JSON, numbers rounded to two decimals.
 [[nodiscard]] QJsonObject operationAnswer(const Operazione& operation);
 
 } // namespace vanzer::batch

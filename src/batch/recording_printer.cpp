@@ -6,7 +6,7 @@ namespace vanzer::batch {
 
 namespace {
 
-/// mm for each point of the font's size.
+/// Width of a character and height of a line, in mm per point of the font's size.
 constexpr double plainWidth = 0.19;
 constexpr double boldWidth = 0.21;
 constexpr double lineHeight = 0.42;
@@ -34,7 +34,7 @@ void RecordingPrinter::openPage() {
 void RecordingPrinter::draw(Operazione operation) {
     if (page_ == 0)
         openPage();
-    // Its earlier operations were taken while the page is still being drawn.
+    // The operations so far were taken while the page is still being drawn.
     if (recorded_.empty())
         recorded_.emplace_back();
     recorded_.back().push_back(std::move(operation));

@@ -1,5 +1,5 @@
-// The printer "Registro": it draws nothing and records. It measures text without any font, so that a layout comes out
-// the same everywhere.
+// The printer "Registro" records instead of drawing. It measures text without any font, so that a layout is the same
+// everywhere.
 #pragma once
 
 #include <utility>
@@ -20,7 +20,7 @@ class RecordingPrinter : public Printer {
     [[nodiscard]] QString current() const override { return QStringLiteral("Registro"); }
     void choose(const QString& /*name*/) override {}
 
-    void setFontName(const QString& /*name*/) override {} // it has one alone
+    void setFontName(const QString& /*name*/) override {} // it has just one font
     [[nodiscard]] QString fontName() const override { return font_.name; }
     void setBold(bool on) override { font_.bold = on; }
     void setItalic(bool on) override { font_.italic = on; }
@@ -38,7 +38,7 @@ class RecordingPrinter : public Printer {
     bool endDoc() override;
     void dropDoc() override { page_ = 0; }
 
-    /// The pages drawn since the last call, and of how many documents the end came.
+    /// The pages drawn, and the number of documents ended, since the last call.
     [[nodiscard]] QJsonArray takePages();
     [[nodiscard]] int takeDocuments() { return std::exchange(documents_, 0); }
 

@@ -24,7 +24,7 @@ QJsonObject recordsOf(store::Archive& archive, const QString& name) {
     return records(archive.tabella(name));
 }
 
-/// Number and name of a cause as the system tells them; in English, whatever the locale.
+/// Error number and English text of a cause, whatever the locale.
 struct FileCause {
     int number;
     const char* name;

@@ -1,5 +1,5 @@
-// One window with everything around it, for as long as the batch program runs: the window may be started, left and
-// started again.
+// The window and its surroundings for a whole run of the batch program. The window can be started, left and started
+// again.
 #pragma once
 
 #include <memory>
@@ -25,19 +25,19 @@ class Session {
     VisitedYield events;
     BatchPrinter printer;
 
-    /// Leaves the window if there is one, and starts. Must not be called while a handler of the window runs.
+    /// Leaves the window, if any, and starts a new one. Must not be called while a handler of the window runs.
     void start();
-    /// Lets go of window and archive. The same holds.
+    /// Closes window and archive. Must not be called while a handler of the window runs.
     void close() { form_.reset(); }
 
-    /// The window of the last start, which may have been left; null before the first one.
+    /// The window of the last start, even if it was left; null before the first start.
     [[nodiscard]] const Form* last() const { return form_.get(); }
-    /// Null before the first start and after the window was left.
+    /// The open window; null before the first start and after the window was left.
     [[nodiscard]] Form* window() const { return form_ && !form_->chiusa ? form_.get() : nullptr; }
 
-    /// The records of a stored table, from the open archive or, when the window was left, from the file.
+    /// The records of a stored table, from the open archive, or from the file if the window was left.
     [[nodiscard]] QJsonObject table(const QString& name) const;
-    /// The lines of a text file; a relative path is taken from the program's directory.
+    /// The lines of a text file. A relative path starts at the program's directory.
     [[nodiscard]] QJsonObject textFile(const QString& name) const;
 
   private:

@@ -11,7 +11,7 @@ namespace vanzer::batch {
 
 namespace {
 
-/// A single has digits that a double must not lengthen: 1.999997, not 1.9999970197677612.
+/// A float as a double with the same short digits: 1.999997, not 1.9999970197677612.
 double shortest(float x) {
     return testoNumero(x).toDouble();
 }

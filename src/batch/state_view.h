@@ -1,4 +1,4 @@
-// The window's state as it is answered.
+// The window's state as JSON.
 #pragma once
 
 #include <QJsonObject>
@@ -9,13 +9,13 @@
 
 namespace vanzer::batch {
 
-/// The working state, each variable by its own name.
+/// The window's variables, by name.
 [[nodiscard]] QJsonObject variables(const Form& form);
-/// What every control has and what its kind has.
+/// The properties of a control: those of every control and those of its kind.
 [[nodiscard]] QJsonObject controlState(const Control& control);
-/// The cells, without empty ones at the end of a row and empty rows at the end.
+/// The cells. Empty cells at the end of a row and empty rows at the end are left out.
 [[nodiscard]] QJsonObject gridState(const Grid& grid);
-/// How wide its columns are (twips, 0 for a hidden one), and where their texts stand.
+/// Widths of the columns (twips, 0 if hidden) and their alignments.
 [[nodiscard]] QJsonObject gridColumns(const Grid& grid);
 [[nodiscard]] QJsonObject records(const store::TabellaLetta& table);
 

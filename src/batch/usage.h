@@ -1,4 +1,4 @@
-// What the batch program tells of itself.
+// The help texts of the batch program.
 #pragma once
 
 #include <span>
@@ -8,13 +8,13 @@
 namespace vanzer::batch {
 
 struct Usage {
-    QStringView command; ///< the word and what stands behind it
+    QStringView command; ///< the word and its arguments
     QStringView does;
 };
-/// All commands, in the order of their description.
+/// All commands, in the order in which the help lists them.
 [[nodiscard]] std::span<const Usage> commandUsage();
 
-/// What `--help` prints: arguments, commands, an example.
+/// The text of `--help`: arguments, commands, an example.
 [[nodiscard]] QString helpText();
 
 } // namespace vanzer::batch

@@ -23,7 +23,7 @@ QChar decoded(char byte) {
     return i < own.size() ? QChar(own[i]) : QChar(static_cast<char16_t>(code));
 }
 
-/// Nothing for a character that has no place.
+/// The byte of a character; nothing if the code page lacks it.
 std::optional<char> placeOf(char32_t c) {
     if (c < firstOwn)
         return static_cast<char>(c);
@@ -35,7 +35,7 @@ std::optional<char> placeOf(char32_t c) {
     return std::nullopt;
 }
 
-/// Letters with a stroke, which no decomposition takes apart.
+/// Letters with a stroke. Unicode has no decomposition for them.
 constexpr std::array<std::pair<char32_t, char>, 10> strokes{{{U'Ł', 'L'},
                                                              {U'ł', 'l'},
                                                              {U'Đ', 'D'},
@@ -47,7 +47,7 @@ constexpr std::array<std::pair<char32_t, char>, 10> strokes{{{U'Ł', 'L'},
                                                              {U'ı', 'i'},
                                                              {U'ƶ', 'z'}}};
 
-/// Any character as a text, the mark of an order of bytes too, which a conversion of texts would pass over.
+/// A character as a text. QString::fromUcs4 would drop a byte order mark; this keeps it.
 QString letter(char32_t c) {
     return QStringView(QChar::fromUcs4(c)).toString();
 }

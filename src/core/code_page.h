@@ -8,19 +8,20 @@
 
 namespace vanzer {
 
-/// Every byte has a character: the five that the code page leaves free are the controls of that number.
+/// Decodes bytes of code page 1252. Never fails: the five bytes without a letter become the control characters of the
+/// same number.
 [[nodiscard]] QString fromCodePage(QByteArrayView bytes);
-/// A letter that has no place in the code page becomes its base letter, anything else "?".
+/// Encodes a text. A letter that the code page lacks becomes its base letter, any other character "?".
 [[nodiscard]] QByteArray toCodePage(const QString& text);
 
-/// A letter that has no place in the code page, and what is written for it.
+/// A letter that the code page lacks, and the character that is written instead.
 struct LetteraSostituita {
     QString lettera;
     QChar scritta;
 
     friend bool operator==(const LetteraSostituita&, const LetteraSostituita&) = default;
 };
-/// Those of a text, each once, in the order in which they come.
+/// The replaced letters of a text, each once, in the order of their first use.
 [[nodiscard]] std::vector<LetteraSostituita> lettereSostituite(const QString& text);
 
 } // namespace vanzer

@@ -32,8 +32,8 @@ constexpr bool isAscii(const char* p) {
     return byteAt(p) < 0x80;
 }
 
-/// Takes one character off a UTF-8 text that isn't at its end; each ill-formed byte counts as one replacement
-/// character.
+/// Reads one character of UTF-8 text and moves `p` past it; `p` must be before `end`. An ill-formed byte counts as one
+/// replacement character.
 char32_t takeCharacter(const char*& p, const char* end) {
     const unsigned lead = byteAt(p++);
     if (lead < 0x80)
@@ -62,7 +62,7 @@ char32_t foldedCharacter(char32_t c) {
     return c < beyondAll ? QChar::toCaseFolded(c) : c;
 }
 
-/// The base letters of a character, folded: none of a combining mark, several of a composed syllable.
+/// Appends the folded base letters of a character: none for a combining mark, several for a composed syllable.
 void decompose(char32_t c, std::vector<char32_t>& bases) {
     if (c < beyondAll && QChar::decompositionTag(c) == QChar::Canonical) {
         for (const uint part : QChar::decomposition(c).toUcs4())
@@ -144,7 +144,7 @@ int compare(std::string_view textA, std::string_view textB) {
     }
     if (a == aEnd && b == bEnd)
         return 0;
-    // What lies before is equal on both levels, so the comparison may go on from here.
+    // The texts are equal on both levels up to here, so the comparison can start here.
     return compareLetters(a, aEnd, b, bEnd);
 }
 
@@ -157,8 +157,8 @@ bool resembles(std::string_view pattern, std::string_view text) {
     const char* t = text.data();
     const char* const pEnd = p + pattern.size();
     const char* const tEnd = t + text.size();
-    const char* behindStar = nullptr; // where to go on in the pattern if the text fails behind the last "*"
-    const char* starText = nullptr;   // first character that this "*" hasn't swallowed yet
+    const char* behindStar = nullptr; // where to resume in the pattern if the part after the last "*" doesn't match
+    const char* starText = nullptr;   // the first character that this "*" doesn't cover yet
     while (t < tEnd) {
         if (p < pEnd && *p == '*') {
             behindStar = ++p;

@@ -1,9 +1,9 @@
-// How the system sorts texts, and the archive's LIKE, both on UTF-8.
+// The sort order of texts, and LIKE for the archive. Both work on UTF-8.
 //
-// The order looks first at the letters without regard to case and accents: canonical decomposition, base letters,
-// simple folding per character ("ß" stays one letter), combining marks passed over. Texts that tie there are compared
-// letter by letter in folded form, an unaccented letter before an accented one. Two texts are equal exactly if their
-// folded forms are.
+// The order has two levels. The first ignores case and accents: it decomposes each character canonically, skips
+// combining marks and folds case per character ("ß" stays one letter). Texts that tie there are compared letter by
+// letter in folded form, with an unaccented letter before an accented one. Two texts are equal exactly if their folded
+// forms are.
 #pragma once
 
 #include <string_view>
@@ -14,19 +14,19 @@
 
 namespace vanzer {
 
-/// Below, at or above 0 as `a` sorts before, with or behind `b`.
+/// Negative if `a` sorts before `b`, 0 if they are equal, positive if `a` sorts after `b`.
 [[nodiscard]] int compare(std::string_view a, std::string_view b);
 [[nodiscard]] int compareTexts(const QString& a, const QString& b);
 
-/// True if `text` has the form of `pattern`: "*" any text, "?" one character, nothing else is special; case is ignored,
-/// accents count. Never more than pattern length times text length steps.
+/// True if `text` matches `pattern`. "*" stands for any text and "?" for one character; nothing else is special. Case
+/// is ignored, accents count. Takes at most pattern length times text length steps.
 [[nodiscard]] bool resembles(std::string_view pattern, std::string_view text);
 
-/// The base letters of a text, folded: what the order looks at first. Every text that begins with `text`, in any case,
-/// sorts from this up to this with `oltreOgniLettera` behind it.
+/// The folded base letters of a text: the key of the first level of the order. Every text that begins with `text`, in
+/// any case, sorts between this key and this key followed by `oltreOgniLettera`.
 [[nodiscard]] QByteArray lettereBase(QStringView text);
 
-/// A byte that no UTF-8 text holds; it sorts behind every letter.
+/// A byte that never occurs in UTF-8 and sorts after every letter.
 inline constexpr char oltreOgniLettera = '\xff';
 
 } // namespace vanzer

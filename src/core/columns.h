@@ -1,4 +1,4 @@
-// The shared column buffer: a line of text taken apart at its separator.
+// Splits a line of text into columns at its separator.
 #pragma once
 
 #include <array>
@@ -7,7 +7,7 @@
 
 namespace vanzer {
 
-/// The columns are 1 to `numero`; what lies behind is empty.
+/// Columns count from 1 to `numero`. The rest of `testo` is empty.
 struct Colonne {
     static constexpr int massimo = 100;
 
@@ -18,9 +18,9 @@ struct Colonne {
     [[nodiscard]] const QString& operator()(int i) const { return testo[static_cast<std::size_t>(i)]; }
 };
 
-/// Takes `line` apart at the first of these separators that it holds: character 255, tab, comma, semicolon, exclamation
-/// mark (tab if there is none). One separator is added to the line. Quotes and control characters are left out, columns
-/// are trimmed, what lies behind the hundredth is lost.
+/// Splits `line` into columns. The separator is the first of these that the line contains: character 255, tab, comma,
+/// semicolon, exclamation mark; tab if it contains none. Appends one separator to `line`. Quotes and control characters
+/// are dropped and columns are trimmed. Columns after the hundredth are lost.
 void SeparaColonne(QString& line, Colonne& colonne);
 
 } // namespace vanzer

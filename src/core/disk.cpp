@@ -30,7 +30,7 @@ std::filesystem::path onDisk(const QString& path) {
 } // namespace
 
 QString doveConduce(const QString& path) {
-    constexpr int mostLinks = 40; // more are a ring, as for the system
+    constexpr int mostLinks = 40; // more count as a loop, as in Linux
     std::filesystem::path at = onDisk(path);
     std::error_code error;
     for (int link = 0; link < mostLinks && std::filesystem::is_symlink(at, error); ++link) {
@@ -41,7 +41,7 @@ QString doveConduce(const QString& path) {
     }
     const std::filesystem::path whole = std::filesystem::weakly_canonical(at, error);
     const QFileInfo found(error ? at : whole);
-    // A folder whose name is no text can't be told by it.
+    // QFileInfo can't represent a folder whose name isn't valid text.
     return found.filesystemFilePath() == whole ? found.filePath() : QFileInfo(at).filePath();
 }
 
@@ -51,7 +51,7 @@ QString nomeComeTesto(const QByteArray& name) {
     std::error_code error;
     const std::string whole = std::filesystem::absolute(name.toStdString(), error).string();
     if (!error && QFile::encodeName(QFile::decodeName(whole.c_str())) != whole.c_str()) {
-        // Stays open for as long as the name is used: to the end.
+        // Never closed: the name is used until the program ends.
         if (const int there = ::open(name.constData(), O_PATH); there >= 0)
             text = QStringLiteral("/proc/self/fd/%1").arg(there);
     }
@@ -95,7 +95,7 @@ bool fileNormale(const QString& path) {
     if (!QFileInfo(path).isFile())
         return false;
 #ifdef Q_OS_LINUX
-    // What the kernel shows of itself: such files are made while they are read, and some never end.
+    // The kernel's virtual file systems: their files are produced while they are read, and some never end.
     constexpr std::array views{PROC_SUPER_MAGIC, SYSFS_MAGIC, DEBUGFS_MAGIC, TRACEFS_MAGIC, CGROUP2_SUPER_MAGIC};
     struct statfs disk {};
     if (::statfs(QFile::encodeName(path).constData(), &disk) == 0 && std::ranges::count(views, disk.f_type) > 0)
@@ -115,7 +115,7 @@ QString alSicuro(int handle) {
 QString alSicuro(const QString& path) {
     const int handle = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (handle < 0)
-        return errno == EACCES ? QString() : qt_error_string(errno); // it may be written to, but not read
+        return errno == EACCES ? QString() : qt_error_string(errno); // may be writable and yet not readable
     QString reason = alSicuro(handle);
     ::close(handle);
     return reason;

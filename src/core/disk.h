@@ -1,4 +1,4 @@
-// What the disk says of a file: where its name leads, and whether it is safe there.
+// Facts about files on the disk: where a name leads, what kind of file it is, whether its data are safe.
 #pragma once
 
 #include <QString>
@@ -8,29 +8,32 @@ class QFile;
 
 namespace vanzer {
 
-/// Where a name leads through links, whether something is there or not: a full path.
+/// Follows all links of a path and returns the full path at the end. The file need not exist.
 [[nodiscard]] QString doveConduce(const QString& path);
 
-/// A name by which a file or folder that is there can be used, given the bytes of its name: the same, unless they, or
-/// the folder that they begin in, are no text. Then it leads there while the program, or one that it starts, runs.
+/// A usable name for an existing file or folder, from the bytes of its name. Usually the same name. If the bytes, or
+/// those of the current folder, aren't valid text, the result is a link name. It is valid while this program, or one
+/// that it starts, runs.
 [[nodiscard]] QString nomeComeTesto(const QByteArray& name);
-/// The same of all arguments of a program that name something, behind "--option=" too.
+/// Does the same for each argument of a program that names an existing file, also after "--option=".
 [[nodiscard]] QStringList argomentiComeTesto(int argc, const char* const* argv);
 
-/// Both paths lead to one file that is there, be it by links or by two names of its own.
+/// True if both paths lead to the same existing file, through symbolic or hard links.
 [[nodiscard]] bool stessoFile(const QString& path, const QString& other);
 
-/// A plain file on a disk, or one of the program's own resources. Decided without opening it, which could wait without
-/// end or have effects.
+/// True for a plain file on a disk or a resource of the program. Doesn't open the file: that could block forever or
+/// have side effects.
 [[nodiscard]] bool fileNormale(const QString& path);
 
-/// Opens a file for reading that is plain, and still is when it's open; never waits for another program.
+/// Opens a plain file for reading and checks again that it is plain once it is open. Never waits for another program.
+/// False on failure.
 [[nodiscard]] bool openReadOnly(QFile& file);
 
-/// Waits until a file, or a folder with the names in it, outlives a loss of power. The result is the system's reason of
-/// a failure, empty if there is none; where that can't be asked for, a file counts as safe.
+/// Waits until a file, or a folder and the names in it, would survive a loss of power. Returns the operating system's
+/// reason on failure, else an empty text. Where the platform has no such call, or this user may not read the file, it
+/// counts as safe.
 [[nodiscard]] QString alSicuro(const QString& path);
-/// The same of a file that is open.
+/// The same for an open file.
 [[nodiscard]] QString alSicuro(int handle);
 
 } // namespace vanzer

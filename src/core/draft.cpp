@@ -4,10 +4,11 @@
 //   "scritta"    local date and time, "2026-11-23T18:05:00"
 //   "codice", "nome", "campi", "cambiati", "tappeCambiate", "editor", "tratto", "riga", "modifiche", "digitata"
 //                as in Bozza; "campi" and "digitata" are objects of texts
-//   "tappe"      the cells of all legs one after the other, six texts a leg: a flat array takes a reader little memory
-//                whatever the file claims to hold
+//   "tappe"      the cells of all legs one after the other, six texts a leg; flat, so that reading takes little memory
+//                even if the file isn't a draft
 //
-// What is missing is empty; a value of another kind, a longer text or another version refuses the whole.
+// Missing values are empty. A value of another kind, a text that is too long or another version makes the draft
+// invalid.
 #include "core/draft.h"
 
 #include <algorithm>
@@ -23,9 +24,9 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr int version = 1;
-constexpr qsizetype longestText = 1 << 16; // legs of a route list are longer than what is stored of them
+constexpr qsizetype longestText = 1 << 16; // characters; legs of a route list are longer than their stored form
 constexpr std::size_t mostLegs = 100000;
-constexpr qsizetype longestMap = 1 << 20; // rows of a table
+constexpr qsizetype longestMap = 1 << 20; // characters of "modifiche", one for each row of the table
 
 struct NotADraft {};
 

@@ -1,4 +1,4 @@
-// Work that was typed and not stored, as plain texts, and the bytes of the draft that keeps it.
+// A draft: work that was typed but not stored, as plain texts, and its format in a file.
 #pragma once
 
 #include <array>
@@ -15,37 +15,37 @@
 
 namespace vanzer {
 
-/// Of a row of the leg table what is typed and loaded, and not worked out: place, road, kilometres, road type, stop,
-/// the guide's stops.
+/// The columns of the leg table that are typed or loaded, not calculated: place, road, kilometres, road type, stop,
+/// stops of the guide.
 inline constexpr std::array<int, 6> colonneTenute{tappaLuogo, tappaStrada, tappaKm, tappaTipo, tappaSosta, tappaGuida};
 using TappaTenuta = std::array<QString, colonneTenute.size()>;
 using TappeTenute = std::vector<TappaTenuta>;
 
-/// Texts of controls by their names; an option or a check box that is on is "1".
+/// Texts of controls by control name. An option or check box that is on is "1".
 using TestiDeiCampi = std::map<QString, QString>;
 
 struct Bozza {
-    QString codice;       ///< of the destination; empty for one that was never stored
-    QString nome;         ///< of the destination as it is stored
-    TestiDeiCampi campi;  ///< all of the destination and its parameters
-    QStringList cambiati; ///< those of them that aren't stored as they are
-    TappeTenute tappe;    ///< all that there are
+    QString codice;       ///< code of the destination; empty if it was never stored
+    QString nome;         ///< stored name of the destination
+    TestiDeiCampi campi;  ///< all fields of the destination and its parameters
+    QStringList cambiati; ///< names of the fields that differ from what is stored
+    TappeTenute tappe;    ///< all legs
     bool tappeCambiate = false;
-    bool editor = false;    ///< of the legs, open
-    bool tratto = false;    ///< the editing of a stretch, open
-    int riga = 1;           ///< the row at hand
-    QString modifiche;      ///< "1" for each row that the editing of a stretch has changed, else "0"
-    TestiDeiCampi digitata; ///< the fields of the leg editor, if they hold a leg that isn't in the table
-    QDateTime scritta = {}; ///< when its bytes were made, to the second
+    bool editor = false;    ///< the leg editor is open
+    bool tratto = false;    ///< the editing of a stretch is open
+    int riga = 1;           ///< the current row of the leg table, from 1
+    QString modifiche;      ///< one character per row: "1" if the editing of a stretch changed it, else "0"
+    TestiDeiCampi digitata; ///< fields of the leg editor if its leg isn't in the table yet, else empty
+    QDateTime scritta = {}; ///< when the bytes were made, local time in whole seconds
     bool operator==(const Bozza& other) const = default;
 };
 
-/// The largest draft that is read. A table of 9,999 legs takes about a sixtieth of it.
-inline constexpr qint64 massimaBozza = 64 << 20; // bytes
+/// The largest draft that is read, in bytes. A table of 9,999 legs takes about a sixtieth of it.
+inline constexpr qint64 massimaBozza = 64 << 20;
 
 [[nodiscard]] QByteArray byteDellaBozza(const Bozza& draft, const QDateTime& now);
 
-/// Nothing if the bytes are no draft, one of a later version, or hold what no window can have put there.
+/// Nothing if the bytes aren't a draft, are of a later version, or hold values that the window never writes.
 [[nodiscard]] std::optional<Bozza> bozzaDaiByte(const QByteArray& bytes);
 
 } // namespace vanzer

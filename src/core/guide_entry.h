@@ -1,4 +1,4 @@
-// An entry of the guide as a plain value, and the time that it takes.
+// An entry of the guide as a plain value, and the time that its visit takes.
 #pragma once
 
 #include <vector>
@@ -9,7 +9,7 @@ namespace vanzer {
 
 struct VoceGuida {
     qint64 rowid = 0;
-    QString tempoSosta; ///< "hh:mm"; "G" and a number of whole visiting days in place of the hours
+    QString tempoSosta; ///< "hh:mm"; for whole visiting days "G" and their number in place of the hours
     int codice = 0;     ///< category
     QString gruppo;
     QString descrizione;
@@ -17,13 +17,14 @@ struct VoceGuida {
 
 using VociGuida = std::vector<VoceGuida>;
 
-/// Who reads the time of an entry. The two differ for what the editor never writes.
+/// Two ways to read the time of an entry. They differ only for texts that the editor never writes.
 enum class LetturaTempo {
-    Itinerario, ///< the load of an itinerary: one digit of days, two of hours
-    Viandoria   ///< the preparation of a calculation: all digits of days, a time without leading zeros
+    Itinerario, ///< loading an itinerary: one digit of days, two digits of hours
+    Viandoria   ///< preparing a calculation: all digits of days, hours without leading zeros too
 };
 
-/// Time of an entry in hundredths of an hour, minutes rounded to the nearest; a visiting day has `visitingDay` of them.
+/// Time of an entry in hundredths of an hour, minutes rounded to the nearest. `visitingDay` is the length of a visiting
+/// day, also in hundredths of an hour.
 [[nodiscard]] float tempoVoce(const QString& tempoSosta, float visitingDay, LetturaTempo reading);
 
 } // namespace vanzer

@@ -1,23 +1,23 @@
-// The columns of the table while it holds legs; a schedule has the same heads.
+// Columns of the table while it holds legs. A schedule has the same headings.
 #pragma once
 
 namespace vanzer {
 
 enum ColonnaTappa {
     tappaNumero,
-    tappaLuogo, ///< with the marks of the stretch
+    tappaLuogo, ///< name and stretch marks
     tappaStrada,
-    tappaKm, ///< from the row above
+    tappaKm, ///< kilometres from the row above
     tappaTipo,
     tappaKmProgressivi,
-    tappaTempo, ///< driving
-    tappaSosta, ///< gg:hh:mm, "*" in front for the end of the day
-    tappaGuida, ///< stops of the guide in all, gg:hh:mm
+    tappaTempo, ///< driving time
+    tappaSosta, ///< stop, gg:hh:mm; "*" in front ends the day
+    tappaGuida, ///< total stops of the guide, gg:hh:mm
     tappaGiorno,
     tappaData,
     tappaOra,
     tappaNote,
-    tappaFineGiorno = 14 ///< as it was loaded
+    tappaFineGiorno = 14 ///< end of the day as it was loaded
 };
 
 } // namespace vanzer

@@ -19,7 +19,7 @@ constexpr std::array<CampoVecchio, 5> tappe{
 constexpr std::array<CampoVecchio, 5> guida{
     {{u"Locali", 30}, {u"Descri", 91}, {u"TipoDa", 2}, {u"TempoS", 4}, {u"FlagVi", 1, true}}};
 
-/// Controls, and what the code page leaves free.
+/// False for control characters, and so for bytes without a letter in the code page.
 bool isLetter(QChar c) {
     return c.category() != QChar::Other_Control;
 }

@@ -1,5 +1,5 @@
-// The files of fixed-length records in which an earlier generation kept destinations, itineraries and guide: text in
-// code page 1252, padded with blanks. Their layout stands in docs/old_files.md.
+// Files of fixed-length records, in which an earlier generation of the program kept destinations, itineraries and
+// guide. Texts are in code page 1252, padded with blanks. docs/old_files.md describes the layout.
 #pragma once
 
 #include <optional>
@@ -17,35 +17,36 @@ struct CampoVecchio {
     bool siNo = false; ///< "1" for yes, "0" or a blank for no
 };
 
-/// One kind of old file: the length of its records in bytes, which may exceed their fields, and the fields in order.
+/// The layout of one kind of old file. `lunghezza` is the length of a record in bytes; it may exceed the sum of the
+/// fields.
 struct FormatoVecchio {
     int lunghezza;
     std::span<const CampoVecchio> campi;
 
-    /// Where a field stands in the record's texts; the name is known to be one.
+    /// Index of a field in RecordVecchio. There must be a field of that name.
     [[nodiscard]] std::size_t campo(QStringView name) const;
-    /// Bytes of the fields alone.
+    /// Total width of the fields in bytes.
     [[nodiscard]] int larghezza() const;
 };
 
 /// One destination for each record, its fields in the order of MeteVanzer.
 [[nodiscard]] const FormatoVecchio& vecchieMete();
-/// The first record is a head, whose Locali and Chilom both hold the number of legs; the legs follow.
+/// The first record is a head: its fields Locali and Chilom both hold the number of legs. The legs follow.
 [[nodiscard]] const FormatoVecchio& vecchieTappe();
 /// One entry for each record.
 [[nodiscard]] const FormatoVecchio& vecchiaGuida();
 
-/// The texts of a record without the blanks at their ends, in the order of its fields; yes/no is "1" or "0".
+/// The texts of a record in the order of its fields, without the padding blanks. Yes/no is "1" or "0".
 using RecordVecchio = std::vector<QString>;
 
 class FileVecchio {
   public:
     FileVecchio(const FormatoVecchio& format, QByteArray contents);
 
-    /// Records of the file, one that is cut off included.
+    /// Number of records, including a last one that is cut off.
     [[nodiscard]] int numero() const;
-    /// The n-th record, from 1. Nothing if it is damaged: cut before the end of its fields, or with bytes that are no
-    /// letters, or with a yes/no that is neither.
+    /// Record `n`, from 1. Nothing if it is damaged: it ends before its last field does, contains control characters,
+    /// or a yes/no field is neither yes nor no.
     [[nodiscard]] std::optional<RecordVecchio> record(int n) const;
 
   private:

@@ -1,4 +1,5 @@
-// Names of places: the marks of the stretch that a leg's name may carry, and the forms in which legs and guide meet.
+// Names of places: the stretch marks that a leg's name may carry, and the forms in which names of legs and of the guide
+// are compared.
 #pragma once
 
 #include <QString>
@@ -8,7 +9,7 @@ namespace vanzer {
 inline constexpr QStringView marcaStart = u"[Start]";
 inline constexpr QStringView marcaEnd = u"[End]";
 
-/// The place of a row taken apart: its name and the marks of the stretch.
+/// The place of a row, split into its name and the stretch marks.
 struct LuogoConMarche {
     QString nome;
     bool start = false;
@@ -16,16 +17,16 @@ struct LuogoConMarche {
 };
 [[nodiscard]] LuogoConMarche splitMarks(const QString& cell);
 
-/// What lies before the first `mark`, trimmed; the whole text if it doesn't hold it.
+/// The text before the first `mark`, trimmed. The whole text if it has no `mark`.
 [[nodiscard]] QString cutAt(const QString& name, QChar mark);
 
-/// The form in which the guide files a leg's place: no brackets, no "near ", "vicino ", "CVL " in front, no marks.
+/// A leg's place as the guide names it: without brackets, stretch marks and a leading "near ", "vicino " or "CVL ".
 [[nodiscard]] QString PulisceNomeLocalita(const QString& name);
 
-/// The form for a row of the schedule: cut at "[", trimmed, capitals normalised.
+/// A place as a row of the schedule shows it: cut at "[", trimmed, capitals normalised.
 [[nodiscard]] QString RiPulisceNomeLocalita(const QString& name);
 
-/// What tells a destination by its name: two names mean the same one exactly if these are equal.
+/// The key of a destination's name: two names mean the same destination exactly if their keys are equal.
 [[nodiscard]] QString chiaveMeta(const QString& name);
 
 } // namespace vanzer

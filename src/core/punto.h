@@ -1,9 +1,9 @@
-// Where things stand on a sheet.
+// Positions on a sheet.
 #pragma once
 
 namespace vanzer {
 
-/// Position or size on the sheet, mm from its top left corner to the right and down.
+/// A position in mm, right and down from the sheet's top left corner, or a size in mm.
 struct Punto {
     double x = 0;
     double y = 0;

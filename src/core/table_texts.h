@@ -1,5 +1,5 @@
-// The texts of a table's cells, column by column: what goes through a column of a long table finds its texts side by
-// side, and a column that nobody writes into takes no memory.
+// The texts of a table's cells, stored column by column. Texts of one column lie next to each other, which makes a pass
+// over a long column fast. A column that was never written takes no memory.
 #pragma once
 
 #include <vector>
@@ -9,14 +9,14 @@
 
 namespace vanzer {
 
-/// Rows and columns count from 0. There are as many columns as are asked for. A copy shares the columns until one of
-/// the two is written.
+/// Rows and columns count from 0. The number of columns has no limit. A copy shares the columns until one of the two
+/// tables is written.
 class TestiTabella {
   public:
     [[nodiscard]] int rows() const { return rows_; }
-    /// Cuts rows at the end, or adds blank ones.
+    /// Removes rows at the end or adds blank ones.
     void setRows(int rows);
-    /// Adds a blank row; its number.
+    /// Adds a blank row and returns its number.
     int addRow();
     void removeRow(int row);
 
@@ -25,7 +25,8 @@ class TestiTabella {
         const auto c = static_cast<std::size_t>(column);
         return c < columns_.size() && row < columns_[c].size() ? columns_[c].at(row) : none;
     }
-    /// To be written. It stays where it is until another row of its column is written, or the number of rows changes.
+    /// A cell to write to. The reference holds until another row of the column is written or the number of rows
+    /// changes.
     [[nodiscard]] QString& at(int row, int column) {
         const auto c = static_cast<std::size_t>(column);
         if (c >= columns_.size())
@@ -36,25 +37,24 @@ class TestiTabella {
     }
     [[nodiscard]] bool operator==(const TestiTabella& other) const;
 
-    /// Copies a row of a table, be it this one, over a row of this one.
+    /// Overwrites `row` with row `fromRow` of `from`, which may be this table.
     void copyRow(int row, const TestiTabella& from, int fromRow);
-    /// The rows from `middle` on come before those from `first` on, up to but without `last`; columns before
-    /// `firstColumn` stay.
+    /// Rotates the rows `first` to `last` - 1 so that row `middle` comes first. Columns before `firstColumn` stay.
     void rotate(int first, int middle, int last, int firstColumn);
     void clearRow(int row, int firstColumn);
-    /// Blanks all rows.
+    /// Makes all cells blank; the number of rows stays.
     void clear() { columns_.clear(); }
-    /// Forgets the columns from there on.
+    /// Clears `column` and all columns after it.
     void cutColumns(int column);
 
   private:
     static const QString none;
 
     int rows_ = 0;
-    std::vector<QList<QString>> columns_; ///< as long as the table; empty while nothing was written
+    std::vector<QList<QString>> columns_; ///< `rows_` texts each; empty while the column was never written
 };
 
-/// A row that is being written.
+/// One row of a table, for writing.
 class RigaDiTesti {
   public:
     RigaDiTesti(TestiTabella& table, int row) : table_(table), row_(row) {}

@@ -111,7 +111,7 @@ QString migliaia(double x) {
 }
 
 QString migliaiaZero(double x) {
-    // Half away from zero, as number formats round.
+    // Rounds halves away from zero.
     const auto whole = static_cast<qlonglong>(std::floor(std::fabs(x) + 0.5));
     std::array<char, 24> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), whole).ptr;

@@ -15,7 +15,7 @@ namespace {
 
 constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF");
 
-/// Of valid UTF-8: a character of four bytes is a pair.
+/// UTF-16 units of valid UTF-8. A character of four bytes takes two units.
 qsizetype charactersOf(QByteArrayView utf8) {
     return std::accumulate(utf8.begin(), utf8.end(), qsizetype{0}, [](qsizetype sum, char c) {
         const auto byte = static_cast<unsigned char>(c);
@@ -39,11 +39,12 @@ QString writeFile(const QString& path, const QByteArray& contents) {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return motivoNonScritto(path);
-    // Of a large file that fills the disk up a part is written, which is no error; of a small one the flush tells.
+    // On a full disk a large file is written only in part, which Qt doesn't count as an error. A small file fails at
+    // the flush.
     return file.write(contents) == contents.size() ? commitFile(file) : motivoNonScritto(path);
 }
 
-// Putting it into place is no word on the disk: a failure of the last write comes up when that is waited for.
+// The rename alone doesn't show a failed write: that shows only when the program waits for the disk.
 QString commitFile(QSaveFile& file) {
     const QString unsafe = QStringLiteral("il disco non conferma la scrittura (%1).");
     if (!file.flush() || file.error() != QFileDevice::NoError)
@@ -79,7 +80,7 @@ FileLetto readFile(const QString& path) {
     FileLetto read;
     const bool fits = file.size() <= fileMassimo;
     for (QByteArray bytes; fits && read.contenuto.size() <= fileMassimo && !(bytes = file.read(piece)).isEmpty();)
-        read.contenuto += bytes; // it may grow meanwhile
+        read.contenuto += bytes; // the file may grow meanwhile
     if (!fits || read.contenuto.size() > fileMassimo)
         return {{}, QStringLiteral("supera %1 MB.").arg(fileMassimo >> 20)};
     if (file.error() != QFileDevice::NoError)

@@ -1,5 +1,5 @@
-// Text files that go to other programs and come from them: written in code page 1252 with lines closed by CR LF, read
-// whatever their code and line ends are.
+// Text files exchanged with other programs. They are written in code page 1252 with CR LF at line ends, and read with
+// any usual encoding and line ends.
 #pragma once
 
 #include <QByteArray>
@@ -11,45 +11,45 @@ class QSaveFile;
 
 namespace vanzer {
 
-/// Why a file could not be written, in Italian: found out from the path after the failure.
+/// Why a file could not be written, in Italian. Looks at the path after the failure.
 [[nodiscard]] QString motivoNonScritto(const QString& path);
 
-/// Writes the file aside and puts it into place: what was there before stays until the new one is whole and safe on the
-/// disk. The result is the reason of a failure, empty when all went well.
+/// Writes a temporary file and renames it to `path`. The old file stays until the new one is complete and safe on the
+/// disk. Returns the reason of a failure in Italian, else an empty text.
 [[nodiscard]] QString writeFile(const QString& path, const QByteArray& contents);
 
-/// The last steps of that, for whoever writes the file piece by piece. If the file is closed afterwards without an
-/// error of its own, it is in its place and only the folder isn't safe.
+/// The last steps of writeFile, for callers that write piece by piece. Returns as writeFile. If it fails but the file
+/// is closed and has no error, the new file is in place and only its folder isn't safe on the disk.
 [[nodiscard]] QString commitFile(QSaveFile& file);
 
 /// The bytes of a text file.
 [[nodiscard]] QByteArray contenutoTesto(const QStringList& lines);
 
-inline constexpr qint64 fileMassimo = 512LL * 1024 * 1024; ///< bytes that are read of a file at most
+inline constexpr qint64 fileMassimo = 512LL * 1024 * 1024; ///< largest file that is read, in bytes
 
 struct FileLetto {
-    QByteArray contenuto; ///< nothing of a file that isn't there
-    QString errore;       ///< why what is there can't be read, as the end of a sentence
+    QByteArray contenuto; ///< empty if the file doesn't exist
+    QString errore;       ///< why an existing file can't be read, in Italian, as the end of a sentence
 };
 
-/// Reads a plain file of at most `fileMassimo` bytes. What has no end or waits for others is left alone: pipes,
-/// devices, views of the kernel's that only look like files.
+/// Reads a plain file of at most `fileMassimo` bytes. Refuses files that may never end or may block: pipes, devices and
+/// the kernel's virtual files.
 [[nodiscard]] FileLetto readFile(const QString& path);
 [[nodiscard]] QString motivoNonNormale();
 
-/// The lines of a text: UTF-8 where the bytes are valid UTF-8, else the code page. A line ends with CR LF or LF; CR
-/// alone ends lines where there is no LF at all.
+/// Iterates over the lines of a text. The text is UTF-8 if all its bytes are valid UTF-8, else code page 1252. A line
+/// ends with CR LF or LF; a lone CR ends lines only where the text has no LF at all.
 ///
-/// A line is decoded when its turn comes: the text takes no more memory than its bytes.
+/// Lines are decoded one at a time, so that memory stays near the size of the bytes.
 class RigheTesto {
   public:
     explicit RigheTesto(const QByteArray& contents);
 
-    /// Characters of the whole text; in the code page as many as bytes.
+    /// Characters (UTF-16 units) of the whole text.
     [[nodiscard]] qsizetype lunghezza() const { return length_; }
     /// Moves to the next line; false if there is none.
     bool prossima();
-    /// The current line without its end, which holds until the next one, and its number from 1.
+    /// The current line without its line end, and its number from 1. The view holds until the next call of prossima().
     [[nodiscard]] QStringView riga() const { return line_; }
     [[nodiscard]] int numero() const { return number_; }
 
@@ -63,7 +63,7 @@ class RigheTesto {
     qsizetype at_ = 0;
     QStringDecoder decoder_{QStringConverter::Utf8,
                             QStringConverter::Flag::Stateless | QStringConverter::Flag::ConvertInitialBom};
-    QString text_; ///< the line, with room for longer ones
+    QString text_; ///< buffer of the current line; keeps its capacity
     QStringView line_;
     int number_ = 0;
 };

@@ -12,8 +12,8 @@ namespace vanzer::desktop {
 
 namespace {
 
-/// What a screen reader says: the name that the form gives, else the caption that the widget shows at the time, else
-/// the tool tip.
+/// Sets what a screen reader says: the accessible name in the form, else the widget's present caption, else the tool
+/// tip.
 void nameForReaders(QWidget& widget, const Control& control) {
     const auto* const captioned = dynamic_cast<const Captioned*>(&control);
     const bool speaks = captioned != nullptr && captioned->caption().size() > 1;
@@ -44,7 +44,7 @@ QString Binder::controlName(const QString& widgetName) {
 }
 
 void Binder::bind(QWidget& root) {
-    // What stands in a frame is as it should be before the frame comes up.
+    // Children first, so that the contents of a frame are up to date before the frame is shown.
     for (QWidget* const widget : root.findChildren<QWidget*>())
         tie(*widget);
     tie(root);
@@ -56,7 +56,8 @@ void Binder::bindLater(const Control& frame, std::function<QWidget&()> make) {
         connect(holder, &Control::changed, this, &Binder::flushSoon);
 }
 
-/// A form costs some milliseconds to make, and most of them are not seen in most sessions.
+/// Makes forms whose frames are shown for the first time. Making one takes some milliseconds, and most sessions need
+/// few.
 void Binder::makeForms() {
     for (LaterForm& form : later_) {
         bool seen = form.make != nullptr;
@@ -121,7 +122,7 @@ void Binder::flush() {
     giveFocus();
 }
 
-/// As the tab key gives it: the text of a field is selected, so that what is typed takes its place.
+/// Gives the focus as the tab key does: the text of a field is selected, so that typing replaces it.
 void Binder::giveFocus() {
     const Control* const control = std::exchange(wanted_, nullptr);
     QWidget* const widget = control == nullptr ? nullptr : this->widget(*control);
@@ -133,7 +134,8 @@ void Binder::giveFocus() {
     widget->setFocus(Qt::TabFocusReason);
 }
 
-/// A widget that was switched off while it had the focus gets it back when it is on again, unless the user has gone on.
+/// Gives the focus back to a widget that was disabled while it had it, once it is enabled, unless the user has moved
+/// on.
 void Binder::keepFocus(QWidget* before) {
     QWidget* const now = QApplication::focusWidget();
     if (before != nullptr && before != now && !before->isEnabled() && displaced_ == nullptr)

@@ -1,6 +1,6 @@
-// Ties each widget to the control model of the same name: cmbOra_3 to cmbOra(3). What a model changes is shown when the
-// command that changed it has ended, or when a long one lets the window's events run; what the user does goes to the
-// model. No rule of the window stands here.
+// Ties each widget to the control model of the same name: cmbOra_3 to cmbOra(3). Changes of models are shown when the
+// command that made them ends, or when a long command lets the window's events run. Inputs of the user go to the
+// models. The binder has no rules of its own.
 #pragma once
 
 #include <functional>
@@ -21,33 +21,33 @@ class Tie;
 class Binder : public QObject {
     Q_OBJECT
   public:
-    /// The form lives longer than the binder.
+    /// `form` must outlive the binder.
     explicit Binder(Form& form);
     ~Binder() override;
 
-    /// Ties all widgets at and below `root` that bear a control's name; the next flush shows what the controls hold.
+    /// Ties `root` and all widgets below it that have a control's name. The next flush shows the state of the controls.
     void bind(QWidget& root);
-    /// The same for a form that `make` makes when its frame is to be seen for the first time.
+    /// The same for a form that is made by `make` when its frame is first shown.
     void bindLater(const Control& frame, std::function<QWidget&()> make);
 
-    /// An input of the user: the models' handlers run, and then the window shows what they changed.
+    /// Runs `handler` for an input of the user, then shows what it changed.
     void input(const std::function<void()>& handler);
     /// Shows everything that has changed.
     void flush();
-    /// True while the window is made to show the models: what widgets tell then is nobody's input.
+    /// True while widgets are updated from the models: their signals aren't inputs of the user then.
     [[nodiscard]] bool showing() const { return showing_; }
 
     [[nodiscard]] Form& form() const { return form_; }
-    /// Null for a control that has no widget.
+    /// The widget of a control; null if it has none.
     [[nodiscard]] QWidget* widget(const Control& control) const;
 
-    /// The name of the control that a widget of that name shows: "cmbOra_3" is "cmbOra(3)".
+    /// The control's name for a widget's name: "cmbOra(3)" for "cmbOra_3".
     [[nodiscard]] static QString controlName(const QString& widgetName);
 
   signals:
-    /// An input begins; nothing of it has run yet.
+    /// An input begins; its handler hasn't run yet.
     void inputBegins();
-    /// All that an input led to has run and is shown.
+    /// An input has been handled and its results are shown.
     void inputEnded();
     /// The window has been left.
     void closed();
@@ -72,9 +72,9 @@ class Binder : public QObject {
     std::vector<LaterForm> later_;
     std::vector<Tie*> dirty_;
     QTimer flushSoon_;
-    const Control* wanted_ = nullptr; ///< is to have the focus at the next flush
-    QPointer<QWidget> displaced_;     ///< lost the focus because it was switched off
-    QPointer<QWidget> stopgap_;       ///< has it instead
+    const Control* wanted_ = nullptr; ///< gets the focus at the next flush
+    QPointer<QWidget> displaced_;     ///< lost the focus because it was disabled
+    QPointer<QWidget> stopgap_;       ///< has the focus instead
     int depth_ = 0;
     bool showing_ = false;
     bool closedTold_ = false;

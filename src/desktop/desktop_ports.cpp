@@ -20,7 +20,7 @@ namespace vanzer::desktop {
 
 namespace {
 
-/// Milliseconds of a clock that is cheap to read and right to a few milliseconds.
+/// Milliseconds of a clock that is cheap to read and accurate to a few milliseconds.
 qint64 coarseTime() {
     timespec t{};
     clock_gettime(CLOCK_MONOTONIC_COARSE, &t);
@@ -62,13 +62,13 @@ QMessageBox::Icon sign(const MessageBox& box) {
     return box.buttons == Pulsanti::Ok ? QMessageBox::NoIcon : QMessageBox::Question;
 }
 
-/// Whether a text is set out line by line, as the help is, or with tabs.
+/// True if a text is laid out in lines, as the help is, or with tabs.
 bool setOut(const QString& text) {
     return text.contains(u'\r') || text.contains(u'\t');
 }
 
-/// Tabs line up in a font of one width. Blanks at the begin of a line are counted for one with narrow blanks, in which
-/// "RITORNO A START:  " is as wide as 37 of them.
+/// A font in which the columns of a text line up. Texts with tabs need a fixed-width font. Texts indented by blanks
+/// were written for a font whose blanks are so narrow that "RITORNO A START:  " is as wide as 37 of them.
 QFont fontInWhichItLinesUp(const QString& text, QFont own) {
     if (text.contains(u'\t'))
         return QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -76,7 +76,7 @@ QFont fontInWhichItLinesUp(const QString& text, QFont own) {
     return own;
 }
 
-/// Tabs as blanks, and blanks at which no line is broken.
+/// Replaces tabs by blanks, and blanks by non-breaking ones.
 QString inColumns(const QString& text) {
     constexpr qsizetype tab = 8;
     QString result;
@@ -89,7 +89,7 @@ QString inColumns(const QString& text) {
     return result;
 }
 
-/// Lines that are set out stay lines: the box is as wide as the longest.
+/// Shows a text without wrapping its lines: the box is as wide as the longest.
 void setInLines(QMessageBox& box, const QString& text) {
     box.setText(inColumns(text));
     box.setFont(fontInWhichItLinesUp(text, box.font()));
@@ -100,7 +100,7 @@ void setInLines(QMessageBox& box, const QString& text) {
     }
 }
 
-/// The platform's file dialogs write filters "Name (*.ext)".
+/// Converts a filter to the form of the platform's dialogs, "Name (*.ext)".
 QString platformFilter(const QString& filter) {
     const QStringList parts = filter.split(u'|');
     QStringList filters;
@@ -141,7 +141,7 @@ int DialogBoxes::show(const MessageBox& told) {
         setInLines(box, plain);
     else
         box.setText(plain);
-    // The label of the detail comes with its first text, and would read that as mark-up.
+    // The first text makes the label of the detail, which would read it as mark-up. So set a blank first.
     if (!told.detail.isEmpty())
         box.setInformativeText(QStringLiteral(" "));
     for (auto* const label : box.findChildren<QLabel*>())
@@ -174,7 +174,7 @@ QString PlatformDialogs::save(const QString& filter, Ricopertura overwriting) {
     QFileDialog dialog(opening(), QStringLiteral("Salva con nome"), {}, platformFilter(filter));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, overwriting == Ricopertura::ChiedeIlComando);
-    // With the ending put on here the dialog knows which older file it is that would go.
+    // The dialog adds the suffix, so that it asks about the right file before overwriting.
     dialog.setDefaultSuffix(QFileInfo(filter.section(u'|', 1, 1)).suffix());
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
@@ -188,7 +188,8 @@ void PacedYield::begin() {
     frameDue_ = false;
 }
 
-/// A loop that yields every microsecond looks at the clock at every sixteenth call only, a slow one each time.
+/// A fast loop, with a yield every microsecond, reads the clock at every sixteenth call only. A slow loop reads it each
+/// time.
 void PacedYield::yield() {
     constexpr int skippedByFastLoops = 15;
     constexpr qint64 fast = 2; // ms between two looks at the clock

@@ -1,4 +1,4 @@
-// The ports of the desktop: the platform's message boxes and file dialogs, its clock, and a yield that lets events run.
+// The ports of the desktop: the platform's message boxes, file dialogs and clock, and a yield that runs events.
 #pragma once
 
 #include <functional>
@@ -10,7 +10,7 @@
 
 namespace vanzer::desktop {
 
-/// What both kinds of dialogs need: the window they stand before, and a last look at what they stand before.
+/// Base of both kinds of dialogs: their parent window, and a hook that runs before they open.
 class BeforeWindow {
   public:
     void setWindow(QWidget* window) { window_ = window; }
@@ -24,11 +24,11 @@ class BeforeWindow {
     QPointer<QWidget> window_;
 };
 
-/// Opens a file or a folder with the program that the desktop has for it.
+/// Opens a file or a folder with the desktop's program for it.
 class FileOpener {
   public:
     virtual ~FileOpener() = default;
-    /// False if there is none.
+    /// False if there is no such program.
     [[nodiscard]] virtual bool open(const QString& path) = 0;
 };
 
@@ -37,11 +37,11 @@ class DesktopOpener : public FileOpener {
     [[nodiscard]] bool open(const QString& path) override;
 };
 
-/// With Italian buttons. Esc stands for "Annulla", or for "No" where there is nothing to cancel. Beside the "OK" of a
-/// box about files "Apri" opens the first of them and "Mostra cartella" its folder; they are answered as "OK".
+/// Message boxes with Italian buttons. Esc means "Annulla", or "No" if there is no such button. A box about files also
+/// has "Apri", which opens the first file, and "Mostra cartella", which opens its folder. Both answer as "OK".
 class DialogBoxes : public MessageBoxes, public BeforeWindow {
   public:
-    /// `opener` lives longer than the boxes.
+    /// `opener` must outlive the boxes.
     explicit DialogBoxes(FileOpener& opener) : opener_(opener) {}
     [[nodiscard]] int show(const MessageBox& box) override;
 
@@ -61,19 +61,19 @@ class SystemClock : public Clock {
     [[nodiscard]] QDateTime now() const override { return QDateTime::currentDateTime(); }
 };
 
-/// When events run inside a command, in milliseconds.
+/// How often events run inside a command, in milliseconds.
 struct Pace {
-    qint64 patience = 60; ///< of a command before events run inside it: most have ended by then
-    qint64 yields = 50;   ///< from one run of events to the next
-    /// From one look at half-done work to the next; twice that to the first, since a flash helps nobody.
+    qint64 patience = 60; ///< from the start of a command to the first run of events; most commands end sooner
+    qint64 yields = 50;   ///< between two runs of events
+    /// Between two displays of unfinished work. The first comes after twice that time, to avoid a flash.
     qint64 frames = 100;
 };
 
-/// Lets events run inside a command at a pace. Looks at a coarse clock, so that a call costs next to nothing.
+/// Runs events inside a command at a pace. Uses a coarse clock, so that a call costs almost nothing.
 class PacedYield : public EventYield {
   public:
     explicit PacedYield(Pace pace) : pace_(pace) {}
-    /// A command begins: what the user has typed meanwhile waits for its end, if that comes soon.
+    /// Called when a command begins. Inputs of the user wait for its end if that comes soon.
     void begin();
     void yield() override;
     [[nodiscard]] bool frameDue() override;

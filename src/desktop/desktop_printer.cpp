@@ -25,7 +25,7 @@ bool isPdf(const QString& printer) {
     return same(printer, pdfName);
 }
 
-/// Keeps the pages until the user has seen them.
+/// Keeps the pages until the user has seen the preview.
 class PreviewedOutput : public PageOutput {
   public:
     using Approval = std::function<bool(const std::vector<paper::Page>& pages)>;
@@ -52,7 +52,7 @@ class PreviewedOutput : public PageOutput {
 
 } // namespace
 
-/// A printer of the platform that is called "PDF" does no more than ours.
+/// Leaves out a printer of the platform named "PDF": it does no more than ours.
 QStringList DesktopPrinter::names() const {
     QStringList names = QPrinterInfo::availablePrinterNames();
     names.removeIf(isPdf);
@@ -77,7 +77,7 @@ void DesktopPrinter::choose(const QString& name) {
     }
 }
 
-/// Null if no file is wanted.
+/// The output to a PDF file; null if the user cancels the dialog.
 std::unique_ptr<PageOutput> DesktopPrinter::toPdf() {
     QString path = files_.save(pdfFilter, Ricopertura::ChiedeIlDialogo);
     if (path.isEmpty())

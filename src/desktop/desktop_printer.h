@@ -1,5 +1,5 @@
-// The printers of the desktop: the platform's, and "PDF", which asks for its file. With the preview a document waits
-// whole for the user's word.
+// The printers of the desktop: the platform's, and "PDF", which asks for its file. With the preview, all pages are kept
+// until the user decides.
 #pragma once
 
 #include <functional>
@@ -12,10 +12,11 @@ namespace vanzer::desktop {
 
 class DesktopPrinter : public PagePrinter, public BeforeWindow {
   public:
-    /// `files` is asked for the file of a PDF, `clock` for the time that it tells; both outlive the printer.
+    /// `files` asks for the file of a PDF, `clock` gives its time; both must outlive the printer.
     DesktopPrinter(FileDialogs& files, const Clock& clock) : files_(files), clock_(clock) {}
 
-    /// Why no PDF may have a name, as the end of a sentence; empty if it is free. Without it every name is.
+    /// Returns why no PDF may be written to a path, in Italian, as the end of a sentence; empty if it may. Without this
+    /// function every path is allowed.
     std::function<QString(const QString& path)> nomeRiservato;
 
     [[nodiscard]] QStringList names() const override;

@@ -30,7 +30,7 @@ bool changesColours(const QEvent& event) {
     }
 }
 
-/// Lays the ground of a field; `tinting` breaks the circle of the palette's own change event.
+/// Sets the background of a field. `tinting` prevents recursion, as setting a palette sends a change event.
 void layGround(QWidget& field, bool computed, bool& tinting) {
     if (tinting || field.parentWidget() == nullptr)
         return;
@@ -40,7 +40,7 @@ void layGround(QWidget& field, bool computed, bool& tinting) {
     tinting = false;
 }
 
-/// The caption in two lines, broken at the blank that leaves them most alike.
+/// The caption in two lines, broken at the blank that makes their lengths most similar.
 QString twoLines(const QString& caption) {
     qsizetype best = -1;
     for (qsizetype at = caption.indexOf(u' '); at >= 0; at = caption.indexOf(u' ', at + 1)) {

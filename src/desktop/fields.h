@@ -1,5 +1,5 @@
-// Widgets of the forms that the toolkit lacks: fields as wide as a number of characters, a list that can show a text
-// beside its entries, a button with two lines, the notice and the bar of the progress line.
+// Widgets that Qt lacks: fields as wide as a number of characters, a drop-down list whose text need not be an entry, a
+// button with two lines, the notice and the bar of the progress line.
 #pragma once
 
 #include <QComboBox>
@@ -10,7 +10,7 @@
 
 namespace vanzer::desktop {
 
-/// One line of text, `characters` digits wide; read-only ones are grey, the others light blue.
+/// One line of text, `characters` digits wide. Read-only fields are grey, others light blue.
 class Field : public QLineEdit {
     Q_OBJECT
     Q_PROPERTY(int characters READ characters WRITE setCharacters)
@@ -39,7 +39,7 @@ class DropDown : public QComboBox {
     explicit DropDown(QWidget* parent = nullptr);
     [[nodiscard]] int characters() const { return characters_; }
     void setCharacters(int n);
-    /// The text stays, and the entry that bears it is the chosen one.
+    /// Replaces the entries. The text stays, and an entry equal to it is selected.
     void showEntries(const QStringList& entries);
     void showText(const QString& text);
     [[nodiscard]] const QString& shownText() const { return text_; }
@@ -51,7 +51,7 @@ class DropDown : public QComboBox {
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    /// A wheel that passes by changes nothing and gives no focus: only the list that has it turns.
+    /// The wheel changes only a list that has the focus, and never gives focus.
     void wheelEvent(QWheelEvent* event) override;
 
   private:
@@ -61,7 +61,7 @@ class DropDown : public QComboBox {
     bool tinting_ = false;
 };
 
-/// A button whose caption runs over two lines.
+/// A button with a caption in two lines.
 class TwoLineButton : public QPushButton {
     Q_OBJECT
   public:
@@ -73,7 +73,7 @@ class TwoLineButton : public QPushButton {
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// A button with nothing but a "?": as small as can be hit. A click leaves the focus where it is.
+/// A small button with a "?". A click doesn't move the focus.
 class HelpButton : public QPushButton {
     Q_OBJECT
   public:
@@ -85,8 +85,8 @@ class HelpButton : public QPushButton {
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 };
 
-/// A text that gives way: what has no room is left out in its middle, of a hint at its end. Another text moves nothing
-/// else in the window.
+/// A label that shortens its text to its width: in the middle, a hint at its end. Its text never changes the layout of
+/// the window.
 class ShortenedLabel : public QWidget {
     Q_OBJECT
     Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment)
@@ -94,7 +94,7 @@ class ShortenedLabel : public QWidget {
     explicit ShortenedLabel(QWidget* parent = nullptr) : QWidget(parent) {}
     void setText(const QString& text);
     [[nodiscard]] const QString& text() const { return text_; }
-    /// In place of the text `idle` a hint is shown, if there is one.
+    /// While the text equals `idle`, the hint is shown instead, if there is one.
     void setIdle(const QString& idle) { idle_ = idle; }
     void setHint(const QString& hint);
     [[nodiscard]] const QString& shown() const;
@@ -112,7 +112,7 @@ class ShortenedLabel : public QWidget {
     Qt::Alignment alignment_ = Qt::AlignLeft | Qt::AlignVCenter;
 };
 
-/// A strip of the window as high as what it holds; one that is too wide for the window can be pushed aside.
+/// A strip of the window, as high as its contents. If these are too wide for the window, it scrolls sideways.
 class WideStrip : public QScrollArea {
     Q_OBJECT
   public:
@@ -124,8 +124,8 @@ class WideStrip : public QScrollArea {
     void resizeEvent(QResizeEvent* event) override;
 };
 
-/// A notice beside the progress line, on a ground of its own; screen readers tell it when it comes up. Without a text
-/// it takes no room.
+/// A notice beside the progress line, with a background of its own. Screen readers announce it when it appears. Without
+/// a text it takes no room.
 class Notice : public QLabel {
     Q_OBJECT
   public:
@@ -141,7 +141,7 @@ class PercentBar : public QWidget {
     Q_OBJECT
   public:
     explicit PercentBar(QWidget* parent = nullptr) : QWidget(parent) {}
-    /// `share` from 0 to 1.
+    /// Shows a share, from 0 to 1, and a text.
     void show(double share, const QString& text);
     [[nodiscard]] double share() const { return share_; }
     [[nodiscard]] const QString& text() const { return text_; }

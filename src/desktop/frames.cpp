@@ -25,7 +25,7 @@ namespace vanzer::desktop {
 
 namespace {
 
-/// What lies over the table has an outline around all of it, with its caption inside.
+/// A frame over the table: with an outline around the whole frame and the caption inside.
 class FrameBox : public QGroupBox {
   public:
     using QGroupBox::QGroupBox;
@@ -56,7 +56,7 @@ template<typename Design> QWidget* made(QWidget& window) {
     return frame;
 }
 
-/// The choice of the printer, then the waiting note are over all others.
+/// The choice of the printer and the waiting note come last, over all others.
 constexpr std::array<DisegnoRiquadro, 12> designs{{{u"frmPrimiPassi", made<Ui::FramePrimiPassi>},
                                                    {u"frmLinea", made<Ui::FrameLinea>},
                                                    {u"frmframe(12)", made<Ui::Frame12>},
@@ -78,9 +78,9 @@ constexpr std::array<std::pair<const char*, Posto>, 7> places{{{"fianco", Posto:
                                                                {"piede", Posto::Piede},
                                                                {"tabella", Posto::Tabella}}};
 
-constexpr int inset = 12;   // px between the table's edge and what lies over it
-constexpr int numbers = 31; // px of the table's numbers that stay in view beside a list
-constexpr int head = 8;     // px of its head row
+constexpr int inset = 12;   // px between the edges of the table and of a frame over it
+constexpr int numbers = 31; // px of the table's row numbers that stay visible beside a list
+constexpr int head = 8;     // px of the head row that stay visible
 
 } // namespace
 
@@ -117,7 +117,7 @@ QRect frameRect(const QWidget& frame, const QRect& table, const QRect& whole, co
         break;
     default: rect.moveCenter(table.center());
     }
-    // One that is higher than the table rises over what is above it.
+    // A frame that is higher than the table covers what is above the table.
     rect.moveBottom(std::min(rect.bottom(), whole.bottom()));
     rect.moveTop(std::max(rect.top(), whole.top()));
     return rect;

@@ -1,5 +1,5 @@
-// The frames that come up over or beside the table. Each is a form of its own; a new one needs its form, a line in the
-// list of frames.cpp and, in the form, the property "posto" that says where it comes up.
+// The frames that appear over or beside the table. Each has a form of its own. A new frame needs a form, whose property
+// "posto" says where it appears, and a line in the list in frames.cpp.
 #pragma once
 
 #include <span>
@@ -8,25 +8,26 @@
 
 namespace vanzer::desktop {
 
-/// Where a frame comes up: beside the table on the right, below it, or over its left part, middle, right part or foot.
+/// Where a frame appears: to the right of the table, below it, or over its left part, middle, right part, bottom or the
+/// whole table.
 enum class Posto { Fianco, Sotto, Sinistra, Centro, Destra, Piede, Tabella };
 
 struct DisegnoRiquadro {
     const char16_t* control;           ///< the frame's name among the controls
-    QWidget* (*make)(QWidget& window); ///< its form, as a hidden child of the window
+    QWidget* (*make)(QWidget& window); ///< makes its form, as a hidden child of the window
 };
 
-/// The frames. Of two that lie over each other the later one is on top.
+/// All frames. A later one covers an earlier one.
 [[nodiscard]] std::span<const DisegnoRiquadro> frameDesigns();
 
-/// What the frame's form says; over the middle if it says nothing.
+/// Where the frame's form places it; Centro if the form has no such property.
 [[nodiscard]] Posto posto(const QWidget& frame);
 
-/// The height that a frame needs when it is `width` wide.
+/// The height in pixels that a frame needs if it is `width` pixels wide.
 [[nodiscard]] int frameHeight(const QWidget& frame, int width);
 
-/// Where a frame lies. `table` is the table as it is, `whole` the window without its margins, `side` the room beside
-/// the table, which frames there share: the later one covers the earlier.
+/// The rectangle of a frame, in pixels. `table` is the table, `whole` the window without its margins, `side` the room
+/// beside the table. Frames beside the table share that room; a later one covers an earlier one.
 [[nodiscard]] QRect frameRect(const QWidget& frame, const QRect& table, const QRect& whole, const QRect& side);
 
 } // namespace vanzer::desktop

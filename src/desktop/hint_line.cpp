@@ -7,7 +7,7 @@ namespace vanzer::desktop {
 
 namespace {
 
-/// A part of a control has the control's.
+/// The hint for a widget: its tool tip, or that of the widget around it.
 QString hintOf(const QWidget* widget) {
     while (widget != nullptr && widget->toolTip().isEmpty())
         widget = widget->parentWidget();
@@ -21,7 +21,7 @@ HintLine::HintLine(QWidget& window, ShortenedLabel& label) : window_(window), la
     connect(qApp, &QApplication::focusChanged, this, &HintLine::tell);
 }
 
-/// The mouse enters from the outer widget to the inner one, and leaves in the other order.
+/// Enter events go from outer to inner widgets, leave events from inner to outer.
 bool HintLine::eventFilter(QObject* watched, QEvent* event) {
     const QEvent::Type type = event->type();
     if (type != QEvent::Enter && type != QEvent::Leave)

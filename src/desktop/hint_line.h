@@ -1,4 +1,4 @@
-// What the control is for that the user looks at, told in the status line while nothing runs.
+// Shows a hint about a control in the status line while nothing runs.
 #pragma once
 
 #include <QObject>
@@ -9,11 +9,11 @@
 
 namespace vanzer::desktop {
 
-/// The hint is the tool tip of the control under the mouse, else of the one that has the focus.
+/// The hint is the tool tip of the control under the mouse, or else of the control with the focus.
 class HintLine : public QObject {
     Q_OBJECT
   public:
-    /// Watches the widgets of `window`; both live longer than the line.
+    /// Watches the widgets of `window`. Window and label must outlive this object.
     HintLine(QWidget& window, ShortenedLabel& label);
     bool eventFilter(QObject* watched, QEvent* event) override;
 

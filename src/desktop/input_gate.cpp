@@ -13,12 +13,12 @@ namespace vanzer::desktop {
 
 namespace {
 
-constexpr int lookAgain = 20; // ms, where a command ends outside an input, such as the start
+constexpr int lookAgain = 20; // ms; for commands that end outside an input, such as the start
 
 enum class Input { None, Waits, Vanishes };
 
-/// What becomes of an event of the user's hand while a command is at work. A wheel, a menu of the mouse, something that
-/// is dragged in are of the moment.
+/// What happens to an input while a command runs. The wheel, context menus and drags are dropped: later they would make
+/// no sense.
 Input kind(const QEvent& event) {
     switch (event.type()) {
     case QEvent::MouseButtonPress:
@@ -47,7 +47,7 @@ InputGate::InputGate(MainWindow& window) : window_(window) {
     QApplication::instance()->installEventFilter(this);
 }
 
-/// Behind what still waits new input waits too, so that it stays in order.
+/// True if new input must wait: a command runs, or earlier input still waits, so that the order is kept.
 bool InputGate::closed() const {
     return window_.form().comandoInCorso || (!waiting_.empty() && !delivering_);
 }
@@ -77,7 +77,7 @@ bool InputGate::eventFilter(QObject* watched, QEvent* event) {
     const bool own = widget != nullptr ? widget->window() == &window_ : watched == window_.windowHandle();
     if (!own)
         return false;
-    // A letter that reaches a button waits as the key that it is.
+    // Accepting this makes an Alt letter arrive as a key press, which then waits like any other key.
     if (event->type() == QEvent::ShortcutOverride && !stopsWork(window_.form(), window_.form().cmdEsce)) {
         event->accept();
         return true;

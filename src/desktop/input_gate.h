@@ -1,5 +1,5 @@
-// Keeps the user's hand out while a command is at work: presses, keys and clicks wait for its end, in their order. What
-// interrupts the work gets through.
+// Holds inputs back while a command runs: keys and clicks wait for its end, in their order. Inputs that interrupt the
+// command pass.
 #pragma once
 
 #include <deque>
@@ -17,7 +17,7 @@ class MainWindow;
 class InputGate : public QObject {
     Q_OBJECT
   public:
-    /// Stands before all input of the application; what isn't the window's own passes.
+    /// Filters all input of the application. Inputs for other windows pass.
     explicit InputGate(MainWindow& window);
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -1,11 +1,11 @@
-// The codes by which the models know the keys.
+// The key codes that the models use.
 #pragma once
 
 #include <Qt>
 
 namespace vanzer::desktop {
 
-/// Arrows up and down and the page keys, which move from row to row; 0 for every other key.
+/// The code of a key that moves between rows (arrow up or down, page keys); 0 for every other key.
 constexpr int rowKeyCode(int key) {
     switch (key) {
     case Qt::Key_PageUp: return 33;

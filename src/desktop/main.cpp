@@ -23,9 +23,9 @@ using namespace vanzer;
 
 constexpr int failed = 1;
 
-/// What the arguments ask for.
+/// The arguments of the program.
 struct Request {
-    QString directory; ///< of the archive
+    QString directory; ///< directory of the archive
     QString trips;     ///< a file to import from; empty for none
 };
 
@@ -64,7 +64,7 @@ int run(int argc, char** argv, const SegnaliDiFine& asked) {
     const Request request = requested(argomentiComeTesto(argc, argv));
     if (const QString warning = desktop::skipUnreadableSettings(); !warning.isEmpty())
         QMessageBox::warning(nullptr, QApplication::applicationName(), warning);
-    // Relative paths are taken from the archive's directory. One that isn't there is told by the window.
+    // Relative paths start at the archive's directory. If that doesn't exist, the window reports it.
     static_cast<void>(QDir::setCurrent(request.directory));
     desktop::SystemClock clock;
     desktop::Program program(

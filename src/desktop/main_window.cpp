@@ -28,7 +28,7 @@ constexpr QSize firstSize{1280, 720};
 constexpr QSize leastSize{320, 240};
 const QString placeKey = QStringLiteral("finestra/posto");
 
-/// The frame of the window that a widget stands in.
+/// The outermost frame around a widget.
 const QWidget* outerFrame(const QWidget* widget) {
     const QWidget* outermost = nullptr;
     for (; widget != nullptr; widget = widget->parentWidget()) {
@@ -38,7 +38,7 @@ const QWidget* outerFrame(const QWidget* widget) {
     return outermost;
 }
 
-/// The letter that reaches a button or a label's field.
+/// The Alt letter of a button or of a label's field.
 QKeySequence mnemonic(const QWidget& widget) {
     if (const auto* const button = qobject_cast<const QAbstractButton*>(&widget))
         return button->shortcut();
@@ -46,7 +46,8 @@ QKeySequence mnemonic(const QWidget& widget) {
     return label == nullptr || label->buddy() == nullptr ? QKeySequence() : QKeySequence::mnemonic(label->text());
 }
 
-/// What a frame's form names to begin with: a widget, or the chosen one of an array of options.
+/// The widget that a frame's form names as the first to get the focus: a widget, or the selected one of an array of
+/// options.
 QWidget* firstOf(const QWidget& frame) {
     const QString name = frame.property("fuoco").toString();
     for (auto* const option : frame.findChildren<QRadioButton*>()) {
@@ -87,7 +88,7 @@ MainWindow::MainWindow(Form& form)
 
 MainWindow::~MainWindow() {
     form_.onManuale = {};
-    hints_.reset(); // the mouse leaves widgets that go
+    hints_.reset(); // first: destroying widgets sends leave events
 }
 
 void MainWindow::showManual() {
@@ -136,7 +137,7 @@ bool MainWindow::isThere(const QWidget* frame) {
     return frame != nullptr && !frame->isHidden();
 }
 
-/// Brings what got the focus into view, unless the mouse gave it: nothing moves under a click.
+/// Scrolls to the widget that got the focus, except after a click: nothing must move under the mouse.
 void MainWindow::scrollTo(QWidget* /*before*/, QWidget* focused) const {
     if (focused == nullptr || !contents_.isAncestorOf(focused) || QApplication::mouseButtons() != Qt::NoButton)
         return;
@@ -146,7 +147,7 @@ void MainWindow::scrollTo(QWidget* /*before*/, QWidget* focused) const {
     }
 }
 
-/// What the fixed forms and the frames that are there need to be whole.
+/// The size at which the fixed forms and all visible frames fit.
 QSize MainWindow::neededSize() const {
     const QLayout& fixed = *contents_.layout();
     const QMargins margins = fixed.contentsMargins();
@@ -160,13 +161,13 @@ QSize MainWindow::neededSize() const {
         if (posto(*frame) == Posto::Fianco)
             own = {0, above + frame->minimumSizeHint().height() + below};
         if (posto(*frame) == Posto::Sotto)
-            own.setHeight(0); // taken from the table
+            own.setHeight(0); // it takes its height from the table
         needed = needed.expandedTo(own);
     }
     return needed;
 }
 
-/// Frames at the side and below take their room from the table; the others lie over it.
+/// Places the frames. Those beside and below the table take room from it; the others cover it.
 void MainWindow::layOutFrames() {
     const QRect whole = contents_.contentsRect().marginsRemoved(contents_.layout()->contentsMargins());
     int side = 0;
@@ -216,7 +217,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-/// A frame that says where it begins takes the focus when it comes up.
+/// Gives the focus to the first widget of a frame that has just appeared, if its form names one.
 void MainWindow::takeFocus(QWidget& frame) {
     QWidget* const first = firstOf(frame);
     if (first == nullptr)
@@ -235,10 +236,10 @@ void MainWindow::giveFocusBack(QWidget& frame) {
         before->setFocus(Qt::OtherFocusReason);
 }
 
-/// A letter takes the focus to its button and presses it at once, so that what is typed next goes where it should. Of
-/// several that share it the one in the frame that has the focus is meant, else the one that isn't a second choice,
-/// there and then in all the window. One that shares it there with a field's label gets the focus alone, in turn with
-/// the field.
+/// An Alt letter focuses its button and presses it at once, so that the next keys arrive at the right place. If several
+/// buttons share the letter, the one in the frame with the focus counts. Else buttons with the property "secondaScelta"
+/// are left out, first in that frame and then in the whole window. A button that shares its letter with a field's label
+/// in the frame with the focus is only focused, in turn with the field.
 bool MainWindow::pressMnemonic(QWidget& widget, bool ambiguous) {
     QAbstractButton* const meant = ambiguous ? meantBy(widget) : qobject_cast<QAbstractButton*>(&widget);
     if (meant == nullptr)
@@ -289,7 +290,7 @@ QAbstractButton* MainWindow::meantBy(const QWidget& widget) const {
     return only(first);
 }
 
-/// Presses the button that has the focus, else the one that Enter is for.
+/// Presses the button that has the focus, or else the default button.
 void MainWindow::pressEnter() {
     QWidget* const focused = focusWidget();
     if (auto* const button = qobject_cast<QPushButton*>(focused); button != nullptr && button->isEnabled()) {
@@ -321,13 +322,13 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::restorePlace() {
     restoreGeometry(QSettings().value(placeKey).toByteArray());
-    // A place that was stored badly may be nowhere.
+    // The stored position may be on no screen.
     if (QApplication::screenAt(geometry().center()) == nullptr)
         move(screen()->availableGeometry().topLeft());
     fitScreen();
 }
 
-/// Nobody knows yet how much the window's own frame takes: about a title bar.
+/// Limits the size to the screen. The size of the window's border isn't known yet; a title bar is a good guess.
 void MainWindow::fitScreen() {
     const QSize room = screen()->availableGeometry().size() - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
     if (size() == size().boundedTo(room))

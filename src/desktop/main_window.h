@@ -1,5 +1,5 @@
-// The window: the fixed forms, the frames laid over and beside the table, and what belongs to a window as such: Enter,
-// Esc, the close button, size and place.
+// The window: the fixed forms, the frames over and beside the table, and what every window needs: Enter, Esc, the close
+// button, size and position.
 #pragma once
 
 #include <map>
@@ -24,16 +24,16 @@ namespace vanzer::desktop {
 class MainWindow : public QWidget {
     Q_OBJECT
   public:
-    /// The form lives longer than the window.
+    /// `form` must outlive the window.
     explicit MainWindow(Form& form);
     ~MainWindow() override;
 
     [[nodiscard]] Binder& binder() { return binder_; }
     [[nodiscard]] Form& form() { return form_; }
-    /// An Alt letter whose key comes late presses its button, or goes to its field, all the same; false if nothing in
-    /// sight has it.
+    /// Handles an Alt letter whose key press was delayed: presses its button or moves the focus to its field. False if
+    /// no visible widget has that letter.
     bool pressLetter(const QKeyEvent& key);
-    /// Size and place of the last time; the window's own without any. What is larger than the screen fills it.
+    /// Restores size and position of the last session, if any. A window larger than the screen is maximised.
     void restorePlace();
 
   protected:
@@ -46,7 +46,7 @@ class MainWindow : public QWidget {
     void addFrames();
     [[nodiscard]] QWidget& arranged(QWidget& frame);
     [[nodiscard]] static bool isThere(const QWidget* frame);
-    /// Watches the letters of a form, whose labels show plain texts.
+    /// Prepares a form: watches its Alt letters and makes its labels show plain text.
     void takeIn(QWidget& form);
     void layOutFrames();
     [[nodiscard]] QSize neededSize() const;
@@ -62,14 +62,14 @@ class MainWindow : public QWidget {
 
     Form& form_;
     std::unique_ptr<Ui::MainWindow> ui_;
-    QWidget& contents_;                                  ///< all of the window
-    std::vector<QWidget*> frames_;                       ///< over and beside the table; null until they are seen
-    std::map<const QWidget*, QPointer<QWidget>> before_; ///< what had the focus before a frame took it
+    QWidget& contents_;            ///< all contents of the window
+    std::vector<QWidget*> frames_; ///< frames over and beside the table; null before they are first shown
+    std::map<const QWidget*, QPointer<QWidget>> before_; ///< the widget that had the focus before a frame took it
     QPointer<ManualWindow> manual_;
-    bool closeWaits_ = false; ///< the window is to be left when the running command has ended
+    bool closeWaits_ = false; ///< close the window when the running command has ended
     Binder binder_;
     std::unique_ptr<HintLine> hints_;
-    /// Of the contents, of which a small window shows a part; goes first, while all are watched.
+    /// Scrolls the contents in a small window. Last member, so that it is destroyed first, while the rest still exists.
     QScrollArea area_{this};
 };
 

@@ -14,9 +14,9 @@ namespace vanzer::desktop {
 namespace {
 
 constexpr QSize manualSize{1000, 760};
-constexpr int deepestChapter = 2; // level of the headings in the list
+constexpr int deepestChapter = 2; // lowest heading level in the list of chapters
 
-/// The page as a reader sees it: its comments, which hold what the tests do, are left out.
+/// The text of the manual without its comments, which are for the tests.
 QString manualText() {
     QFile file(QStringLiteral(":/manuale/manuale.md"));
     if (!file.open(QIODevice::ReadOnly))
@@ -26,7 +26,7 @@ QString manualText() {
     return QString::fromUtf8(file.readAll()).remove(comment);
 }
 
-/// The manual with its pictures scaled to the width that the text has. Nothing is loaded that doesn't come with it.
+/// Shows the manual with its pictures scaled to the text's width. Loads nothing but the manual's own resources.
 class Pages : public QTextBrowser {
   public:
     using QTextBrowser::QTextBrowser;
@@ -105,7 +105,7 @@ void ManualWindow::goTo(int chapter) {
     bar.setValue(bar.value() + text_->cursorRect(cursor).top());
 }
 
-/// Goes round at the end; what isn't there at all leaves the text where it is.
+/// Searches and wraps around at the end. Doesn't move if nothing is found.
 void ManualWindow::find(bool backward) {
     const QTextDocument::FindFlags flags = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
     if (wanted_->text().isEmpty() || text_->find(wanted_->text(), flags))

@@ -1,4 +1,4 @@
-// The manual: a window of its own beside the program's, so that one can read and do.
+// The manual, in a window of its own, so that the user can read it while working.
 #pragma once
 
 #include <QLineEdit>
@@ -21,7 +21,7 @@ class ManualWindow : public QWidget {
     QListWidget* chapters_;
     QTextBrowser* text_;
     QLineEdit* wanted_;
-    std::vector<int> blocks_; ///< of each chapter: its first block in the text
+    std::vector<int> blocks_; ///< first text block of each chapter
 };
 
 } // namespace vanzer::desktop

@@ -26,7 +26,7 @@ QPen pen(double width, paper::Colour colour = paper::black) {
     return {QColor::fromRgb(colour), width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
 }
 
-/// Texts are drawn in one large size and scaled from there, without hints for any resolution.
+/// Draws a text in one large font size and scales it, so that hinting has no effect.
 void draw(const paper::DrawnText& text, QPainter& painter) {
     constexpr int emPixels = 1000;
     QFont font(text.font.family);
@@ -79,7 +79,7 @@ void draw(const paper::DrawnPath& path, QPainter& painter) {
         return;
     }
     QPen stroke = pen(path.stroke->width, path.colour);
-    QList<double> inWidths; // how a pen counts its dashes
+    QList<double> inWidths; // a pen's dashes are in units of its width
     for (const double dash : path.stroke->dashes)
         inWidths << dash / path.stroke->width;
     if (!inWidths.isEmpty())
@@ -87,7 +87,7 @@ void draw(const paper::DrawnPath& path, QPainter& painter) {
     painter.strokePath(traced, stroke);
 }
 
-/// The sheet's corner lies at the painter's origin; `perMm` of its units are one mm.
+/// Draws a page. The sheet's top left corner is at the painter's origin, and `perMm` units are one mm.
 void replay(const paper::Page& page, QPainter& painter, double perMm) {
     painter.save();
     painter.scale(perMm, perMm);
@@ -98,14 +98,14 @@ void replay(const paper::Page& page, QPainter& painter, double perMm) {
     painter.restore();
 }
 
-/// A painter stands on the printer from the first page to the end.
+/// Keeps a painter on the printer from the first page to the end.
 class PaperOutput : public PageOutput {
   public:
     explicit PaperOutput(const QString& name) : name_(name), printer_(QPrinter::HighResolution) {
         if (!known())
             throw error();
         printer_.setPrinterName(name);
-        printer_.setFullPage(true); // positions count from the sheet's corner, not from the printer's margins
+        printer_.setFullPage(true); // positions are from the sheet's corner, not from the printer's margins
         printer_.setPageLayout(upright());
         printer_.setFullPage(true);
         printer_.setDocName(QCoreApplication::applicationName());
@@ -129,7 +129,7 @@ class PaperOutput : public PageOutput {
 
   private:
     [[nodiscard]] bool known() const { return !QPrinterInfo::printerInfo(name_).isNull(); }
-    /// False once a page that was written has not arrived.
+    /// False after a page failed to print.
     [[nodiscard]] bool arrives() const { return printer_.printerState() != QPrinter::Error; }
     [[nodiscard]] PrinterError error() const {
         return {QStringLiteral("La stampante %1 non risponde: il documento non è stato stampato.").arg(name_)};
@@ -137,7 +137,7 @@ class PaperOutput : public PageOutput {
 
     QString name_;
     QPrinter printer_;
-    QPainter painter_; ///< ends before its device goes
+    QPainter painter_; ///< must be destroyed before the printer
 };
 
 } // namespace

@@ -1,4 +1,4 @@
-// The platform's printers.
+// Prints pages on the platform's printers.
 #pragma once
 
 #include <memory>
@@ -7,7 +7,7 @@
 
 namespace vanzer::desktop {
 
-/// The printer of that name.
+/// The output to the printer of that name.
 [[nodiscard]] std::unique_ptr<PageOutput> paperOutput(const QString& printer);
 
 } // namespace vanzer::desktop

@@ -1,12 +1,12 @@
-// Texts of the user's are shown as they are written, whatever stands in them.
+// Shows texts of the user literally, even if they look like mark-up.
 #pragma once
 
 #include <QString>
 
 namespace vanzer::desktop {
 
-/// The text for a place that takes mark-up where it finds some, such as a tool tip: it is shown as it is written there,
-/// and loads nothing.
+/// Escapes a text for a widget that would interpret mark-up, such as a tool tip. It is then shown literally and loads
+/// nothing.
 [[nodiscard]] QString testoSemplice(const QString& text);
 
 } // namespace vanzer::desktop

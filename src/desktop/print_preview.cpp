@@ -22,9 +22,9 @@ namespace {
 const QString wishKey = QStringLiteral("stampa/anteprima");
 
 constexpr QSizeF sheetSize(paper::sheetSize.x, paper::sheetSize.y); // mm
-constexpr int around = 12;                                          // px of ground around the sheet
+constexpr int around = 12;                                          // px of background around the sheet
 constexpr double zoomStep = 1.25;
-constexpr double smallest = 0.25; // zooms, 1 is the size of the paper
+constexpr double smallest = 0.25; // smallest zoom; 1 is the size of the paper
 constexpr double largest = 4;
 
 } // namespace
@@ -150,7 +150,7 @@ void PrintPreview::goTo(int page, bool atEnd) {
     bar->setValue(atEnd ? bar->maximum() : bar->minimum());
 }
 
-/// What of the page lies outside the dialog comes first, the next page then.
+/// Scrolls to the hidden part of the page first, then turns to the next page.
 void PrintPreview::turn(int steps) {
     QScrollBar* const bar = area_->verticalScrollBar();
     const int before = bar->value();
@@ -199,7 +199,7 @@ void PrintPreview::resizeEvent(QResizeEvent* event) {
         fitWidth();
 }
 
-/// The wheel zooms with Ctrl, else it goes through the pages.
+/// The wheel zooms with Ctrl and turns pages without.
 bool PrintPreview::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::Wheel)
         return QDialog::eventFilter(watched, event);

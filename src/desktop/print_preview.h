@@ -1,4 +1,4 @@
-// The preview: the pages of a document before it goes off, and the check box that asks for it.
+// The preview of a document before it is printed, and the check box that enables it.
 #pragma once
 
 #include <vector>
@@ -14,23 +14,23 @@
 
 namespace vanzer::desktop {
 
-/// Whether the user wants to see documents first; remembered from one start to the next.
+/// True if the user wants a preview; stored in the settings.
 [[nodiscard]] bool previewWanted();
 
-/// The check box of that wish.
+/// The check box for that setting.
 class PreviewCheck : public QCheckBox {
     Q_OBJECT
   public:
     explicit PreviewCheck(QWidget* parent = nullptr);
 };
 
-/// One page on a ground of grey, as large as its zoom makes it.
+/// One page on a grey background, in the size of its zoom.
 class PageView : public QWidget {
     Q_OBJECT
   public:
-    /// `fonts` lives longer.
+    /// `fonts` must outlive the view.
     explicit PageView(paper::Fonts& fonts, QWidget* parent = nullptr) : QWidget(parent), fonts_(fonts) {}
-    /// `page` stays where it is while it is shown.
+    /// Shows a page. `page` must exist while it is shown.
     void show(const paper::Page& page, double pixelsPerMm);
 
   protected:
@@ -42,11 +42,11 @@ class PageView : public QWidget {
     double pixelsPerMm_ = 1;
 };
 
-/// Accepted when the document is to go off.
+/// The dialog of the preview. It is accepted if the document is to be printed.
 class PrintPreview : public QDialog {
     Q_OBJECT
   public:
-    /// `pages`, at least one, and `fonts` live longer than the dialog. `printer` is named in the title.
+    /// `pages` needs at least one page; `pages` and `fonts` must outlive the dialog. The title shows `printer`.
     PrintPreview(const std::vector<paper::Page>& pages, paper::Fonts& fonts, const QString& printer, QWidget* parent);
 
   protected:
@@ -68,7 +68,7 @@ class PrintPreview : public QDialog {
     void zoomTo(double pixelsPerMm);
     void showPage();
 
-    /// What the zoom follows when the dialog changes its size.
+    /// What the zoom adapts to when the dialog is resized.
     enum class Fit { Page, Width, Free };
 
     const std::vector<paper::Page>& pages_;

@@ -12,12 +12,12 @@ namespace vanzer::desktop {
 
 namespace {
 
-constexpr int slowStart = 300; // ms; a start that takes longer shows its window before the end
+constexpr int slowStart = 300; // ms; a slower start shows the window before it has ended
 
-constexpr int draftDelay = 9000; // ms; with the time that a disk takes, a draft is ten seconds behind at most
-constexpr int endingStep = 20;   // ms, from one look to the next whether a command has ended
+constexpr int draftDelay = 9000; // ms; with the time to write it, the draft is at most ten seconds old
+constexpr int endingStep = 20;   // ms between two checks whether a command has ended
 
-/// The user's choice in the leg editor, which holds to the next start.
+/// The user's choice in the leg editor, kept in the settings.
 const QString totalsKey = QStringLiteral("tappe/kmProgressivi");
 
 } // namespace
@@ -54,7 +54,7 @@ void Program::keepDrafts() {
         draftBehind_.stop();
         draft_.wasLeft();
     });
-    // A session that ends asks nothing: it may go on after all, and then so does the window.
+    // No questions at the end of a desktop session: it may be cancelled, and then the program goes on.
     const auto keepNow = [this] {
         draft_.keep();
         draft_.wait();
@@ -84,7 +84,7 @@ void Program::end() {
     goOnEnding();
 }
 
-/// One box at a time, since each has an event loop of its own; what is asked next is looked at in the next step.
+/// Closes one box at a time, since each has its own event loop. The next step handles the next box.
 void Program::goOnEnding() {
     const bool working = form_->comandoInCorso;
     if (!working)

@@ -1,4 +1,4 @@
-// The whole program on a desktop: ports, form and window, put together.
+// The whole program on a desktop: connects ports, form and window.
 #pragma once
 
 #include <memory>
@@ -16,18 +16,18 @@ namespace vanzer::desktop {
 
 class Program {
   public:
-    /// `clock` and `opener` live longer than the program; without an opener files are opened by the desktop.
+    /// `clock` and `opener` must outlive the program. Without an opener the desktop opens files.
     Program(const Ambiente& surroundings, Clock& clock, Pace pace = {}, FileOpener* opener = nullptr);
 
-    /// Opens the archive, shows the window and offers the work that was left in a draft; false if the user has been
-    /// told why that can't be, or the program is to end.
+    /// Opens the archive, shows the window and offers to restore a draft. False if that failed and the user was told
+    /// why, or if the program is to end.
     [[nodiscard]] bool start();
 
-    /// Offers the trips of a file for an import.
+    /// Opens the import with the trips of a file.
     void openTrips(const QString& path);
 
-    /// Ends the program without a question: a command at work is stopped or ends, boxes go as by Esc, and what isn't
-    /// stored is kept in the draft. Runs on in the window's events.
+    /// Ends the program without questions. Stops a running command or waits for its end, closes boxes as with Esc, and
+    /// keeps unstored work in the draft. Returns at once; the rest runs in the window's events.
     void end();
 
     [[nodiscard]] Form& form() { return *form_; }
@@ -46,9 +46,9 @@ class Program {
     DesktopPrinter printer_;
     Ports ports_;
     std::unique_ptr<Form> form_;
-    // Told by widgets also while they go.
+    // Members that widgets still use while they are destroyed.
     CustodeBozza draft_;
-    QTimer draftBehind_; ///< runs from the first input that the draft doesn't know
+    QTimer draftBehind_; ///< runs from the first input that isn't in the draft yet
     QTimer ending_;
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<InputGate> gate_;

@@ -15,7 +15,7 @@ namespace vanzer::desktop {
 QString programDirectory() {
     QString own = QCoreApplication::applicationDirPath();
 #ifdef Q_OS_LINUX
-    if (!QFileInfo::exists(own)) { // its name is no text
+    if (!QFileInfo::exists(own)) { // its name isn't valid text
         std::error_code error;
         own = nomeComeTesto(std::filesystem::read_symlink("/proc/self/exe", error).parent_path().c_str());
     }

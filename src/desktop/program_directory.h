@@ -1,12 +1,12 @@
-// Where the archive lies.
+// The archive's directory.
 #pragma once
 
 #include <QString>
 
 namespace vanzer::desktop {
 
-/// The program's directory when it can be written (a copy on a stick), else the user's data directory of the platform,
-/// which is made when it isn't there.
+/// The program's directory if it is writable (a portable copy), else the platform's data directory of the user, which
+/// is made if it doesn't exist.
 [[nodiscard]] QString programDirectory();
 
 } // namespace vanzer::desktop

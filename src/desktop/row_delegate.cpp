@@ -18,7 +18,7 @@ using Tipo = AspettoRiga::Tipo;
 
 constexpr int sideMargin = 5;
 constexpr int stopIndent = 18;
-/// Where kilometres, driving and stops of a line of totals begin, in digits from its left edge.
+/// Where kilometres, driving and stops begin in a line of totals, in widths of a digit from its left edge.
 constexpr std::array<int, 3> totalColumns{2, 18, 56};
 
 bool isTotal(const AspettoRiga& look) {
@@ -113,7 +113,7 @@ void RowDelegate::drawText(QPainter& painter, const Cell& cell) const {
                      fits ? text : metrics.elidedText(text, Qt::ElideRight, rect.width()));
 }
 
-/// Kilometres, driving, stops: parts between tabs, each at the same place in every line.
+/// Draws kilometres, driving and stops, which are separated by tabs, at the same places in every line.
 void RowDelegate::drawTotal(QPainter& painter, const Cell& cell) const {
     const int digit = painter.fontMetrics().horizontalAdvance(u'0');
     const QStringList parts = cell.text.split(u'\t', Qt::SkipEmptyParts);
@@ -126,7 +126,7 @@ void RowDelegate::drawTotal(QPainter& painter, const Cell& cell) const {
     }
 }
 
-/// The first letter of the category on its colour, and its name.
+/// Draws the first letter of the category on the category's colour, and its name.
 void RowDelegate::drawCategory(QPainter& painter, const Cell& cell) const {
     const QString name = cell.text.trimmed();
     const QFontMetrics metrics = painter.fontMetrics();

@@ -1,5 +1,5 @@
-// Draws the cells of a table view: days in bands, their ends ruled off, stops set in, totals on a ground of their own;
-// in the guide places on theirs, and entries with a badge of their category.
+// Draws the cells of a table view. Days alternate in bands and end with a line, stops are indented, totals have a
+// background of their own. In the guide, places have a background and entries have a badge for their category.
 #pragma once
 
 #include <QStyledItemDelegate>

@@ -27,7 +27,7 @@ QString skipUnreadableSettings() {
         impostazioniIllegibili(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
     if (file.isEmpty())
         return {};
-    // No folder: nothing is found there, and nothing stored.
+    // A file instead of a folder: no settings are found and none are stored.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, file);
     return QStringLiteral(
                "Le impostazioni non si possono leggere: %1 non è un file normale. Vanzer parte senza, e non ne "

@@ -1,15 +1,16 @@
-// The file of the user's settings, looked at before anything asks for one.
+// Checks the file of the user's settings before the settings are used.
 #pragma once
 
 #include <QString>
 
 namespace vanzer::desktop {
 
-/// The first file of settings below a folder that can't be read as one: a pipe or a device, for which the program would
-/// wait without end, or too large. Empty if all is well. The names are those of the application.
+/// Path of the first settings file of the application below a folder that can't be used: a pipe or a device, which
+/// could block forever, or a file that is too large. Empty if all are usable.
 [[nodiscard]] QString impostazioniIllegibili(const QString& folder);
 
-/// The program works without settings if its file can't be read; what the user must be told then, else nothing.
+/// Makes the program work without settings if their file can't be used. Returns the message for the user, in Italian,
+/// or an empty text.
 [[nodiscard]] QString skipUnreadableSettings();
 
 } // namespace vanzer::desktop

@@ -36,7 +36,7 @@ class SpokenDropDown : public QAccessibleWidget {
     [[nodiscard]] DropDown& list() const { return *static_cast<DropDown*>(widget()); }
 };
 
-/// The platform deletes what is made.
+/// Makes the accessible interface of a widget. Qt owns the result.
 QAccessibleInterface* made(const QString& /*className*/, QObject* object) {
     if (auto* const notice = qobject_cast<Notice*>(object))
         return new QAccessibleWidget(notice, QAccessible::AlertMessage);

@@ -17,9 +17,9 @@ namespace vanzer::desktop {
 namespace {
 
 constexpr int cellPadding = 12;
-/// Twips of the narrowest left-aligned column that takes its part of the spare room.
+/// Left-aligned columns of at least this width share the spare room, in twips.
 constexpr int flexibleTwips = 900;
-/// Twips of a digit in the font that the grid's layouts were made for.
+/// Width of a digit in the font of the grid's layouts, in twips.
 constexpr int digitTwips = 90;
 
 } // namespace
@@ -79,7 +79,7 @@ void TableView::showLayout() {
     spanTotals();
 }
 
-/// The closing rows of a schedule run over all columns; they are its last ones.
+/// Makes the last rows of a schedule, the totals, span all columns.
 void TableView::spanTotals() {
     if (spanned_ > 0)
         clearSpans();
@@ -121,9 +121,8 @@ bool TableView::flexible(int column) const {
     return grid_->alignment(column) == Allineamento::Sinistra && grid_->columnWidth(column) >= flexibleTwips;
 }
 
-/// The widths of the longest texts of each column, told by their length: the first few of the greatest length that
-/// differ from their forerunner are measured, and of a long table only a part of the rows is looked at. The rows of
-/// totals have the whole width.
+/// Estimates the width of the widest text of each column. Only the first few different texts of the greatest length are
+/// measured, and in a long table only some of the rows. Rows of totals don't count: they span the table.
 void TableView::measureTexts() const {
     constexpr int measuredPerLength = 8;
     constexpr int rowsLookedAt = 500;
@@ -160,13 +159,14 @@ int TableView::headWidth(int column) const {
     return horizontalHeader()->fontMetrics().horizontalAdvance(grid_->cell(0, column)) + cellPadding;
 }
 
-/// The width of the layout, in the measure of the font, and up to half as much again for a text that needs it.
+/// The layout's width of a column in pixels, scaled to the font, and up to half as much more if a text needs it.
 int TableView::ownWidth(int column) const {
     const int laidOut = grid_->columnWidth(column) * QFontMetrics(font()).horizontalAdvance(u'0') / digitTwips;
     return std::max({laidOut, headWidth(column), std::min(textWidth(column) + cellPadding, laidOut * 3 / 2)});
 }
 
-/// Where there is no room a column of long texts keeps this much, and the table scrolls; a list keeps to its frame.
+/// The least width in pixels of a column of long texts. If there is less room, the table scrolls. A list to choose from
+/// may shrink to its headings.
 int TableView::leastWidth(int column) const {
     if (choosing())
         return headWidth(column);
@@ -175,8 +175,8 @@ int TableView::leastWidth(int column) const {
     return std::max(headWidth(column), std::min(textWidth(column) + cellPadding, legible));
 }
 
-/// Columns keep the widths of the layout, in the measure of the font; what is left goes to the columns of long texts,
-/// by what their texts ask for. A list that is chosen from keeps to its layout, so that nothing jumps as rows come and
+/// Sets the column widths. Columns get the widths of the layout, scaled to the font. Columns of long texts share the
+/// rest by what their texts need. A list to choose from uses the layout alone, so that nothing jumps when rows come and
 /// go.
 void TableView::fitColumns() {
     if (grid_ == nullptr)
@@ -241,7 +241,8 @@ bool TableView::choosing() const {
     return property("sceglie").toBool();
 }
 
-/// The arrows move the mark, Enter and the blank are a click on the marked row; every other key is the window's.
+/// Arrow, page, Home and End keys move the mark. Enter and Space act as a click on the marked row. Other keys go to the
+/// window.
 void TableView::pressChoosingKey(QKeyEvent& event) {
     const int last = grid_->rows() - 1;
     const int page = std::max(viewport()->height() / std::max(verticalHeader()->defaultSectionSize(), 1) - 1, 1);
@@ -272,7 +273,7 @@ void TableView::keyPressEvent(QKeyEvent* event) {
         emit keyCode(moving);
 }
 
-/// A text that its cell can't show whole is told beside the mouse.
+/// Shows a tool tip with the text of a cell that is too narrow for it.
 void TableView::tellCell(const QPoint& at) {
     const QModelIndex index = indexAt(at);
     const QString text = index.data().toString();

@@ -1,4 +1,4 @@
-// The grid as the user sees it: the cells of a grid model, with the rows told apart by what they are.
+// The view of a grid, which draws its rows by their kind.
 #pragma once
 
 #include <span>
@@ -17,26 +17,27 @@ class TableView : public QTableView {
   public:
     explicit TableView(QWidget* parent = nullptr);
 
-    /// The grid and the names of the guide's categories live longer than the view.
+    /// `grid` and `categories`, the names of the guide's categories, must outlive the view.
     void setGrid(Grid& grid, std::span<const QString> categories);
     [[nodiscard]] const Grid& grid() const { return *grid_; }
 
-    /// Column widths, current row and top row as the grid has them now.
+    /// Updates column widths, current row and top row from the grid.
     void showLayout();
     void showSelection();
 
-    /// `row` counts from 1, as in the grid.
+    /// The look of a row, from 1 as in the grid.
     [[nodiscard]] const AspettoRiga& look(int row) const;
-    /// Of a block that is chosen in a list the row at hand is marked in full, the others softly.
+    /// True if a selected row is shown in full colour. In a table to choose from this is only the grid's rowAtHand();
+    /// the other rows of the block are fainter.
     [[nodiscard]] bool standsOut(int row) const;
     [[nodiscard]] const Tints& tints() const { return tints_; }
 
   signals:
     void rowClicked(int row);
     void rowDoubleClicked(int row);
-    /// A key moved the mark of a table that is chosen from.
+    /// A key moved the mark in a table to choose from.
     void rowMarked(int row);
-    /// Arrows and page keys: 38, 40, 33, 34.
+    /// An arrow or page key: 38 up, 40 down, 33 page up, 34 page down.
     void keyCode(int code);
     void scrolledTo(int topRow);
 
@@ -47,7 +48,7 @@ class TableView : public QTableView {
     bool viewportEvent(QEvent* event) override;
 
   private:
-    /// The table is chosen from: its form says "sceglie".
+    /// True for a table to choose from: its form sets the property "sceglie".
     [[nodiscard]] bool choosing() const;
     void pressChoosingKey(QKeyEvent& event);
     void fitColumns();
@@ -64,7 +65,7 @@ class TableView : public QTableView {
     Grid* grid_ = nullptr;
     std::span<const QString> categories_;
     Tints tints_;
-    mutable std::vector<int> textWidths_; ///< by column; empty when the texts have changed
+    mutable std::vector<int> textWidths_; ///< pixels, by column; empty after the texts have changed
     mutable std::vector<AspettoRiga> looks_;
     mutable bool looksKnown_ = false;
     bool showing_ = false;

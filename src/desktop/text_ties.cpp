@@ -11,8 +11,8 @@ namespace {
 constexpr int backspace = 8;
 constexpr int firstCharacter = 32;
 
-/// Key-down codes: letters, digits and the blank are their own, the keys that move have those of old; 0 for all other
-/// characters, whose numbers are those of keys that move.
+/// The key-down code of a key. Letters, digits and Space have their character codes, and keys that move the cursor have
+/// codes from 33 on. 0 for other characters, whose codes would be mistaken for such keys.
 int keyDownCode(int key) {
     switch (key) {
     case Qt::Key_End: return 35;
@@ -40,7 +40,7 @@ qsizetype commonStart(const QString& a, const QString& b) {
 QString filteredEdit(const TextControl& model, const QString& old, const QString& edited, int& cursor) {
     const qsizetype start = std::min<qsizetype>(commonStart(old, edited), cursor);
     const qsizetype tail = edited.size() - cursor;
-    // A null text ends with no empty one.
+    // The views must not be null: a null view doesn't end with an empty one.
     if (cursor <= start || tail > old.size() || QStringView(old).last(tail) != QStringView(edited).last(tail))
         return edited;
     QString brought;
@@ -84,7 +84,7 @@ bool TextTie::keyPressed(const QKeyEvent& event) {
         return filtered(backspace) == 0;
     const bool command = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
     const bool character = event.text().size() == 1 && event.text().at(0).unicode() >= firstCharacter;
-    // The letter of a button that is off is no text. (With Ctrl it may be the third level of a keyboard.)
+    // The Alt letter of a disabled button isn't text. (Alt with Ctrl may be AltGr.)
     if (character && event.modifiers().testFlag(Qt::AltModifier) && !event.modifiers().testFlag(Qt::ControlModifier))
         return true;
     return !command && character && event.key() != Qt::Key_Delete && typed(event.text().at(0).unicode());
@@ -96,7 +96,7 @@ int TextTie::filtered(int code) {
     return passed;
 }
 
-/// A key that is dropped leaves a selected text as it is.
+/// Handles a typed key. A dropped key doesn't delete the selected text.
 bool TextTie::typed(int code) {
     if (line_ == nullptr || line_->isReadOnly())
         return false;
@@ -157,7 +157,7 @@ void DropDownTie::showOwn() {
 bool DropDownTie::keyPressed(const QKeyEvent& event) {
     if (TextTie::keyPressed(event))
         return true;
-    // A list that is only picked from has no search by letters; the blank opens it.
+    // Disables the search by letters in a list without typing. Space opens it.
     return model_.entriesOnly() && !event.text().isEmpty() && event.text().at(0) > u' ';
 }
 
@@ -181,7 +181,7 @@ bool ListBoxTie::eventFilter(QObject* watched, QEvent* event) {
             return true;
         }
     }
-    // A list comes up to be picked from.
+    // A list gets the focus when it appears, so that the user can pick at once.
     if (event->type() == QEvent::Show && !marks_)
         view_.setFocus(Qt::OtherFocusReason);
     return Tie::eventFilter(watched, event);

@@ -1,5 +1,5 @@
-// Ties of everything that takes text: entry fields, drop-down lists, list boxes. Each character that the user brings
-// in, typed or pasted, goes through the model's key handler, which may change or drop it.
+// Ties of controls that take text: entry fields, drop-down lists, list boxes. Each character that the user types or
+// pastes goes through the model's key handler, which may change or drop it.
 #pragma once
 
 #include <QKeyEvent>
@@ -11,8 +11,8 @@
 
 namespace vanzer::desktop {
 
-/// `edited` with what it brings into `old` sent through the handler, character by character; `cursor` stays behind the
-/// same character.
+/// Returns `edited` after each character that is new compared to `old` has passed the handler. Adjusts `cursor` so that
+/// it stays after the same character.
 [[nodiscard]] QString filteredEdit(const TextControl& model, const QString& old, const QString& edited, int& cursor);
 
 class TextTie : public Tie {
@@ -22,20 +22,20 @@ class TextTie : public Tie {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   protected:
-    /// True if the key is dealt with.
+    /// Handles a key; true if it is done with.
     virtual bool keyPressed(const QKeyEvent& event);
-    /// Follows a line that the user edits.
+    /// Watches a line edit.
     void follow(QLineEdit& line);
 
   private:
-    /// What the model's handler makes of a key; 0 if it drops it.
+    /// The code of a key after the model's handler; 0 if the key is dropped.
     [[nodiscard]] int filtered(int code);
     bool typed(int code);
     void edited(const QString& text);
 
     TextControl& model_;
-    QLineEdit* line_ = nullptr; ///< null where nothing can be typed
-    bool filtered_ = false;     ///< what comes into the line has been through the handler
+    QLineEdit* line_ = nullptr; ///< null if nothing can be typed
+    bool filtered_ = false;     ///< the text that enters the line has passed the handler already
 };
 
 class FieldTie : public TextTie {
@@ -66,8 +66,8 @@ class DropDownTie : public TextTie {
     QStringList shown_;
 };
 
-/// A list box: a click or Enter picks. Where the form sets "segna" the list only marks what a button then takes: it
-/// comes up with nothing marked, and the arrows mark too.
+/// A list box: a click or Enter picks an entry. If the form sets the property "segna", a click or an arrow key only
+/// marks an entry, which a button then takes. Such a list starts without a mark.
 class ListBoxTie : public Tie {
     Q_OBJECT
   public:

@@ -59,7 +59,7 @@ class OptionTie : public Tie {
     }
 
   protected:
-    /// One that is put on puts its neighbours off by itself.
+    /// Qt switches the neighbours off when one is switched on.
     void showOwn() override {
         option_.setText(model_.caption());
         if (model_.value())
@@ -92,7 +92,7 @@ class NoticeTie : public LabelTie<Notice> {
     [[nodiscard]] bool visible() const override { return Tie::visible() && !caption().isEmpty(); }
 };
 
-/// A frame that another one holds may have its form elsewhere in the window, and follows that one all the same.
+/// The form of an inner frame may be elsewhere in the window. Its tie follows the outer frame too.
 class FrameTie : public Tie {
   public:
     FrameTie(Frame& model, QGroupBox& box, Binder& to) : Tie(model, box, to), model_(model), box_(box) {
@@ -106,7 +106,7 @@ class FrameTie : public Tie {
     [[nodiscard]] bool visible() const override { return throughout(&Control::visible); }
 
   private:
-    /// So it is for the frame and for those that hold it but not its form.
+    /// True if `is` holds for the frame and for all frames around it that don't contain its form.
     [[nodiscard]] bool throughout(bool (Control::*is)() const) const {
         bool all = (model_.*is)();
         for (const Frame* holder = model_.frame(); holder != nullptr; holder = holder->frame()) {
@@ -120,7 +120,7 @@ class FrameTie : public Tie {
     QGroupBox& box_;
 };
 
-/// The filled part of a bar: the share of its model's width in that of the model below it.
+/// The filled part of the bar: the width of its model divided by the width of the model below it.
 class PercentTie : public Tie {
   public:
     PercentTie(TextBox& model, PercentBar& bar, Binder& to) : Tie(model, bar, to), model_(model), bar_(bar) {}

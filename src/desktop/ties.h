@@ -1,4 +1,4 @@
-// What ties one widget to its model, by kind of control.
+// Ties of widgets to their models, one class for each kind of control.
 #pragma once
 
 #include <memory>
@@ -14,18 +14,18 @@ class Tie : public QObject {
   public:
     Tie(Control& control, QWidget& widget, Binder& binder);
 
-    /// Begins to follow the model; what it holds is shown at the next flush.
+    /// Starts watching the model. The next flush shows its state.
     void watch();
-    /// Shows what the model holds.
+    /// Updates the widget from the model.
     void show();
 
   protected:
     [[nodiscard]] Binder& binder() const { return binder_; }
-    /// The part that only this kind of control has.
+    /// Updates what is special to this kind of control.
     virtual void showOwn() {}
     [[nodiscard]] virtual bool enabled() const { return control_.enabled(); }
     [[nodiscard]] virtual bool visible() const { return control_.visible(); }
-    /// The next flush shows the model anew.
+    /// Makes the next flush update the widget.
     void markChanged();
 
   private:
@@ -35,8 +35,8 @@ class Tie : public QObject {
     bool dirty_ = false;
 };
 
-/// The tie for a control and a widget that fit each other; one that shows nothing but visible and enabled for a pair
-/// that doesn't.
+/// The tie for a control and its widget. If their kinds don't match, it only shows whether the control is visible and
+/// enabled.
 [[nodiscard]] std::unique_ptr<Tie> makeTie(Control& control, QWidget& widget, Binder& binder);
 
 } // namespace vanzer::desktop

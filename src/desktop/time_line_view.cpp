@@ -40,7 +40,7 @@ QString hoursOf(double hundredths) {
 
 } // namespace
 
-/// Edges in pixels of the viewport, from the font's size.
+/// Edges in pixels of the viewport, computed from the font.
 struct TimeLineView::Measures {
     int head;
     int row;
@@ -204,7 +204,7 @@ void TimeLineView::paintEvent(QPaintEvent* /*event*/) {
     paintHead(painter, m);
 }
 
-/// What the colours mean, and the hours.
+/// Draws the legend of the colours and the hours.
 void TimeLineView::paintHead(QPainter& painter, const Measures& m) {
     using enum Attivita::Tipo;
     const Tints tints(palette());
@@ -257,13 +257,13 @@ void TimeLineView::paintBar(QPainter& painter, const Measures& m, const Barra& b
         return;
     const int from = m.across(bar.da);
     const int air = m.row / 7;
-    // A hair of the ground parts bars that follow each other.
+    // Leaves a pixel between bars that follow each other.
     const QRect box(from, y + air, std::max(m.across(bar.a) - from - 1, 1), m.row - 2 * air);
     painter.fillRect(box, colour(Tints(palette()), activity.tipo));
     const int inset = fontMetrics().horizontalAdvance(u' ');
     const QRect inner = box.adjusted(inset, 0, -inset, 0);
     const QString name = fontMetrics().elidedText(activity.nome, Qt::ElideRight, inner.width());
-    constexpr int shortest = 3; // letters and the dots: less says nothing
+    constexpr int shortest = 3; // characters with the dots; a shorter name says nothing
     if (name.size() < shortest && name != activity.nome)
         return;
     painter.setPen(palette().color(QPalette::Text));

@@ -1,4 +1,4 @@
-// The line of time on the screen: a row for each day, its activities as bars in their lengths, hours across.
+// The time line on the screen. Each day is a row, with its activities as bars along the hours.
 #pragma once
 
 #include <memory>
@@ -14,13 +14,13 @@ class TimeLineView : public QAbstractScrollArea {
     Q_OBJECT
   public:
     explicit TimeLineView(QWidget* parent = nullptr);
-    /// Shows the trip from its first day; null empties the picture.
+    /// Shows a trip from its first day; null clears the view.
     void setLine(std::shared_ptr<const LineaDelTempo> line);
 
     [[nodiscard]] QSize sizeHint() const override;
 
   signals:
-    /// What the day at hand holds, in words.
+    /// The activities of the current day, in Italian.
     void dayTold(const QString& text);
 
   protected:

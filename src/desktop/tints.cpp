@@ -6,7 +6,7 @@ namespace vanzer::desktop {
 
 namespace {
 
-/// `share` of `over` laid on `under`, 0 to 1.
+/// Mixes two colours; `share` is the part of `over`, from 0 to 1.
 QColor mixed(const QColor& under, const QColor& over, float share) {
     const auto channel = [share](float a, float b) { return a + (b - a) * share; };
     return QColor::fromRgbF(channel(under.redF(), over.redF()), channel(under.greenF(), over.greenF()),
@@ -37,7 +37,7 @@ Tints::Tints(const QPalette& palette) {
 }
 
 QColor coloreCategoria(int category) {
-    constexpr std::array<QRgb, 14> colours{0xff6b7075,                                     // not known
+    constexpr std::array<QRgb, 14> colours{0xff6b7075,                                     // unknown
                                            0xffb3261e, 0xffc2500e, 0xff96700a, 0xff7d7340, // visits
                                            0xff1560b5, 0xff0a7d95,                         // places to stop
                                            0xff2c7a34, 0xff8a3f9e, 0xff4f5b93,             // camp site, restaurant, gas

@@ -24,7 +24,7 @@ QString familyOf(FcPattern* pattern) {
                : QString();
 }
 
-/// Only outlines are drawn at any size.
+/// Asks for outline fonts only: they can be drawn at any size.
 Pattern patternOf(const QString& family) {
     Pattern pattern(FcPatternCreate());
     FcPatternAddString(pattern.get(), FC_FAMILY, forPlatform(family.toUtf8()));
@@ -48,14 +48,14 @@ bool isOutline(FcPattern* pattern) {
     return FcPatternGetBool(pattern, FC_OUTLINE, 0, &outline) == FcResultMatch && outline == FcTrue;
 }
 
-/// Whether a letter is drawn in the font of the letter before, if that has it.
+/// True if a letter should use the font of the letter before it, if that font has it.
 bool joins(char32_t letter) {
     constexpr char32_t nonJoiner = 0x200C;
     constexpr char32_t joiner = 0x200D;
     return letter == U' ' || letter == nonJoiner || letter == joiner || QChar::isMark(letter);
 }
 
-/// The letters of a line, none of them what a document can't hold.
+/// The letters of a line, without those that a document can't contain.
 std::u32string lineOf(const QString& text) {
     std::u32string letters;
     letters.reserve(static_cast<std::size_t>(text.size()));
@@ -74,13 +74,13 @@ bool isBackward(hb_script_t script) {
     return hb_script_get_horizontal_direction(script) == HB_DIRECTION_RTL;
 }
 
-/// The script of each letter. Signs that belong to any go with the letters around them; beside letters that run
-/// backward they and figures run forward.
+/// The script of each letter. Signs without a script of their own take that of the letters around them. Next to letters
+/// that run from right to left, such signs and digits run from left to right.
 std::vector<hb_script_t> scriptsOf(const std::u32string& letters) {
     constexpr hb_script_t none = HB_SCRIPT_COMMON;
     hb_unicode_funcs_t* const unicode = hb_unicode_funcs_get_default();
     std::vector<hb_script_t> scripts;
-    std::size_t signs = 0; // behind the last letter
+    std::size_t signs = 0; // number of signs after the last letter
     hb_script_t before = none;
     const auto settle = [&](hb_script_t after) {
         const bool forward = before != after && (before == none || isBackward(before));
@@ -107,8 +107,8 @@ int utf8Size(char32_t letter) {
     return letter < 0x80 ? 1 : letter < 0x800 ? 2 : letter < 0x10000 ? 3 : 4;
 }
 
-/// Of the glyphs that stand for the same letters: how many there are, and of bytes. Where the glyphs run backward the
-/// last ones stand for the first letters.
+/// Groups the glyphs that stand for the same letters: the number of glyphs and of bytes in each group. If the text runs
+/// from right to left, the last glyphs stand for the first letters.
 std::vector<cairo_text_cluster_t> clustersOf(std::u32string_view letters, std::span<const hb_glyph_info_t> glyphs,
                                              bool backward) {
     std::vector<cairo_text_cluster_t> clusters;
@@ -205,7 +205,7 @@ const OpenFont& Face::substituteFor(char32_t letter) {
 template<typename Take> void Face::eachRun(const std::u32string& letters, Take take) {
     const std::vector<hb_script_t> scripts = scriptsOf(letters);
     std::size_t first = 0;
-    const OpenFont* font = nullptr; // of the letters from the first one on
+    const OpenFont* font = nullptr; // font of the letters from `first` on
     const auto set = [&](std::size_t end) {
         if (first == end)
             return;

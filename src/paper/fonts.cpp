@@ -13,8 +13,8 @@ struct StandIn {
     const char16_t* family;
 };
 
-/// The first one that is installed is taken. A narrow sans, so that a date in a column of 8 mm keeps its size, and one
-/// with the measures of Times; all of them hold Latin, Greek and Cyrillic letters.
+/// The first installed family is used. Agency FB needs a narrow sans, so that a date fits a column of 8 mm at full
+/// size; Times needs a font with its metrics. All of these have Latin, Greek and Cyrillic letters.
 constexpr std::array<StandIn, 4> standIns{{{u"Agency FB", u"Liberation Sans Narrow"},
                                            {u"Agency FB", u"Roboto Condensed"},
                                            {u"Times new roman", u"Liberation Serif"},

@@ -1,5 +1,5 @@
-// The fonts of the paper: which installed face stands for a name, and how wide a text is in it. Texts are measured
-// without hints for any resolution, so that a layout is the same on every printer, in a PDF and on the screen.
+// Finds the installed font for a name and measures texts in it. Texts are measured without hinting, so that a layout is
+// the same on every printer, in a PDF and on the screen.
 #pragma once
 
 #include <map>
@@ -14,13 +14,13 @@ namespace vanzer::paper {
 
 class Face;
 
-/// A font by the name that it goes by, and the installed family that is drawn.
+/// The name of a font, and the installed family that is used for it.
 struct Typeface {
     QString name;
     QString family;
 };
 
-/// Nothing is looked up before it is asked for.
+/// Looks fonts up when they are first used.
 class Fonts {
   public:
     Fonts();
@@ -28,18 +28,18 @@ class Fonts {
     Fonts(const Fonts&) = delete;
     Fonts& operator=(const Fonts&) = delete;
 
-    /// The family of that name, capitals ignored; else the one that stands in for it, under the name asked for; else
-    /// the platform's own serif under its own name.
+    /// The font for a name, case ignored. If there is no such family, a similar one is used under the requested name.
+    /// If there is none either, the result is the platform's serif font under that font's name.
     [[nodiscard]] const Typeface& typefaceFor(const QString& wanted);
 
-    /// Of a text on one line, mm.
+    /// Width of a text on one line, in mm.
     [[nodiscard]] double width(const QString& text, const Font& font);
-    /// From the top of a line down to its base, mm.
+    /// From the top of a line down to its base line, in mm.
     [[nodiscard]] double ascent(const Font& font);
-    /// Of a line, mm.
+    /// Height of a line, in mm.
     [[nodiscard]] double height(const Font& font);
 
-    /// Valid as long as the fonts are.
+    /// The face of a font. The reference holds as long as this object.
     [[nodiscard]] Face& face(const Font& font);
 
   private:

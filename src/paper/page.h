@@ -1,5 +1,5 @@
-// A page as it was drawn: a list of drawings in mm from the sheet's top left corner, the later ones on top. PDF,
-// picture and printers are made from it.
+// A page as a list of drawings, later ones on top. Positions and sizes are in mm, right and down from the sheet's top
+// left corner. PDFs, pictures and printed pages are made from it.
 #pragma once
 
 #include <optional>
@@ -13,13 +13,13 @@
 
 namespace vanzer::paper {
 
-/// The sheet, A4 upright, mm.
+/// The size of a sheet, A4 portrait, in mm.
 inline constexpr Punto sheetSize{210, 297};
 
 inline constexpr double mmPerInch = 25.4;
 inline constexpr double mmPerPoint = mmPerInch / 72;
 
-/// 0xRRGGBB.
+/// A colour, 0xRRGGBB.
 using Colour = quint32;
 inline constexpr Colour black = 0;
 
@@ -31,7 +31,7 @@ struct Font {
 };
 
 struct DrawnText {
-    Punto base; ///< where the text begins, on its base line
+    Punto base; ///< start of the text's base line
     QString text;
     Font font;
     Colour colour = black;
@@ -59,10 +59,10 @@ struct DrawnSign {
 
 struct Stroke {
     double width;                 ///< mm
-    std::vector<double> dashes{}; ///< of dashes and gaps in turn, mm; none for a line without breaks
+    std::vector<double> dashes{}; ///< lengths of dashes and gaps in turn, mm; empty for a solid line
 };
 
-/// Filled where it has no stroke.
+/// A path, stroked if it has a stroke, else filled.
 struct DrawnPath {
     Path path;
     Colour colour = black;

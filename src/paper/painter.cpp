@@ -81,7 +81,7 @@ void Painter::draw(cairo_t& context, const DrawnLine& line) {
     lines_.push_back(line);
 }
 
-/// Lines one by one would take longer than all texts of a page.
+/// Draws all pending lines at once. One by one they would take longer than all texts of a page.
 void Painter::drawLines(cairo_t& context) {
     if (lines_.empty())
         return;

@@ -1,4 +1,4 @@
-// Pages on a surface of Cairo's. Known to the paper alone.
+// Draws pages with Cairo. Internal to this room.
 #pragma once
 
 #include <cairo.h>
@@ -12,14 +12,15 @@ namespace vanzer::paper {
 using Surface = Owned<cairo_surface_t, cairo_surface_destroy>;
 using Context = Owned<cairo_t, cairo_destroy>;
 
-/// What becomes of letters. As outlines they can't be searched, but on a screen none is moved to the next point.
+/// How letters are drawn. Text can be searched in a PDF. Outlines keep exact positions on a screen, where text would be
+/// moved to whole pixels.
 enum class Letters { Text, Outlines };
 
 class Painter {
   public:
-    /// `fonts` lives as long.
+    /// `fonts` must outlive the painter.
     Painter(Fonts& fonts, Letters letters) : fonts_(fonts), letters_(letters) {}
-    /// Draws the page; one of the context's units is a mm. Whether that went well is asked of the context.
+    /// Draws the page; one unit of the context is a mm. Errors show in the context's status.
     void draw(cairo_t& context, const Page& page);
 
   private:
@@ -32,8 +33,8 @@ class Painter {
 
     Fonts& fonts_;
     Letters letters_;
-    std::vector<DrawnLine> lines_; ///< of one pen, with nothing else drawn since but black on black
-    Surface sign_;                 ///< null until it is drawn
+    std::vector<DrawnLine> lines_; ///< pending lines of one pen; black texts may come before black lines
+    Surface sign_;                 ///< null before its first use
 };
 
 } // namespace vanzer::paper

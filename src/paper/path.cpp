@@ -39,7 +39,7 @@ Path Path::rectangle(Punto at, Punto size) {
 }
 
 Path Path::rounded(Punto at, Punto size, double radius) {
-    constexpr double flatness = 0.5523; // of a radius, how far the handles of a quarter of a circle reach
+    constexpr double flatness = 0.5523; // distance of the control points of a quarter circle, as a share of the radius
     const double left = at.x;
     const double top = at.y;
     const double right = at.x + size.x;

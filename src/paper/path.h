@@ -8,29 +8,29 @@
 
 namespace vanzer::paper {
 
-/// Positions in mm.
+/// An outline. Positions are in mm.
 class Path {
   public:
     enum class Step { Move, Line, Curve, Close };
 
     Path& moveTo(Punto at);
     Path& lineTo(Punto at);
-    /// A cubic curve, drawn towards `first` and coming from `second`.
+    /// A cubic Bézier curve to `at`, with the control points `first` and `second`.
     Path& curveTo(Punto first, Punto second, Punto at);
     Path& close();
 
-    /// Closed, its first corner first.
+    /// A closed polygon, starting at its first corner.
     [[nodiscard]] static Path polygon(std::span<const Punto> corners);
     [[nodiscard]] static Path rectangle(Punto at, Punto size);
-    /// Its corners are quarters of a circle.
+    /// A rectangle whose corners are quarter circles of that radius (mm).
     [[nodiscard]] static Path rounded(Punto at, Punto size, double radius);
     [[nodiscard]] static Path circle(Punto centre, double radius);
 
-    /// Scaled around the sheet's corner, then moved.
+    /// A copy, scaled about the sheet's top left corner and then moved by `by` (mm).
     [[nodiscard]] Path placed(double scale, Punto by) const;
 
     [[nodiscard]] const std::vector<Step>& steps() const { return steps_; }
-    /// Of all steps one after the other: one of a move and a line, three of a curve, none of a close.
+    /// The points of all steps in turn: one for a move or a line, three for a curve, none for a close.
     [[nodiscard]] const std::vector<Punto>& points() const { return points_; }
 
   private:

@@ -12,7 +12,7 @@ constexpr double points(double mm) {
     return mm / mmPerPoint;
 }
 
-/// The catalogue is the last object of a document; what lies before it stays where it is.
+/// Adds the language to the catalogue. That is the last object of a document, so no other object moves.
 QByteArray withLanguage(QByteArray end) {
     const QByteArray catalogue = "/Type /Catalog\n";
     const QByteArray language = "   /Lang (it-IT)\n";
@@ -36,14 +36,14 @@ class PdfSurface {
     PdfSurface(QIODevice& device, Fonts& fonts, const About& about)
         : device_(device), painter_(fonts, Letters::Text),
           surface_(cairo_pdf_surface_create_for_stream(write, this, points(sheetSize.x), points(sheetSize.y))) {
-        // The tables at the end stay plain, for the language's sake.
+        // In version 1.4 the end of the file isn't compressed, so that the language can be added.
         cairo_pdf_surface_restrict_to_version(surface_.get(), CAIRO_PDF_VERSION_1_4);
         tell(CAIRO_PDF_METADATA_TITLE, about.title);
         tell(CAIRO_PDF_METADATA_CREATOR, about.creator);
         tell(CAIRO_PDF_METADATA_CREATE_DATE, about.made.toUTC().toString(Qt::ISODate));
     }
 
-    ~PdfSurface() { ending_ = true; } // so that a document that was given up doesn't reach its device
+    ~PdfSurface() { ending_ = true; } // nothing of a dropped document is written from here on
     PdfSurface(const PdfSurface&) = delete;
     PdfSurface& operator=(const PdfSurface&) = delete;
 
@@ -81,9 +81,9 @@ class PdfSurface {
     }
 
     QIODevice& device_;
-    bool whole_ = true; ///< all that was written has arrived
+    bool whole_ = true; ///< the device took all that was written
     bool ending_ = false;
-    QByteArray end_; ///< what comes behind the pages: fonts and tables
+    QByteArray end_; ///< the part after the pages: fonts and tables
     Painter painter_;
     Surface surface_;
 };

@@ -1,4 +1,4 @@
-// Pages as a PDF: texts that can be searched and copied, their fonts in the file.
+// Writes pages as a PDF. Its texts can be searched and copied; fonts are embedded.
 #pragma once
 
 #include <memory>
@@ -15,26 +15,26 @@ namespace vanzer::paper {
 
 class PdfSurface;
 
-/// What a document says about itself. Its language is Italian.
+/// Metadata of a document. Its language is Italian.
 struct About {
     QString title{};
     QString creator{};
     QDateTime made{};
 };
 
-/// Each page goes to the device when it is added and is forgotten then. Whether all of it arrived is asked of the
-/// device.
+/// Writes each page to the device when it is added and doesn't keep it. Errors of a buffered device show only when it
+/// is flushed.
 class Pdf {
   public:
-    /// Begins the document. `device` and `fonts` live as long.
+    /// Begins the document. `device` and `fonts` must outlive it.
     Pdf(QIODevice& device, Fonts& fonts, const About& about);
     ~Pdf();
     Pdf(const Pdf&) = delete;
     Pdf& operator=(const Pdf&) = delete;
 
-    /// False if the device did not take all of it, or it can't be drawn.
+    /// Adds a page. False if the device did not take all of it, or if it can't be drawn.
     [[nodiscard]] bool add(const Page& page);
-    /// After the last page; false in the same case.
+    /// Ends the document after the last page. False as for add().
     [[nodiscard]] bool finish();
 
   private:

@@ -1,4 +1,4 @@
-// A page as a picture, for the screen.
+// Draws a page into a picture, for the screen.
 #pragma once
 
 #include "paper/fonts.h"
@@ -6,7 +6,7 @@
 
 namespace vanzer::paper {
 
-/// Points of 32 bits, 0xffRRGGBB in the machine's order, row by row.
+/// Pixels of 32 bits, row by row: 0xffRRGGBB in the machine's byte order. Width and height are in pixels.
 struct Picture {
     unsigned char* points;
     int width;
@@ -14,8 +14,8 @@ struct Picture {
     int bytesPerRow; ///< a multiple of 4
 };
 
-/// Draws the page over what the picture shows. Its left upper corner lies `corner` points to the right and down of the
-/// sheet's, `perMm` of which are a mm.
+/// Draws the page over the picture. `perMm` is the number of pixels per mm. `corner` is the position of the picture's
+/// top left corner on the sheet, in pixels.
 void drawPage(const Page& page, Fonts& fonts, const Picture& picture, Punto corner, double perMm);
 
 } // namespace vanzer::paper

@@ -2,7 +2,7 @@
 
 #include <QDir>
 
-/// Named here, the resource comes out of the library into every program that draws.
+/// Without this the linker would leave the library's resource out of the programs.
 static void bringSign() {
     Q_INIT_RESOURCE(sign);
 }

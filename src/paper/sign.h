@@ -1,11 +1,11 @@
-// The product's sign.
+// The product's logo.
 #pragma once
 
 #include <QString>
 
 namespace vanzer::paper {
 
-/// The PNG file among the program's resources.
+/// Path of its PNG file among the program's resources.
 [[nodiscard]] QString signFile();
 
 } // namespace vanzer::paper

@@ -12,14 +12,14 @@ constexpr Colour hills = 0xCFE0E3;
 constexpr Colour asphalt = 0x8A9396;
 constexpr Colour white = 0xFFFFFF;
 
-/// A motorhome that drives to the right, 32 mm long; `wheels` is where it stands, below its middle.
+/// Draws a motorhome, 32 mm long, that drives to the right. `wheels` is the point on the ground below its middle.
 void drawCamper(Sheet& sheet, Punto wheels) {
     constexpr double scale = 1.6;
     const auto draw = [&](const Path& path, Colour colour) { sheet.shape(path.placed(scale, wheels), colour); };
     draw(Path::rounded({-10, -10}, {14.5, 8.6}, 1.2), white);
     draw(Path::rounded({2, -10}, {6, 3.2}, 1.2), white); // the bed above the cab
     draw(Path::polygon({{{4, -1.4}, {4, -7}, {6.6, -7}, {8.2, -4.3}, {10, -3.7}, {10, -1.4}}}), white);
-    draw(Path::polygon({{{5, -4.2}, {5, -6.2}, {6.3, -6.2}, {7.4, -4.2}}}), accent); // a pane
+    draw(Path::polygon({{{5, -4.2}, {5, -6.2}, {6.3, -6.2}, {7.4, -4.2}}}), accent); // a window
     draw(Path::rounded({-8, -8.2}, {4, 2.6}, 0.5), accent);
     draw(Path::rounded({-1.6, -8.2}, {2.6, 5.8}, 0.5), hills); // the door
     for (const double axle : {-6.5, 6.0}) {
@@ -48,7 +48,7 @@ void drawPicture(Sheet& sheet, const QRectF& box) {
     drawCamper(sheet, at(70, 12.5));
 }
 
-/// Down to the foot of the sheet.
+/// Draws the fields at the bottom of the sheet.
 void drawFields(Sheet& sheet) {
     constexpr double row = 12; // mm
     constexpr double half = fullWidth / 2;

@@ -11,7 +11,8 @@ constexpr double costsWidth = 62; // mm, at the right edge
 constexpr double leftWidth = fullWidth - costsWidth - 6;
 constexpr Style rowName{.size = 3.3, .colour = ink, .bold = true};
 
-/// Departure and arrival, the day's kilometres and the weather. Returns where the next group may begin, as all below.
+/// Draws departure and arrival, the day's kilometres and the weather. Like the functions below, returns where the next
+/// group may begin, in mm from the top.
 double drawDrive(Sheet& sheet, double top) {
     constexpr double row = 9; // mm
     const std::vector<Column> columns{{{}, 25}, {u"Luogo"_s, 82}, {u"Ora"_s, 26}, {u"Contachilometri"_s, 42}};
@@ -47,10 +48,10 @@ void drawFuel(Sheet& sheet, double top) {
                 rows);
 }
 
-/// From 1 to 5, one to be ringed.
+/// Draws the marks 1 to 5, one of which is to be ringed.
 void drawMarks(Sheet& sheet, const QRectF& box) {
     constexpr int best = 5;
-    constexpr double side = 5.4; // mm, a circle
+    constexpr double side = 5.4; // mm, diameter of a circle
     const double step = box.width() / best;
     for (int mark = 1; mark <= best; ++mark) {
         const QRectF around(box.left() + (mark - 0.5) * step - side / 2, box.center().y() - side / 2, side, side);
@@ -59,7 +60,7 @@ void drawMarks(Sheet& sheet, const QRectF& box) {
     }
 }
 
-/// Stands on the height `bottom`.
+/// Draws the night's fields, with their lower edge at `bottom` (mm).
 void drawNight(Sheet& sheet, double bottom) {
     constexpr double half = leftWidth / 2;
     const double top = bottom - 3 * writingRow - titleHeight;
@@ -76,7 +77,7 @@ void drawNight(Sheet& sheet, double bottom) {
     drawMarks(sheet, mark.adjusted(12, 0, -1, 0));
 }
 
-/// Returns where the costs end.
+/// Draws the costs and returns where they end, in mm from the top.
 double drawCosts(Sheet& sheet, double top) {
     const double left = rightEdge - costsWidth;
     QRectF row(left, sheet.title({left, top}, costsWidth, u"Costi"_s), costsWidth, writingRow);

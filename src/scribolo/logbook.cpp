@@ -8,7 +8,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// What the head of a page says.
+/// The texts in the head of a page.
 struct Head {
     QString left;
     QString right;

@@ -1,4 +1,4 @@
-// The pages of the logbook, drawn. Nothing here knows a file or a printer.
+// Draws the pages of the logbook, without any file or printer.
 #pragma once
 
 #include "paper/fonts.h"
@@ -7,7 +7,7 @@
 
 namespace vanzer::scribolo {
 
-/// The page at `index` (from 0) of the trip's plan.
+/// Draws the page at `index` (from 0) of the trip's plan.
 [[nodiscard]] paper::Page drawnPage(const Trip& trip, const std::vector<Page>& pages, std::size_t index,
                                     paper::Fonts& fonts);
 

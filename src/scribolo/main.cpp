@@ -31,18 +31,18 @@ bool hasDisplay() {
     return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-/// In the viewer that the desktop has for PDFs; false if nothing can be started.
+/// Opens the file in the desktop's PDF viewer; false if that can't be started.
 bool show(const QString& path) {
     return QProcess::startDetached(u"xdg-open"_s, {QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded())});
 }
 
-/// What the arguments ask for.
+/// The arguments of the program.
 struct Request {
     QString directory; ///< absolute
-    QString word;      ///< empty when the command file holds it
+    QString word;      ///< the trip's word; empty if it is in the command file
 };
 
-/// Everything behind the first word belongs to the trip, as a name may hold " -".
+/// Parses the arguments. Everything after the first word belongs to the trip, as a name may contain " -".
 std::optional<Request> requested(const QStringList& arguments) {
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Prepara il diario di bordo di un viaggio, da stampare e compilare a mano."_s);

@@ -1,4 +1,4 @@
-// The kinds of pages, each in a file of its own. Head and foot are drawn by the logbook.
+// The bodies of the kinds of pages, each in a file of its own. The logbook draws head and foot.
 #pragma once
 
 #include "scribolo/plan.h"

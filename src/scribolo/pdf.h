@@ -1,4 +1,4 @@
-// The logbook as a file.
+// Writes the logbook as a PDF file.
 #pragma once
 
 #include <QString>
@@ -7,8 +7,8 @@
 
 namespace vanzer::scribolo {
 
-/// Writes the trip's logbook into the directory, aside and then into place: an older file of that name stays as it was
-/// when this fails, with a Problem. Returns the file's absolute path.
+/// Writes the trip's logbook into the directory and returns the file's absolute path. Throws a Problem on failure; an
+/// older file of that name is unchanged then.
 QString writePdf(const Trip& trip, const QString& directory);
 
 } // namespace vanzer::scribolo

@@ -10,7 +10,7 @@ namespace vanzer::scribolo {
 /// Days in the table of one summary page.
 inline constexpr int summaryRows = 27;
 
-/// One page. The days are counted from 1: the day of a day page, the rows of a summary page, none on the cover.
+/// One page. Days count from 1: the day of a day page, the first and last day of a summary page, 0 for the cover.
 struct Page {
     enum class Kind { Cover, Day, Summary };
     Kind kind = Kind::Cover;
@@ -18,7 +18,7 @@ struct Page {
     int lastDay = 0;
 };
 
-/// The cover, a page a day, then as many summary pages as the days need.
+/// The pages of a logbook: the cover, one page a day, then as many summary pages as needed.
 [[nodiscard]] std::vector<Page> plan(const Trip& trip);
 
 } // namespace vanzer::scribolo

@@ -10,7 +10,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr double smallestShare = 0.8; // of its size, that a text is shrunk to
+constexpr double smallestShare = 0.8; // smallest share of its size to which a text is shrunk
 constexpr double tick = 3.6;          // mm, the side of a box to tick
 constexpr double headingHeight = 5.5; // mm
 constexpr Style label{};
@@ -39,7 +39,7 @@ double Sheet::width(const QString& text, const paper::Font& font) const {
     return fonts_.width(text, font);
 }
 
-/// As much of a text as fits, and dots where that isn't all.
+/// The text, cut to `width` (mm) with dots at the end if it is too long.
 QString Sheet::elided(const QString& text, const paper::Font& font, double width) const {
     constexpr double tolerance = 0.01; // mm
     const double most = width + tolerance;
@@ -65,7 +65,7 @@ void Sheet::drawLine(const QRectF& box, const QString& text, const paper::Font& 
 
 void Sheet::text(const QRectF& box, const QString& text, const Style& style) {
     const double needed = width(text, font(style, style.size));
-    constexpr double spare = 0.98; // letters don't shrink quite evenly
+    constexpr double spare = 0.98; // the width doesn't shrink exactly in proportion
     const double share = needed > box.width() ? std::max(box.width() / needed * spare, smallestShare) : 1;
     drawLine(box, text, font(style, style.size * share), style);
 }
@@ -82,7 +82,7 @@ QStringList Sheet::wrapped(const QString& text, const paper::Font& font, double 
     return result;
 }
 
-/// As many lines as wrapping needs, in the narrowest column that needs no more.
+/// Wraps a text into the narrowest column that needs no more lines than `width` does.
 QStringList Sheet::balanced(const QString& text, const paper::Font& font, double width, int lines) const {
     constexpr int steps = 60;
     QStringList best = wrapped(text, font, width, lines);
@@ -155,7 +155,7 @@ void Sheet::tickBoxes(const QRectF& box, const QStringList& labels) {
             sum += tick + gap + width(label, font(style, style.size));
         return sum;
     };
-    const double least = box.width() - static_cast<double>(labels.size() - 1); // a millimetre between two
+    const double least = box.width() - static_cast<double>(labels.size() - 1); // leave at least a mm between two boxes
     if (needed() > least)
         style.size *= smallestShare;
     const double apart = (box.width() - needed()) / static_cast<double>(labels.size());

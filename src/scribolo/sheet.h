@@ -1,4 +1,4 @@
-// An A4 sheet to draw on in millimetres: the few shapes that all pages are made of, in one style.
+// An A4 sheet to draw on, in millimetres: the shapes that all pages share, in one style.
 #pragma once
 
 #include <vector>
@@ -13,70 +13,68 @@ namespace vanzer::scribolo {
 
 using paper::Colour;
 
-/// What pages may fill, mm. The left edge leaves room for the holes of a binder.
+/// Edges of the area that pages may use, in mm. The left edge leaves room for the holes of a binder.
 inline constexpr double leftEdge = 21;
 inline constexpr double rightEdge = 196;
 inline constexpr double topEdge = 14;
 inline constexpr double footLine = 285;
 inline constexpr double fullWidth = rightEdge - leftEdge;
-/// Between a frame and its text.
+/// Distance between a frame and its text, in mm.
 inline constexpr double inset = 1.6;
 
-/// What a traveller writes on by hand is at least this high.
+/// Least height of a row to write on by hand, in mm.
 inline constexpr double writingRow = 8;
 inline constexpr double titleHeight = 6;
 
 inline constexpr Colour ink = 0x202020;
-inline constexpr Colour faintInk = 0x6A6A6A; ///< labels: must not shout down the handwriting
+inline constexpr Colour faintInk = 0x6A6A6A; ///< labels, fainter than handwriting
 inline constexpr Colour rule = 0xB4B4B4;
-inline constexpr Colour ground = 0xF1F2F2; ///< behind headings of tables
+inline constexpr Colour ground = 0xF1F2F2; ///< background of table headings
 inline constexpr Colour accent = 0x3D7A87;
 
 struct Style {
-    double size = 2.9; ///< height of the letters with their ascents and descents, about, in mm
+    double size = 2.9; ///< about the height of letters with ascenders and descenders, in mm
     Colour colour = faintInk;
     bool bold = false;
     Qt::Alignment where = Qt::AlignLeft;
 };
 
-/// A column of a table: what its heading says, and its width in mm.
+/// A column of a table: its heading and its width in mm.
 struct Column {
     QString heading;
     double width = 0;
 };
 
-/// Draws on a page. All measures are millimetres from its top left corner.
+/// Draws on a page. All positions and sizes are in mm, right and down from its top left corner.
 class Sheet {
   public:
-    /// `page` and `fonts` live as long.
+    /// `page` and `fonts` must outlive the sheet.
     Sheet(paper::Page& page, paper::Fonts& fonts);
 
-    /// One line, in the middle of the box's height. A text too long for the box gets smaller, down to four fifths, and
-    /// then loses its end.
+    /// Draws one line of text, centred vertically in the box. A text that is too long is shrunk, at most to four
+    /// fifths, and then cut.
     void text(const QRectF& box, const QString& text, const Style& style = {});
-    /// Up to `lines` lines from the top of the box, in the greatest size between the style's and `smallest` in which
-    /// all words fit, broken into lines of about the same length; where none does lines lose their ends. Returns the
-    /// height used.
+    /// Draws up to `lines` lines of similar length from the top of the box, and returns the height used (mm). Uses the
+    /// greatest size between the style's and `smallest` at which all words fit. If none fits, lines are cut.
     double paragraph(const QRectF& box, const QString& text, const Style& style, double smallest, int lines);
 
     void line(QPointF from, QPointF to, Colour colour = rule, double width = 0.2);
     void fill(const QRectF& box, Colour colour);
     void frame(const QRectF& box);
-    /// A shape, filled.
+    /// Fills a shape.
     void shape(const paper::Path& path, Colour colour);
-    /// The edge of a shape, or an open line.
+    /// Strokes the edge of a shape, or an open line.
     void curve(const paper::Path& path, Colour colour, const paper::Stroke& stroke);
 
-    /// The name of a group of fields. Returns where the group begins, down from the top of the sheet.
+    /// Draws the name of a group of fields. Returns where the group begins, in mm from the top of the sheet.
     double title(QPointF topLeft, double width, const QString& text);
-    /// Boxes to tick side by side, each with its label behind it, spread over the width of `box`.
+    /// Draws boxes to tick with their labels, spread over the width of `box`.
     void tickBoxes(const QRectF& box, const QStringList& labels);
-    /// A framed field, its label at the left, and a unit at its right end.
+    /// Draws a framed field with its label on the left and a unit on the right.
     void field(const QRectF& box, const QString& label, const QString& unit = {}, const Style& style = {});
-    /// Lines to write on, at least a writing row apart, down to the foot of the box.
+    /// Draws lines to write on, at least `writingRow` apart, down to the bottom of the box.
     void ruledLines(const QRectF& box);
-    /// Headings and the grid of `rows` empty rows below them. Returns where the table ends, down from the top
-    /// of the sheet.
+    /// Draws headings and `rows` empty rows below them. Returns where the table ends, in mm from the top of the sheet.
     double table(QPointF topLeft, const std::vector<Column>& columns, int rows, double rowHeight = writingRow);
 
   private:

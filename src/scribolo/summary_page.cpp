@@ -17,9 +17,9 @@ const std::vector<Column>& columns() {
                                          {u"Totale €"_s, 21}};
     return all;
 }
-constexpr double namesWidth = 9 + 22 + 48; // mm, the columns without figures
+constexpr double namesWidth = 9 + 22 + 48; // mm, the columns before the figures
 
-/// A row of sums: one cell for its name, then those of the figures. Returns where it ends.
+/// Draws a row of sums: a cell for its name, then cells for the figures. Returns where it ends, in mm from the top.
 double sumRow(Sheet& sheet, double top, const QString& name) {
     QRectF cell(leftEdge, top, namesWidth, writingRow);
     sheet.fill({leftEdge, top, fullWidth, writingRow}, ground);

@@ -13,7 +13,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr QStringView program = u"\\Scribolo.exe ";
-/// File systems take 255 bytes; the file that is written aside needs some for an ending of its own.
+/// File systems allow 255 bytes. The temporary file needs some of them for its ending.
 constexpr int longestFileName = 240; // bytes of UTF-8
 
 QLocale italian() {
@@ -27,7 +27,7 @@ QDate dateOf(const QString& text) {
     return date;
 }
 
-/// On one line, without characters that can't be printed.
+/// The text on one line, without characters that can't be printed.
 QString printable(QString text) {
     std::replace_if(
         text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; }, u' ');

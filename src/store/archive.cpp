@@ -85,7 +85,7 @@ void Archive::DatabaseCrea(int db, bool& created) {
 
 void Archive::DatabaseApre(int db) {
     auto& handle = databases_.at(static_cast<std::size_t>(db));
-    handle.reset(); // first: a file that is open can't be opened again
+    handle.reset(); // close first: an open file is locked and can't be opened again
     handle = Database::open(PercorsoDatabase);
 }
 
@@ -153,7 +153,7 @@ double Archive::NumeroRecord() {
 }
 
 void Archive::RecordSetImpostaDefault() {
-    (void)NumeroRecord(); // it is the last query's, which may be about to be closed
+    (void)NumeroRecord(); // count now: the last query may be in a slot that is closed below
     for (int table = primaTabella; table <= ultimaTabella; ++table)
         Rs(table) = Recordset(archive(), {TabelleNomi(table), {}, {}});
 }

@@ -1,5 +1,5 @@
-// The archive as the rest of the system sees it: one file beside the program, its tables, and numbered slots of records
-// opened by query texts.
+// The archive as the other rooms use it: one file beside the program, its tables, and numbered slots that hold the
+// records of a query.
 #pragma once
 
 #include <array>
@@ -22,12 +22,12 @@
 
 namespace vanzer::store {
 
-/// The archive's file, beside the program.
+/// Name of the archive's file, in the program's directory.
 inline constexpr QLatin1String nomeArchivio("Vanzer.mdb");
-/// The file in which a new archive and a rebuilt one are made.
+/// Temporary file for making a new archive or rebuilding one.
 inline constexpr QLatin1String nomeRicostruzione("DBTemp.mdb");
 
-/// One table as a whole, records in the order in which they were added: text, yes/no, or no value.
+/// A whole table, with its records in the order in which they were added. A cell is a text, a yes/no or no value.
 struct TabellaLetta {
     using Cella = std::variant<std::monostate, bool, QString>;
     QStringList campi;
@@ -39,21 +39,21 @@ class Archive {
   public:
     using Progress = std::function<void(qint64 done, qint64 total)>;
     using PrimaDellUso = std::function<void(Database& archive)>;
-    /// What to do where there is no archive, but copies of one.
+    /// What to do if there is no archive but there are copies: restore the copy, begin a new archive, or give up.
     enum class SenzaArchivio { Riprende, Comincia, Rinuncia };
     using SeManca = std::function<SenzaArchivio(const CopiaTrovata& copy)>;
-    /// What the user should know of an opening.
+    /// What the user should know after an opening.
     struct Apertura {
-        QString giornaleEstraneo;  ///< where another archive's journal lies now; empty if there was none
-        QString archivioDiPrima;   ///< where the file from before a rebuild lies; empty if there was none
-        qint64 valoriTagliati = 0; ///< in the rebuild: values too long for their fields
+        QString giornaleEstraneo;  ///< new path of a journal that belonged to another archive; empty if there was none
+        QString archivioDiPrima;   ///< path of the file from before a rebuild; empty if there was no rebuild
+        qint64 valoriTagliati = 0; ///< values that the rebuild cut because they were too long for their fields
     };
 
     static constexpr int numeroDatabase = 3;
     static constexpr int numeroSlot = 11;
-    static constexpr int slotAppoggio = 7; ///< for whatever a loop needs beside the slots of the tables
+    static constexpr int slotAppoggio = 7; ///< spare slot for loops that need one beside the slots of the tables
 
-    /// Nothing is opened yet. The directory gets a separator at its end.
+    /// Opens nothing yet. `directory` gets a separator at its end.
     explicit Archive(const QString& directory);
     Archive(const Archive&) = delete;
     Archive& operator=(const Archive&) = delete;
@@ -66,56 +66,58 @@ class Archive {
 
     /// 0 is the archive in use, 1 the old file during a rebuild. Null while closed.
     [[nodiscard]] Database* Db(int index) const { return databases_.at(static_cast<std::size_t>(index)).get(); }
-    /// The number of a slot is the number of the table that it serves.
+    /// A slot, from 0. Slots 1 to 6 belong to the tables of the same number.
     [[nodiscard]] Recordset& Rs(int slot) { return slots_.at(static_cast<std::size_t>(slot)); }
 
-    /// Makes "Vanzer.mdb" if there is none, else opens it and rebuilds it where its tables aren't the declared ones,
-    /// then opens slots 1 to 6. A new file and a rebuild are made in "DBTemp.mdb", which takes the name when it is
-    /// whole and safe on the disk; the file from before a rebuild stays among the copies. `before` gets a file that was
-    /// there already, locked, before anything in it is changed. `missing` is asked where there are copies but no
-    /// archive, with the newest that has trips; without it, or if it gives up, the opening fails with NotFound. Throws
-    /// Unlike for a file to be rebuilt whose fields stand in another order.
+    /// Opens "Vanzer.mdb", or makes it if there is none, and opens slots 1 to 6. Rebuilds a file whose tables differ
+    /// from the declared ones. A new or rebuilt file is written as "DBTemp.mdb" and renamed when it is complete and
+    /// safe on the disk; the file from before a rebuild is kept among the copies. `before` is called with an existing
+    /// file, locked, before anything in it is changed. If there is no archive but there are copies, `missing` decides;
+    /// it gets the newest copy that has destinations, or else the newest. Throws NotFound if `missing` is empty or
+    /// gives up, Unlike if a file to be rebuilt has its fields in another order.
     Apertura openArchive(const PrimaDellUso& before = {}, const SeManca& missing = {});
     void close();
 
     void DatabaseCrea(int db, bool& created);
     void DatabaseApre(int db);
-    /// All six tables, or none.
+    /// Creates all six tables, or none if one fails.
     void DatabaseTabelleCreazione(int db);
     void DatabaseTabellaCrea(int db, int table);
-    /// Sets `Rettifica` if a table or a declared field is missing or a text has another size; fields that aren't
-    /// declared don't count. Adds missing indexes.
+    /// Sets `Rettifica` if a table or a declared field is missing, or if a text field has another size. Fields that
+    /// aren't declared are ignored. Adds missing indexes.
     void DataBaseTabelleAggiorna(int db);
     void DataBaseVerificaIndici(int db, int table);
 
-    /// Opens `StringaSQL`, or a query put together before, in a slot.
+    /// Opens the query in `StringaSQL`, or the query passed, in a slot.
     void RecordSetImposta(int db, int slot);
     void RecordSetImposta(int db, int slot, const Query& query);
-    /// Records found by the last RecordSetImposta. Counted when first asked: to be asked before that slot is written.
+    /// Number of records that the last RecordSetImposta found. They are counted at the first call, so call it before
+    /// that slot is written.
     [[nodiscard]] double NumeroRecord();
-    /// Slots 1 to 6 on their whole tables.
+    /// Opens the whole tables in slots 1 to 6.
     void RecordSetImpostaDefault();
 
     /// Position of a field in an open slot; nothing if there is none.
     [[nodiscard]] std::optional<int> CercaCampoTabella(int slot, const QString& name);
-    /// For each column name that is a field of the slot, its number from 1 and the field's position from 0 as two
-    /// digits each, and "\".
+    /// For each column name that is a field of the slot: the column's number (from 1) and the field's position (from
+    /// 0), two digits each, then "\".
     [[nodiscard]] QString CaricaRiferimentiVettoreCampiTabelleDatabase(int slot, const QStringList& columns);
 
-    /// Deletes the records of a table whose field is like the value (the whole table if the field is empty). `progress`
-    /// hears the begin and the end if there is anything to delete.
+    /// Deletes the records whose field is LIKE `value`, or all records if `field` is empty. If there is anything to
+    /// delete, `progress` is called at the start and at the end.
     void CancellaTabella(int table, const QString& field, const QString& value, const Progress& progress = {});
 
-    /// Whether a place of the guide has a part in brackets. Costs what has, not the size of the guide.
+    /// True if a place of the guide has a part in brackets. The time depends on the number of such places, not on the
+    /// size of the guide.
     [[nodiscard]] bool guidaConParentesi();
-    /// What the guide of the archive in use knows of a place.
+    /// Reader of the guide in the open archive.
     [[nodiscard]] LettoreGuida& guida();
 
-    /// Exactly these entries of the guide carry the mark of use from here on. Costs what is marked before and after,
-    /// not the size of the guide, and writes only what changes. They can be made anew: see writeDerived.
+    /// Sets the mark of use on exactly these entries of the guide. Writes only what changes. The time depends on the
+    /// number of marks before and after, not on the size of the guide. Marks are derived data: see writeDerived.
     void putMarksBack(const InsiemeDiRighe& used);
 
-    /// Commands on the archive in use, see Database.
+    /// Commands on the open archive, see Database.
     void beginCommand() { archive().beginCommand(); }
     void commitCommand() { archive().commitCommand(); }
     void rollbackCommand() noexcept;
@@ -124,7 +126,7 @@ class Archive {
     void writeDerived(const std::function<void()>& write) { archive().writeDerived(write); }
 
     [[nodiscard]] TabellaLetta tabella(const QString& name);
-    /// The most characters that a text field of the table holds.
+    /// Greatest length of a text field, in characters.
     [[nodiscard]] int dimensioneCampo(int table, QStringView field) const;
     [[nodiscard]] QStringList indici(const QString& table) { return archive().indici(table); }
 
@@ -147,7 +149,7 @@ class Archive {
     int lastSlot_ = 0;
 };
 
-/// A command on the archive in use that is rolled back unless it was committed.
+/// A command on the open archive, rolled back unless it is committed.
 class Comando : public Transaction {
   public:
     explicit Comando(const Archive& archive);

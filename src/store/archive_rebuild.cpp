@@ -1,8 +1,8 @@
-// Opening the archive, its making, and the rebuild of a file whose tables aren't the declared ones any more.
+// Opens the archive, makes a new one, and rebuilds a file whose tables differ from the declared ones.
 //
-// A new file is filled beside the old one, which stays open, and so locked, from its check to the end, when the new one
-// is whole, closed and safe on the disk; then the new one takes its name in one step. A crash at any point leaves the
-// old file or the new one.
+// A rebuild fills a new file beside the old one. The old file stays open, and so locked, until the new one is complete,
+// closed and safe on the disk. Then a rename puts the new file in its place. A crash at any point leaves either the old
+// file or the new one.
 #include "store/archive.h"
 
 #include <algorithm>
@@ -22,10 +22,10 @@ namespace vanzer::store {
 
 namespace {
 
-/// A first round may make a rebuild necessary, the second passes. More means that the file can't be mended.
+/// The first round may find that a rebuild is needed; the second then passes. A file that needs more can't be repaired.
 constexpr int mostRounds = 3;
 
-/// True for a value that the new field takes as it stands.
+/// True if the new field can store the value unchanged.
 bool fits(const Statement& old, int column, FieldKind from, const FieldDef& to) {
     if (from != to.kind || old.isNull(column))
         return false;
@@ -40,7 +40,7 @@ bool isCut(const Valore& value, const FieldDef& to) {
     return text != nullptr && to.kind == FieldKind::Text && to.size > 0 && text->size() > to.size;
 }
 
-/// The fields of one table that another has too, in the order in which they stand there.
+/// Names of the fields that `table` and `other` share, in the order of `table`.
 QStringList knownFields(const TableInfo& table, const TableInfo& other) {
     QStringList names;
     for (const FieldDef& field : table.campi) {
@@ -50,8 +50,8 @@ QStringList knownFields(const TableInfo& table, const TableInfo& other) {
     return names;
 }
 
-/// For each field of the new table where its value stands in the old one, -1 for nowhere. A field that the old table
-/// hasn't under its name takes what stands in its place under a name that the new one doesn't know.
+/// For each field of the new table, the position of its value in the old table; -1 for none. A field that the old table
+/// lacks takes the old field at the same position, if the new table has no field of that one's name.
 std::vector<int> sources(const TableInfo& old, const TableInfo& made) {
     std::vector<int> found;
     for (std::size_t place = 0; place < made.campi.size(); ++place) {
@@ -63,7 +63,7 @@ std::vector<int> sources(const TableInfo& old, const TableInfo& made) {
     return found;
 }
 
-/// Fields that only the old table has come to the end of the new one.
+/// Appends the fields that only the old table has to the new one.
 std::shared_ptr<const TableInfo> carryFields(Database& from, const TableInfo& old, Database& to,
                                              const TableInfo& made) {
     for (const FieldDef& field : old.campi) {
@@ -74,7 +74,7 @@ std::shared_ptr<const TableInfo> carryFields(Database& from, const TableInfo& ol
     return to.tabella(made.nome);
 }
 
-/// Returns how many values had to be cut.
+/// Copies the records and returns the number of values that had to be cut.
 qint64 copyTable(Database& from, const TableInfo& old, Database& to, const TableInfo& declared) {
     const std::vector<int> places = sources(old, declared);
     const auto made = carryFields(from, old, to, declared);
@@ -105,7 +105,7 @@ qint64 copyTable(Database& from, const TableInfo& old, Database& to, const Table
     return cut;
 }
 
-/// A table that only the old file has.
+/// Copies a table that only the old file has.
 void carryTable(Database& from, const QString& name, Database& to) {
     for (const QByteArray& statement : from.dichiarazioni(name))
         to.changeSchema(statement);
@@ -122,7 +122,8 @@ void carryTable(Database& from, const QString& name, Database& to) {
     }
 }
 
-/// Throws Corrupt for a file that has tables, but none of ours; Unlike where a table has our fields in another order.
+/// Throws Corrupt if the file has tables but no declared one, Unlike if a table has the declared fields in another
+/// order.
 void requireOurs(Database& file) {
     bool any = file.tabelle().isEmpty();
     for (int number = primaTabella; number <= ultimaTabella; ++number) {
@@ -138,7 +139,7 @@ void requireOurs(Database& file) {
         throw StoreError(StoreError::Kind::Corrupt, file.percorso());
 }
 
-/// On a disk that is full the next start does it.
+/// Marks the file with the format number. If that fails, for instance on a full disk, the next start tries again.
 void givesFormat(Database& archive) {
     try {
         if (!archive.hasFormat())
@@ -148,7 +149,8 @@ void givesFormat(Database& archive) {
     }
 }
 
-/// What an earlier attempt left goes. Throws Busy if another program is at work on it, ReadOnly if it can't go.
+/// Removes what an earlier attempt left. Throws Busy if another program has the file open, ReadOnly if it can't be
+/// removed.
 void clearPlace(const QString& temporary) {
     if (!QFileInfo::exists(temporary))
         return;
@@ -163,7 +165,7 @@ void clearPlace(const QString& temporary) {
         throw StoreError(StoreError::Kind::ReadOnly, temporary);
 }
 
-/// The newest copy that has trips, or else the newest.
+/// The newest copy that has destinations, or else the newest copy; nothing if there is none.
 std::optional<CopiaTrovata> copyToResume(const QString& archivePath) {
     const std::vector<CopiaTrovata> copies = copieAccanto(archivePath);
     const auto full = std::ranges::find_if(copies, [](const CopiaTrovata& copy) { return copy.mete > 0; });
@@ -200,8 +202,8 @@ Archive::Apertura Archive::openArchive(const PrimaDellUso& before, const SeManca
     return opening;
 }
 
-/// Fills a new file in slot 0 and gives it the archive's name. If it doesn't get there, `kept` goes: the old file, of
-/// which that is a copy, is still in its place.
+/// Makes a new file as database 0, fills it and renames it to the archive's name. If that fails, removes `kept`, a copy
+/// of the old file: the old file itself is still in place.
 void Archive::makeFile(const std::function<void()>& fill, const QString& kept) {
     const QString temporary = PercorsoProgramma + nomeRicostruzione;
     const QString archivePath = PercorsoProgramma + nomeArchivio;
@@ -219,7 +221,7 @@ void Archive::makeFile(const std::function<void()>& fill, const QString& kept) {
         databases_[0].reset();
         removeRemains(temporary);
 #ifdef Q_OS_WIN
-        databases_[1].reset(); // there an open file can't be replaced
+        databases_[1].reset(); // Windows can't replace an open file
 #endif
         putInPlace(temporary, archivePath);
         databases_[1].reset();
@@ -261,7 +263,7 @@ void Archive::rebuild(Apertura& opening) {
     opening.archivioDiPrima = kept;
 }
 
-/// Returns how many values had to be cut.
+/// Copies all tables and returns the number of values that had to be cut.
 qint64 Archive::copyTables() {
     Database& old = database(1);
     Database& made = database(0);

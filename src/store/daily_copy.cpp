@@ -24,13 +24,13 @@ constexpr QLatin1String unfinished(".parte");
 
 const QString nameOfDay = QStringLiteral("'Vanzer 'yyyy-MM-dd'.mdb'");
 
-/// No date for any other name, be it only by a capital.
+/// The date in a copy's name; an invalid date if the name differs in any way, even in case.
 QDate dayOf(const QString& name) {
     const QDate day = QDate::fromString(name, nameOfDay);
     return day.toString(nameOfDay) == name ? day : QDate();
 }
 
-/// The newest first: the names stand in the order of their days. What else lies there is the user's own.
+/// Names of the copies, newest first: names sort by date. Other files belong to the user and are left out.
 QStringList copiesIn(const QDir& folder) {
     QStringList names = folder.entryList({QStringLiteral("Vanzer *.mdb")}, QDir::Files, QDir::Name | QDir::Reversed);
     names.removeIf([](const QString& name) { return !dayOf(name).isValid(); });
@@ -41,7 +41,7 @@ struct Closer {
     void operator()(sqlite3* connection) const { sqlite3_close_v2(connection); }
 };
 
-/// Opened as a file that nobody writes to: no lock, no journal, whatever its state.
+/// Number of destinations in a copy, -1 if it can't be read. Opens it as immutable: without lock and journal.
 int tripsIn(const QString& path) {
     QUrl name = QUrl::fromLocalFile(path);
     name.setQuery(QStringLiteral("immutable=1"));
@@ -52,7 +52,7 @@ int tripsIn(const QString& path) {
     if (result != SQLITE_OK)
         return -1;
     try {
-        // No index: their collation is the archive's own.
+        // No index: the indexes use a collation that this connection doesn't have.
         Statement count(opened, "SELECT count(*) FROM " + TabelleNomi(MeteVanzer).toUtf8() + " NOT INDEXED", path);
         return count.step() ? static_cast<int>(count.integer(0)) : -1;
     } catch (const StoreError&) {
@@ -60,7 +60,7 @@ int tripsIn(const QString& path) {
     }
 }
 
-/// What was left by a program that was killed while it made a copy.
+/// Removes copies that a killed program left unfinished.
 void removeUnfinished(const QDir& folder) {
     for (QString name : folder.entryList({QStringLiteral("Vanzer *") + unfinished + u'*'}, QDir::Files)) {
         name.truncate(name.lastIndexOf(unfinished));
@@ -81,7 +81,7 @@ void countTrips(std::vector<CopiaTrovata>& copies) {
         copy.mete = tripsIn(copy.path);
 }
 
-/// Most of the days nothing goes, and no copy is opened.
+/// Looks at the dates first: on most days no copy is surplus, and none has to be opened.
 void removeTooMany(const QDir& folder, const QDate& today) {
     std::vector<CopiaTrovata> copies = found(folder);
     if (copieDaTogliere(copies, today).empty())
@@ -91,12 +91,12 @@ void removeTooMany(const QDir& folder, const QDate& today) {
         QFile::remove(copy.path);
 }
 
-using Copies = std::span<const CopiaTrovata>; // the newest first
+using Copies = std::span<const CopiaTrovata>; // newest first
 
 constexpr qint64 dayNumber(const QDate& day) {
     return day.toJulianDay();
 }
-/// Weeks begin on Monday, as day 0 did.
+/// Weeks begin on Monday: Julian day 0 was one.
 constexpr qint64 weekNumber(const QDate& day) {
     return day.toJulianDay() / 7;
 }
@@ -121,7 +121,7 @@ void keepNewestOfFullest(Copies copies, std::set<QDate>& kept) {
         kept.insert(fullest->day);
 }
 
-/// False if it was left.
+/// False if `progress` cancelled the copy.
 bool copyTo(Database& archive, const QString& path, const Database::CopyProgress& progress) {
     copyRights(archive.percorso(), path);
     const auto copy = Database::create(path);
@@ -129,7 +129,7 @@ bool copyTo(Database& archive, const QString& path, const Database::CopyProgress
         return false;
     if (!copy->intatto())
         throw StoreError(StoreError::Kind::Corrupt, archive.percorso());
-    copy->makeDistinct(); // put in the archive's place it must not be taken for it
+    copy->makeDistinct(); // put in the archive's place, it must be told from the archive
     return true;
 }
 

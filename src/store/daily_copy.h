@@ -1,4 +1,4 @@
-// A copy of the archive for each day on which it was opened, in a folder beside it.
+// Daily copies of the archive, in a folder beside it: one for each day on which it was opened.
 #pragma once
 
 #include <vector>
@@ -10,40 +10,42 @@
 
 namespace vanzer::store {
 
-/// Copies of so many days are kept, and the newest of each of so many weeks and months that have one.
+/// How many copies are kept: those of the last days that have one, and the newest of each of the last weeks and months
+/// that have one.
 inline constexpr int giorniTenuti = 10;
 inline constexpr int settimaneTenute = 8;
 inline constexpr int mesiTenuti = 12;
 
-/// Copies an open archive to "Copie/Vanzer 2026-11-23.mdb" beside it, unless it is there already, and takes away the
-/// copies that are too many. A copy has its name when it is whole and safe on the disk, and the rights of the archive;
-/// one that `progress` leaves, or that fails, leaves nothing. Throws StoreError; Corrupt, with the archive's own path,
-/// if the archive is damaged inside: then the older copies stay, all of them.
+/// Copies an open archive to "Copie/Vanzer 2026-11-23.mdb" beside it and removes surplus copies. Does nothing if the
+/// day has a copy already. The copy gets its name when it is complete and safe on the disk, and has the archive's
+/// permissions. If `progress` cancels or the copy fails, no part of it is left. Throws StoreError: Corrupt, with the
+/// archive's path, if the archive is damaged; then all older copies stay.
 void makeDailyCopy(Database& archive, const QDate& day, const Database::CopyProgress& progress);
 
-/// Whether the day has no copy yet.
+/// True if the day has no copy yet.
 [[nodiscard]] bool copyDue(const QString& archivePath, const QDate& day);
 
-/// The folder of the copies beside an archive.
+/// Path of the folder with the copies of an archive.
 [[nodiscard]] QString cartellaCopie(const QString& archivePath);
 
-/// Copies an open archive into that folder under the name, with the archive's rights: the copy has its name when it is
-/// whole, found sound and safe on the disk. False if `progress` left it; then, and when it throws, nothing is left of
-/// it.
+/// Copies an open archive into that folder as `name`, with the archive's permissions. The copy gets its name when it is
+/// complete, checked and safe on the disk. False if `progress` cancelled it. In that case, and when it throws, no part
+/// of it is left.
 [[nodiscard]] bool makeWholeCopy(Database& archive, const QString& name, const Database::CopyProgress& progress);
 
 struct CopiaTrovata {
     QString path; ///< full
     QDate day;
-    int mete = -1; ///< trips that it holds; -1 if it can't be read
+    int mete = -1; ///< number of destinations in it; -1 if it can't be read
 };
 
-/// The copies beside an archive, the newest first. Nothing is made beside them.
+/// The copies of an archive, newest first. Writes nothing.
 [[nodiscard]] std::vector<CopiaTrovata> copieAccanto(const QString& archivePath);
 
-/// Which of them, the newest first, are too many; today's distance to them doesn't matter. Those of days to come, from
-/// when the clock was wrong, are counted apart: as many as the days that are kept. Of both kinds the newest of those
-/// with the most trips stays, whatever its day; one that can't be read counts as empty.
+/// The surplus copies among `copies`, which must be sorted with the newest first. How long ago they were made doesn't
+/// matter. Copies dated after `today`, made while the clock was wrong, are counted apart; the last `giorniTenuti` of
+/// them stay. Among each kind the newest copy with the most destinations always stays. A copy that can't be read counts
+/// as empty.
 [[nodiscard]] std::vector<CopiaTrovata> copieDaTogliere(const std::vector<CopiaTrovata>& copies, const QDate& today);
 
 /// Full path of the newest copy beside an archive; empty if there is none.

@@ -39,7 +39,7 @@ void likeFunction(sqlite3_context* context, int /*count*/, sqlite3_value** argum
     sqlite3_result_int(context, static_cast<int>(found));
 }
 
-/// The system's reason for a file that can't be opened.
+/// The kind of error for a file that the engine can't open.
 StoreError::Kind kindOfOpening(int resultCode, const QFileInfo& file) {
     if ((resultCode & 0xff) != SQLITE_CANTOPEN)
         return kindOfResult(resultCode);
@@ -50,13 +50,13 @@ StoreError::Kind kindOfOpening(int resultCode, const QFileInfo& file) {
     return QFileInfo(file.path()).isWritable() ? StoreError::Kind::Io : StoreError::Kind::ReadOnly;
 }
 
-/// Two files have the same with a chance of one in two milliards.
+/// A random version. Two files have the same one with a chance of 1 in 2 thousand million.
 quint32 versionByChance() {
     return QRandomGenerator::global()->bounded(1U, static_cast<quint32>(std::numeric_limits<qint32>::max()));
 }
 
-/// What a file's time of change has below the second when its version was left in order: whoever writes to the file
-/// afterwards, or a disk that lost such a write, leaves another one.
+/// The fraction of a second that a file's time of change gets when the file is closed in order. A later write to the
+/// file, or the loss of such a write, changes it.
 std::chrono::microseconds sign(quint32 version) {
     return std::chrono::microseconds(1 + version % 999'999);
 }
@@ -86,7 +86,7 @@ std::unique_ptr<Database> Database::open(const QString& path) {
     const QFileInfo file(path);
     if (!file.exists())
         throw StoreError(StoreError::Kind::NotFound, path);
-    // Without a journal beside the file nothing could be written, so this shows now and not in mid-work.
+    // Writing needs a journal beside the file. Fail now rather than at the first write.
     if (!QFileInfo(file.path()).isWritable())
         throw StoreError(StoreError::Kind::ReadOnly, path);
     return std::unique_ptr<Database>(new Database(path, SQLITE_OPEN_READWRITE));
@@ -98,8 +98,8 @@ std::unique_ptr<Database> Database::create(const QString& path) {
     return made;
 }
 
-// The lock is taken with the first transaction and, in exclusive mode, kept to the end. That transaction also rolls
-// back what a killed program left half done, and refuses a file that is no archive.
+// In exclusive mode the first transaction takes the lock and keeps it to the end. That transaction also rolls back what
+// a killed program left unfinished, and fails if the file isn't a database.
 Database::Database(const QString& path, int flags) : path_(path) {
     sqlite3* connection = nullptr;
     const int result =
@@ -135,15 +135,15 @@ Database::~Database() {
     try {
         leave();
     } catch (...) {
-        sound_ = false; // the next start looks at everything
+        sound_ = false; // not signed as closed in order: the next start checks the whole file
     }
 }
 
 void Database::leave() {
     const bool asLeft = isAsLeft();
-    // In exclusive mode an emptied journal stays beside the file; back in normal mode the engine takes it away when
-    // its mode changes, also one that a killed program left there. Beside another file that has taken the place of
-    // this one it may be another program's.
+    // In exclusive mode an empty journal stays beside the file. Changing the journal mode in normal mode removes it,
+    // also one that a killed program left. If another file has taken this one's place, the journal may be another
+    // program's and stays.
     if (asLeft && QFileInfo::exists(journal()))
         sqlite3_exec(connection_.get(),
                      "PRAGMA locking_mode=NORMAL; SELECT count(*) FROM sqlite_schema; "
@@ -154,7 +154,7 @@ void Database::leave() {
         signEnd(path_, version_);
 }
 
-// What the file brings along is data, never a program: no triggers or views of it run, and its schema calls nothing.
+// Treats the file as data only: no trigger or view of it runs, and its schema can't call functions.
 void Database::harden() {
     sqlite3* const connection = connection_.get();
     struct Switch {
@@ -216,7 +216,7 @@ void Database::acceptFile() {
         putForeignJournalAside();
 }
 
-// Under the lock, as another program that has the archive may be writing its journal.
+// Holds the lock meanwhile: another program that has the archive open may be writing its journal.
 void Database::putForeignJournalAside() {
     struct Lock {
         sqlite3_file& file;
@@ -365,7 +365,7 @@ quint32 Database::storedVersion() {
     return static_cast<quint32>(version->integer(0));
 }
 
-// The system lets a program write on to a file that was taken away or put elsewhere; nobody would find it again.
+// On Unix a program can go on writing to a file that was removed or renamed. Nobody would find those data again.
 bool Database::inPlace() const {
     int moved = 0;
     sqlite3_file_control(connection_.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
@@ -379,7 +379,7 @@ int Database::spills() const {
     return spilled;
 }
 
-// What another program wrote into the file isn't overwritten, nor is what we know of the old one stored into it.
+// Throws if the file was moved or another program wrote to it: its data must not be overwritten with ours.
 void Database::requireUnchanged() const {
     if (!inPlace())
         throw StoreError(StoreError::Kind::NotFound, path_);
@@ -406,8 +406,7 @@ void Database::setVersion(quint32 version) {
     next_ = version;
 }
 
-// With its version as the first thing that it writes, a transaction has the head of the file at the head of its
-// journal.
+// Writes the version first, so that the journal begins with page 1, which holds the head of the file.
 void Database::beginTransaction() {
     run("BEGIN IMMEDIATE");
     spillsBefore_ = spills();
@@ -415,8 +414,8 @@ void Database::beginTransaction() {
     setVersion(version_ == 0 ? versionByChance() : nextVersion(version_));
 }
 
-// A disk that fails at the very last step of a commit, when all is stored already, makes the engine call it failed. The
-// version that is stored tells what is true.
+// If the disk fails in the last step of a commit, the engine reports a failure although everything is stored. The
+// stored version shows what happened.
 void Database::commitTransaction() {
     std::optional<StoreError> failure;
     try {
@@ -534,7 +533,7 @@ Database::Salute Database::check() {
     };
     try {
         Salute health = Salute::Sano;
-        if (!agrees() && !agrees()) { // a read that fails once looks the same
+        if (!agrees() && !agrees()) { // try twice: a single failed read looks like damage
             Transaction indexes(*this);
             changeSchema("REINDEX");
             if (!agrees())

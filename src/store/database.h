@@ -1,4 +1,4 @@
-// One connection to an archive file: held alone for its whole life, safe against a crash at any point.
+// A connection to an archive file. It is exclusive for its whole life, and a crash at any point leaves a valid file.
 #pragma once
 
 #include <functional>
@@ -23,7 +23,7 @@ namespace vanzer::store {
 
 struct Translation;
 
-/// A set that is being walked. It must step aside before its table is written.
+/// An open set of records. The connection tells it about writes and rollbacks.
 class LiveSet {
   public:
     LiveSet() = default;
@@ -31,96 +31,99 @@ class LiveSet {
     LiveSet& operator=(const LiveSet&) = delete;
     virtual ~LiveSet() = default;
 
-    /// Reads what it still needs of its table.
+    /// Called before `table` is written: the set reads what it still needs of it.
     virtual void beforeWriting(const TableInfo& table) = 0;
-    /// What was written last is rolled back: nothing that this has open may stay so.
+    /// Called before a rollback: the set must close its open statements.
     virtual void rolledBack() noexcept = 0;
-    /// The connection goes; nothing of it may be used any more.
+    /// Called before the connection closes: the set must not use it any more.
     virtual void abandon() noexcept = 0;
 };
 
 class Database {
   public:
-    /// Opens an existing file. A journal that a killed program left is rolled back into it, or put aside if it belongs
-    /// to another file or another state of this one. Throws NotFound; Busy if any other connection has it; Corrupt if
-    /// it is no archive; Newer; ReadOnly if the file or its directory can't be written.
+    /// Opens an existing file. Rolls back a journal that a killed program left, or renames it if it belongs to another
+    /// file or another state of this one. Throws NotFound if there is no file; Busy if another connection has it open;
+    /// Corrupt if it isn't an archive; Newer if its format is of a later version; ReadOnly if the file or its directory
+    /// can't be written.
     [[nodiscard]] static std::unique_ptr<Database> open(const QString& path);
-    /// Makes a new empty file. The same failures.
+    /// Makes a new empty file. Throws as open().
     [[nodiscard]] static std::unique_ptr<Database> create(const QString& path);
 
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
-    /// Rolls back an open command, lets go of the file and leaves nothing beside it.
+    /// Rolls back an open command, closes the file and removes its journal.
     ~Database();
 
     [[nodiscard]] const QString& percorso() const { return path_; }
-    /// Where a journal lies now that wasn't this file's; empty if there was none.
+    /// New path of a journal that belonged to another file; empty if there was none.
     [[nodiscard]] const QString& giornaleEstraneo() const { return strayJournal_; }
 
     [[nodiscard]] QStringList tabelle();
-    /// The stored table of that name, case ignored; null if there is none.
+    /// The table of that name in the file, case ignored; null if there is none.
     [[nodiscard]] std::shared_ptr<const TableInfo> tabella(const QString& name);
-    /// Logical names of a table's indexes, in the order of their making; internal ones aren't told.
+    /// Logical names of a table's indexes, in the order in which they were made. Internal indexes are left out.
     [[nodiscard]] QStringList indici(const QString& table);
-    /// By its name in the file.
+    /// True if the file has an index of that (physical) name.
     [[nodiscard]] bool hasIndex(const QString& name);
     void createTable(const QString& name, const std::vector<FieldDef>& fields);
     /// Runs a statement that changes the schema.
     void changeSchema(const QByteArray& sql);
 
-    /// A statement for exclusive use; prepared once and kept (the system has a few dozen different ones).
+    /// A statement for exclusive use. Statements are prepared once and kept; there are a few dozen.
     [[nodiscard]] StatementLease prepare(const QByteArray& sql);
-    /// Runs a statement that writes `table`: first all sets on it step aside and, within a command, the transaction
-    /// begins. Returns the number of records changed. A failure spoils the command.
+    /// Runs a statement that writes `table` and returns the number of changed records. First tells all open sets and,
+    /// within a command, begins the transaction. After a failure the command can't be committed.
     qint64 write(const TableInfo& table, Statement& statement);
     [[nodiscard]] qint64 ultimoRowid() const;
 
-    /// Commands may be nested. The first write within one begins a transaction, the end of the outermost commits it.
+    /// Begins a command. Commands may be nested. The first write begins a transaction; the outermost commit ends it.
     void beginCommand() { ++depth_; }
-    /// Throws what spoiled the command, if something did; then, as when the commit itself fails, nothing is stored.
+    /// Ends a command. Throws the failure of an earlier write of the command, or that of the commit. Then nothing is
+    /// stored.
     void commitCommand();
-    /// Undoes all that the outermost command wrote; it can only be rolled back from there on.
+    /// Ends a command and undoes all that the outermost command wrote. The commands around it can only be rolled back
+    /// then.
     void rollbackCommand() noexcept;
-    /// Stores what the running command has written so far; it goes on. Throws as commitCommand.
+    /// Commits what the running command has written so far; the command goes on. Throws as commitCommand.
     void storeSoFar();
-    /// Runs what writes nothing but what can be made anew from the rest. If that fails, now or when it is stored, and
-    /// nothing else waits to be stored with it, it is undone and no failure.
+    /// Runs `write`, which writes only derived data, that is data that can be made again from the rest. If it fails,
+    /// now or at the commit, and no other data wait for that commit, it is undone and the failure is ignored.
     void writeDerived(const std::function<void()>& write);
-    /// Undoes what the running command has written since then; it goes on with a clean sheet.
+    /// Undoes what the running command has written since the last commit, and forgets its failure; the command goes on.
     void undoSoFar() noexcept;
     [[nodiscard]] bool inTransaction() const;
 
     void add(LiveSet& set);
     void remove(LiveSet& set) noexcept;
 
-    /// Translated queries by their shape.
+    /// Translated queries by their form.
     [[nodiscard]] QHash<QString, std::shared_ptr<const Translation>>& traduzioni() { return translations_; }
 
-    /// How far a copy has come, in pages; false leaves it.
+    /// Progress of a copy in pages. Returns false to cancel it.
     using CopyProgress = std::function<bool(qint64 done, qint64 total)>;
-    /// Copies the whole file into another, page by page; `progress` is asked each 2 MB but not at the end. False if it
-    /// was left: the other file is then as it was.
+    /// Copies the whole file into `other`. Calls `progress` every 512 pages (2 MB), but not at the end. False if it was
+    /// cancelled; `other` is unchanged then.
     [[nodiscard]] bool copyInto(Database& other, const CopyProgress& progress);
-    /// False if the file is damaged inside; whether the indexes agree with their tables isn't looked at.
+    /// False if the file is damaged. Doesn't check that indexes match their tables.
     [[nodiscard]] bool intatto();
-    /// Whether the file is as a program left it that had found it sound and ended in order.
+    /// True if the last program that had the file open found it sound and closed it in order, and nobody wrote to it
+    /// since.
     [[nodiscard]] bool chiusoInOrdine() const { return sound_; }
     enum class Salute { Sano, IndiciRifatti, Danneggiato };
-    /// Looks at everything, and makes the indexes anew where nothing but they is wrong. Takes about 5 us a record.
+    /// Checks the whole file, and rebuilds the indexes if only they are wrong. Takes about 5 microseconds a record.
     [[nodiscard]] Salute check();
-    /// Whether the file bears the number of a format: archives of the first versions don't.
+    /// True if the file has a format number. Archives of the first versions have none.
     [[nodiscard]] bool hasFormat() const;
-    /// Gives the file the number of our format and a version of its own: what was copied from another file isn't taken
-    /// for it any more.
+    /// Gives the file the current format number and a new random version, so that a copy can be told from its original.
     void makeDistinct();
-    /// The declared type of a field, reduced to what a type may hold.
+    /// The declared type of a field, without characters that a type may not contain.
     [[nodiscard]] QByteArray tipo(const QString& table, const QString& field);
-    /// The statements that made a table and its indexes.
+    /// The SQL statements that create a table and its indexes.
     [[nodiscard]] QByteArrayList dichiarazioni(const QString& table);
 
-    /// The plan that the engine has for a statement, a line for each step.
+    /// The engine's query plan for a statement, one line for each step.
     [[nodiscard]] QStringList piano(const QByteArray& sql);
-    /// Steps of the engine's machine that all kept statements have run so far: how much work was done.
+    /// Virtual machine steps of all kept statements so far: a measure of the work done.
     [[nodiscard]] qint64 lavoro() const;
 
   private:
@@ -158,17 +161,17 @@ class Database {
     QHash<QString, std::shared_ptr<const Translation>> translations_;
     std::vector<LiveSet*> sets_;
     int depth_ = 0;
-    bool waiting_ = false; ///< something that can't be made anew waits to be stored
-    quint32 version_ = 0;  ///< of what is stored: each transaction has its own
-    quint32 next_ = 0;     ///< that of the running transaction
-    qint64 size_ = 0;      ///< bytes of the file as it was last stored
-    int spillsBefore_ = 0; ///< pages that had to be written in mid-transaction, until the running one
+    bool waiting_ = false; ///< data other than derived data wait for the commit
+    quint32 version_ = 0;  ///< stored version: each transaction has its own
+    quint32 next_ = 0;     ///< version of the running transaction
+    qint64 size_ = 0;      ///< bytes of the file after the last commit
+    int spillsBefore_ = 0; ///< the engine's count of early page writes when the transaction began
     bool sound_ = false;
     QString strayJournal_;
     std::optional<StoreError> spoiled_;
 };
 
-/// A command that is rolled back unless it was committed.
+/// A command, rolled back unless it is committed.
 class Transaction {
   public:
     explicit Transaction(Database& database) : database_(&database) { database.beginCommand(); }

@@ -32,7 +32,7 @@ std::optional<QByteArray> readDraft(const QString& path) {
 
 void writeDraft(const QString& path, const QByteArray& bytes) {
     const QString aside = path + QStringLiteral(".parte");
-    QFile::remove(aside); // of a program that was killed
+    QFile::remove(aside); // left by a program that was killed
     QFile file(aside);
     const bool written = file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner) &&
                          file.write(bytes) == bytes.size() && file.flush();

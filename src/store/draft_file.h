@@ -1,5 +1,5 @@
-// The draft's file beside the archive: read with care, since anything may lie there, and written so that a whole one is
-// there at any time.
+// The draft's file beside the archive. Reading doesn't trust what is there. Writing replaces the file in one step, so
+// that a complete draft is there at any time.
 #pragma once
 
 #include <optional>
@@ -10,22 +10,22 @@
 namespace vanzer::store {
 
 inline constexpr QLatin1String nomeBozza("Vanzer.bozza");
-/// What a draft that was put aside gets behind its name.
+/// Endings for the name of a draft that was set aside.
 inline constexpr QLatin1String bozzaRifiutata(".precedente");
 inline constexpr QLatin1String bozzaDanneggiata(".danneggiata");
 
-/// The bytes of the draft; nothing if there is none. Throws Corrupt for what is no plain file or larger than a draft,
-/// Io for what can't be read.
+/// The bytes of the draft; nothing if there is none. Throws Corrupt if it isn't a plain file or is larger than
+/// `massimaBozza`, Io if it can't be read.
 [[nodiscard]] std::optional<QByteArray> readDraft(const QString& path);
 
-/// Writes aside, for its owner's eyes only, and puts into place what is safe on the disk. Throws Io; the draft before
-/// is still there then.
+/// Writes a temporary file that only its owner may read, and renames it once it is safe on the disk. Throws Io; the
+/// previous draft is still there then.
 void writeDraft(const QString& path, const QByteArray& bytes);
 
 void removeDraft(const QString& path) noexcept;
 
-/// Gives the draft, whatever it is, another name: its own with `ending`, in place of what had that name before. Returns
-/// the path. Throws Io.
+/// Renames the draft, whatever kind of file it is: `ending` is added to its name. Replaces an older file of that name.
+/// Returns the new path. Throws Io.
 QString setDraftAside(const QString& path, QLatin1String ending);
 
 } // namespace vanzer::store

@@ -1,4 +1,4 @@
-// What the store throws: one family, sorted by what the user can do about it.
+// The exceptions of the store. Their kinds follow what the user can do about them.
 #pragma once
 
 #include <exception>
@@ -8,7 +8,7 @@
 
 namespace vanzer::store {
 
-/// A failure of the archive. Whatever the kind, what was stored before the failed command is still stored.
+/// A failure of the archive. What was stored before the failed command stays stored, whatever the kind.
 class StoreError : public std::exception {
   public:
     enum class Kind {
@@ -18,13 +18,14 @@ class StoreError : public std::exception {
         Full,     ///< no room left on the disk
         ReadOnly, ///< file or directory can't be written
         Replaced, ///< another program has changed the file under this one
-        Newer,    ///< of a later format than this program knows
-        Unlike,   ///< its tables have the fields that we know in another order
-        Io,       ///< the system failed to read or write
-        Other     ///< a fault of the caller: unknown table or field, unreadable query, misused set
+        Newer,    ///< its format is newer than this program knows
+        Unlike,   ///< its tables have the declared fields in another order
+        Io,       ///< the operating system failed to read or write
+        Other     ///< an error of the caller: unknown table or field, invalid query, misuse of a set
     };
 
-    /// `detail` is the technical cause, shown for Io and Other; the format's number for Newer, the table for Unlike.
+    /// `detail` depends on the kind: the technical cause for Io and Other, the format number for Newer, the table's
+    /// name for Unlike.
     StoreError(Kind kind, QString path, QString detail = {});
 
     [[nodiscard]] Kind kind() const { return kind_; }
@@ -41,7 +42,7 @@ class StoreError : public std::exception {
     QByteArray what_;
 };
 
-/// The kind of an engine result code, plain or extended.
+/// The kind for a result code of the engine, plain or extended.
 [[nodiscard]] StoreError::Kind kindOfResult(int resultCode);
 
 } // namespace vanzer::store

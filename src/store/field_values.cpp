@@ -8,7 +8,7 @@ namespace vanzer::store {
 
 namespace {
 
-// A pair that stands for one character isn't torn apart.
+// Doesn't split a surrogate pair.
 QString cut(const QString& text, int size) {
     if (text.size() <= size)
         return text;

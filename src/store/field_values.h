@@ -1,4 +1,4 @@
-// What a field keeps of a text, and the text of what it keeps.
+// Converts texts to stored values and back.
 #pragma once
 
 #include "store/schema.h"
@@ -6,19 +6,20 @@
 
 namespace vanzer::store {
 
-/// A text as the field stores it: cut to its size, a blank if it is empty; a number, or yes/no, by the field's kind.
+/// The value that a field stores for a text. A text field cuts it to its size and stores a blank for an empty text.
+/// Other fields store a number or yes/no.
 [[nodiscard]] Valore valoreDa(const QString& text, const FieldDef& field);
 
-/// The value of a field that nothing was written to: no for yes/no, else none.
+/// The value of a field that was never written: "no" for yes/no, no value for all others.
 [[nodiscard]] Valore valoreIniziale(const FieldDef& field);
 
-/// The text of a stored value; empty if there is none. Yes/no is "True" or "False".
+/// The text of a stored value; empty if there is no value. Yes/no becomes "True" or "False".
 [[nodiscard]] QString testoDa(const Valore& value, FieldKind kind);
 
-/// "True", "Vero", "-1" and "1" are yes in any case, all else is no.
+/// True for "True", "Vero" (case ignored), "-1" and "1"; false for everything else.
 [[nodiscard]] bool siNoDa(const Valore& value);
 
-/// A stored value as another field would store it.
+/// Converts the stored value of one field to what another field would store.
 [[nodiscard]] Valore adattato(const Valore& value, FieldKind from, const FieldDef& to);
 
 } // namespace vanzer::store

@@ -28,7 +28,7 @@ bool isPowerOfTwo(quint32 size, quint32 least, quint32 most) {
     return size >= least && size <= most && (size & (size - 1)) == 0;
 }
 
-/// Nothing if there is nothing to roll back.
+/// Decodes the head of a journal; nothing if there is nothing to roll back.
 std::optional<JournalHead> journalHead(QByteArrayView bytes) {
     constexpr QByteArrayView mark("\xd9\xd5\x05\xf9\x20\xa1\x63\xd7");
     if (bytes.size() < JournalHead::size || !bytes.startsWith(mark))
@@ -47,7 +47,7 @@ quint32 sumOf(QByteArrayView page, quint32 seed) {
     return sum;
 }
 
-/// The head of the file as it was before the transaction.
+/// The head of the file before the transaction, read from page 1 in the journal.
 std::optional<FileHead> headInJournal(QFile& journal, const JournalHead& head) {
     const qint64 recordSize = qint64{head.page} + 8;
     if (!journal.seek(head.sector))
@@ -97,14 +97,15 @@ bool isForeignJournal(const QString& path, const FileHead& file, qint64 size) {
         return false;
     const auto before = headInJournal(journal, *head);
     if (!before) {
-        // What was never synced has changed nothing; but its length would be given to the file.
+        // A journal that was never synced has changed no page. But rolling it back sets the file's length.
         if (head->records == 0)
             return qint64{head->pages} * head->page != size;
         return file.application != 0;
     }
     if (file.version == before->version || file.version == nextVersion(before->version))
         return false;
-    // A file that never counted begins anywhere, and so does an older archive with the number of its format.
+    // Versions start anywhere: at the first transaction of a file without one, or when an older archive gets its format
+    // number.
     const bool begins = before->version == 0 || (before->application == 0 && file.application != 0);
     return !begins || file.changes - before->changes > 1;
 }

@@ -1,14 +1,14 @@
-// The first bytes of an archive's file and of the engine's journal, read past the engine: whose they are, and how far.
+// Reads the first bytes of an archive and of its journal without the engine, to find out whether they belong together.
 //
-// The head of a file holds, each as four bytes with the highest first, at 24 the engine's counter of changes, at 60 the
-// version (user_version) and at 68 the application (application_id). The version begins at a number drawn by chance
-// when a file is made and goes up by one with each transaction, so that it tells both the archive and its state. The
-// application is "Van" and the number of the format; archives from before formats were counted have none.
+// The head of a file has three numbers of four bytes, highest byte first. At offset 24 is the engine's change counter,
+// at 60 the version (user_version), at 68 the application (application_id). The version starts at a random number and
+// goes up by one with each transaction, so it identifies both the archive and its state. The application is "Van" and
+// the format number; archives made before formats had numbers have 0 there.
 //
-// A journal begins with its mark, the number of its records (none before it was synced), a seed for their sums, the
-// file's pages before the transaction, the size of a sector, at which the records begin, and that of a page. A record
-// is a page's number, the page as it was, and a sum over each two-hundredth byte of it, from its end. Each transaction
-// of ours begins with page 1.
+// A journal begins with a magic number, the number of its records (0 before it was synced), a seed for checksums, the
+// number of pages of the file before the transaction, the size of a sector in bytes, which is also the offset of the
+// first record, and the size of a page in bytes. A record is a page number, the page before the transaction, and a
+// checksum over every 200th byte of it, counted from its end. Our transactions write page 1 first.
 #pragma once
 
 #include <optional>
@@ -19,7 +19,7 @@
 namespace vanzer::store {
 
 inline constexpr qint64 dimensioneTesta = 100;
-/// No file of the engine is shorter than its least page.
+/// Bytes of the smallest page, and so of the shortest file that the engine makes.
 inline constexpr qint64 leastFile = 512;
 
 inline constexpr quint32 formatoAttuale = 1;
@@ -31,19 +31,19 @@ struct FileHead {
     quint32 application = 0;
 
     friend bool operator==(const FileHead&, const FileHead&) = default;
-    /// The format's number if the file is one of ours: 0 where none is told.
+    /// The format number; 0 if the file has none. Nothing if the application isn't ours.
     [[nodiscard]] std::optional<quint32> formato() const;
 };
 
-/// Nothing if the bytes aren't the head of a file of the engine.
+/// Decodes a head; nothing if the bytes aren't from a file of the engine.
 [[nodiscard]] std::optional<FileHead> fileHead(QByteArrayView bytes);
 
-/// The version behind this one. Never 0, which a file has that never counted.
+/// The next version. Never 0: that means that versions were never counted.
 [[nodiscard]] quint32 nextVersion(quint32 version);
 
-/// Whether a journal that waits to be rolled back into the file of that head and size (bytes) was written for another
-/// file, or for an earlier or later state of it. No for one that isn't there or holds nothing to roll back; yes for
-/// what is no plain file.
+/// True if a journal was written for another file than the one with this head and size (bytes), or for another state of
+/// it. Such a journal must not be rolled back. False if there is no journal or it has nothing to roll back; true if it
+/// isn't a plain file.
 [[nodiscard]] bool isForeignJournal(const QString& journal, const FileHead& head, qint64 size);
 
 } // namespace vanzer::store

@@ -1,5 +1,5 @@
-// Marks of use of the guide's entries: while an itinerary is loaded, stored or prepared each entry counts once, at the
-// first passage through its place. A run begins with no mark set; the marks are kept in memory and written at its end.
+// Marks of use of the guide's entries. While an itinerary is loaded, stored or prepared, each entry counts once, when
+// its place is first passed. A run begins without marks, keeps them in memory and writes them at its end.
 #pragma once
 
 #include <vector>
@@ -13,13 +13,14 @@ class SegniGuida {
   public:
     explicit SegniGuida(Archive& archive) : archive_(archive) {}
 
-    /// The archive's own: they hold until it is read or written again.
+    /// Pointers to entries that the archive keeps. They hold until the guide is read or written again.
     using Voci = std::vector<const VoceGuida*>;
 
-    /// The entries of exactly this place, case ignored, that weren't used yet: by category, the longest first, then by
-    /// group. They count as used from here on.
+    /// Returns the unused entries of exactly this place, case ignored, and marks them as used. They are sorted by
+    /// category, then by descending time, then by group.
     [[nodiscard]] Voci usePlace(const QString& place);
-    /// The entries whose place matches the pattern, used in the same way.
+    /// The same for entries whose place matches the pattern, in the order in which they were added. A pattern without
+    /// wildcards is a place.
     [[nodiscard]] Voci usePattern(const QString& pattern);
     /// Writes the marks of the run to the archive.
     void write() { archive_.putMarksBack(used_); }

@@ -11,7 +11,7 @@ namespace vanzer::store {
 
 namespace {
 
-constexpr std::size_t mostKept = 50'000; ///< entries: some 15 MB, more than the longest trip has
+constexpr std::size_t mostKept = 50'000; ///< entries, about 15 MB; more than the longest trip needs
 
 } // namespace
 
@@ -62,7 +62,7 @@ const VociGuida& LettoreGuida::readPattern(const QString& pattern) {
 void LettoreGuida::makeRoom(std::size_t entries) {
     if (kept_ + entries > mostKept)
         forget();
-    kept_ += entries + 1; // a place without any is kept too
+    kept_ += entries + 1; // a place without entries is cached too
 }
 
 void LettoreGuida::forget() noexcept {
@@ -85,7 +85,7 @@ void LettoreGuida::writeMarks(const InsiemeDiRighe& entries, const std::function
 }
 
 void LettoreGuida::beforeWriting(const TableInfo& table) {
-    // A change of the schema names no table.
+    // A change of the schema has an empty table name.
     if (!onlyMarks_ && (table.nome.isEmpty() || uguale(table.nome, TabelleNomi(GuidaCitta))))
         forget();
 }

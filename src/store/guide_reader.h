@@ -1,5 +1,5 @@
-// The guide's entries of a place. A trip asks for the same places again and again (to load it, to calculate it, to
-// store it), so what was read is kept until the guide is written.
+// Reads the guide's entries of a place. Loading, calculating and storing a trip ask for the same places again, so
+// entries are cached until the guide is written.
 #pragma once
 
 #include <functional>
@@ -15,7 +15,7 @@
 
 namespace vanzer::store {
 
-/// By place or pattern; the entries stay where they are until all is forgotten.
+/// Entries by place or pattern. Pointers to them hold until the cache is cleared.
 using MemoriaGuida = std::unordered_map<QString, VociGuida>;
 
 class LettoreGuida final : public LiveSet {
@@ -23,19 +23,19 @@ class LettoreGuida final : public LiveSet {
     explicit LettoreGuida(Database& archive);
     ~LettoreGuida() override;
 
-    /// False once its archive was closed: nothing may be read any more.
+    /// False after the archive was closed: nothing may be read then.
     [[nodiscard]] bool aperto() const { return database_ != nullptr; }
 
-    /// The entries of exactly this place, case ignored: by category, the longest first, then by group. They hold until
-    /// the guide is written, or so much was read that what is kept is forgotten.
+    /// The entries of exactly this place, case ignored, sorted by category, then by descending time, then by group. The
+    /// reference holds until the guide is written or a later read finds the cache full and clears it.
     [[nodiscard]] const VociGuida& readPlace(const QString& place);
     /// The entries whose place matches the pattern, in the order in which they were added.
     [[nodiscard]] const VociGuida& readPattern(const QString& pattern);
 
-    /// Whether exactly these entries are known to carry the mark of use.
+    /// True if exactly these entries are known to have the mark of use.
     [[nodiscard]] bool areMarked(const InsiemeDiRighe& entries) const { return marked_ == entries; }
-    /// Runs what writes nothing of the guide but the marks of use of these entries: no entry tells them, so what was
-    /// read is kept.
+    /// Runs `write`, which sets the marks of use to exactly these entries and writes nothing else of the guide. The
+    /// cache stays valid: cached entries don't include marks.
     void writeMarks(const InsiemeDiRighe& entries, const std::function<void()>& write);
 
     void beforeWriting(const TableInfo& table) override;
@@ -49,7 +49,7 @@ class LettoreGuida final : public LiveSet {
     Database* database_;
     MemoriaGuida places_;
     MemoriaGuida patterns_;
-    std::size_t kept_ = 0; ///< entries in all
+    std::size_t kept_ = 0; ///< number of cached entries
     std::optional<InsiemeDiRighe> marked_;
     bool onlyMarks_ = false;
 };

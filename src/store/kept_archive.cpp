@@ -17,7 +17,7 @@ QString nameOf(const QString& which, int starts) {
 }
 
 struct Kept {
-    QString which; ///< "" or " 2", " 3" …
+    QString which; ///< "", or " 2", " 3" … for further archives of the same name
     int starts;
 };
 

@@ -1,4 +1,4 @@
-// The archive as it was before its tables were brought up to date, kept among the copies for some starts.
+// Keeps the archive from before a rebuild among the copies, for a number of starts.
 #pragma once
 
 #include <QString>
@@ -9,11 +9,11 @@ namespace vanzer::store {
 
 inline constexpr int avviiTenuti = 10;
 
-/// Copies an open archive to "Copie/Vanzer prima della ricostruzione (ancora 10 avvii).mdb" beside it, whole and safe
-/// on the disk, and returns its path. Throws StoreError, and leaves nothing then.
+/// Copies an open archive to "Copie/Vanzer prima della ricostruzione (ancora 10 avvii).mdb" beside it and returns the
+/// path. The copy is complete and safe on the disk then. Throws StoreError and leaves no part of the copy.
 [[nodiscard]] QString keepAside(Database& archive);
 
-/// A start is done: the names of what is kept beside the archive count one less, and what comes to nothing goes.
+/// Counts a start of the program: renames each kept archive to one start less and removes those that reach 0.
 void countStart(const QString& archivePath);
 
 } // namespace vanzer::store

@@ -13,7 +13,7 @@ namespace vanzer::store {
 
 namespace {
 
-/// Some disks know no capitals.
+/// Ignores case, as some file systems do.
 bool belongsTo(QStringView name, QStringView engineFile) {
     if (!name.startsWith(engineFile, Qt::CaseInsensitive))
         return false;
@@ -25,7 +25,7 @@ bool isOneOf(const QString& file, const QFileInfoList& others) {
     return std::ranges::any_of(others, [&file](const QFileInfo& o) { return stessoFile(file, o.filePath()); });
 }
 
-/// The archive by its own name, what lies beside it, and what any of them is called elsewhere.
+/// True for the archive and for the engine's files beside it, also under another name through a link.
 bool isArchive(const QFileInfo& file, const QFileInfo& archive) {
     const auto isEngines = [&archive](const QFileInfo& f) {
         return belongsTo(f.fileName(), archive.fileName()) || belongsTo(f.fileName(), QString(nomeRicostruzione));

@@ -1,4 +1,4 @@
-// Files of other programs: they are never written where the archive is, nor read through its back.
+// Reads and writes files of other programs, but never the archive or what belongs to it.
 #pragma once
 
 #include <QByteArray>
@@ -8,15 +8,16 @@
 
 namespace vanzer::store {
 
-/// Why no file for others may have that name, as the end of a sentence that begins with "Il file …": the archive is
-/// there, or what belongs to it (its journal, what is left of a rebuild), or one of its copies, or what is no file. The
-/// name counts by where it leads, through links of every kind. Empty if the name is free.
+/// Why no file for other programs may be written to `path`, in Italian, as the end of a sentence that begins with "Il
+/// file …". Empty if it may. Reserved are the archive, its journal, the rest of a rebuild, its copies and everything
+/// that isn't a plain file. Links of every kind are followed.
 [[nodiscard]] QString motivoRiservato(const QString& path, const QString& archivePath);
 
-/// As writeFile, unless the name is reserved.
+/// Writes as writeFile. Returns the reason if the path is reserved.
 [[nodiscard]] QString writeForOthers(const QString& path, const QByteArray& contents, const QString& archivePath);
 
-/// As readFile, but never the archive: whoever opens and closes its file besides the archive lets go of its lock.
+/// Reads as readFile, but never the archive: opening and closing its file a second time would release the engine's
+/// lock.
 [[nodiscard]] FileLetto readFromOthers(const QString& path, const QString& archivePath);
 
 } // namespace vanzer::store

@@ -9,14 +9,14 @@ namespace vanzer::store {
 
 namespace {
 
-/// Takes a query text apart: words, texts in quotes, single marks.
+/// Splits a query into tokens: words, quoted texts, single marks.
 class Reader {
   public:
     explicit Reader(const QString& query) : query_(query), rest_(query) { skipBlanks(); }
 
     [[nodiscard]] bool atEnd() const { return rest_.isEmpty(); }
 
-    /// The keyword or mark, if it comes next.
+    /// Consumes the keyword or mark if it comes next; false if not.
     bool accept(QStringView token) {
         const bool word = token.front().isLetter();
         const QStringView next = word ? rest_.left(wordLength()) : rest_.left(1);
@@ -93,7 +93,7 @@ Condition readCondition(Reader& reader) {
     return condition;
 }
 
-// All conditions are joined by AND, so the brackets change nothing; they only have to be a pair.
+// Brackets change nothing, as all conditions are joined by AND. They only have to match.
 std::vector<Condition> readConditions(Reader& reader) {
     std::vector<Condition> conditions;
     enum class Bracket { None, Open, Closed } bracket = Bracket::None;

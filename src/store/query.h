@@ -1,4 +1,4 @@
-// The one form of query that the system has: all fields of one table, conditions that all hold, an order.
+// Queries: all fields of one table, conditions joined by AND, and an order.
 #pragma once
 
 #include <vector>
@@ -22,19 +22,19 @@ struct Order {
     bool descending = false;
 };
 
-/// Records of one table. Those that tie in the order come as they were added.
+/// Records of one table. Ties in the order keep the order in which records were added.
 struct Query {
     QString table;
     std::vector<Condition> where;
     std::vector<Order> orderBy;
 };
 
-/// Reads "SELECT * FROM table [WHERE condition [AND condition]...] [ORDER BY field [DESC], ...]", or just a table's
-/// name. Keywords ignore case, one pair of brackets may stand in the conditions, an apostrophe in a text is doubled.
-/// Throws StoreError (Other) for anything else; it has no path.
+/// Parses "SELECT * FROM table [WHERE condition [AND condition]...] [ORDER BY field [DESC], ...]", or just a table's
+/// name. Case of keywords is ignored. The conditions may contain one pair of brackets. An apostrophe in a text is
+/// doubled. Throws StoreError (Other, without a path) for anything else.
 [[nodiscard]] Query parsed(const QString& query);
 
-/// A text as it goes between the quotes of a query.
+/// Escapes a text for use between the quotes of a query.
 [[nodiscard]] QString quotato(const QString& text);
 
 } // namespace vanzer::store

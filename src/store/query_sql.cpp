@@ -8,7 +8,7 @@ namespace vanzer::store {
 
 namespace {
 
-/// How a condition is put to the engine.
+/// How a condition is expressed in SQL.
 enum class Form : char16_t { Equal = u'=', Range = u'<', Check = u'~' };
 
 struct PlainCondition {
@@ -66,8 +66,8 @@ struct OrderSql {
     QByteArray backward;
 };
 
-// The rowid comes last and upwards in either direction, so that ties stay as they were added. Behind a range it must
-// not tempt the engine to walk the whole table in its own order instead of using the index: the "+" hides it.
+// The rowid is always the last key, ascending, so that ties keep the order of adding. With a range, an ORDER BY rowid
+// could make the engine scan the whole table instead of using the index. The "+" prevents that.
 OrderSql orderSql(const Database& database, const TableInfo& table, const Query& query, bool hasRange) {
     OrderSql sql;
     for (const Order& order : query.orderBy) {

@@ -31,7 +31,7 @@ struct Recordset::Impl {
 
     Walk walk;
     Editing editing = Editing::None;
-    std::vector<std::optional<Valore>> written; ///< by field, since AddNew or Edit
+    std::vector<std::optional<Valore>> written; ///< values written since AddNew or Edit, by field
 };
 
 Valore Recordset::Impl::value(std::size_t field) {
@@ -121,7 +121,7 @@ void Recordset::AddNew() {
 }
 
 void Recordset::Edit() {
-    (void)opened().walk.rowid(); // throws where there is no record
+    (void)opened().walk.rowid(); // throws if there is no current record
     impl_->begin(Impl::Editing::Change);
 }
 

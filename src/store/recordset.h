@@ -1,9 +1,8 @@
-// A set of records that a query found, to be walked and changed one record at a time.
+// The records that a query found, read and changed one at a time.
 //
-// Opening reads nothing: the first record is looked for when it is first asked for, and the walk reads no further than
-// it goes. Changing records of a set that is being walked is safe. Fields are told by name, case ignored, or by
-// position from 0. Every operation throws StoreError; an unknown field, a value asked for where there is no record, and
-// a write outside AddNew or Edit are of the kind Other.
+// Opening reads nothing; records are read when they are needed. Records may be changed during a walk. A field is named
+// by its name, case ignored, or by its position from 0. Every operation throws StoreError. An unknown field, a value
+// without a current record, and a write outside AddNew or Edit are of the kind Other.
 #pragma once
 
 #include <memory>
@@ -20,7 +19,7 @@ class Database;
 
 class Recordset {
   public:
-    /// A closed set: it has no fields and is at its end.
+    /// A closed set: no fields, at its end.
     Recordset();
     Recordset(Database& database, const Query& query);
     Recordset(Recordset&&) noexcept;
@@ -29,33 +28,33 @@ class Recordset {
     Recordset& operator=(const Recordset&) = delete;
     ~Recordset();
 
-    /// True behind the last record, and at once in an empty set.
+    /// True after the last record, and always in an empty set.
     [[nodiscard]] bool EOF_() const;
     void MoveFirst();
     void MoveLast();
-    /// Leaves an AddNew or Edit that wasn't updated.
+    /// Moves to the next record. Cancels an AddNew or Edit without Update.
     void MoveNext();
-    /// All records of the set, wherever the walk is. Counted when first asked.
+    /// Number of all records of the set, wherever the walk is. They are counted at the first call.
     [[nodiscard]] qint64 RecordCount() const;
 
-    /// A new record without values, written by Update. The current record stays the current one; the new one lies at
+    /// Begins a new record without values; Update writes it. The current record stays current. The new record comes at
     /// the end of the set.
     void AddNew();
-    /// The current record is to be changed, written by Update.
+    /// Begins to change the current record; Update writes it.
     void Edit();
     void Update();
-    /// The current record goes. Its place stays until MoveNext, and has no values.
+    /// Deletes the current record. The set stays at its place, without values, until MoveNext.
     void Delete();
 
     [[nodiscard]] int count() const;
     [[nodiscard]] const QString& name(int field) const;
     [[nodiscard]] int size(int field) const;
     [[nodiscard]] FieldKind kind(int field) const;
-    /// Position of a field, -1 if there is none of that name.
+    /// Position of a field; -1 if there is none of that name.
     [[nodiscard]] int campo(QAnyStringView name) const;
 
-    /// Values of the current record or, between AddNew or Edit and Update, of the record as it will be written. Without
-    /// a value the text is empty and yes/no is no. The text of yes/no is "True" or "False".
+    /// Values of the current record. Between AddNew or Edit and Update they are those that will be written. Without a
+    /// value the text is empty and yes/no is false. The text of yes/no is "True" or "False".
     [[nodiscard]] QString testo(int field) const;
     [[nodiscard]] QString testo(QAnyStringView field) const { return testo(position(field)); }
     [[nodiscard]] bool hasValue(int field) const;
@@ -63,17 +62,17 @@ class Recordset {
     [[nodiscard]] bool siNo(int field) const;
     [[nodiscard]] bool siNo(QAnyStringView field) const { return siNo(position(field)); }
 
-    /// A text longer than its field is cut to it, an empty one becomes a blank; for yes/no, "True", "Vero", "-1" and
-    /// "1" are yes.
+    /// Writes a field. A text is cut to the size of the field, and an empty text becomes a blank. For yes/no, "True",
+    /// "Vero", "-1" and "1" mean yes.
     void write(int field, const QString& text);
     void write(QAnyStringView field, const QString& text) { write(position(field), text); }
-    /// "1" or "0" in a text field.
+    /// Writes yes or no; a text field gets "1" or "0".
     void writeYesNo(int field, bool yes);
     void writeYesNo(QAnyStringView field, bool yes) { writeYesNo(position(field), yes); }
     void writeNull(int field);
     void writeNull(QAnyStringView field) { writeNull(position(field)); }
 
-    /// Identity of the current record: it never changes while the record lives, and grows in the order of adding.
+    /// Id of the current record. It never changes while the record exists, and grows in the order of adding.
     [[nodiscard]] qint64 rowid() const;
 
   private:

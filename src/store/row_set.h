@@ -1,4 +1,4 @@
-// Records of a table told by their numbers (rowid).
+// A set of records of a table, by rowid.
 #pragma once
 
 #include <initializer_list>
@@ -17,7 +17,7 @@ class InsiemeDiRighe {
             insert(rowid);
     }
 
-    /// False if it was there already.
+    /// False if the set had it already.
     bool insert(qint64 rowid) {
         const bool added = known_.insert(rowid).second;
         if (added)
@@ -26,7 +26,7 @@ class InsiemeDiRighe {
     }
     [[nodiscard]] bool contains(qint64 rowid) const { return known_.contains(rowid); }
     [[nodiscard]] bool operator==(const InsiemeDiRighe& other) const { return known_ == other.known_; }
-    /// In the order in which they came.
+    /// The rowids in the order in which they were inserted.
     [[nodiscard]] const std::vector<qint64>& righe() const { return rows_; }
 
   private:

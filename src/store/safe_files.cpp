@@ -36,7 +36,7 @@ std::error_code renamed(const QString& from, const QString& to) {
     return error;
 }
 
-/// The copy on the other disk has the rights of the file from the first byte on.
+/// Moves a file to another disk. The copy has the permissions of `from` before its first byte is written.
 void moveAcross(const QString& from, const QString& to) {
     const QString beside = to + QStringLiteral(".parte");
     try {
@@ -64,7 +64,7 @@ constexpr mode_t rightsOf(const struct stat& file) {
     return file.st_mode & 0777U;
 }
 
-/// A group that can't be given the file gets no rights of another group's.
+/// Without the same group, no permissions for the group: they were meant for another one.
 mode_t rightsFor(const struct stat& from, bool sameGroup) {
     return sameGroup ? rightsOf(from) : rightsOf(from) & ~mode_t{070};
 }
@@ -79,13 +79,13 @@ void makeWithRights(const struct stat& from, const QByteArray& name, const QStri
     ::close(handle);
 }
 
-/// Who may read a file may look into its folder, who may write it may add to the folder.
+/// Permissions for the folder: users who may read the file may list it, users who may write the file may add to it.
 mode_t rightsOfFolder(const struct stat& file) {
     const mode_t rights = rightsOf(file) & 0066U;
     return 0700U | rights | (rights & 0044U) >> 2U;
 }
 
-/// An older folder loses the rights of those who may not read the file.
+/// Takes permissions of an existing folder from users who may not read the file.
 void narrow(const QByteArray& folder, const struct stat& file) {
     struct stat older {};
     if (::lstat(folder.constData(), &older) != 0 || !S_ISDIR(older.st_mode))
@@ -117,7 +117,7 @@ void copyRights(const QString& from, const QString& to) {
     struct stat target {};
     if (::lstat(name.constData(), &target) != 0)
         return makeWithRights(source, name, to);
-    // By its name alone: whoever closes a file that the engine has open lets go of the engine's lock.
+    // Works on the name and never opens the file: closing a file that the engine has open would release its lock.
     const bool given = (target.st_uid == source.st_uid && target.st_gid == source.st_gid) ||
                        ::chown(name.constData(), source.st_uid, source.st_gid) == 0 ||
                        ::chown(name.constData(), static_cast<uid_t>(-1), source.st_gid) == 0;

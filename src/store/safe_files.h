@@ -1,28 +1,28 @@
-// Files that are put into place: whole and safe on the disk, or not at all.
+// Puts files into place: complete and safe on the disk, or not at all.
 #pragma once
 
 #include <QString>
 
 namespace vanzer::store {
 
-/// Takes away a file of the engine that isn't open, with its journal.
+/// Removes a file of the engine and its journal. The file must not be open.
 void removeFile(const QString& path) noexcept;
 
-/// Takes away what a failing disk may have left beside a file of the engine that was closed in order.
+/// Removes the journal that a failing disk may have left beside a file of the engine that was closed in order.
 void removeRemains(const QString& path) noexcept;
 
-/// The file `to` gets the rights of the file `from`: who may read and write it, and whose it is as far as this user may
-/// decide that. If it isn't there it is made, empty, and nobody ever had more rights to it; before that the engine must
-/// not have it open. Throws Io if it can't be made; a disk that keeps no rights is no failure.
+/// Gives the file `to` the permissions of the file `from`, and its owner and group as far as this user may set them. If
+/// `to` doesn't exist, it is made empty and never has wider permissions. The engine must not have `to` open. Throws Io
+/// if it can't be made. A file system without permissions is not an error.
 void copyRights(const QString& from, const QString& to);
 
-/// Makes a folder for copies of a file, if it isn't there. Whoever may not read the file may not look into the folder,
-/// be it an older one. False if there is no such folder after all.
+/// Makes a folder for copies of a file unless it exists. Users who may not read the file may not list the folder; this
+/// also holds for an existing folder. False if the folder can't be made.
 [[nodiscard]] bool cartellaPer(const QString& file, const QString& folder);
 
-/// A whole file that is closed takes the place of another, in one step that outlives a loss of power. Where the name
-/// is a link the file behind it is replaced, on whatever disk that is. Throws Io; if it was the last step, making the
-/// folder safe, that failed, the new file is in its place.
+/// Replaces the file `to` by the complete, closed file `from`, in one step that survives a loss of power. If `to` is a
+/// link, the file at its end is replaced, also on another disk. Throws Io. If only the last step failed, making the
+/// folder safe, the new file is already in place.
 void putInPlace(const QString& from, const QString& to);
 
 } // namespace vanzer::store

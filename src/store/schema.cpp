@@ -40,7 +40,7 @@ const Elenco& TabelleCampi() {
     return campi;
 }
 
-// A name that is no field of its table ("TipoDato", "Metacorrente") asks for nothing.
+// Names that aren't fields of their table ("TipoDato", "Metacorrente") are ignored.
 const Elenco& TabelleIndici() {
     static const Elenco indici{
         QString(),
@@ -81,7 +81,7 @@ std::vector<FieldDef> campiDescritti(const QString& descriptor) {
         FieldDef field;
         field.name = descriptor.mid(at, open - at);
         field.kind = kindOfLetter(descriptor[open + 1]);
-        if (field.kind == FieldKind::Text) // behind "T="
+        if (field.kind == FieldKind::Text) // the number after "T="
             field.size = static_cast<int>(Val(QStringView(descriptor).mid(open + 3, close - open - 3)));
         fields.push_back(field);
         at = close + 2;

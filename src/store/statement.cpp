@@ -11,7 +11,7 @@ namespace {
 template<class... Cases> struct Match : Cases... { using Cases::operator()...; };
 template<class... Cases> Match(Cases...) -> Match<Cases...>;
 
-/// A text may begin with the mark that stands for the order of bytes elsewhere: here it is a letter like others.
+/// Keeps a byte order mark at the start as a character; QString::fromUtf8 would drop it.
 QString decoded(QByteArrayView utf8) {
     constexpr QByteArrayView mark("\xEF\xBB\xBF");
     if (!utf8.startsWith(mark))

@@ -1,4 +1,4 @@
-// A prepared statement of the engine, and the lease on one that its connection keeps for the next use.
+// A prepared statement of the engine, and a lease on one that the connection keeps for later use.
 #pragma once
 
 #include <memory>
@@ -14,32 +14,32 @@ struct sqlite3_stmt;
 
 namespace vanzer::store {
 
-/// Parameters count from 1, columns from 0. Every failure throws StoreError with the path of the connection.
+/// Parameters count from 1, columns from 0. Every failure throws StoreError with the path of the file.
 class Statement {
   public:
     Statement(sqlite3* connection, const QByteArray& sql, const QString& path);
 
-    /// True on a row, false at the end.
+    /// Moves to the next row; false at the end.
     bool step();
-    /// Ready to run again; what is bound stays.
+    /// Makes it ready to run again. Bound values stay.
     void reset();
-    /// Nothing bound, nothing running.
+    /// Resets it and removes bound values.
     void clear();
 
     void bind(int parameter, const Valore& value);
     void bind(int parameter, qint64 value);
-    /// UTF-8, copied.
+    /// Copies the UTF-8 text.
     void bindText(int parameter, const QByteArray& utf8);
     void bindText(int parameter, QStringView text);
     void bindNull(int parameter);
-    /// Takes over the value that another statement, of any connection, shows in a column.
+    /// Binds the value in a column of another statement, of any connection.
     void bindColumn(int parameter, const Statement& from, int column);
 
     [[nodiscard]] bool isNull(int column) const;
     [[nodiscard]] bool isText(int column) const;
     [[nodiscard]] qint64 integer(int column) const;
     [[nodiscard]] QString text(int column) const;
-    /// Bytes of the value's text: an upper bound of its characters.
+    /// Bytes of the value's text in UTF-8: an upper bound of its length in characters.
     [[nodiscard]] int bytes(int column) const;
     [[nodiscard]] Valore value(int column) const;
 
@@ -56,7 +56,7 @@ class Statement {
 
 using StatementPool = std::vector<std::unique_ptr<Statement>>;
 
-/// Exclusive use of a kept statement; at its end the statement goes back, cleared.
+/// Exclusive use of a kept statement. The destructor clears it and gives it back.
 class StatementLease {
   public:
     StatementLease() = default;

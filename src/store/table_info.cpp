@@ -14,7 +14,7 @@ struct KindName {
     const char* name;
 };
 
-// A text's type carries its size: "TEXT(30)".
+// A text type includes its size in characters: "TEXT(30)".
 constexpr std::array<KindName, 7> kindNames{{{FieldKind::Text, "TEXT"},
                                              {FieldKind::YesNo, "YESNO"},
                                              {FieldKind::Binary, "BLOB"},

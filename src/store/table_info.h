@@ -1,4 +1,4 @@
-// A stored table as the file has it, and the texts that make tables and indexes.
+// A table as the file has it, and the SQL that makes tables and indexes.
 #pragma once
 
 #include <vector>
@@ -12,42 +12,44 @@
 
 namespace vanzer::store {
 
-/// A table's stored fields, in their order.
+/// A stored table and its fields, in their order.
 struct TableInfo {
     QString nome;
     std::vector<FieldDef> campi;
-    QByteArray selezione; ///< selectSql and insertSql of it, made once
+    QByteArray selezione; ///< selectSql() of the table, made once; `inserimento` is its insertSql()
     QByteArray inserimento;
 
     /// Position of the field of that name, case ignored; -1 if there is none.
     [[nodiscard]] int campo(QAnyStringView name) const;
 };
 
-/// A name as the engine takes it, in double quotes.
+/// A name in double quotes, escaped for SQL.
 [[nodiscard]] QByteArray quotedName(const QString& name);
 
-/// The declared type of a field in the file, and the field that such a type tells of.
+/// Converts a field to its declared type in the file, and back.
 [[nodiscard]] QByteArray declaredType(const FieldDef& field);
 [[nodiscard]] FieldDef fieldOfType(const QString& name, const QString& declaredType);
 
 [[nodiscard]] QByteArray createTableSql(const QString& table, const std::vector<FieldDef>& fields);
 
-/// "rowid" and all fields, and the record with a place for each field (parameters in the fields' order).
+/// SELECT of the rowid and all fields, and INSERT of a record with one parameter for each field, in their order.
 [[nodiscard]] QByteArray selectSql(const TableInfo& table);
 [[nodiscard]] QByteArray insertSql(const TableInfo& table);
 
-/// Indexes are named apart in a file ("Itinerari.Localita"); the system knows each by its field alone.
+/// Name of an index in the file: "Itinerari.Localita", as index names must be unique there. Its logical name is the
+/// field's.
 [[nodiscard]] QString indexName(const QString& table, const QString& field);
 [[nodiscard]] QByteArray createIndexSql(const QString& table, const QString& field);
-/// Empty for an index that the system doesn't know of.
+/// The logical name of an index; empty for an internal index.
 [[nodiscard]] QString logicalIndexName(const QString& table, const QString& indexName);
 
-/// Indexes that the system doesn't know of are named by what they serve: a field, or the brackets.
+/// Name of an internal index, after its purpose: a field, or `indiceParentesi`.
 inline constexpr QStringView indiceParentesi = u"(";
 [[nodiscard]] QString internalIndexName(const QString& table, QStringView what);
-/// The index of the records whose mark isn't "0": clearing the marks costs what was marked, not the whole table.
+/// Index of the records whose mark isn't "0". With it, clearing the marks takes time by the number of marks, not by the
+/// size of the table.
 [[nodiscard]] QByteArray createMarkIndexSql(const QString& table, const QString& field);
-/// The condition that a text has a part in brackets, and the index of the records for which it holds.
+/// Condition that a text has a part in brackets, and an index of the records that meet it.
 [[nodiscard]] QByteArray bracketSql(const QString& field);
 [[nodiscard]] QByteArray createBracketIndexSql(const QString& table, const QString& field);
 

@@ -1,4 +1,4 @@
-// One value of a record, apart from the engine.
+// A value of a record, independent of the engine.
 #pragma once
 
 #include <variant>
@@ -9,7 +9,7 @@
 
 namespace vanzer::store {
 
-/// No value, whole number (yes/no too: 0 or 1), fraction, text, bytes.
+/// No value, integer (yes/no is 1 or 0), fraction, text or bytes.
 using Valore = std::variant<std::monostate, qint64, double, QString, QByteArray>;
 
 struct Riga {

@@ -97,7 +97,7 @@ void Walk::advance() {
         place_ = Place::End;
 }
 
-/// Moves the cursor to the next record that isn't one of the added ones, which have their place at the end.
+/// Moves the cursor to the next record. Skips added records: they come at the end.
 bool Walk::stepCursor() {
     while (cursor_->step()) {
         if (!std::binary_search(added_.begin(), added_.end(), cursor_->integer(0)))
@@ -132,7 +132,7 @@ void Walk::last() {
         const StatementLease record = database().prepare(form().last);
         query_.bind(*record);
         place_ = load(*record) ? Place::OnRecord : Place::End;
-        interrupted_ = form().wholeTable; // what is added from now on lies behind
+        interrupted_ = form().wholeTable; // records added from now on come after it
     });
 }
 
@@ -155,7 +155,8 @@ qint64 Walk::count() {
     return *count_;
 }
 
-// Added records stand at the end of the table: the query is asked for what lies below the first of them.
+// Counts without the added records. They are at the end of the table, so only records with a smaller rowid than the
+// first of them count.
 qint64 Walk::countNow() const {
     const bool apart = !added_.empty();
     const StatementLease number = database().prepare(apart ? form().countBelow : form().count);
@@ -217,11 +218,11 @@ void Walk::deleted() {
     if (count_)
         --*count_;
     place_ = Place::Deleted;
-    --current_.rowid; // the place is free: a record added next may take it, and lies ahead then
+    --current_.rowid; // the rowid is free: a record added next may get it and must then come after this place
 }
 
-// A statement that is still stepping would keep a file that has failed from being read again. Where the table is walked
-// as a whole, the walk may go on; the records of another query may be others now.
+// A running statement would prevent further reads of a file after a failure. A walk of a whole table may continue. The
+// records of any other query may have changed.
 void Walk::rolledBack() noexcept {
     const bool goesOn = cursor_ && form().wholeTable;
     const Place place = place_;

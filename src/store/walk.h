@@ -1,6 +1,6 @@
-// The way through the records of a query. Nothing is read before it is asked for, and no more than that, until the
-// table is written: then what is left of the set is read first, so that no write changes what the walk is going to see.
-// A walk that fails is at its end; it can be begun anew.
+// A walk through the records of a query. Records are read only when they are needed. Before the table is written, the
+// rest of the set is read, so that the write doesn't change what the walk will see. A walk that fails is at its end; it
+// can be started again.
 #pragma once
 
 #include <cstddef>
@@ -20,23 +20,24 @@ class Walk final : public LiveSet {
 
     [[nodiscard]] const TableInfo& tabella() const { return *query_.form->tabella; }
     [[nodiscard]] const Translation& form() const { return *query_.form; }
-    /// Throws StoreError (Other) when the archive was closed.
+    /// Throws StoreError (Other) if the archive was closed.
     [[nodiscard]] Database& database() const;
 
     [[nodiscard]] bool atEnd();
     void first();
     void last();
     void next();
-    /// Exact: what the query found, with what was added and without what was deleted through this set.
+    /// The exact number of records: those that the query found, plus those added and minus those deleted through this
+    /// set.
     [[nodiscard]] qint64 count();
 
-    /// Of the current record. Throws StoreError (Other) when there is none: at the end, or behind a deletion.
+    /// Values of the current record. Throw StoreError (Other) if there is none: at the end or after a deletion.
     [[nodiscard]] qint64 rowid();
     [[nodiscard]] QString text(std::size_t field);
     [[nodiscard]] Valore value(std::size_t field);
     [[nodiscard]] bool isNull(std::size_t field);
 
-    /// What was written through this set.
+    /// Report what was written through this set.
     void added(qint64 rowid);
     void changed(std::size_t field, Valore value);
     void deleted();
@@ -55,7 +56,7 @@ class Walk final : public LiveSet {
     bool nextAdded();
     bool lastAdded();
     void end() noexcept;
-    /// Moves; a move that throws leaves the walk at its end.
+    /// Runs a move. If it throws, the walk is at its end.
     template<typename Move> void orEnd(Move move);
     bool load(Statement& statement);
     void requireRecord();
@@ -65,13 +66,13 @@ class Walk final : public LiveSet {
     Database* database_;
     TranslatedQuery query_;
     Place place_ = Place::NotStarted;
-    StatementLease cursor_;    ///< what is still stepping
-    bool onCursor_ = false;    ///< the current record is the cursor's, else `current_`
-    bool interrupted_ = false; ///< a whole table, to be walked on behind the current rowid
-    Riga current_;             ///< its rowid always holds
-    std::vector<Riga> rest_;   ///< read ahead, from restAt_
+    StatementLease cursor_;    ///< the statement that reads the records, while it is running
+    bool onCursor_ = false;    ///< the current record is in the cursor, else in `current_`
+    bool interrupted_ = false; ///< walk of a whole table that continues after the current rowid
+    Riga current_;             ///< its rowid is always valid
+    std::vector<Riga> rest_;   ///< records read ahead; the next is at restAt_
     std::size_t restAt_ = 0;
-    std::vector<qint64> added_; ///< rowids, upwards: they stand at the end of a set that isn't a whole table
+    std::vector<qint64> added_; ///< rowids of added records, ascending; empty in a walk of a whole table
     std::size_t addedAt_ = 0;
     std::optional<qint64> count_;
 };

@@ -10,7 +10,7 @@ namespace vanzer {
 
 namespace {
 
-/// Entries that tie stay as they were. Their base letters, made once, tell nearly all of them apart.
+/// Sorts stably. The base letters are made once for each entry; they decide nearly all comparisons.
 QStringList sorted(const QStringList& entries) {
     std::vector<std::pair<QByteArray, QString>> order;
     for (const QString& entry : entries)
@@ -130,7 +130,7 @@ void TextControl::leave() {
 void TextBox::type(const QString& text) {
     QString kept = maxLength_ > 0 ? text.left(maxLength_) : text;
     if (kept.size() < text.size() && kept.back().isHighSurrogate())
-        kept.chop(1); // no half of a character
+        kept.chop(1); // don't keep half a surrogate pair
     setText(kept);
 }
 

@@ -1,5 +1,5 @@
-// Control models: what a control of the window holds, without the widget. The window's logic reads and writes these; a
-// view ties itself to `changed`. A change that matters to the logic calls the handler that start-up has put in.
+// Control models: the state of a control of the window, without the widget. The window's logic reads and writes them; a
+// view connects to `changed`. A change that matters to the logic calls a handler, which start-up sets.
 #pragma once
 
 #include <functional>
@@ -23,12 +23,13 @@ struct Geometria {
 class Control : public QObject {
     Q_OBJECT
   public:
-    /// `index` is -1 outside an array; `frame` holds the control, null for the window itself.
+    /// `index` is the element of a control array, -1 for a control outside any. `frame` is the frame that contains the
+    /// control, null for the window.
     Control(QString baseName, int index, Frame* frame);
 
     [[nodiscard]] const QString& baseName() const { return baseName_; }
     [[nodiscard]] int index() const { return index_; }
-    /// The name as it is written: "cmbOra(3)".
+    /// Name with the index, if any: "cmbOra(3)".
     [[nodiscard]] QString name() const;
     [[nodiscard]] Frame* frame() const { return frame_; }
 
@@ -36,13 +37,14 @@ class Control : public QObject {
     void setVisible(bool on);
     [[nodiscard]] bool enabled() const { return enabled_; }
     void setEnabled(bool on);
-    /// Visible and enabled, itself and through all frames that hold it.
+    /// True if the control and all frames around it are visible and enabled.
     [[nodiscard]] bool reachable() const;
 
     [[nodiscard]] const QString& tooltip() const { return tooltip_; }
     void setTooltip(const QString& text);
 
     [[nodiscard]] const Geometria& geometria() const { return geometria_; }
+    /// Sets position and size, all in twips; so do the setters below.
     void place(int left, int top, int width, int height);
     void setLeft(int left);
     void setTop(int top);
@@ -50,7 +52,7 @@ class Control : public QObject {
     void setHeight(int height);
 
   signals:
-    /// Something that a view shows is different now.
+    /// Something that a view shows has changed.
     void changed();
 
   protected:
@@ -71,7 +73,7 @@ class Control : public QObject {
     Geometria geometria_;
 };
 
-/// A control that shows a caption; "&" stands before the letter that reaches it.
+/// A control with a caption. "&" stands before the access key's letter.
 class Captioned : public Control {
     Q_OBJECT
   public:
@@ -95,7 +97,7 @@ class Label : public Captioned {
     using Captioned::Captioned;
 };
 
-/// A picture of the window's resources, handed to the printer.
+/// A picture among the window's resources, used by the printer.
 class Picture : public Control {
     Q_OBJECT
   public:
@@ -138,7 +140,7 @@ class OptionButton : public Captioned {
   public:
     using Captioned::Captioned;
     [[nodiscard]] bool value() const { return value_; }
-    /// Setting one on puts the others of its array off.
+    /// Switching one on switches the others of its array off.
     void setValue(bool on);
 
     /// The user's choice.
@@ -151,18 +153,18 @@ class OptionButton : public Captioned {
     std::function<void(OptionButton&)> othersOff_;
 };
 
-/// Everything that takes key presses. A handler gets the character code and may change it or drop it (0).
+/// A control that takes key presses. The key press handler gets the character code and may change it; 0 drops the key.
 class TextControl : public Control {
     Q_OBJECT
   public:
     using Control::Control;
     [[nodiscard]] const QString& text() const { return text_; }
-    /// Every real change calls the change handler, whoever made it.
+    /// Calls the change handler if the text really changes, also for changes by the program.
     void setText(const QString& text);
 
-    /// What the key press handler makes of a character code; 0 if it drops the key.
+    /// The character code after the key press handler; 0 if the key is dropped.
     [[nodiscard]] int filterKey(int code) const;
-    /// One key press of the user: what the handler lets pass and is above 31 goes to the end of the text.
+    /// One key press of the user. Runs the handler and appends the resulting character if its code is above 31.
     void pressKey(int code);
     /// One key-down event of the user.
     void keyDown(int code);

@@ -1,5 +1,5 @@
-// The signals by which the system or the user ends a program (SIGTERM, SIGINT, SIGHUP), turned into a byte in a pipe:
-// the program ends in its own time, with nothing half done.
+// Turns the signals that end a program (SIGTERM, SIGINT, SIGHUP) into a byte in a pipe. The program can then finish its
+// work and end in order.
 #pragma once
 
 #include <csignal>
@@ -8,18 +8,19 @@ namespace vanzer {
 
 class SegnaliDiFine {
   public:
-    /// Watches from here on; one at a time. A signal that the program was started without stays ignored.
+    /// Starts watching. There may be one instance at a time. A signal that was ignored when the program started stays
+    /// ignored.
     SegnaliDiFine();
     ~SegnaliDiFine();
     SegnaliDiFine(const SegnaliDiFine&) = delete;
     SegnaliDiFine& operator=(const SegnaliDiFine&) = delete;
 
-    /// A file descriptor that can be read once a signal has come; -1 where there are no such signals.
+    /// A file descriptor that becomes readable when a signal arrives; -1 on platforms without these signals.
     [[nodiscard]] int descrittore() const { return pipe_[0]; }
-    /// The first signal that has come, 0 for none. A second one ends the program at once, but for SIGHUP, which a
-    /// terminal that goes sends twice.
+    /// The first signal that arrived, 0 for none. A second signal ends the program at once, except SIGHUP: a closing
+    /// terminal sends that twice.
     [[nodiscard]] static int arrived() { return first_; }
-    /// Ends the program by that signal.
+    /// Ends the program with that signal's default action.
     [[noreturn]] static void die(int signal);
 
   private:

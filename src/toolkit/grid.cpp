@@ -10,7 +10,7 @@ namespace vanzer {
 
 namespace {
 
-constexpr qint64 cellsPerRow = 64; // of the keys; no grid is wider
+constexpr qint64 cellsPerRow = 64; // for cellKey(); no grid has more columns
 
 qint64 cellKey(int row, int column) {
     return static_cast<qint64>(row) * cellsPerRow + column;

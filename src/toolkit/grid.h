@@ -1,5 +1,5 @@
-// The grid of text cells: one fixed head row, one fixed column, a current row, a selection. Row 0 is the head row; as
-// an item model the rows from 1 on are the model's rows and row 0 gives the headings.
+// A grid of text cells with a fixed head row, a fixed column, a current row and a selection. Row 0 is the head row. As
+// an item model, rows from 1 on are the model's rows and row 0 gives the headings.
 #pragma once
 
 #include <functional>
@@ -26,8 +26,8 @@ class Grid : public Control {
 
     [[nodiscard]] int rows() const { return cells_.rows() + 1; }
     [[nodiscard]] int columns() const { return columns_; }
-    /// Cuts or adds rows at the end. Current row, selection end and top row stay within 1 and the last row; they are 0
-    /// while there is nothing but the head row.
+    /// Removes or adds rows at the end. Current row, selection end and top row are kept between 1 and the last row;
+    /// they are 0 if only the head row is left.
     void setRows(int rows);
     void setColumns(int columns);
 
@@ -35,22 +35,23 @@ class Grid : public Control {
     [[nodiscard]] const QString& cell(int row, int column) const;
     /// Does nothing outside the grid.
     void setCell(int row, int column, QString text);
-    /// Copies the cells from `firstColumn` on of one row over those of another.
+    /// Copies the cells of row `from` over those of row `to`, from `firstColumn` on.
     void copyRow(int from, int to, int firstColumn);
     void clearRow(int row, int firstColumn);
-    /// The rows `first` to `last` go `by` rows down, or up where it is negative, over what is there; the rows that they
-    /// leave are blank. Column 0 stays. False, and nothing done, without such rows or room for them.
+    /// Moves the rows `first` to `last` down by `by` rows, or up if `by` is negative. They overwrite the rows at their
+    /// new place and leave blank rows behind. Column 0 stays. Does nothing and returns false if either place is outside
+    /// the grid.
     bool shiftRows(int first, int last, int by);
-    /// Takes a row from 1 on out; those below it move up, and an empty one comes in at the end.
+    /// Removes a row (from 1). The rows below it move up and an empty row is added at the end.
     void removeRow(int row);
-    /// Empties all cells, the head row's too.
+    /// Empties all cells, including the head row.
     void clearCells();
 
-    /// The rows whose texts have changed since this was last asked, from 1 on; nothing if they are many or the whole
-    /// table is another one.
+    /// The rows (from 1) whose texts changed since the last call. Nothing if they are many or the whole table was
+    /// replaced.
     [[nodiscard]] std::optional<std::vector<int>> takeChangedRows();
 
-    /// All rows from 1 on: taken out, so that the head row is left, and put in.
+    /// Moves all rows from 1 on out of the grid, so that only the head row is left, or puts such rows in.
     [[nodiscard]] TestiTabella takeContents();
     void setContents(TestiTabella&& rows);
 
@@ -59,31 +60,32 @@ class Grid : public Control {
     [[nodiscard]] int rowSel() const { return rowSel_; }
     [[nodiscard]] int colSel() const { return colSel_; }
     [[nodiscard]] int topRow() const { return topRow_; }
-    /// Current cell; the selection becomes that cell.
+    /// Sets the current cell; the selection becomes that cell.
     void setCurrent(int row, int column);
     void select(int row, int column, int rowSel, int colSel);
     void setTopRow(int row);
-    /// The row from which the user moves on: one of the selection, its first one until another is named.
+    /// The row of the selection from which the user moves on. The first one until another is set.
     [[nodiscard]] int rowAtHand() const { return rowAtHand_; }
     void setRowAtHand(int row);
 
+    /// Width of a column in twips; views hide a column of width 0.
     [[nodiscard]] int columnWidth(int column) const;
     void setColumnWidth(int column, int twips);
     [[nodiscard]] Allineamento alignment(int column) const;
     void setAlignment(int column, Allineamento alignment);
 
-    /// Marks a cell with the window's own colour in place of the grid's.
+    /// Marks a cell, or takes the mark away. Views draw marked cells in a colour of their own.
     void setMarked(int row, int column, bool on);
     [[nodiscard]] bool marked(int row, int column) const;
 
-    /// Switched off, the view learns nothing until it is switched on again, and then of one change of everything.
+    /// While redraw is off, the view is told nothing. Switching it on again reports one change of the whole grid.
     void setRedraw(bool on);
 
-    /// The user's click on a row (from 1), a double click on the current row, a key.
+    /// Events of the user: a click on a row (from 1), a double click on the current row, a key.
     void clickRow(int row);
     void doubleClick();
     void pressKey(int code);
-    /// The user's mark on a row of a list that is chosen from: what a button then takes.
+    /// The user marks a row in a list to choose from. A button then takes that row.
     void markRow(int row);
     std::function<void()> onMark;
     std::function<void()> onClick;
@@ -93,7 +95,7 @@ class Grid : public Control {
     [[nodiscard]] QAbstractTableModel& model();
 
   signals:
-    /// Current row, selection or top row are different now.
+    /// The current row, the selection or the top row has changed.
     void selectionChanged();
 
   private:
@@ -103,8 +105,8 @@ class Grid : public Control {
     void forgetChangedRows() { changed_.reset(); }
 
     std::vector<QString> head_;
-    TestiTabella cells_;                      ///< of the rows from 1 on
-    std::optional<std::vector<int>> changed_; ///< nothing: all rows
+    TestiTabella cells_;                      ///< rows from 1 on
+    std::optional<std::vector<int>> changed_; ///< no value: all rows
     int columns_;
     int row_ = 0;
     int col_ = 1;

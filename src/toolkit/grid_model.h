@@ -1,4 +1,4 @@
-// The item model that a table view ties itself to: the grid's cells as they are.
+// The item model of a grid, for table views.
 #pragma once
 
 #include <QAbstractTableModel>
@@ -10,7 +10,7 @@ class Grid;
 class GridModel : public QAbstractTableModel {
     Q_OBJECT
   public:
-    /// A cell that carries the window's own colour.
+    /// True for a marked cell.
     static constexpr int MarkedRole = Qt::UserRole + 1;
 
     explicit GridModel(Grid& grid) : grid_(grid) {}

@@ -1,5 +1,5 @@
-// The ports to the outside: everything that the window asks of the platform, so that the desktop, the batch program and
-// the tests each put their own behind it.
+// Ports: everything that the window asks of the platform. The desktop, the batch program and the tests each have their
+// own implementation.
 #pragma once
 
 #include <QDateTime>
@@ -10,7 +10,8 @@ namespace vanzer {
 
 class Printer;
 
-/// The buttons of a box. "Salva" and "Riprendi la copia" are answered as yes, "Non salvare" and "Nuovo archivio" as no.
+/// The buttons of a message box. "Salva" and "Riprendi la copia" answer yes, "Non salvare" and "Nuovo archivio" answer
+/// no.
 enum class Pulsanti { Ok, SiNo, SiNoAnnulla, SalvaNonSalvareAnnulla, RiprendeCominciaAnnulla };
 enum class Icona { Nessuna, Informazione, Avviso };
 
@@ -20,16 +21,16 @@ inline constexpr int rispostaAnnulla = 2;
 inline constexpr int rispostaSi = 6;
 inline constexpr int rispostaNo = 7;
 
-/// What a box tells or asks. Where there are eyes to see them the last four are shown too; they change no answer.
+/// The contents of a message box. Only the desktop uses the last four members; they don't change the answers.
 struct MessageBox {
     QString text;
     QString title = {};
     Pulsanti buttons = Pulsanti::Ok;
     Icona icon = Icona::Nessuna;
-    bool refuses = false;   ///< tells why something can't be done: a warning
-    bool destroys = false;  ///< yes deletes or overwrites: Enter answers no
-    QString detail = {};    ///< below the text: what it is about
-    QStringList files = {}; ///< that were made: offered to be opened
+    bool refuses = false;   ///< a warning: says why something can't be done
+    bool destroys = false;  ///< "yes" deletes or overwrites, so Enter answers no
+    QString detail = {};    ///< shown below the text: what it is about
+    QStringList files = {}; ///< files that were made; the user may open them
 };
 
 class MessageBoxes {
@@ -38,13 +39,13 @@ class MessageBoxes {
     [[nodiscard]] virtual int show(const MessageBox& box) = 0;
 };
 
-/// Who asks before a file that is there already is overwritten.
+/// Who asks before an existing file is overwritten.
 enum class Ricopertura { ChiedeIlDialogo, ChiedeIlComando };
 
 class FileDialogs {
   public:
     virtual ~FileDialogs() = default;
-    /// The chosen path; empty is a cancel. The filter is written "Name|*.ext".
+    /// Returns the chosen path, empty if cancelled. The filter has the form "Name|*.ext".
     [[nodiscard]] virtual QString open(const QString& filter) = 0;
     [[nodiscard]] virtual QString save(const QString& filter, Ricopertura overwriting) = 0;
 };
@@ -55,12 +56,12 @@ class Clock {
     [[nodiscard]] virtual QDateTime now() const = 0;
 };
 
-/// Lets the waiting events of the window run. Costs nothing when nothing waits.
+/// Runs the window's waiting events. Costs nothing when none wait.
 class EventYield {
   public:
     virtual ~EventYield() = default;
     virtual void yield() = 0;
-    /// True at most ten times a second: work that is half done may be shown now. False where nobody looks.
+    /// True if unfinished work may be shown now, at most ten times a second. Always false without a screen.
     [[nodiscard]] virtual bool frameDue() { return false; }
 };
 
@@ -77,7 +78,7 @@ struct Ports {
     Clock& clock;
     EventYield& events;
     ProgramStarter& programs;
-    Printer* printer = nullptr; ///< null where nothing is printed
+    Printer* printer = nullptr; ///< null if nothing can be printed
 };
 
 } // namespace vanzer

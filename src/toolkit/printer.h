@@ -1,4 +1,5 @@
-// The printer as the reports see it. Positions are in mm from the top left corner of the sheet, to the right and down.
+// The printer as the reports use it. Positions and sizes are in mm, right and down from the top left corner of the
+// sheet.
 #pragma once
 
 #include <optional>
@@ -10,63 +11,63 @@
 
 namespace vanzer {
 
-/// The pictures of the window that go to the paper.
+/// The window's pictures that are printed.
 enum class Immagine {
-    LogoSito, ///< imgLogoSito, at the head of every page
+    LogoSito, ///< imgLogoSito, at the top of every page
     Logo      ///< imgLogo1(1), on covers
 };
 
-/// An operation of the printer that failed; the text says why, in Italian.
+/// A failed operation of the printer. The text says why, in Italian.
 struct PrinterError {
     QString testo;
 };
 
-/// Whatever draws, opens a page or ends a document throws PrinterError when it fails; the document is dropped then, and
-/// what is drawn next begins another one.
+/// Functions that draw, start a page or end a document throw PrinterError on failure. The document is dropped then, and
+/// the next drawing begins a new one.
 class Printer {
   public:
     virtual ~Printer() = default;
 
-    /// The printers' names as shown to the user, in the platform's order.
+    /// Names of the printers as the user sees them, in the platform's order.
     [[nodiscard]] virtual QStringList names() const = 0;
-    /// The printer that later operations go to; the default one until another is chosen.
+    /// The printer for the next operations: the default one until another is chosen.
     [[nodiscard]] virtual QString current() const = 0;
-    /// Does nothing if there is no such printer. A document that is still open is ended first.
+    /// Chooses a printer; does nothing if there is none of that name. Ends an open document first.
     virtual void choose(const QString& name) = 0;
 
-    /// Paper size 9 is A4, orientation 1 portrait, scale mode 6 millimetres: what every page of the reports uses. A
-    /// printer that knows no others has nothing to do.
+    /// Every page of the reports uses paper size 9 (A4), orientation 1 (portrait) and scale mode 6 (millimetres). A
+    /// printer that supports only these need not override.
     virtual void setPaperSize(int /*size*/) {}
     virtual void setOrientation(int /*orientation*/) {}
     virtual void setScaleMode(int /*mode*/) {}
 
     virtual void setFontName(const QString& name) = 0;
-    /// The font really chosen: another than the one asked for if the printer lacks that.
+    /// The font in use. It differs from the requested one if the printer lacks that.
     [[nodiscard]] virtual QString fontName() const = 0;
     virtual void setBold(bool on) = 0;
     virtual void setItalic(bool on) = 0;
-    /// In points, with fractions.
+    /// In points; fractions are allowed.
     virtual void setFontSize(double points) = 0;
     [[nodiscard]] virtual double textWidth(const QString& text) const = 0;
     [[nodiscard]] virtual double textHeight(const QString& text) const = 0;
 
     /// Text with its top left corner at a point, in the current font.
     virtual void text(Punto at, const QString& text) = 0;
-    /// `width` is the thickness of the pen in the printer's own steps.
+    /// `width` is the thickness of the pen in tenths of a millimetre.
     virtual void line(Punto from, Punto to, int width) = 0;
-    /// `fill` is 0xRRGGBB; nothing leaves the box open.
+    /// `fill` is 0xRRGGBB; without a value the box isn't filled.
     virtual void box(Punto from, Punto to, int width, std::optional<quint32> fill) = 0;
-    /// The picture scaled into the box of that size.
+    /// Draws the picture, scaled to `size`.
     virtual void picture(Immagine picture, Punto at, Punto size) = 0;
 
-    /// Number of the page being drawn; 0 before anything is drawn.
+    /// Number of the current page, from 1; 0 before anything is drawn.
     [[nodiscard]] virtual int page() const = 0;
     virtual void newPage() = 0;
-    /// Sends the document; nothing happens if nothing was begun. False if the user gave it up instead.
+    /// Sends the document; does nothing if none was begun. False if the user cancelled it.
     virtual bool endDoc() = 0;
-    /// Gives the document up: what wasn't sent yet never is.
+    /// Drops the document: pages that weren't sent yet never are.
     virtual void dropDoc() = 0;
-    /// The file that the document ended last went into; none for paper.
+    /// The files of the last ended document; empty for paper.
     [[nodiscard]] virtual QStringList madeFiles() const { return {}; }
 };
 

@@ -1,11 +1,11 @@
-// Programs started on their own.
+// Starts other programs.
 #pragma once
 
 #include "toolkit/ports.h"
 
 namespace vanzer {
 
-/// Starts programs with none of this program's input and output.
+/// Starts programs detached from this program's input and output.
 class DetachedStarter : public ProgramStarter {
   public:
     [[nodiscard]] bool start(const QString& program, const QStringList& arguments) override;

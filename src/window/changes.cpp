@@ -7,7 +7,7 @@ namespace vanzer {
 namespace {
 
 struct Campi {
-    QString kind; ///< what the user calls them
+    QString kind; ///< the user's word for these fields
     std::vector<TextControl*> fields;
 };
 
@@ -26,7 +26,7 @@ std::vector<TextControl*> clocks(const Form& form, int from, int to) {
 }
 
 std::vector<Campi> storedFields(const Form& form) {
-    constexpr int meals = 6; // pairs of clock lists, then two of the visits and one of the ferries
+    constexpr int meals = 6; // six pairs of clock lists for meals, then two for visits and one for ferries
     constexpr int visits = 8;
     return {{QStringLiteral("località"), {&form.txtLocalita}},
             {QStringLiteral("nazione"), {&form.txtNazione}},

@@ -20,7 +20,7 @@ bool anyFrameOpen(const Form& form) {
                                [&form](int frame) { return form.frmframe(frame).visible(); });
 }
 
-/// As they were, unless all were off for a frame that the command has taken away before it failed.
+/// Restores the buttons. If all were off because of a frame that the command closed before it failed, all are enabled.
 void giveButtonsBack(Form& form, const QString& meta, const QString& itinerario) {
     form.stato.PulsantiMeta = uguale(meta, pulsanti::nessuno) && !anyFrameOpen(form) ? pulsanti::tutti : meta;
     form.stato.PulsantiItinerario = itinerario;
@@ -55,7 +55,7 @@ void comando(Form& form, const std::function<void()>& handler) {
     form.lblAvviso.setCaption({});
     const QString meta = form.stato.PulsantiMeta;
     const QString itinerario = form.stato.PulsantiItinerario;
-    // What a command sets right by itself is no change of the user's.
+    // Changes that the command makes itself don't count as the user's.
     form.campiDaRicordare = form.interattiva && campiCambiati(form).isEmpty();
     try {
         storeTogether(form, handler);

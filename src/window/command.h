@@ -1,4 +1,4 @@
-// A command of the user: everything that it writes to the archive is stored together, or not at all.
+// Runs commands of the user. All that a command writes to the archive is stored together, or not at all.
 #pragma once
 
 #include <functional>
@@ -7,16 +7,14 @@
 
 namespace vanzer {
 
-/// Runs a handler, with no other inside it: while one runs, in the yields of which the window's events come through,
-/// every other command is dropped. When the archive fails, what the command wrote is undone, the user is told, and the
-/// buttons are again as they were before it.
+/// Runs a handler. Commands don't nest: while one runs, any other that comes in during a yield is dropped. If the
+/// archive fails, undoes what the command wrote, tells the user and restores the buttons.
 void comando(Form& form, const std::function<void()>& handler);
 
-/// Whether a press of the control gets through to a command at work: "&Stop" alone does.
+/// True if a press of the control reaches a running command. Only "&Stop" does.
 [[nodiscard]] bool stopsWork(const Form& form, const Control& control);
 
-/// The same without a word to the user: throws what the archive throws. `handler` has run to its end if the failure
-/// came with the storing.
+/// As comando(), but tells the user nothing and throws StoreError. If the commit failed, `handler` has run to its end.
 void storeTogether(Form& form, const std::function<void()>& handler);
 
 } // namespace vanzer

@@ -1,12 +1,12 @@
-// The question that stands before a command is carried out.
+// The question before a command is run.
 #pragma once
 
 #include "window/form.h"
 
 namespace vanzer {
 
-/// Asks "Confermi ...?" with yes and no; `what` is a code of the known questions or a text. The answer goes to
-/// Risposta. `detail` names what is lost with a yes.
+/// Asks "Confermi ...?" with yes and no, and stores the answer in Risposta. `what` is the code of a known question or a
+/// text. `detail` names what a yes would delete.
 void BoxConferma(Form& form, const QString& what, const QString& detail = {});
 
 } // namespace vanzer

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int frameCount = 29;
 
-/// Frames that stand inside others.
+/// Frames inside others: the inner frame and the outer one.
 constexpr std::array<std::pair<int, int>, 10> inside{{
     {riquadroStradaTratto, riquadroTratto},
     {riquadroStradaTappa, riquadroTappe},

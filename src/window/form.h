@@ -1,5 +1,5 @@
-// The one window: every control and every variable of it, and no logic. Handlers and engines' callers work on this;
-// start-up builds the wiring. A control's name is its key, an array's element is written with its index: cmbOra(3).
+// The window's controls and variables, without logic. Handlers work on this, and start-up connects them. A control is
+// found by its name; an element of an array by its name and index: cmbOra(3).
 #pragma once
 
 #include <functional>
@@ -16,7 +16,7 @@
 
 namespace vanzer {
 
-/// An array of controls of one name.
+/// An array of controls with the same name.
 template<typename T> class Serie {
   public:
     explicit Serie(std::vector<T*> controls) : controls_(std::move(controls)) {}
@@ -34,22 +34,22 @@ struct NumeriViaggio;
 struct ViandoriaMostrata;
 struct LineaDelTempo;
 
-/// The numbers of the frames.
+/// Frame numbers.
 enum Riquadro {
     riquadroSoste = 0,    ///< sources of the stops
     riquadroTratto,       ///< editing of a stretch
-    riquadroStradaTratto, ///< road type to assign, inside it
+    riquadroStradaTratto, ///< road type to assign, inside riquadroTratto
     riquadroStradaTappa,  ///< road type of a leg
     riquadroRiposi,
     riquadroVisite,      ///< hours of the visits
     riquadroPasti,       ///< hours of meals and night
-    riquadroDatiTecnici, ///< holds those of stops, rests and hours
+    riquadroDatiTecnici, ///< contains the frames of stops, rests and hours
     riquadroMeta,        ///< the destination
     riquadroInizio,
     riquadroFine,
     riquadroPercorrenze,        ///< speeds and totals
     riquadroTappe,              ///< the leg editor
-    riquadroPulsantiTappe = 14, ///< its buttons
+    riquadroPulsantiTappe = 14, ///< buttons of the leg editor
     riquadroMenu,
     riquadroAttesaStampa, ///< waiting note of a print
     riquadroCopia,        ///< source of a copy
@@ -59,15 +59,15 @@ enum Riquadro {
     riquadroStampanti,       ///< choice of the printer
     riquadroGuida,           ///< the guide editor
     riquadroStampaGuida,     ///< print options of the guide
-    riquadroListaStampa,     ///< which places, inside it
-    riquadroDettaglioStampa, ///< how much of each, inside it
+    riquadroListaStampa,     ///< which places, inside riquadroStampaGuida
+    riquadroDettaglioStampa, ///< how much of each place, inside riquadroStampaGuida
     riquadroStato,           ///< the status line
 };
 
-/// What the surroundings give the window once and for all.
+/// Settings from the environment that never change.
 struct Ambiente {
     QString directory;        ///< the program's directory
-    QChar decimalMark = u'.'; ///< of numbers that are shown or stored as text
+    QChar decimalMark = u'.'; ///< decimal mark of numbers shown or stored as text
     QString versione;         ///< "1.0.0"
 };
 
@@ -82,63 +82,63 @@ class Form {
     Ports& ports;
     store::Archive archivio;
     StatoFinestra stato;
-    std::shared_ptr<NumeriViaggio> viaggio; ///< the trip in work, made by start-up
+    std::shared_ptr<NumeriViaggio> viaggio; ///< the current trip, made by start-up
 
-    /// The control of that name, written with its index if it stands in an array; capitals ignored; null if unknown.
+    /// The control of that name, with its index if it is in an array. Case is ignored. Null if there is none.
     [[nodiscard]] Control* find(const QString& name) const;
     [[nodiscard]] const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
 
-    /// The answer stays in Risposta.
+    /// Shows a box and returns the answer, which is also stored in Risposta.
     int ask(const MessageBox& question);
     int domanda(const QString& text, const QString& title, Pulsanti buttons);
-    /// A question whose yes deletes or overwrites what `detail` names.
+    /// A question to confirm that what `detail` names is deleted or overwritten.
     int domandaPericolosa(const QString& text, const QString& title, const QString& detail = {});
     /// A message with an OK button.
     void messaggio(const QString& text, const QString& title = {}, Icona icon = Icona::Nessuna);
-    /// A message that tells why something can't be done.
+    /// A message that says why something can't be done.
     void refuse(const QString& text, const QString& title = {});
-    /// A message about files that were made, given by their paths.
+    /// A message about files that were made. `files` are their paths.
     void messaggioFile(const QString& text, const QStringList& files, const QString& title = {},
                        Icona icon = Icona::Nessuna);
-    /// Lets the waiting events run.
+    /// Runs the waiting events.
     void yield() { ports.events.yield(); }
     /// The button that Enter presses.
     void setDefault(Button& button);
-    /// The control that is to have the focus.
+    /// Gives the control the focus.
     void setFocus(Control& control);
     [[nodiscard]] Control* focus() const { return focus_; }
     std::function<void(Control&)> onFocus;
-    /// The user has chosen whether kilometres are typed as running totals.
+    /// Called when the user chooses whether kilometres are typed as running totals.
     std::function<void()> onKmProgressivi;
-    /// The user asks for the manual.
+    /// Called when the user asks for the manual.
     std::function<void()> onManuale;
 
     QString caption;
     bool chiusa = false;                    ///< the window has been left
-    bool comandoInCorso = false;            ///< a command of the user is being carried out
-    bool interattiva = false;               ///< a user sits before the window, not a script
-    QStringList campiMemorizzati;           ///< the fields of the destination as they count as stored
-    bool campiDaRicordare = false;          ///< at the end of the command they count so as they stand then
-    std::function<void()> beforeCommand;    ///< raised before a command of the user begins
-    std::function<bool()> saveDestination;  ///< stores the destination as it stands; false if it can't be
+    bool comandoInCorso = false;            ///< a command of the user is running
+    bool interattiva = false;               ///< a user works with the window, not a script
+    QStringList campiMemorizzati;           ///< texts of the destination's fields that count as stored
+    bool campiDaRicordare = false;          ///< at the end of the command the present texts become those
+    std::function<void()> beforeCommand;    ///< called before a command of the user begins
+    std::function<bool()> saveDestination;  ///< stores the destination; false if that fails
     std::function<bool()> closeStretch;     ///< leaves the editing of a stretch; false if the user stays
-    std::function<bool(int& row)> leaveRow; ///< before the fields show another row: false if the user stays on his
-    std::function<void()> guideRowShown;    ///< raised when the grid's current row changes while the guide is open
+    std::function<bool(int& row)> leaveRow; ///< called before the fields show another row; false if the user stays
+    std::function<void()> guideRowShown;    ///< called when the grid's current row changes while the guide is open
 
     std::array<QString, 21> TipiGuidaDescrizione;
     std::array<bool, 21> TipiGuidaTempoObbligatorio{};
 
-    /// The legs as they stood before a calculation touched them.
+    /// The legs from before a calculation.
     std::optional<TestiTabella> tappeConservate;
-    /// The legs that count as stored; nothing where nobody asks for them.
+    /// The legs that count as stored; no value if they aren't needed.
     std::optional<TappeTenute> tappeMemorizzate;
-    /// CodiceMeta is that of a destination that isn't stored yet: its legs are stored with it.
+    /// True if CodiceMeta belongs to a destination that isn't stored yet. Its legs are then stored together with it.
     bool metaNuova = false;
-    /// Of the legs in the table, as they were last worked out.
+    /// Totals of the legs in the table, as last calculated.
     std::shared_ptr<TotaliTabella> totali;
-    /// The schedule in the table, as numbers; null while it shows legs.
+    /// The schedule in the table, as numbers; null while the table shows legs.
     std::shared_ptr<const ViandoriaMostrata> viandoria;
-    /// What the picture of the schedule shows; null before it was asked for.
+    /// The contents of the time line; null before it is first shown.
     std::shared_ptr<const LineaDelTempo> linea;
 
     std::vector<Frame*> frames;
@@ -156,7 +156,7 @@ class Form {
     template<typename T, typename... Args> Serie<T> many(const char* name, int frame, int count, Args... args);
     void buildFrames();
     bool framesBuilt_ = (buildFrames(), true);
-    static constexpr int finestra = -1; // the window itself, in place of a frame
+    static constexpr int finestra = -1; // stands for the window in place of a frame
 
     TextBox& text(const char* name, int frame) { return one<TextBox>(name, frame); }
     Button& button(const char* name, int frame) { return one<Button>(name, frame); }

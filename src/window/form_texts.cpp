@@ -152,7 +152,7 @@ constexpr auto captions = std::to_array<Testo>({
     {u"cmdHelpGuida", u"?"},
 });
 
-/// A name without its index speaks of every control of the array.
+/// A name without an index stands for every control of the array.
 constexpr auto tooltips = std::to_array<Testo>({
     {u"cmdNuovo", u"Predispone per una nuova meta (cancella tutti i campi)"},
     {u"cmdSalva", u"Salva la méta corrente (non l'itinerario)"},
@@ -225,7 +225,7 @@ struct Posto {
     Geometria place;
 };
 
-/// Twips. Frames without a size of their own keep what the form's layout gives them.
+/// Positions and sizes in twips. Frames without a size keep the one of the form's layout.
 constexpr auto places = std::to_array<Posto>({
     {u"frmframe(12)", {10580, 240, 3735, 6600}},
     {u"frmframe(1)", {11520, 2880, 2800, 4095}},

@@ -1,4 +1,4 @@
-// Captions, tool tips and places of the controls, as the window shows them before anything runs.
+// Initial captions, tool tips and positions of the controls.
 #pragma once
 
 namespace vanzer {

@@ -12,8 +12,8 @@ using enum Allineamento;
 
 struct Colonna {
     int number;
-    const char16_t* head; ///< null: the head stays as it is
-    std::optional<int> width;
+    const char16_t* head;     ///< null: the heading stays
+    std::optional<int> width; ///< twips; no value: the width stays
     std::optional<Allineamento> alignment;
 };
 

@@ -32,7 +32,7 @@ void enableMenu(Form& form) {
     form.cmdCancItin.setEnabled(on(u"Ci"));
     form.cmdEsce.setEnabled(on(u"Es"));
     form.cmdExport.setEnabled(on(u"Ex"));
-    // What is being typed or searched isn't swept away by a conversion: it is on where an import is.
+    // Enabled with the import, so that a conversion can't discard what is being typed or searched.
     form.cmdConverte.setVisible(form.stato.VecchiFile);
     form.cmdConverte.setEnabled(form.stato.VecchiFile && on(u"Im"));
     form.cmdEsce.setCaption(uguale(codes, pulsanti::soloStop) ? QStringLiteral("&Stop") : QStringLiteral("&Esce"));
@@ -63,7 +63,7 @@ void leaveProgram(Form& form) {
     form.chiusa = true;
 }
 
-/// What the window has beside the table: a picture of the schedule as long as the table shows it, the first steps while
+/// Shows or hides what is beside the table: the time line while the table shows a schedule, and the first steps while
 /// there is no trip and nothing else is going on.
 void showCompanions(Form& form) {
     const StatoFinestra& s = form.stato;
@@ -98,7 +98,7 @@ void AbilitaPulsantiComando(Form& form) {
         s.PulsantiItinerario = allItinerario;
     if (form.frmframe(riquadroTappe).visible())
         s.PulsantiMeta = pulsanti::conTappeAperte;
-    // The lists of an exchange stand over a trip that was taken away: nobody is to work on what isn't there.
+    // While the lists of an exchange are open no trip is loaded, so the menu has nothing to work on.
     if (form.interattiva && form.frmframe(riquadroScambio).visible() && !s.LavoroInCorso)
         s.PulsantiMeta = pulsanti::nessuno;
     enableMenu(form);

@@ -1,5 +1,5 @@
-// The modes of the window: two texts of two-letter codes say which buttons are on, and every command ends by applying
-// them. Also the way out.
+// The modes of the window: PulsantiMeta and PulsantiItinerario say which buttons are enabled, and commands apply them
+// at their end. Also leaves the program.
 #pragma once
 
 #include "window/button_codes.h"
@@ -7,7 +7,7 @@
 
 namespace vanzer {
 
-/// The buttons when nothing else is going on: all of them, or those of an archive without trips.
+/// Codes of the buttons while nothing else is going on: all, or those for an empty archive.
 [[nodiscard]] QString pulsantiDiBase(const Form& form);
 
 /// Applies PulsantiMeta and PulsantiItinerario to the buttons, and yields.
@@ -16,16 +16,16 @@ void AbilitaPulsantiComando(Form& form);
 /// Sets PulsantiMeta and applies it.
 void AbilitaPulsantiMeta(Form& form, const QString& codes);
 
-/// Every command that can change data comes through here with `changing` true: a schedule for older data is void.
+/// Called by every command that can change data, with `changing` true: marks the schedule as out of date.
 void AttivaFormMeta(Form& form, bool changing);
 
-/// Back to the plain window: no frame over the grid.
+/// Closes the frames over the grid.
 void PulisciFinestre(Form& form);
 
-/// Takes the options of a print away, and the choice of its printer: there is nothing to be printed any more.
+/// Hides the print options and the choice of the printer, when there is nothing to print any more.
 void RinunciaStampa(Form& form);
 
-/// "&Esce" leaves the program, "&Stop" asks the running work to end.
+/// "&Esce" leaves the program; "&Stop" asks whether to stop the running work.
 void cmdEsce_Click(Form& form);
 
 } // namespace vanzer

@@ -1,25 +1,25 @@
-// The progress line, and work that runs behind it.
+// The progress line, and long work that shows its progress there.
 #pragma once
 
 #include "window/form.h"
 
 namespace vanzer {
 
-/// What the progress line says while nothing runs.
+/// Text of the progress line while nothing runs.
 inline constexpr QStringView testoInAttesa = u"Sposta il mouse sui pulsanti/campi attivi per istruzioni.";
 
-/// Title of the questions whether to leave.
+/// Title of the questions whether to leave or to stop.
 inline constexpr QStringView titoloFine = u"Fine Lavoro";
 
-/// Shows PercentualeCorrente of PercentualeTotale and yields; 0 brings back the idle text.
+/// Shows PercentualeCorrente as a percentage of PercentualeTotale and yields. 0 shows the idle text.
 void AggiornaPercentuale(Form& form);
 void AzzeraPercentuale(Form& form);
 
-/// Asks whether what is running is to be given up: InterrompiCalcolo.
+/// Asks whether to stop the running work; sets InterrompiCalcolo on a yes.
 void askToInterrupt(Form& form);
 
-/// Work that is running and that the user can give up: an import, an export, a conversion, the copy of the archive. The
-/// frames that may be open are off as long as it stands.
+/// Exists while work runs that the user can stop: an import, an export, a conversion or a copy of the archive. Disables
+/// the frames that may be open.
 class LavoroInCorso {
   public:
     explicit LavoroInCorso(Form& form);
@@ -27,7 +27,7 @@ class LavoroInCorso {
     LavoroInCorso(const LavoroInCorso&) = delete;
     LavoroInCorso& operator=(const LavoroInCorso&) = delete;
 
-    /// Progress at `done` of PercentualeTotale; false when the user has given up, or the window was left.
+    /// Shows progress, `done` of PercentualeTotale. False if the user stopped the work or left the window.
     [[nodiscard]] bool advance(double done);
 
   private:
