@@ -8,7 +8,7 @@ using enum Posizione;
 
 namespace {
 
-constexpr double lastGuideLine = 280; ///< a row below it goes to the next page
+constexpr double lastGuideLine = 280; ///< mm; a row below it goes to the next page
 constexpr double leftEdge = 5;
 constexpr double rowSize = 8; ///< points
 

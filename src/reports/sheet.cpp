@@ -6,9 +6,9 @@ namespace vanzer {
 
 namespace {
 
-constexpr double smallest = 6; ///< points: what is below isn't shrunk further
+constexpr double smallest = 6; ///< points; a smaller text isn't shrunk further
 constexpr double shrinking = 0.33;
-constexpr double beside = 1; ///< mm that a text is to leave free in its box
+constexpr double beside = 1; ///< mm that stay free beside a text in its box
 
 const QString condensed = QStringLiteral("Agency FB");
 const QString serif = QStringLiteral("Times new roman");
