@@ -15,7 +15,7 @@ namespace vanzer {
 /// Whether two names mean the same destination. Only what stands before the first bracket counts, case ignored.
 [[nodiscard]] bool stessaMeta(const QString& a, const QString& b);
 
-/// The entries of the search list: the names in their order, with motorway stretches behind all others.
+/// The entries of the search list: the names in their order, with motorway stretches after all others.
 [[nodiscard]] QStringList elencoRicerca(const QStringList& names);
 
 } // namespace vanzer

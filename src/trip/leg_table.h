@@ -28,8 +28,8 @@ struct RecordTappa {
     QString chilometri;
     QString nomeStrada;
     QString tipoStrada;
-    QString tempoSosta;
-    QString sostaGuidaCitta;
+    QString tempoSosta;      ///< gg:hh:mm; a blank for none
+    QString sostaGuidaCitta; ///< gg:hh:mm; a blank for none
     bool fineGiorno = false;
 };
 

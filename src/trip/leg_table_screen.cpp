@@ -47,7 +47,7 @@ TestiTabella readLegs(Form& form) {
     return rows;
 }
 
-/// The guide's stops of a place, as the text of their cell.
+/// The guide's stops of a place, as the text of their cell. `visitingDay` is in hundredths of an hour.
 QString guideStops(store::SegniGuida& guide, const QString& place, float visitingDay) {
     double sum = 0;
     for (const VoceGuida* const entry : guide.usePlace(place))
