@@ -19,7 +19,7 @@ struct RigaSorgente {
 };
 
 /// Copies the legs from row `from` to row `to`, counted from 1. Backward, a place is reached by the road of the row
-/// behind it. A row that the source lacks is empty. Stops lose the mark of the end of the day.
+/// after it. A row that the source lacks is empty. Stops lose the mark of the end of the day.
 [[nodiscard]] std::vector<RigaSorgente> copyStretch(const std::vector<RigaSorgente>& source, int from, int to,
                                                     bool withStops);
 

@@ -14,7 +14,7 @@ void mfgCopia_Click(Form& form);
 void mfgCopia_Mark(Form& form);
 /// Makes the current leg the stretch's first (0) or last one (1).
 void cmdAssegna_Click(Form& form, int i);
-/// Inserts the stretch behind the current row (0), or cancels (1).
+/// Inserts the stretch after the current row (0), or cancels (1).
 void cmdInsEsegui_Click(Form& form, int i);
 
 } // namespace vanzer

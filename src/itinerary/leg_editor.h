@@ -56,7 +56,7 @@ struct TappaControllata {
 
 [[nodiscard]] TappaControllata checkLeg(const TappaDigitata& typed);
 
-/// Whether running kilometres are typed behind a row that shows so many.
+/// Whether running kilometres are typed after a row that shows so many.
 [[nodiscard]] bool kmProgressivi(double kmPrecedenti);
 
 } // namespace vanzer
