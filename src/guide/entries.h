@@ -56,7 +56,7 @@ struct VoceDigitata {
     QString descrizione;
     int codice = -1; ///< category
     bool tempoObbligatorio = false;
-    QString tempo;
+    QString tempo; ///< "hh:mm"
 };
 
 enum class EsitoVoce { Buona, MancaDescrizione, MancaTipologia, MancaTempo, MancaLuogo };

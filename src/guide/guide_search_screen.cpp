@@ -19,7 +19,7 @@ void enableEditor(Form& form, bool on) {
     form.mfgTab.setEnabled(on);
 }
 
-/// Offers each place of the grid once, with its row behind the name.
+/// Offers each place of the grid once, with its row after the name.
 void offerPlaces(Form& form) {
     QStringList places;
     QString above;
