@@ -150,7 +150,7 @@ class Chiusura {
   private:
     [[nodiscard]] int rows() const { return static_cast<int>(schedule_.righe.size()); }
 
-    /// Finds the stretch. It begins at the last "[Start]" and ends before the next numbered row behind the last
+    /// Finds the stretch. It begins at the last "[Start]" and ends before the next numbered row after the last
     /// "[End]".
     void findStretch() {
         const int none = rows();

@@ -41,11 +41,11 @@ struct TestiViandoria {
     float oreVisitaGiorno = 0; ///< visiting time of a day, hundredths of an hour
 };
 
-/// "Lun", "gg/mm", "hh:mm" of a day and a clock.
+/// "gg/mm" of a Julian day, and "hh:mm" of a clock in hundredths of an hour.
 [[nodiscard]] QString giornoEMese(float giuliano);
 [[nodiscard]] QString oraMostrata(float ora);
 
-/// The rows of the simulation alone, with blank rows behind them.
+/// The rows of the simulation alone, with blank rows after them.
 [[nodiscard]] TestiTabella celleViandoria(const Viandoria& schedule, const std::vector<RigaDiLavoro>& work,
                                           const TestiViandoria& texts, int blankRows = 0);
 

@@ -1,6 +1,6 @@
 // A simulated trip through the working rows, with a clock and a calendar. One run is called a test.
 //
-// The day is a chain of milestones: lunch, dinner, night. It isn't a span of 24 hours. A drive that would end behind a
+// The day is a chain of milestones: lunch, dinner, night. It isn't a span of 24 hours. A drive that would end after a
 // milestone and its range is cut, so that it ends at the milestone. An arrival near a milestone counts as reaching it;
 // near means from a third of the range before it to the whole range after it. Clock times are hundredths of an hour in
 // single precision. Sums and products are computed in double precision and rounded when a variable stores them.
@@ -46,7 +46,7 @@ struct RigaViandoria {
     Tipo tipo = Tipo::Tratto;
     Fine fine = Fine::Arrivo;
     int lavoro = 0;      ///< index of its working row
-    bool verso = false;  ///< the leg goes on behind this piece
+    bool verso = false;  ///< the leg goes on after this piece
     bool pranzo = false; ///< lunch, dinner, night follow this piece
     bool cena = false;
     bool notte = false;
@@ -60,7 +60,7 @@ struct RigaViandoria {
     float inizio = 0;       ///< clock at the start of the piece or stop
     float giornoInizio = 0; ///< day of that clock
     float riposo = 0;       ///< length of the breaks that follow
-    float ora = 0;          ///< clock at the arrival, behind the stop, or at the new start
+    float ora = 0;          ///< clock at the arrival, after the stop, or at the new start
     float giuliano = 0;     ///< day of that clock
     float sosta = 0;        ///< length of the stop
     float sostaGuida = 0;   ///< length of the guide's entry, before the factor

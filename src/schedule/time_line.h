@@ -17,18 +17,18 @@ struct Attivita {
 
     Tipo tipo = Tipo::Libero;
     double inizio = 0; ///< hundredths of an hour from midnight of the trip's first day
-    double fine = 0;
-    int riga = 0;  ///< row of the schedule, from 0, that it belongs to or follows; all pieces of a stop share one
-    QString nome;  ///< destination of a drive, name of a stop, place of a night
-    QString nota;  ///< road of a drive, category of a stop
-    QString luogo; ///< its place; on the way the next place
-    int km = 0;    ///< of a drive
+    double fine = 0;   ///< likewise
+    int riga = 0;      ///< row of the schedule, from 0, that it belongs to or follows; all pieces of a stop share one
+    QString nome;      ///< destination of a drive, name of a stop, place of a night
+    QString nota;      ///< road of a drive, category of a stop
+    QString luogo;     ///< its place; on the way the next place
+    int km = 0;        ///< of a drive
 
     [[nodiscard]] double durata() const { return fine - inizio; }
 };
 
 struct LineaDelTempo {
-    float giulianoInizio = 0; ///< the first day
+    float giulianoInizio = 0; ///< Julian day of the first day
     std::vector<Attivita> attivita;
 };
 
@@ -67,7 +67,7 @@ struct Giornata {
 
 /// A moment of the line, as day and minute.
 struct Istante {
-    float giuliano = 0;
+    float giuliano = 0; ///< Julian day
     int ora = 0;
     int minuti = 0;
 };
