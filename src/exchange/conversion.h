@@ -60,7 +60,7 @@ inline constexpr QStringView fileCodiciConvertiti = u"VanzMete.codici";
 struct TappaConvertita {
     QString Localita;
     QString Chilometri;
-    QString NomeStrada; ///< the old place from behind its first "*", with a blank added
+    QString NomeStrada; ///< the old place after its first "*", with a blank added
     QString TipoStrada;
     QString TempoSosta; ///< gg:HH:mm; a blank for none
     QString FineGiorno; ///< "1" or "0"

@@ -2,7 +2,7 @@
 //
 // The file is a text of up to three sections, in this order: destinations, legs, guide. A section begins with a head
 // line, which has the field names of its table. A line for each record follows, with the trimmed texts of the fields.
-// The section's separator stands behind every name and every text. The sections are told apart by their separators
+// The section's separator stands after every name and every text. The sections are told apart by their separators
 // alone:
 //
 //     MeteVanzer    ÿ (byte 255)    CodiceMetaÿLocalitaÿ...     000001ÿROMAÿ...

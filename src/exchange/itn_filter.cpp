@@ -92,7 +92,7 @@ class RighePerContenuto {
         }
     }
 
-    /// Adds a text behind the place of a row. It is searched too from now on.
+    /// Adds a text after the place of a row. It is searched too from now on.
     void allunga(qsizetype row, const QString& text) { marks_[row] += text; }
 
     /// The first row that contains the text. -1 if there is none.

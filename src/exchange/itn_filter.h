@@ -4,7 +4,7 @@
 //
 //     8.61234,45.50123,"NOVARA"
 //
-// Only the name behind the last comma is read. The place of a stop's leg gets the stop's number: " [00007]".
+// Only the name after the last comma is read. The place of a stop's leg gets the stop's number: " [00007]".
 #pragma once
 
 #include <vector>
@@ -31,7 +31,7 @@ struct RigaRimasta {
 /// The names of the stops, in the order of the file. A stop's number is its position in the list, from 1.
 [[nodiscard]] QStringList readDestinations(const QByteArray& contents);
 
-/// Writes each stop's number behind the place of its leg. That is the first unmarked leg whose place begins with the
+/// Writes each stop's number after the place of its leg. That is the first unmarked leg whose place begins with the
 /// stop's name. If there is none, it is the first leg that contains the longest part of the name. Other stops are
 /// dropped.
 void markDestinations(std::vector<RigaPercorso>& legs, const QStringList& stops);

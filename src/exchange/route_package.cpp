@@ -95,7 +95,7 @@ class Percorso {
   private:
     int km_ = 0;
     int kmLast_ = 0;
-    QString roads_ = nessuna; // the roads stand behind the first character
+    QString roads_ = nessuna; // the roads stand after the first character
     QString last_;
     std::vector<TappaImportata> legs_;
 };

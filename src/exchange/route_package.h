@@ -35,7 +35,7 @@ struct PercorsoImportato {
     std::vector<TappaImportata> tappe;
 };
 
-/// The road that an instruction leads to, which stands behind "onto", "su", "on" or "[". It is the content of the last
+/// The road that an instruction leads to, which stands after "onto", "su", "on" or "[". It is the content of the last
 /// brackets, if that is digits and capitals alone. Otherwise it is the last run of at least two digits or capitals.
 /// Empty if there is no such run. No value if the instruction has none of these four words.
 [[nodiscard]] std::optional<QString> RilevaStradaCorrente(const QString& instruction);
