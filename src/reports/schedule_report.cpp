@@ -22,8 +22,8 @@ struct Colonna {
     Posizione headAt;
     Posizione cellAt;
 };
-constexpr double firstEdge = 12;
-constexpr double lastEdge = 200;
+constexpr double firstEdge = 12; ///< mm
+constexpr double lastEdge = 200; ///< mm
 constexpr std::array<Colonna, printedColumns> columns{{{u"N.", 6, Centro, Destra},
                                                        {u"Località", 48, Sinistra, Sinistra},
                                                        {u"Num.Strada", 18, Centro, Centro},
@@ -90,7 +90,7 @@ bool isNumber(const QString& text) {
     return std::ranges::all_of(digits, belongs) && std::ranges::any_of(digits, [](QChar c) { return c.isDigit(); });
 }
 
-/// Whether a cell opens a stop: ">" is the first character, or the second behind a blank.
+/// Whether a cell opens a stop: ">" is the first character, or the second after a blank.
 bool opensStop(const QString& cell) {
     return Trim(Left(cell, 2)).startsWith(u'>');
 }
@@ -147,12 +147,12 @@ void ReportViandoria::frontespizioViandoria() {
 
 namespace {
 
-constexpr double titleSize = 48;
+constexpr double titleSize = 48; ///< points
 
 /// The trip's name on one to three lines. A number at its end gets a line of its own, and a name that is too wide is
 /// halved.
 std::vector<QString> titleLines(Foglio& sheet, const QString& name) {
-    constexpr double widest = 180;
+    constexpr double widest = 180; // mm
     std::vector<QString> lines{name};
     const qsizetype blank = name.lastIndexOf(u' ');
     if (blank >= 0 && isNumber(Trim(name.mid(blank))))
@@ -174,6 +174,7 @@ std::vector<QString> titleLines(Foglio& sheet, const QString& name) {
 } // namespace
 
 void ReportViandoria::cover(const std::vector<QString>& titles) {
+    // mm
     constexpr double height = 280;
     constexpr double left = 16;
     constexpr double right = 195;
@@ -401,6 +402,7 @@ QString ReportViandoria::name(int row, QString s, Edges& x, bool& heavy) {
 }
 
 void ReportViandoria::road(const QString& s, Edges& x) {
+    // points
     constexpr double step = 0.3;
     constexpr double smallestOneLine = 7;
     constexpr double twoLines = 6.5;
