@@ -34,6 +34,7 @@ inline RigaDiLavoro drive(const QString& place, int km, bool endOfDay = false) {
     return row;
 }
 
+/// `length` in hundredths of an hour.
 inline RigaDiLavoro guideStop(float length) {
     RigaDiLavoro row;
     row.tipo = RigaDiLavoro::Tipo::SostaGuida;
