@@ -39,7 +39,7 @@ struct TappaDigitata {
 
 enum class Rifiuto {
     Nessuno,
-    KmTroppi, ///< above 999
+    KmTroppi, ///< above 999 km
     LuogoMancante,
     KmELuogo,       ///< both of these
     NienteDaSegnare ///< a later row without kilometres, stop, end of day or ferry
@@ -47,8 +47,8 @@ enum class Rifiuto {
 
 struct TappaControllata {
     Rifiuto rifiuto = Rifiuto::Nessuno;
-    QString km;          ///< as typed, or less what stands above where a running total was typed
-    bool totale = false; ///< such a one was typed
+    QString km;          ///< as typed; of a running total the difference from the row above
+    bool totale = false; ///< a running total was typed
     QString luogo;       ///< with its marks
     QString lettera;
     QString sosta; ///< the cell: empty for none, "*" in front for the end of the day
