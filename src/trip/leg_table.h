@@ -49,7 +49,7 @@ struct RecordTappa {
 class TrattoDellaGuida {
   public:
     struct Passo {
-        bool leggere = false; ///< the guide's entries of `luogo` are to be read
+        bool leggere = false; ///< read the guide's entries of `luogo`
         QString luogo;
     };
     /// Takes the next leg's place, as it is stored.
