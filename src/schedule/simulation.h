@@ -47,7 +47,7 @@ struct RigaViandoria {
     Fine fine = Fine::Arrivo;
     int lavoro = 0;      ///< index of its working row
     bool verso = false;  ///< the leg goes on after this piece
-    bool pranzo = false; ///< lunch, dinner, night follow this piece
+    bool pranzo = false; ///< lunch follows this piece; below, dinner and night
     bool cena = false;
     bool notte = false;
     bool pausa = false;      ///< a break follows
