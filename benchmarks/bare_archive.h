@@ -27,7 +27,7 @@ class BareArchive {
     BareArchive(const BareArchive&) = delete;
     BareArchive& operator=(const BareArchive&) = delete;
 
-    /// The code of the current destination; the record of one, and its legs in their order.
+    /// The code of the current destination. readDestination() reads a destination's record, legs() its legs in order.
     [[nodiscard]] std::string currentCode();
     long readDestination(const std::string& code);
     [[nodiscard]] BareRows legs(const std::string& code);

@@ -23,7 +23,7 @@ class Changes : public WindowTest {
 TEST_F(Changes, EachWayThatTakesThemAsksFirst) {
     const struct {
         QString reach, leave;
-        QString own; ///< answers to the way's own questions, which come first
+        QString own; ///< answers to questions of this way, which come first
     } ways[] = {{{}, u"click cmdNuovo"_s, {}},
                 {u"click cmdRicerca"_s, u"pick cmbRicerca PROVA"_s, {}},
                 {{}, u"click cmdCancMeta"_s, {}},
