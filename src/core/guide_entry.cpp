@@ -8,7 +8,7 @@ namespace vanzer {
 float tempoVoce(const QString& tempoSosta, float visitingDay, LetturaTempo reading) {
     const QStringView time(tempoSosta);
     const bool itinerary = reading == LetturaTempo::Itinerario;
-    const bool days = iniziaCon(time, u"G");
+    const bool days = beginsWith(time, u"G");
     if (!days && !itinerary)
         return ghmStringa2Centesimi(tempoSosta, visitingDay);
     const double whole = days ? Val(itinerary ? Mid(time, 2, 1) : time.mid(1)) * static_cast<double>(visitingDay)

@@ -24,11 +24,11 @@ LuogoConMarche splitMarks(const QString& cell) {
 
 QString PulisceNomeLocalita(const QString& name) {
     QString s = cutAt(name, u'(');
-    if (iniziaCon(s, u"near "))
+    if (beginsWith(s, u"near "))
         s = Trim(Mid(s, 5));
-    if (iniziaCon(s, u"vicino "))
+    if (beginsWith(s, u"vicino "))
         s = Trim(Mid(s, 7));
-    if (iniziaCon(s, u"CVL "))
+    if (beginsWith(s, u"CVL "))
         s = Mid(s, 5);
     s = cutAt(s, u'[');
     return cutAt(s, u'(');

@@ -231,7 +231,7 @@ bool uguale(QStringView a, QStringView b) {
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
-bool iniziaCon(QStringView s, QStringView start) {
+bool beginsWith(QStringView s, QStringView start) {
     return s.startsWith(start, Qt::CaseInsensitive);
 }
 

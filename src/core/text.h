@@ -96,7 +96,7 @@ struct Intorno {
 
 /// Equal, beginning, holding: all without regard to case.
 [[nodiscard]] bool uguale(QStringView a, QStringView b);
-[[nodiscard]] bool iniziaCon(QStringView s, QStringView start);
+[[nodiscard]] bool beginsWith(QStringView s, QStringView start);
 [[nodiscard]] bool contains(QStringView s, QStringView part);
 /// Position from 1 of the first occurrence, case ignored; 0 if there is none.
 [[nodiscard]] int posizione(QStringView s, QStringView part);

@@ -74,7 +74,7 @@ class Conversione {
         const int left = readRecords(QStringLiteral("Conversione file guida città"), file.records,
                                      [this](const auto& record) { return writeEntry(voceConvertita(record)); });
         remakeCategories();
-        adegua();
+        adjust();
         finish(file, left);
         if (stuck_.isEmpty())
             QFile::remove(codesFile());
@@ -305,7 +305,7 @@ class Conversione {
         }
     }
 
-    void adegua() {
+    void adjust() {
         form_.archivio.RecordSetImposta(0, store::MeteVanzer,
                                         {store::TabelleNomi(store::MeteVanzer), {}, {{QStringLiteral("Localita")}}});
         begin(QStringLiteral("Adeguamento archivio mète"), form_.archivio.NumeroRecord());

@@ -93,7 +93,7 @@ class RighePerContenuto {
     }
 
     /// Adds a text after the place of a row. It is searched too from now on.
-    void allunga(qsizetype row, const QString& text) { marks_[row] += text; }
+    void append(qsizetype row, const QString& text) { marks_[row] += text; }
 
     /// The first row that contains the text. -1 if there is none.
     [[nodiscard]] qsizetype prima(const QString& part) const {
@@ -153,7 +153,7 @@ class RighePerContenuto {
 };
 
 bool isEntry(const QString& place) {
-    return iniziaCon(place, u"Ingresso");
+    return beginsWith(place, u"Ingresso");
 }
 
 QString withoutZeros(QString marks) {
@@ -228,7 +228,7 @@ void markDestinations(std::vector<RigaPercorso>& legs, const QStringList& stops)
         const auto at = static_cast<std::size_t>(row);
         legs[at].luogo += mark;
         marked[at] = legs[at].luogo.contains(segno);
-        byContents.allunga(row, mark);
+        byContents.append(row, mark);
     }
 }
 

@@ -84,8 +84,8 @@ class Percorso {
     void chiude(const QString& place) {
         last_ = place;
         const QString roads = Mid(roads_, 2);
-        legs_.push_back({maiuscolo(Trim(iniziaCon(place, u"vicino a") ? Mid(place, 10) : place)), Trim(roads),
-                         kmDallUltima(), km_, iniziaCon(roads, u"A"), contains(roads, traghetto)});
+        legs_.push_back({maiuscolo(Trim(beginsWith(place, u"vicino a") ? Mid(place, 10) : place)), Trim(roads),
+                         kmDallUltima(), km_, beginsWith(roads, u"A"), contains(roads, traghetto)});
         roads_ = nessuna;
         kmLast_ = km_;
     }
@@ -125,7 +125,7 @@ class ListaOraria {
     void prepare() {
         instruction_ =
             Trim(senza(senza(instruction_, QStringLiteral("*Toll road*")), QStringLiteral("*gate access required*")));
-        if (const int comma = posizioneDa(instruction_, u',', 1); comma > 0 && iniziaCon(instruction_, u"At exit"))
+        if (const int comma = posizioneDa(instruction_, u',', 1); comma > 0 && beginsWith(instruction_, u"At exit"))
             instruction_ = Mid(instruction_, comma + 2);
         if (contains(instruction_, u"arrive"))
             instruction_ =
@@ -146,7 +146,7 @@ class ListaOraria {
     /// Takes the place of the first departure. Later ones don't count.
     void partenza() {
         constexpr int pastNear = 9;
-        if (departed_ || !(iniziaCon(word_, u"partenza") || iniziaCon(word_, u"depart")))
+        if (departed_ || !(beginsWith(word_, u"partenza") || beginsWith(word_, u"depart")))
             return;
         const int near = posizioneVicino(instruction_);
         place_ = Trim(near > 0 ? Mid(instruction_, near + pastNear) : senzaPrimaParola(instruction_));
@@ -156,7 +156,7 @@ class ListaOraria {
 
     void arrivo() {
         constexpr int pastNear = 7;
-        if (!iniziaCon(word_, u"arriv"))
+        if (!beginsWith(word_, u"arriv"))
             return;
         if (const int near = posizioneVicino(instruction_); near > 0)
             instruction_ = Mid(instruction_, near + pastNear);
@@ -176,7 +176,7 @@ class ListaOraria {
             end = primaDellaVirgola(from);
             readKm();
         }
-        if (iniziaCon(instruction_, u"at exit")) {
+        if (beginsWith(instruction_, u"at exit")) {
             const int bracket = posizioneDa(instruction_, u'[', 1);
             from = bracket > 0 ? bracket + 1 : 0;
             end = posizioneDa(instruction_, u']', 1);
@@ -282,7 +282,7 @@ class ListaLuoghi {
             splitRoad(without);
             if (Trim(place_).isEmpty())
                 luogoDallaDirezione();
-            conta(raw);
+            tally(raw);
             EstraeTappaStrada();
             if (closeLeg())
                 break;
@@ -346,7 +346,7 @@ class ListaLuoghi {
     }
 
     /// Sets the kilometres. If the counter starts again, the count goes on from its last value.
-    void conta(int raw) {
+    void tally(int raw) {
         if (raw < lastRaw_)
             correction_ = addToInt(correction_, lastRaw_);
         lastRaw_ = raw;

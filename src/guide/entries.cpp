@@ -111,13 +111,13 @@ QString messaggioVoce(EsitoVoce result) {
 }
 
 std::optional<FormaBreve> formaDiario(const QString& text) {
-    if (!iniziaCon(text, u"diar"))
+    if (!beginsWith(text, u"diar"))
         return std::nullopt;
     return FormaBreve{QStringLiteral("Diari di bordo"), QStringLiteral("Diari bordo")};
 }
 
 std::optional<FormaBreve> formaBreve(const QString& text) {
-    if (!iniziaCon(text, u"cs"))
+    if (!beginsWith(text, u"cs"))
         return formaDiario(text);
     return FormaBreve{QStringLiteral("carte/guide - atlanti"), QStringLiteral("carte/guide")};
 }

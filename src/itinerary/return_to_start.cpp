@@ -12,7 +12,7 @@ int joinRow(const std::vector<QStringView>& places) {
         return 0;
     const QString name = luogoDiSvolta(places.back().toString());
     for (std::size_t r = places.size() - 1; r >= 1; --r) {
-        if (iniziaCon(places[r - 1], name))
+        if (beginsWith(places[r - 1], name))
             return static_cast<int>(r);
     }
     return 0;

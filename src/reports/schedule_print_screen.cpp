@@ -88,7 +88,7 @@ class StampaItinerario {
         if (pages())
             run_.step([this] { report_.finePagina(); });
         if (line() && !run_.finita())
-            run_.step([this] { stampaLinea(run_.foglio(), trip_.localita, lineaMostrata(form_), run_.piede()); });
+            run_.step([this] { printTimeLine(run_.foglio(), trip_.localita, lineaMostrata(form_), run_.piede()); });
         if (!pages() && cover())
             run_.fineDocumento();
         if (forms())

@@ -13,7 +13,7 @@ const QString tab = QStringLiteral("\t");
 /// Whether a row names no place: a stop, a break, or a text that begins with one of these characters.
 bool passedOver(const QString& place) {
     static constexpr QStringView noPlaces = u">\\aA*";
-    return place.isEmpty() || noPlaces.contains(place.front()) || iniziaCon(place, u"verso");
+    return place.isEmpty() || noPlaces.contains(place.front()) || beginsWith(place, u"verso");
 }
 
 QString withoutDirections(QString place) {

@@ -153,7 +153,7 @@ class Pagina {
 
 } // namespace
 
-void stampaLinea(Foglio& sheet, const QString& trip, const LineaDelTempo& line, const Piede& foot) {
+void printTimeLine(Foglio& sheet, const QString& trip, const LineaDelTempo& line, const Piede& foot) {
     const std::vector<Giornata> days = giornate(line);
     const double count = static_cast<double>(days.size());
     const double height = std::clamp((bottom - top) / std::max(count, 1.0), lowestRow, highestRow);

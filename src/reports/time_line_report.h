@@ -7,6 +7,6 @@
 namespace vanzer {
 
 /// Draws on the current page. A trip of more days continues on the next pages.
-void stampaLinea(Foglio& sheet, const QString& trip, const LineaDelTempo& line, const Piede& foot);
+void printTimeLine(Foglio& sheet, const QString& trip, const LineaDelTempo& line, const Piede& foot);
 
 } // namespace vanzer

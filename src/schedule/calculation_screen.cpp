@@ -198,7 +198,7 @@ class Calcolo {
     void beginSeries(Adeguamento& search) {
         Aggiorna(form_, false);
         ControllaVariabiliConvertite(form_);
-        search.iniziaSerie(trip_.OreGuidaGiorno);
+        search.startSeries(trip_.OreGuidaGiorno);
         trip_.Coefficiente = search.coefficiente();
         trip_.NumeroTest = 0;
     }

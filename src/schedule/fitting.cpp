@@ -27,7 +27,7 @@ double coefficienteDiPartenza(const DatiAdeguamento& data, int giorniDesiderati)
     return std::max(giorniDesiderati * static_cast<double>(data.oreGuidaGiorno) / (driving + stops), 1.0);
 }
 
-void Adeguamento::iniziaSerie(float oreGuidaGiorno) {
+void Adeguamento::startSeries(float oreGuidaGiorno) {
     data_.oreGuidaGiorno = oreGuidaGiorno;
     coefficiente_ = static_cast<float>(partenza_);
     numeroTest_ = 0;

@@ -36,7 +36,7 @@ class Adeguamento {
     explicit Adeguamento(const DatiAdeguamento& data) : data_(data), partenza_(data.valoreMemorizzato) {}
 
     /// Begins a series of tests. `oreGuidaGiorno` is the present driving time of a day, hundredths of an hour.
-    void iniziaSerie(float oreGuidaGiorno);
+    void startSeries(float oreGuidaGiorno);
     /// What to do next, from the days that the last test needed.
     [[nodiscard]] Passo prossimo(int giorniCalcolati, int giorniDesiderati, bool conSoste);
     /// Whether the search ends with the last test, and how.

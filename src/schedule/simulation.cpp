@@ -45,7 +45,7 @@ class Prova {
         prepareStart();
     }
 
-    Viandoria corre(const FermaRiga& stop) {
+    Viandoria walk(const FermaRiga& stop) {
         float counted = giuliano_ - 1; // the last day that was counted
         for (int index = 0; const RigaDiLavoro& row : rows_) {
             if (stop && stop(index + 1, result_)) {
@@ -308,7 +308,7 @@ class Prova {
 
 Viandoria simulate(const std::vector<RigaDiLavoro>& rows, const ParametriSimulazione& with, float coefficiente,
                    const FermaRiga& stop, std::vector<RigaViandoria> memory) {
-    return Prova(rows, with, coefficiente, std::move(memory)).corre(stop);
+    return Prova(rows, with, coefficiente, std::move(memory)).walk(stop);
 }
 
 } // namespace vanzer

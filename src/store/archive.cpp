@@ -137,7 +137,7 @@ void Archive::DataBaseVerificaIndici(int db, int table) {
 }
 
 void Archive::RecordSetImposta(int db, int slot) {
-    RecordSetImposta(db, slot, analizza(StringaSQL));
+    RecordSetImposta(db, slot, parsed(StringaSQL));
 }
 
 void Archive::RecordSetImposta(int db, int slot, const Query& query) {
@@ -184,7 +184,7 @@ void Archive::CancellaTabella(int table, const QString& field, const QString& va
     StringaSQL = QStringLiteral("SELECT * FROM ") + TabelleNomi(table);
     if (!field.isEmpty())
         StringaSQL += QStringLiteral(" WHERE ") + field + QStringLiteral(" LIKE '") + LikeTesto(value) + u'\'';
-    const Query query = analizza(StringaSQL);
+    const Query query = parsed(StringaSQL);
     RecordSetImposta(0, slotAppoggio, query);
     const auto total = static_cast<qint64>(NumeroRecord());
     if (total == 0)

@@ -148,11 +148,11 @@ void makeDailyCopy(Database& archive, const QDate& day, const Database::CopyProg
         return;
     const QDir folder(cartellaCopie(archive.percorso()));
     removeUnfinished(folder);
-    if (copiaIntera(archive, day.toString(nameOfDay), progress))
+    if (makeWholeCopy(archive, day.toString(nameOfDay), progress))
         removeTooMany(folder, day);
 }
 
-bool copiaIntera(Database& archive, const QString& name, const Database::CopyProgress& progress) {
+bool makeWholeCopy(Database& archive, const QString& name, const Database::CopyProgress& progress) {
     const QDir folder(cartellaCopie(archive.percorso()));
     if (!cartellaPer(archive.percorso(), folder.path()))
         throw StoreError(StoreError::Kind::ReadOnly, folder.filePath(name));

@@ -30,7 +30,7 @@ void makeDailyCopy(Database& archive, const QDate& day, const Database::CopyProg
 /// Copies an open archive into that folder under the name, with the archive's rights: the copy has its name when it is
 /// whole, found sound and safe on the disk. False if `progress` left it; then, and when it throws, nothing is left of
 /// it.
-[[nodiscard]] bool copiaIntera(Database& archive, const QString& name, const Database::CopyProgress& progress);
+[[nodiscard]] bool makeWholeCopy(Database& archive, const QString& name, const Database::CopyProgress& progress);
 
 struct CopiaTrovata {
     QString path; ///< full

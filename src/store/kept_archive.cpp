@@ -45,7 +45,7 @@ QString keepAside(Database& archive) {
     for (int n = 2; taken.contains(which); ++n)
         which = u' ' + QString::number(n);
     const QString name = nameOf(which, avviiTenuti);
-    static_cast<void>(copiaIntera(archive, name, {}));
+    static_cast<void>(makeWholeCopy(archive, name, {}));
     return folder.filePath(name);
 }
 

@@ -122,7 +122,7 @@ std::vector<Order> readOrder(Reader& reader) {
 
 } // namespace
 
-Query analizza(const QString& text) {
+Query parsed(const QString& text) {
     Reader reader(text);
     Query query;
     if (!reader.accept(u"SELECT")) {

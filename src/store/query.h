@@ -32,7 +32,7 @@ struct Query {
 /// Reads "SELECT * FROM table [WHERE condition [AND condition]...] [ORDER BY field [DESC], ...]", or just a table's
 /// name. Keywords ignore case, one pair of brackets may stand in the conditions, an apostrophe in a text is doubled.
 /// Throws StoreError (Other) for anything else; it has no path.
-[[nodiscard]] Query analizza(const QString& query);
+[[nodiscard]] Query parsed(const QString& query);
 
 /// A text as it goes between the quotes of a query.
 [[nodiscard]] QString quotato(const QString& text);

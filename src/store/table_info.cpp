@@ -92,9 +92,9 @@ QByteArray createIndexSql(const QString& table, const QString& field) {
 }
 
 QString logicalIndexName(const QString& table, const QString& indexName) {
-    if (iniziaCon(indexName, QString(table + internalMark)))
+    if (beginsWith(indexName, QString(table + internalMark)))
         return {};
-    return iniziaCon(indexName, QString(table + u'.')) ? indexName.mid(table.size() + 1) : indexName;
+    return beginsWith(indexName, QString(table + u'.')) ? indexName.mid(table.size() + 1) : indexName;
 }
 
 QString internalIndexName(const QString& table, QStringView what) {

@@ -1,7 +1,9 @@
 #include "store_fixture.h"
 
 #include "batch/batch_printer.h"
+#include "batch/interpreter.h"
 #include "batch/queue_ports.h"
+#include "batch/usage.h"
 
 namespace vanzer::batch {
 namespace {
@@ -21,6 +23,16 @@ TEST(BatchPrinter, DrawsNoPdfInPlaceOfTheArchive) {
         EXPECT_TRUE(careful.endDoc());
     }
     EXPECT_EQ(store::contents(archive), "legs");
+}
+
+TEST(BatchInterpreter, KnowsAllThatTheHelpLists) {
+    const QTemporaryDir scratch;
+    Interpreter interpreter({.directory = scratch.path(), .decimalMark = u'.', .versione = {}});
+    for (const Usage& usage : commandUsage()) {
+        const QString word = usage.command.toString().section(u' ', 0, 0);
+        EXPECT_TRUE(word == u"stop" || interpreter.run(word)->value(u"error").toString() != u"unknown command")
+            << word.toStdString();
+    }
 }
 
 } // namespace

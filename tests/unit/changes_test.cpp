@@ -1,5 +1,6 @@
 // Typed fields that aren't stored, with a user present. The user is asked once before they are cleared or reloaded.
 #include "support/window_test.h"
+#include "window/changes.h"
 
 namespace vanzer {
 namespace {
@@ -48,6 +49,24 @@ TEST_F(Changes, EachWayThatTakesThemAsksFirst) {
                 EXPECT_EQ(form().txtNazione.text(), u"FRANCIA"_s);
             }
         }
+    }
+}
+
+TEST_F(Changes, EachFieldOfTheTripCounts) {
+    begin();
+    QStringList names{u"txtLocalita"_s, u"txtNazione"_s, u"cmbRipM"_s,  u"cmbRipH"_s,  u"cmbRipG"_s,
+                      u"cmbRipGG"_s,    u"cmbRange"_s,   u"cmbSoste"_s, u"cmbGiorni"_s};
+    for (const auto& [name, count] :
+         {std::pair(u"cmbInizio"_s, 5), {u"cmbMediaKm"_s, 4}, {u"cmbOra"_s, 9}, {u"cmbMin"_s, 9}}) {
+        for (int i = 0; i < count; ++i)
+            names << name + u'(' + QString::number(i) + u')';
+    }
+    for (const QString& name : names) {
+        auto& field = dynamic_cast<TextControl&>(*form().find(name));
+        const QString before = field.text();
+        field.setText(before + u'1');
+        EXPECT_EQ(nomiDeiCambiati(form()), QStringList{field.name()});
+        field.setText(before);
     }
 }
 

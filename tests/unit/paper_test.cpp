@@ -79,7 +79,8 @@ TEST(Paper, APictureShowsItsPartOfThePage) {
     const Page page{DrawnBox{{40, 10}, {60, 20}, 0.1, 0xc0ffc0U},
                     DrawnText{{40, 30}, u"HHH"_s, {.family = serif.family, .points = 40}},
                     DrawnPath{Path::circle({50, 50}, 5), 0xff0000U},
-                    DrawnPath{Path().moveTo({40, 60}).lineTo({60, 60}), 0x0000ffU, Stroke{2, {4, 4}}}};
+                    DrawnPath{Path().moveTo({40, 60}).lineTo({60, 60}), 0x0000ffU, Stroke{2, {4, 4}}},
+                    DrawnPath{Path().moveTo({40, 64}).lineTo({60, 64}), 0x0000ffU, Stroke{2}}};
     constexpr int width = 200;
     constexpr int height = 260;
     std::vector<quint32> points(std::size_t{width} * height, 0xFFFFFFFFU);
@@ -97,6 +98,7 @@ TEST(Paper, APictureShowsItsPartOfThePage) {
     EXPECT_EQ(seen(42, 60), 0x0000ffU);
     EXPECT_EQ(seen(46, 60), 0xFFFFFFU) << "a gap";
     EXPECT_EQ(seen(50, 60), 0x0000ffU);
+    EXPECT_EQ(seen(46, 64), 0x0000ffU) << "no gap in the next line";
 }
 
 } // namespace

@@ -54,7 +54,7 @@ TEST_F(Reports, TheDaysOfATimeLineShareAPageWhileTheyCanBeToldApart) {
         LineaDelTempo line;
         line.attivita.emplace_back().fine = 2400.0 * c.days;
         sheet.setUp();
-        stampaLinea(sheet, u"GIRO"_s, line, foot);
+        printTimeLine(sheet, u"GIRO"_s, line, foot);
         const QJsonArray drawn = pages();
         EXPECT_EQ(drawn.size(), c.pages) << c.days;
         EXPECT_TRUE(holds(drawn[0], {{"op", "line"}, {"x1", 12}, {"y1", c.underTheFirst}})) << c.days;

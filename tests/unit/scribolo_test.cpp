@@ -1,7 +1,10 @@
 // The logbook's trip: its arguments, its file name, and the pages that it needs.
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "core/code_page.h"
+#include "scribolo/logbook.h"
 #include "scribolo/plan.h"
 
 namespace vanzer::scribolo {
@@ -80,6 +83,22 @@ TEST(Scribolo, EveryDayHasAPageAndOneRowOfTheSummary) {
             pages += QString(QChar(u"CDS"[static_cast<int>(kind)])) + (first > 0 ? QString::number(first) : "") +
                      (last > first ? QString("-%1").arg(last) : "");
         EXPECT_EQ(pages.join(' '), expected.join(' '));
+    }
+}
+
+TEST(Scribolo, WhatIsCarriedOverHasARowOfItsOwn) {
+    const std::vector<Page> pages = plan(trip(30));
+    paper::Fonts fonts;
+    const paper::Page drawn = drawnPage(trip(30), pages, pages.size() - 1, fonts);
+    double above = 0;
+    for (const QString& name : {u"Riporto"_s, u"28"_s, u"29"_s, u"30"_s, u"Totale del viaggio"_s}) {
+        const auto row = std::ranges::find_if(drawn, [&name](const paper::Drawing& drawing) {
+            const auto* const text = std::get_if<paper::DrawnText>(&drawing);
+            return text != nullptr && text->text == name;
+        });
+        ASSERT_NE(row, drawn.end()) << name.toStdString();
+        EXPECT_GT(std::get<paper::DrawnText>(*row).base.y, above + 3) << name.toStdString();
+        above = std::get<paper::DrawnText>(*row).base.y;
     }
 }
 

@@ -129,7 +129,7 @@ TEST_F(StoreArchive, PlacesWhereNothingCanBeOpened) {
 TEST_F(StoreArchive, OnlyItsOwnJournalIsRolledBack) {
     addLegs(2'000);
     const QString copy = path(directory, "copia.mdb");
-    ASSERT_TRUE(copiaIntera(*archive.Db(0), copy, {}));
+    ASSERT_TRUE(makeWholeCopy(*archive.Db(0), copy, {}));
     addLegs(1'000);
     archive.close();
     dieDeleting(directory.path());

@@ -90,7 +90,7 @@ TEST(QueryText, IsReadInItsOneForm) {
     for (const auto& row : rows) {
         QString read;
         const auto failure = failureOf([&] {
-            const Query query = analizza(QString::fromUtf8(row.first));
+            const Query query = parsed(QString::fromUtf8(row.first));
             read = query.table + u'|';
             for (const Condition& c : query.where)
                 read += c.field + (c.test == Condition::Test::Like ? u'~' : u'=') + c.text + u',';
@@ -177,7 +177,7 @@ TEST_F(StoreQuery, UsesTheIndexes) {
         {"SELECT * FROM MeteVanzer ORDER BY Localita", "SCAN MeteVanzer USING INDEX MeteVanzer.Localita"},
     };
     for (const auto& [query, expected] : rows) {
-        const auto form = translate(*archive.Db(0), analizza(query)).form;
+        const auto form = translate(*archive.Db(0), parsed(query)).form;
         for (const QByteArray& sql : {form->select, form->last}) {
             const QString plan = archive.Db(0)->piano(sql).join(u'\n');
             EXPECT_TRUE(plan.contains(expected)) << query.toStdString() << "\n" << plan.toStdString();

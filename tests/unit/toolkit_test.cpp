@@ -41,6 +41,16 @@ TEST(Griglia, ACopiedRowKeepsItsFirstColumn) {
     EXPECT_EQ(grid.cell(2, 0) + grid.cell(2, 1), u"210");
 }
 
+TEST(Griglia, MarksGoWithTheirRows) {
+    Grid grid(u"mfgTab"_s, -1, nullptr, 6, 2);
+    for (const int row : {2, 5})
+        grid.setMarked(row, 1, true);
+    grid.setRows(4);
+    grid.setRows(6);
+    EXPECT_TRUE(grid.marked(2, 1));
+    EXPECT_FALSE(grid.marked(5, 1)) << "a new row";
+}
+
 TEST(Griglia, TellsTheRowsThatHaveChanged) {
     Grid grid(u"mfgTab"_s, -1, nullptr, 50, 4);
     (void)grid.takeChangedRows();

@@ -16,10 +16,10 @@ TEST(Adeguamento, StartOfAFreshSearch) {
 
 TEST(Adeguamento, AFreshSearchTakesTheDayAsTheParametersGiveItThen) {
     Adeguamento search({0.5, 1, 925, 500});
-    search.iniziaSerie(1000);
+    search.startSeries(1000);
     EXPECT_EQ(search.prossimo(0, 5, true), Adeguamento::Passo::Prova);
     EXPECT_EQ(search.prossimo(2, 5, true), Adeguamento::Passo::NuovaSerie);
-    search.iniziaSerie(1000);
+    search.startSeries(1000);
     EXPECT_EQ(search.prossimo(2, 5, true), Adeguamento::Passo::Prova);
     EXPECT_NEAR(search.coefficiente(), 5.0 * 1000 / 1500, 1e-6);
 }

@@ -160,7 +160,7 @@ QStringList markedOneByOne(const std::vector<RigaPercorso>& legs, const QStringL
         if (name.isEmpty())
             continue;
         auto found = std::ranges::find_if(
-            places, [&](const QString& place) { return !place.contains(u"[0") && iniziaCon(place, name); });
+            places, [&](const QString& place) { return !place.contains(u"[0") && beginsWith(place, name); });
         if (found == places.end()) {
             Colonne columns;
             SeparaColonne(name, columns);
