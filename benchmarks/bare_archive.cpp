@@ -29,7 +29,7 @@ Statement prepare(sqlite3* connection, const char* sql) {
     return Statement(statement);
 }
 
-/// Walks a set and looks at every value.
+/// Steps through the rows of a query and reads every value.
 long walk(sqlite3_stmt* statement) {
     long bytes = 0;
     while (sqlite3_step(statement) == SQLITE_ROW) {

@@ -1,4 +1,4 @@
-// The same reads and writes as the window's, by bare engine calls on a copy of the archive.
+// The reads and writes of the window, done by plain calls of the database engine on a copy of the archive.
 #pragma once
 
 #include <memory>
@@ -12,7 +12,7 @@ struct sqlite3;
 
 namespace vanzer::bench {
 
-/// Records as texts.
+/// Records, each as the texts of its fields.
 using BareRows = std::vector<std::vector<std::optional<std::string>>>;
 
 struct BareTable {
@@ -27,17 +27,17 @@ class BareArchive {
     BareArchive(const BareArchive&) = delete;
     BareArchive& operator=(const BareArchive&) = delete;
 
-    /// The code of the current destination; the record of one, and its legs in their order.
+    /// The code of the current destination. readDestination() reads a destination's record, legs() its legs in order.
     [[nodiscard]] std::string currentCode();
     long readDestination(const std::string& code);
     [[nodiscard]] BareRows legs(const std::string& code);
-    /// Walks the legs and looks at every value; the number of bytes seen.
+    /// Reads every value of the legs. Returns the number of bytes read.
     long readLegs(const std::string& code);
-    /// Deletes the legs and adds them again, in one transaction that is safe on the disk.
+    /// Deletes the legs and adds them again, in one transaction that is synced to the disk.
     void rewriteLegs(const std::string& code, const BareRows& legs);
     /// One indexed query for each place.
     long readGuide(const std::vector<QString>& places);
-    /// Destinations, legs and guide; the same put in, in one transaction that is safe on the disk.
+    /// Reads destinations, legs and guide. insert() adds them again, in one transaction that is synced to the disk.
     [[nodiscard]] std::vector<BareTable> readTrips();
     void insert(const std::vector<BareTable>& tables);
 
@@ -51,7 +51,7 @@ class BareArchive {
     std::unique_ptr<sqlite3, Closer> connection_;
 };
 
-/// What the program reads of its current trip at a start: the destination, its legs, what the guide knows of them.
+/// Reads what the program reads of its current trip at a start: the destination, its legs, and their guide entries.
 void readCurrentTrip(const QString& folder);
 
 } // namespace vanzer::bench

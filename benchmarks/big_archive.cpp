@@ -50,7 +50,7 @@ class Filler {
         table.Update();
     }
 
-    /// From weekends to a few long ones, which make up the number of legs exactly.
+    /// The numbers of legs of all trips: many weekends and a few long trips. Their sum is the wanted number of legs.
     std::vector<int> lengthsOfTrips() {
         const int mean = sizes_.legs / sizes_.destinations;
         std::vector<int> lengths;
@@ -112,7 +112,7 @@ class Filler {
         return patterns[static_cast<std::size_t>(type)].arg(1 + chance_.below(300));
     }
 
-    /// Ten entries for every three places, and more for all once the places are used up.
+    /// Adds ten entries for every three places. Once the places are used up, each gets more.
     void addGuide() {
         static const std::array<std::array<QString, 4>, 4> kinds{
             {{QStringLiteral("01"), QStringLiteral("A"), QStringLiteral("Duomo"), QStringLiteral("00:15")},

@@ -1,5 +1,5 @@
-// An archive as after decades of travelling: destinations with their legs through real places, and what there is to see
-// there. The same numbers make the same records.
+// An archive as after decades of travelling. It holds destinations with legs through real places, and guide entries for
+// these places. The same sizes always give the same records.
 #pragma once
 
 #include <QString>
@@ -14,13 +14,14 @@ struct Sizes {
     int entries = 200'000;
 };
 
-/// Puts the records into the empty archive of a window; the middle one of the destinations is the current one.
+/// Puts the records into the empty archive of a window. The middle destination becomes the current one.
 void fillArchive(Form& form, const Sizes& sizes);
 
 /// Makes "Vanzer.mdb" in a folder.
 void makeArchive(const QString& folder, const Sizes& sizes);
 
-/// The folder of the big archive: what VANZER_BIG_ARCHIVE names, else one that is made and goes with the process.
+/// The folder of the big archive. It is the one that VANZER_BIG_ARCHIVE names, or else a temporary one that is removed
+/// at the end.
 [[nodiscard]] QString bigArchive();
 
 } // namespace vanzer::bench

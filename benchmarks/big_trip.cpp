@@ -14,7 +14,7 @@ namespace vanzer::bench {
 
 namespace {
 
-constexpr std::size_t known = 50'000; ///< of the first places the guide of the big archive knows all
+constexpr std::size_t known = 50'000; ///< the guide of the big archive has entries for all of these first places
 
 } // namespace
 

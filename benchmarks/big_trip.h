@@ -1,4 +1,4 @@
-// A trip of many legs in a window without a display, in an archive of its own.
+// A trip of many legs in a window without a display, with its own archive.
 #pragma once
 
 #include <vector>
@@ -12,25 +12,25 @@ namespace vanzer::bench {
 
 class BigTrip {
   public:
-    /// Through places that the guide knows, in a copy of the archive of a folder.
+    /// A trip through places of the guide, in a copy of the archive in a folder.
     explicit BigTrip(int legs, const QString& folder = bigArchive());
 
     [[nodiscard]] Form& form() { return *session_.window(); }
     [[nodiscard]] int legs() const { return legs_; }
     [[nodiscard]] QString folder() const { return directory_.path(); }
     [[nodiscard]] QString file(const char* name) const { return directory_.filePath(QLatin1StringView(name)); }
-    /// Places of the legs as the guide knows them.
+    /// The places of the legs, as the guide names them.
     [[nodiscard]] std::vector<QString> places();
 
     void answer(int button) { session_.boxes.enqueue(button); }
     void choose(const QString& file) { session_.dialogs.enqueue(file); }
 
-    /// Wanted days that no multiplier reaches, so that a calculation runs all its tests.
+    /// Wants so many days that no factor reaches them. A calculation then runs all its tests.
     void wantTheImpossible() { form().cmbGiorni.setText(QStringLiteral("997")); }
-    /// Leaves the window: the archive is free for others.
+    /// Leaves the window, which frees the archive.
     void close() { session_.close(); }
     void reopen() { session_.start(); }
-    /// The table as it is stored.
+    /// Loads the stored legs into the table.
     void reload();
 
   private:
@@ -41,7 +41,7 @@ class BigTrip {
     batch::Session session_;
 };
 
-/// Legs as text, for an import: a time, the kilometres and an instruction on each line.
+/// A route list for an import, with a time, kilometres and an instruction on each line.
 [[nodiscard]] QByteArray routeList(int rows);
 
 } // namespace vanzer::bench

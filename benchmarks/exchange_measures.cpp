@@ -1,4 +1,4 @@
-// An archive of 100,000 legs that comes in from a file, beside the same records put in by bare calls.
+// Imports an archive of 100,000 legs from a file, compared with adding the same records by plain engine calls.
 
 #include <map>
 #include <stdexcept>
@@ -18,7 +18,7 @@ namespace vanzer::bench {
 
 namespace {
 
-/// An archive that is empty but for one destination, without which nothing can be imported.
+/// An archive with a single destination. Without one, nothing can be imported.
 class Traveller {
   public:
     Traveller() {
@@ -28,7 +28,7 @@ class Traveller {
     [[nodiscard]] Form& form() { return *session_.window(); }
     [[nodiscard]] QString path(const char* name) const { return directory_.filePath(QLatin1StringView(name)); }
 
-    /// Seconds of an export (0) or an import (1) of everything.
+    /// Exports (0) or imports (1) everything. Returns the seconds.
     double exchange(int choice, const QString& file) {
         form().cmdExport.setEnabled(true);
         form().cmdExport.click();
@@ -60,7 +60,7 @@ void importing(benchmark::State& state) {
     const QString file = traveller.path("viaggi.iei");
     static_cast<void>(traveller.exchange(0, file));
     QFile::copy(traveller.path("Vanzer.mdb"), traveller.path("copia.mdb"));
-    std::vector<BareTable> records; // read when `ours` has shown what memory it needs
+    std::vector<BareTable> records; // read after `ours` has shown how much memory it needs
     const auto ours = [&] {
         Traveller other;
         const double taken = other.exchange(1, file);
@@ -84,7 +84,7 @@ BENCHMARK(importing)->Iterations(1)->UseManualTime();
 
 namespace {
 
-/// A file for an import, put together from records of which some fields are given.
+/// Builds a file for an import from records of which some fields are set.
 class Lines {
   public:
     void head(int section) {
@@ -154,7 +154,7 @@ constexpr Shape shapes[] = {{"entries of one place that begin with \"?\"", entri
                             {"head lines", headLines, 80'000},
                             {"trips", trips, 40'000}};
 
-/// What a file may hold more than is usual costs in proportion.
+/// The time for unusual contents of a file grows in proportion to their size.
 void importGrows(benchmark::State& state, const Shape& shape) {
     const auto takes = [&shape](int count) {
         return [contents = shape.file(count)] {

@@ -1,5 +1,5 @@
-// The slow commands on a trip of 9,999 legs beside the same on one of 1,000: the time is to grow as the legs do. The
-// quick ones beside a frame of the screen.
+// The slow commands on a trip of 9,999 legs, compared with a trip of 1,000 legs. The time should grow as the legs do.
+// The quick commands are compared with a frame of the screen.
 
 #include <array>
 
@@ -22,7 +22,7 @@ constexpr int many = 9999;
 struct Command {
     const char* name;
     void (*prepare)(BigTrip&);
-    double (*work)(BigTrip&); ///< seconds; leaves the trip as it was
+    double (*work)(BigTrip&); ///< returns seconds; leaves the trip unchanged
 };
 
 void nothing(BigTrip& /*trip*/) {}
@@ -35,7 +35,7 @@ double clicked(Button& button) {
     return seconds([&button] { button.click(); });
 }
 
-/// A click that changes the legs; they are as before again.
+/// Clicks a button that changes the legs, then restores them.
 double clickedAndUndone(BigTrip& trip, Button& button) {
     const double taken = clicked(button);
     trip.reload();
@@ -131,7 +131,7 @@ double clearsStops(BigTrip& trip) {
     return clickedAndUndone(trip, trip.form().cmdAzzeraSoste);
 }
 
-/// All legs but the first and the last become motorway.
+/// Makes all legs but the first and the last motorway.
 double changesStretch(BigTrip& trip) {
     Form& form = trip.form();
     form.cmdModStrada.click();
@@ -148,7 +148,7 @@ double changesStretch(BigTrip& trip) {
     return taken;
 }
 
-/// A planner's list of so many rows comes into an itinerary without legs, and its stops are picked out.
+/// Reads a planner's list of so many rows into an empty itinerary and reduces it to its stops.
 class Planner {
   public:
     explicit Planner(int rows) : trip_(0), rows_(rows) {
@@ -210,7 +210,7 @@ void plannerGrows(benchmark::State& state, const char* name, double (Planner::*w
         state, growth(name), [&] { return (large.*work)(); }, [&] { return (small.*work)(); });
 }
 
-/// What takes a moment with the longest trip as with any other.
+/// Commands that take a moment on any trip, even the longest.
 void quickCommands(benchmark::State& state) {
     BigTrip trip(many);
     measure(

@@ -1,5 +1,5 @@
-// What the guide's commands cost as the guide grows: the same trip, its places with the same entries, and around them
-// a hundred times as many entries of other places.
+// The cost of the guide's commands as the guide grows. Both sides have the same trip with the same entries. One guide
+// has a hundred times as many entries of other places.
 
 #include <functional>
 
@@ -19,7 +19,7 @@ constexpr int fewLegs = 100;
 
 using Step = std::function<void(BigTrip&)>;
 
-/// A trip through places of the first entries, in a guide of so many.
+/// A trip through places of the first entries, in a guide with so many entries.
 class InGuide {
   public:
     explicit InGuide(int entries) {
@@ -34,7 +34,7 @@ class InGuide {
     std::optional<BigTrip> trip;
 };
 
-/// Times `work`; `before` is done once, `after` puts back what it changed.
+/// Times `work`. Runs `before` once, and `after` to undo each change.
 void withGuide(benchmark::State& state, const char* name, const Step& before, const Step& work, const Step& after) {
     InGuide small(2000);
     InGuide large(200'000);
@@ -64,7 +64,7 @@ void outOfGuide(BigTrip& trip) {
     trip.form().cmdFineInserimento.click();
 }
 
-/// The row of the last entry of that description, in the open editor.
+/// The row of the last entry of that description. The editor must be open.
 int rowOf(const Form& form, const QString& description) {
     int row = form.mfgTab.rows() - 1;
     while (row > 1 && form.mfgTab.cell(row, guidaDescrizione) != description)
@@ -82,7 +82,7 @@ void storesOwn(BigTrip& trip, int row) {
     form.cmdSalvaRiga.click();
 }
 
-/// Stores an entry of its own at the place at the end of the list.
+/// Stores a new entry at the last place of the list. Returns its row.
 int storeOwnEntry(BigTrip& trip) {
     Form& form = trip.form();
     int row = rowOf(form, QStringLiteral("Duomo"));
@@ -104,7 +104,7 @@ void openGuide(benchmark::State& state) {
     withGuide(state, "opening the guide", leaveAsItIs, intoGuide, outOfGuide);
 }
 
-/// All of the trip's groups put in order at the closing.
+/// Closes the guide, which sorts the marks of all the trip's groups.
 void closeGuide(benchmark::State& state) {
     const auto unsort = [](BigTrip& trip) {
         comando(trip.form(), [&trip] {

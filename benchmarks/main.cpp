@@ -1,4 +1,4 @@
-// vanzer_benchmarks: one row of a table for each measure that --benchmark_filter lets pass.
+// vanzer_benchmarks: prints a table with a row for each measure that --benchmark_filter selects.
 
 #include <cstdio>
 
@@ -28,7 +28,7 @@ QString memory(double megabytes) {
     return megabytes == 0 ? QString() : megabytes <= most ? text : QStringLiteral("**") + text + QStringLiteral("**");
 }
 
-/// "at most 1.5", and whether it is.
+/// The limit and whether it is met, as in "at most 1.5".
 QString aim(const Run& run) {
     const double ratio = counter(run, "ratio");
     const double most = counter(run, "atMost");

@@ -1,4 +1,4 @@
-// make_archive FOLDER [--destinations N] [--legs N] [--entries N]: a big archive, the same in every run.
+// make_archive FOLDER [--destinations N] [--legs N] [--entries N]: makes a big archive, the same in every run.
 
 #include <cstdio>
 #include <exception>

@@ -13,12 +13,12 @@ namespace vanzer::bench {
 namespace {
 
 constexpr int turns = 5;
-constexpr double shortest = 0.02; ///< seconds of a sample
-constexpr double longest = 0.5;   ///< with what goes around the work
+constexpr double shortest = 0.02; ///< least seconds of counted work in a sample
+constexpr double longest = 0.5;   ///< most seconds of a sample, including the uncounted part
 
 struct Side {
     Timed work;
-    int times = 1; ///< in a sample
+    int times = 1; ///< runs in a sample
 
     double sample() const {
         double sum = 0;
@@ -26,7 +26,7 @@ struct Side {
             sum += work();
         return sum / times;
     }
-    /// The first run makes caches warm. The second tells how often a sample has to run it, what goes around it counted.
+    /// The first run warms the caches. The second one tells how often a sample has to run the work.
     void tryOut() {
         work();
         double counted = 0;
@@ -40,14 +40,14 @@ double median(std::array<double, turns> times) {
     return times[turns / 2];
 }
 
-/// What the process holds from here on counts.
+/// Restarts the count of the peak memory.
 void resetPeak() {
     QFile clear(QStringLiteral("/proc/self/clear_refs"));
     if (clear.open(QIODevice::WriteOnly))
         clear.write("5");
 }
 
-/// The most memory that the process has held since, MB.
+/// The peak memory of the process since then, MB.
 double peak() {
     QFile status(QStringLiteral("/proc/self/status"));
     if (!status.open(QIODevice::ReadOnly))

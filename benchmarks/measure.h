@@ -1,5 +1,5 @@
-// What a measure is: a piece of the program's work beside the bare work that it can't do without, or beside itself on
-// a smaller trip. Both sides are timed in turns, in one run; the median of five counts.
+// A measure compares a piece of the program's work with the least work that it needs, or with itself on a smaller trip.
+// Both sides run in turns in one process. The median of five samples counts.
 #pragma once
 
 #include <functional>
@@ -10,25 +10,25 @@
 
 namespace vanzer::bench {
 
-/// Seconds that a piece of work takes.
+/// The seconds that a piece of work takes.
 [[nodiscard]] double seconds(const std::function<void()>& work);
 
-/// Carries a piece of work out once and tells the seconds of that part of it which counts.
+/// Does a piece of work once. Returns the seconds of the part that counts.
 using Timed = std::function<double()>;
 [[nodiscard]] Timed timed(std::function<void()> work);
 
 struct Beside {
     std::string work;
     std::string against;
-    std::optional<double> atMost = {};  ///< times the other side
-    std::optional<double> atLeast = {}; ///< times faster than the other side
-    bool inProcess = true;              ///< `ours` works in this process, not in one that it starts
+    std::optional<double> atMost = {};  ///< limit: so many times the other side
+    std::optional<double> atLeast = {}; ///< limit: so many times faster than the other side
+    bool inProcess = true;              ///< false if `ours` works in a process that it starts
 };
 
-/// Short pieces are repeated until they have taken 20 ms. The peak memory is that of `ours` alone.
+/// Measures both sides. Short pieces are repeated until they have taken 20 ms. The peak memory is that of `ours` alone.
 void measure(benchmark::State& state, const Beside& sides, const Timed& ours, const Timed& theirs);
 
-/// What stands beside a piece of work that may take as long as a screen shows a picture: 16 ms.
+/// The other side for work that must fit into one frame of the screen: 16 ms.
 [[nodiscard]] Timed screenFrame();
 
 } // namespace vanzer::bench

@@ -1,4 +1,4 @@
-// A schedule printed into a PDF as the desktop does it.
+// Prints a schedule into a PDF as the desktop does.
 #pragma once
 
 #include <stdexcept>
@@ -12,7 +12,7 @@
 
 namespace vanzer::bench {
 
-/// Always the same file.
+/// File dialogs that always choose the same file.
 class OneFile : public FileDialogs {
   public:
     explicit OneFile(QString path) : path_(std::move(path)) {}
@@ -23,7 +23,7 @@ class OneFile : public FileDialogs {
     QString path_;
 };
 
-/// Seconds that the table of the trip's schedule takes; the schedule stays in the window.
+/// Prints the table of the trip's schedule. Returns the seconds. The schedule stays in the window.
 inline double printsSchedule(BigTrip& trip) {
     Form& form = trip.form();
     const QString pdf = trip.file("viandoria.pdf");

@@ -1,4 +1,4 @@
-// A schedule of some 10,000 rows as a PDF, beside LibreOffice with the same table.
+// A schedule of some 10,000 rows as a PDF, compared with LibreOffice and the same table.
 
 #include <QFile>
 #include <QProcess>

@@ -10,7 +10,7 @@ namespace vanzer::bench {
 
 namespace {
 
-constexpr int longestName = 20; ///< with room for " [Start]"
+constexpr int longestName = 20; ///< leaves room for " [Start]"
 
 std::vector<Place> readPlaces() {
     QFile file(QStringLiteral(VANZER_PLACES));
@@ -19,7 +19,7 @@ std::vector<Place> readPlaces() {
     std::vector<Place> places;
     for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts)) {
         const QString name = line.section(u'\t', 0, 0);
-        // The letters that separate the fields of an exchange file can't go into one.
+        // Names with the separator letters of an exchange file are left out, since a file can't hold them.
         const bool separates = name.contains(QChar(0xff)) || name.contains(QChar(0xfe)) || name.contains(QChar(0xfd)) ||
                                name.contains(QChar(0xdd)) || name.contains(QChar(0xde));
         if (name.size() <= longestName && !separates)

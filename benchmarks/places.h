@@ -1,4 +1,4 @@
-// Real names of places, and the same as users write them.
+// Real names of places, as they are and as users write them.
 #pragma once
 
 #include <random>
@@ -8,7 +8,7 @@
 
 namespace vanzer::bench {
 
-/// The same chance in every run and with every library.
+/// A random generator that gives the same numbers in every run and with every library.
 class Chance {
   public:
     explicit Chance(unsigned seed) : numbers_(seed) {}
@@ -24,11 +24,11 @@ struct Place {
     QString country; ///< two letters
 };
 
-/// Of a country together, by name; names differ by more than capitals.
+/// The places by country, then by name. Names differ in more than their capitals.
 [[nodiscard]] const std::vector<Place>& allPlaces();
 
-/// Some in capitals, some with the country in brackets, some saints short; never longer than the archive holds beside
-/// the mark of the start.
+/// A name as a user may write it: in capitals, with the country in brackets, or with a shortened saint. It is never
+/// longer than the archive's field with room for the mark of the start.
 [[nodiscard]] QString asWritten(const Place& place, Chance& chance);
 
 } // namespace vanzer::bench

@@ -1,4 +1,4 @@
-// From the start of the program to its first idle moment, on a big archive whose copy of the day is made.
+// The time from the start of the program to its first idle moment, on a big archive that already has its daily copy.
 
 #include <stdexcept>
 
@@ -30,7 +30,7 @@ Timed program(const char* name, const QStringList& arguments) {
     });
 }
 
-/// The big archive in a folder of its own.
+/// A folder with a copy of the big archive.
 class Folder {
   public:
     Folder() {
@@ -75,7 +75,7 @@ void startOfWindow(benchmark::State& state) {
 }
 BENCHMARK(startOfWindow)->Iterations(1)->UseManualTime();
 
-/// The first start of a day copies the archive.
+/// The first start of a day, which copies the archive.
 void copyOfTheDay(benchmark::State& state) {
     const Folder folder;
     const auto archive = store::Database::open(folder.file("Vanzer.mdb"));

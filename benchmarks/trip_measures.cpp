@@ -1,4 +1,4 @@
-// What a long trip costs beside the bare work that it can't do without.
+// The cost of a long trip, compared with the least work that it needs.
 
 #include <QFile>
 
@@ -15,10 +15,10 @@ namespace vanzer::bench {
 
 namespace {
 
-constexpr int mostLegs = 9999; // the most that a trip has
-constexpr int tests = 21;      // of a search that finds no end
+constexpr int mostLegs = 9999; // the most legs of a trip
+constexpr int tests = 21;      // the tests of a search that finds no solution
 
-/// A long trip, and a copy of its archive for bare calls.
+/// A long trip, and a copy of its archive for plain engine calls.
 class Both {
   public:
     Both() : trip(mostLegs) {
@@ -77,7 +77,7 @@ void calculation(benchmark::State& state) {
         const double taken = seconds([&form] { form.cmdCalcola.click(); });
         if (form.viaggio->NumeroTest != tests)
             state.SkipWithError("the search found an end");
-        form.cmdCalcola.click(); // the legs again
+        form.cmdCalcola.click(); // shows the legs again
         return taken;
     };
     Viandoria schedule;

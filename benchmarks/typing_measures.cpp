@@ -1,4 +1,4 @@
-// A leg typed into a long trip and painted: within a frame of the screen.
+// Typing a leg into a long trip and painting it. This must fit into one frame of the screen.
 
 #include <stdexcept>
 
@@ -13,9 +13,9 @@ namespace vanzer::bench {
 
 namespace {
 
-constexpr int startingLegs = 9900; // with room for what is typed
+constexpr int startingLegs = 9900; // leaves room for the typed legs
 
-/// One leg over another one that stands there, or at the end; the row stays the same.
+/// Types a leg over the current one, or at the end. The row stays the same.
 void types(Form& form, int row) {
     form.stato.RigaCorrente = row;
     form.txtTappa.setText(QStringLiteral("ARRIVO"));
@@ -24,7 +24,7 @@ void types(Form& form, int row) {
     form.cmdInserisce.click();
 }
 
-/// The window on a screen that nobody sees.
+/// The window on an invisible screen.
 class Window {
   public:
     Window() : trip_(startingLegs) {
@@ -64,7 +64,7 @@ void typingAtTheEnd(benchmark::State& state) {
 }
 BENCHMARK(typingAtTheEnd)->Iterations(1)->UseManualTime();
 
-/// All that follows changes.
+/// At the top, a typed leg changes all rows that follow.
 void typingAtTheTop(benchmark::State& state) {
     typing(state, "at the top", 5);
 }

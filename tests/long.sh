@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# long.sh MINUTES [SEED]: all attacks for so long, by the programs that ./test has built: half of the time kills, losses of
-# power, failing disks and damage, each time from the next seed on; a third readers under fire; the rest users who do anything.
-# The tables of all tries come last. What ended badly is in build/long.log, with what shows it again; the exit status is 1 then.
+# long.sh MINUTES [SEED]: runs all attacks for so long, with the programs that ./test has built. Half of the time goes
+# to kills, losses of power, failing disks and damage, from one seed to the next. A third goes to readers under attack,
+# the rest to random users. Prints the tables of all tries at the end. Bad ends are in build/long.log, with the command
+# that repeats them; the exit status is then 1.
 set -uo pipefail
 cd "$(dirname "$0")/.." || exit 1
 minutes=${1:?how many minutes} seed=${2:-1} status=0
@@ -11,7 +12,7 @@ export LSAN_OPTIONS=suppressions=$PWD/tests/checks/leaks.txt:print_suppressions=
 if [ -w /dev/shm ]; then export TMPDIR=/dev/shm; fi
 : >"$log"
 
-# attacks HEAD COMMAND...: the table behind its head; all of the output is in the log when it ended badly.
+# attacks HEAD COMMAND...: prints the head and the table. If the command ended badly, the log gets all of its output.
 attacks() {
     local head=$1 output
     shift

@@ -1,5 +1,5 @@
-// vanzer_counted WORK [LEGS]: one of the key works on a trip of so many legs, 1,000 without, for an instruction counter
-// that looks at the work alone. Prints how many rows it went through. benchmarks/count runs it.
+// vanzer_counted WORK [LEGS]: does one of the key works on a trip of so many legs (default 1,000). An instruction
+// counter sees the work alone. Prints the number of rows that the work handled. Run by benchmarks/count.
 
 #include <cstdio>
 #include <functional>
@@ -28,7 +28,7 @@ void counted(const std::function<void()>& work) {
     CALLGRIND_STOP_INSTRUMENTATION;
 }
 
-/// One test, as in a search behind another one; the rows of its schedule.
+/// One test, as in a search that has run another one before. Returns the rows of its schedule.
 std::size_t simulation(BigTrip& trip) {
     RigheDiLavoro rows;
     comando(trip.form(), [&] { rows = *PreparaTabellaPerCalcoloViandoria(trip.form()); });
@@ -38,14 +38,14 @@ std::size_t simulation(BigTrip& trip) {
     return schedule.righe.size();
 }
 
-/// "&Calcola" with all the tests that a search makes; the legs.
+/// "&Calcola" with all tests of a search. Returns the legs.
 std::size_t calculation(BigTrip& trip) {
     trip.wantTheImpossible();
     counted([&] { trip.form().cmdCalcola.click(); });
     return static_cast<std::size_t>(trip.legs());
 }
 
-/// "&Sblocca": the legs again.
+/// "&Sblocca", which shows the legs again. Returns the legs.
 std::size_t unlocking(BigTrip& trip) {
     trip.form().cmdCalcola.click();
     counted([&] { trip.form().cmdCalcola.click(); });
@@ -57,14 +57,14 @@ std::size_t loading(BigTrip& trip) {
     return static_cast<std::size_t>(trip.legs());
 }
 
-/// "&Cerca": the list of all legs.
+/// "&Cerca", which lists all legs.
 std::size_t listing(BigTrip& trip) {
     trip.form().cmdItinerario.click();
     counted([&] { trip.form().cmdCerca.click(); });
     return static_cast<std::size_t>(trip.legs());
 }
 
-/// Legs typed at the end, one by one.
+/// Types legs at the end, one by one.
 std::size_t typing(BigTrip& trip) {
     Form& form = trip.form();
     form.cmdItinerario.click();

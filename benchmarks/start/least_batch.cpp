@@ -1,5 +1,5 @@
-// least_batch FOLDER: the least that a start can be. A Qt program without a window reads the current trip of the
-// archive in a folder by bare engine calls, and has nothing more to do.
+// least_batch FOLDER: the fastest possible start. A Qt program without a window reads the current trip of the folder's
+// archive by plain engine calls, and ends.
 #include <QCoreApplication>
 #include <QTimer>
 

@@ -1,6 +1,6 @@
-// least_window FOLDER: the least that a start can be. A Qt program reads the current trip of the archive in a folder by
-// bare engine calls, shows a window with as many of Qt's own widgets as Vanzer's first window has and nothing behind
-// them, and ends when it has nothing more to do.
+// least_window FOLDER: the fastest possible start with a window. A Qt program reads the current trip of the folder's
+// archive by plain engine calls. It shows a window with as many standard widgets as Vanzer's first window, and ends
+// when it is idle.
 #include <cstdlib>
 
 #include <QApplication>
@@ -19,7 +19,7 @@
 
 namespace {
 
-/// Rows of a label, a field and drop-down lists in boxes, a line of buttons, a table.
+/// Rows with a label, a field and drop-down lists in boxes, a line of buttons, and a table.
 QWidget* stockWidgets() {
     constexpr int boxes = 12;
     auto* const all = new QWidget;

@@ -1,5 +1,4 @@
-// vanzer_in_window FOLDER: the program on the archive of a folder. Ends when its window is there and nothing is left to
-// do.
+// vanzer_in_window FOLDER: starts the program on the folder's archive. Ends when its window is shown and it is idle.
 #include <cstdlib>
 
 #include <QApplication>

@@ -1,5 +1,5 @@
-// What an open window costs a calculation: the same trip calculated with the window and without, in turns, and the
-// longest time in which a click on "&Stop" would have to wait. Needs a display.
+// Measures how much an open window slows a calculation. The same trip is calculated with and without the window, in
+// turns. Also measures the longest time that a click on "&Stop" would have to wait. Needs a display.
 
 #include <algorithm>
 #include <chrono>
@@ -32,24 +32,24 @@ double median(std::vector<double> times) {
     return times[times.size() / 2];
 }
 
-/// Milliseconds of one calculation with all its tests; no box at its end.
+/// Runs one calculation with all its tests. Returns milliseconds. Shows no box at the end.
 template<typename Carry> double calculation(Form& form, const Carry& carry) {
     form.cmbGiorni.setText(QStringLiteral("997"));
     const double begin = now();
     carry([&form] { comando(form, [&form] { CalcolaViandoria(form, ScopoCalcolo::Stampa); }); });
     const double taken = now() - begin;
-    carry([&form] { form.cmdCalcola.click(); }); // the legs back
+    carry([&form] { form.cmdCalcola.click(); }); // shows the legs again
     return taken;
 }
 
-/// Waits until the window has been drawn for the first time: that is no part of a calculation.
+/// Waits for the first drawing of the window, which doesn't belong to a calculation.
 void drawn(const QWidget& window) {
     while (!window.windowHandle()->isExposed())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     QCoreApplication::processEvents();
 }
 
-/// The longest time between two runs of the event loop while "&Stop" can be pressed, milliseconds.
+/// Measures the longest time between two runs of the event loop while "&Stop" can be pressed, milliseconds.
 class Gaps : public QObject {
   public:
     explicit Gaps(const Button& stop) : stop_(stop) {

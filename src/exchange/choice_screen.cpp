@@ -20,14 +20,14 @@ namespace vanzer {
 namespace {
 
 constexpr int righeMinime = 15;
-/// A name is at most 30 characters; what a broken file has in its place isn't shown whole.
+/// A name has at most 30 characters. A broken file may hold more, which isn't shown whole.
 constexpr qsizetype lunghezzaCella = 255;
 
 const QString metaCampo = QStringLiteral("Localita");
 const QString nazioneCampo = QStringLiteral("Nazione");
 const QString codiceCampo = QStringLiteral("CodiceMeta");
 
-/// The first one from `row` on.
+/// The first empty row from `row` on.
 int firstEmptyRow(const Grid& list, int row = 1) {
     while (row < list.rows() && !list.cell(row, scambioMeta).isEmpty())
         ++row;
@@ -68,7 +68,8 @@ void numberRows(Grid& list) {
     }
 }
 
-/// To the first empty row from `free` on, which it tells. False for a row without a destination.
+/// Moves the current row to the first empty row from `free` on, and sets `free` to that row. False if the current row
+/// holds no destination.
 bool moveCurrentRow(Grid& from, Grid& to, int& free) {
     const int row = from.row();
     if (from.cell(row, scambioMeta).isEmpty())
@@ -96,14 +97,14 @@ QString captionOfAll(int count) {
     return QStringLiteral("<--- Tutti [%1]").arg(count);
 }
 
-/// The destinations of a file, into the second list.
+/// Reads the destinations of a file into the second list.
 class ElencoDelFile {
   public:
     explicit ElencoDelFile(Form& form)
         : form_(form), list_(form.mfgImExp(1)),
           reader_({QStringList(), campiDellaTabella(form, store::MeteVanzer), QStringList(), QStringList()}) {}
 
-    /// False when the user gave up.
+    /// False if the user cancelled.
     bool read() {
         RigheTesto lines(readExchangeFile(form_).value_or(QByteArray()));
         LavoroInCorso running(form_);
@@ -120,7 +121,7 @@ class ElencoDelFile {
     }
 
   private:
-    /// The first line of the destinations is their head, all others are destinations.
+    /// Lists a destination. The first line of the section is the head line and is left out.
     void riga(QStringView line) {
         section_ = sezioneDellaRiga(line, section_);
         if (section_ != nessunaSezione)

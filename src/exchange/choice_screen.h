@@ -1,4 +1,4 @@
-// The choice of the destinations that go out or come in: the two lists and the buttons between them.
+// The choice of the destinations to export or import: two lists, and the buttons between them.
 #pragma once
 
 #include "exchange/exchange_screen.h"
@@ -11,26 +11,26 @@ inline constexpr QStringView filtroScambio = u"File Export da Vanzerosa!!! (*.ie
 /// Columns of the lists.
 enum ColonnaScambio { scambioNumero, scambioMeta, scambioNazione, scambioCodice };
 
-/// What the caption of the button that carries the work out says.
+/// Whether the choice is for an import. The caption of the button that starts the work tells.
 [[nodiscard]] bool importaScelto(const Form& form);
 
-/// Clears the main screen and lays out the two lists.
+/// Clears the main screen and shows the two lists.
 void PreparaExportImport(Form& form);
-/// Lays the lists out and offers the destinations of a file for an import.
+/// Shows the two lists, with the destinations of a file to import.
 void ElencaFileScambio(Form& form, const QString& path);
-/// All destinations of the archive into the first list; false if there are none.
+/// Puts all destinations of the archive into the first list. False if there are none.
 [[nodiscard]] bool CaricaListaMete(Form& form);
-/// The current row of list n goes to the other one.
+/// Moves the current row of list n to the other list.
 void TrasferisceMetaImportExport(Form& form, int n);
-/// Tidies the lists and sets the buttons.
+/// Sorts the lists by name, packs their rows, and sets captions and states of the buttons.
 void AggiornaPulsantiImportExport(Form& form);
 
-/// The names of a table's fields, as the archive has them.
+/// The names of a table's fields in the archive.
 [[nodiscard]] QStringList campiDellaTabella(Form& form, int table);
 
-/// The codes of the stored destinations, in their order.
+/// The codes of the stored destinations, in ascending order.
 [[nodiscard]] QStringList codiciMemorizzati(Form& form);
-/// The codes of a list's rows that have one.
+/// The codes in a list. Rows without a code are left out.
 [[nodiscard]] QStringList codiciDellaLista(const Grid& list);
 
 } // namespace vanzer

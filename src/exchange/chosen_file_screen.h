@@ -1,4 +1,4 @@
-// The file that the user chose for an exchange, whatever kind of exchange it is.
+// The file that the user chose for an export, import or route.
 #pragma once
 
 #include <optional>
@@ -12,8 +12,8 @@ namespace vanzer {
 /// Full path of NomeFileScambio.
 [[nodiscard]] QString percorsoScelto(const Form& form);
 
-/// The file at NomeFileScambio as it is on the disk; one that isn't there is empty. One that can't be read has been
-/// told to the user and gives nothing.
+/// Reads the file at NomeFileScambio. A missing file counts as empty. If the file can't be read, tells the user and
+/// returns no value.
 [[nodiscard]] std::optional<QByteArray> readExchangeFile(Form& form);
 
 } // namespace vanzer

@@ -15,7 +15,7 @@ const QString& text(const RecordVecchio& record, const FormatoVecchio& format, Q
     return record[format.campo(field)];
 }
 
-/// ggHHmm as gg:HH:mm; a blank for no stop.
+/// Changes ggHHmm to gg:HH:mm. A blank for no stop.
 QString sosta(const QString& digits) {
     if (Val(digits) == 0)
         return QStringLiteral(" ");
@@ -103,7 +103,7 @@ std::optional<TappaConvertita> tappaConvertita(const RecordVecchio& record) {
     const QString& whole = text(record, format, u"Locali");
     const qsizetype star = whole.indexOf(u'*');
     const QString place = star < 0 ? whole : whole.left(star);
-    // In the order of the alphabet every letter, one with an accent too, lies between A and Z.
+    // In alphabetical order every letter lies between A and Z, also one with an accent.
     if (place.isEmpty() || !place.front().isLetter())
         return std::nullopt;
     const QString road = star < 0 ? QString() : Trim(whole.sliced(star + 1));

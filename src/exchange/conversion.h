@@ -1,4 +1,4 @@
-// What the records of the old files become in the archive.
+// How records of the old files become records of the archive.
 #pragma once
 
 #include <functional>
@@ -12,17 +12,18 @@
 
 namespace vanzer {
 
-/// False for a destination that had been deleted: no code, no name, or a name that begins with "..".
+/// False for a deleted destination: without a code, without a name, or with a name that begins with "..".
 [[nodiscard]] bool metaDaConvertire(const RecordVecchio& record);
 /// The code of a converted destination, six digits.
 [[nodiscard]] QString codiceConvertito(const RecordVecchio& record);
 [[nodiscard]] QString nomeConvertito(const RecordVecchio& record);
 
-/// Destinations whose code belongs to another one here come in under a free code, and their itinerary file with them.
+/// The codes under which old destinations are stored. A destination gets a free code if its own belongs to another one
+/// in the archive. Its itinerary file follows it.
 ///
-/// Where each went is kept in a file until the conversion is whole, a line each: the old code, the new one, 1 where the
-/// itinerary file comes along (else 0), the name; parted by tabs, in UTF-8. So a conversion that was broken off goes on
-/// with the same codes.
+/// A file lists these destinations until the conversion is complete, so that an interrupted one goes on with the same
+/// codes. Each line has the old code, the new code, 1 if the itinerary file follows (else 0), and the name. They are
+/// separated by tabs, in UTF-8.
 class CodiciConvertiti {
   public:
     struct Spostata {
@@ -36,38 +37,38 @@ class CodiciConvertiti {
     CodiciConvertiti(const QStringList& stored, const QStringList& old);
 
     void read(const QByteArray& contents);
-    /// Those that `isStored` doesn't confirm are forgotten: they were never stored.
+    /// Drops the entries that `isStored` doesn't confirm. They were never stored.
     void keep(const std::function<bool(const Spostata&)>& isStored);
     [[nodiscard]] QByteArray contenuto() const;
 
-    /// The code that a destination comes in under: its own, unless that is `taken` by another one; then the lowest that
-    /// is neither stored nor in the old file.
+    /// The code under which to store a destination. It is its own code, unless that is `taken` by another destination.
+    /// Then it is the lowest code that is neither stored nor in the old file.
     [[nodiscard]] QString perMeta(const QString& old, const QString& name, bool taken);
-    /// The code in the name of the itinerary file of a stored destination; empty if it has none.
+    /// The code in the name of a stored destination's itinerary file. Empty if it has none.
     [[nodiscard]] QString perTappe(const QString& code) const;
 
     [[nodiscard]] const std::vector<Spostata>& spostate() const { return moved_; }
 
   private:
     std::set<int> taken_;
-    QStringList before_; ///< the codes that were stored before
+    QStringList before_; ///< the codes that were stored before the conversion
     std::vector<Spostata> moved_;
 };
 inline constexpr QStringView fileCodiciConvertiti = u"VanzMete.codici";
 
-/// A leg: the texts of the fields of Itinerari that it fills.
+/// The texts of a leg for the fields of Itinerari.
 struct TappaConvertita {
     QString Localita;
     QString Chilometri;
-    QString NomeStrada; ///< what stands behind the first "*" of the old place, with a blank behind it
+    QString NomeStrada; ///< the old place after its first "*", with a blank added
     QString TipoStrada;
     QString TempoSosta; ///< gg:HH:mm; a blank for none
     QString FineGiorno; ///< "1" or "0"
 };
-/// Nothing for a record whose place is blank or doesn't begin with a letter.
+/// Converts a leg. No value if its place is blank or doesn't begin with a letter.
 [[nodiscard]] std::optional<TappaConvertita> tappaConvertita(const RecordVecchio& record);
 
-/// An entry of the guide.
+/// The texts of a guide entry.
 struct VoceConvertita {
     QString Localita;
     QString Descrizione;
@@ -77,17 +78,17 @@ struct VoceConvertita {
 };
 [[nodiscard]] VoceConvertita voceConvertita(const RecordVecchio& record);
 
-/// Which legs of an old itinerary are read, and how many of its records are left behind.
+/// How many legs of an old itinerary to read, and how many of its records are not read.
 struct TappeVecchie {
     int tappe = 0;
     int tralasciati = 0;
 };
-/// The head's count holds if both its texts agree on it, else the itinerary counts as empty. Legs behind the count are
-/// left behind; a head that is damaged, or tells more legs than there are, counts as one left behind itself.
+/// The head holds the count twice. If both texts agree, that many legs are read, else none. The records after these are
+/// not read. A damaged head counts as one of them, and so does a head whose count is too high.
 [[nodiscard]] TappeVecchie tappeDaLeggere(const FileVecchio& file);
 
-/// The value of a destination's field after the adjustment: where a text of two or four characters amounts to 0 the
-/// default of that field, if it has one.
+/// The adjusted value of a destination's field. A text of two or four characters that amounts to 0 becomes the field's
+/// default, if it has one.
 [[nodiscard]] QString valoreAdeguato(QStringView field, int size, const QString& value);
 
 } // namespace vanzer

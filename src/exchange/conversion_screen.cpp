@@ -29,12 +29,12 @@ namespace {
 const QString titolo = QStringLiteral("Conversione file");
 constexpr QStringView usualRange = u"15"; // minutes
 
-/// Two entries are one if their descriptions are the same and their places the same before a "(", capitals ignored.
+/// Two entries are the same if their descriptions are equal, and their places are equal before a "(". Case is ignored.
 bool sameEntry(const QString& place, const QString& description, const VoceConvertita& entry) {
     return uguale(Trim(description), Trim(entry.Descrizione)) && stessaMeta(place, entry.Localita);
 }
 
-/// Why the work ends before its time.
+/// Thrown to end the work early, with the reason.
 struct Interruzione {
     QString motivo;
 };
@@ -67,8 +67,8 @@ class Conversione {
         }
     }
 
-    /// The guide's file goes last: with it the categories and the adjustment are stored. A file that couldn't be taken
-    /// away comes in once more, under the same codes.
+    /// The guide's file comes last. The categories and the adjustment are stored with it. If the file can't be removed,
+    /// it is converted again under the same codes.
     void guidaEAdeguamento() {
         const OldFile file = openFile(vecchiaGuida(), store::fileVecchiaGuida.toString());
         const int left = readRecords(QStringLiteral("Conversione file guida città"), file.records,
@@ -105,7 +105,7 @@ class Conversione {
 
   private:
     struct OldFile {
-        QString path; ///< empty: there is none
+        QString path; ///< empty if there is none
         FileVecchio records;
     };
 
@@ -123,7 +123,7 @@ class Conversione {
         return form_.archivio.PercorsoProgramma + fileCodiciConvertiti.toString();
     }
 
-    /// The codes of a conversion that was broken off hold; while the old file is there, only those that are stored.
+    /// Takes up the codes of an interrupted conversion. While the old file exists, only those that were stored count.
     void giveCodes(const OldFile& file) {
         QStringList old;
         for (int n = 1; n <= file.records.numero(); ++n) {
@@ -159,7 +159,7 @@ class Conversione {
         form_.lblElaborazione.setCaption(what);
     }
 
-    /// Hands record after record on; those that are damaged, or that `take` refuses, are counted.
+    /// Passes on record after record. Returns the number of records that are damaged or that `take` refuses.
     template<typename Take> int readRecords(const QString& what, const FileVecchio& records, Take take) {
         begin(what, records.numero());
         int left = 0;
@@ -177,7 +177,7 @@ class Conversione {
             throw Interruzione{QStringLiteral("Conversione interrotta!")};
     }
 
-    /// The records are safe before their file goes.
+    /// Stores the records, then removes their file or renames it.
     void finish(const OldFile& file, int left) {
         form_.archivio.storeSoFar();
         if (file.path.isEmpty())
@@ -195,7 +195,7 @@ class Conversione {
             stuck_ << shown(file.path);
     }
 
-    /// An older file kept under that name stays.
+    /// A name for the kept file that no older file has.
     static QString freeName(const QString& path) {
         QString name = path + QStringLiteral(".vecchio");
         for (int n = 2; QFile::exists(name); ++n)
@@ -212,14 +212,14 @@ class Conversione {
         return form_.archivio.Rs(table);
     }
 
-    /// The record that the query finds first, to be changed, or a new one.
+    /// The first record that the query finds, for editing, or a new one.
     store::Recordset& found(int table, std::vector<store::Condition> where) {
         store::Recordset& records = open(table, std::move(where));
         records.EOF_() ? records.AddNew() : records.Edit();
         return records;
     }
 
-    /// Adjusted at once: a conversion that is broken off leaves no destination without its times.
+    /// Adjusts the record at once, so that an interrupted conversion leaves no destination without its times.
     void writeDestination(const RecordVecchio& record) {
         const QString old = codiceConvertito(record);
         const QString name = nomeConvertito(record);
@@ -265,12 +265,13 @@ class Conversione {
         records.Update();
     }
 
-    /// A start of the program takes a part in brackets off the guide's places: the name is found with it and without.
+    /// When the program starts, it removes the part in brackets from the guide's places. So this pattern finds the name
+    /// with and without it.
     static QString namePattern(const QString& place) {
         return place.contains(u'(') ? Trim(cutAt(place, u'(')) + u'(' : place;
     }
 
-    /// False for an entry without a place or a description, unless it holds nothing at all.
+    /// Stores an entry. False if only its place or only its description is blank; blank entries are skipped.
     bool writeEntry(const VoceConvertita& entry) {
         if (Trim(entry.Localita).isEmpty() || Trim(entry.Descrizione).isEmpty())
             return Trim(entry.Localita).isEmpty() && Trim(entry.Descrizione).isEmpty();
@@ -293,7 +294,7 @@ class Conversione {
     }
 
     void remakeCategories() {
-        constexpr std::size_t known = 9; // to the old generation
+        constexpr std::size_t known = 9; // categories of the earlier version
         CancellaTabella(form_, store::TipoGuida, {}, {});
         store::Recordset& categories = open(store::TipoGuida, {});
         for (std::size_t i = 0; i < known; ++i) {
@@ -330,7 +331,7 @@ class Conversione {
     QStringList stuck_;
 };
 
-/// What the user reads when it has ended before its time.
+/// Tells the user why the conversion ended early.
 void tellBrokenOff(Form& form, const QString& reason) {
     form.archivio.undoSoFar();
     AzzeraPercentuale(form);

@@ -1,15 +1,17 @@
-// The files of an earlier generation brought into the archive, asked for in the window while they are waiting.
+// Converts the files of an earlier version into the archive. A button in the window starts it while there are such
+// files.
 #pragma once
 
 #include "window/form.h"
 
 namespace vanzer {
 
-/// Looks for old files; while there are any their button is in view, on where an import is.
+/// Looks for old files. If there are any, shows their button wherever the import button is.
 void findOldFiles(Form& form);
 
-/// Destinations, itineraries and guide come into the archive beside what it holds; of equal keys the old file's records
-/// win. An old file goes only when its records are safely stored; one with a damaged record stays under another name.
+/// Adds destinations, itineraries and guide to the archive. Where keys are equal, the old file's record replaces the
+/// stored one. An old file is removed once all its records are stored. If one of them is damaged, the file is renamed
+/// instead.
 void cmdConverte_Click(Form& form);
 
 } // namespace vanzer

@@ -19,14 +19,14 @@ namespace vanzer {
 
 namespace {
 
-/// Lists and buttons are at the user's again.
+/// Enables lists and buttons again.
 void giveListsBack(Form& form) {
     for (Grid* const list : form.mfgImExp)
         list->setEnabled(true);
     AggiornaPulsantiImportExport(form);
 }
 
-/// Keeps the lists and the buttons off while the work is done.
+/// Disables lists and buttons while the work runs.
 class ElenchiSpenti {
   public:
     explicit ElenchiSpenti(Form& form) : form_(form) {
@@ -52,14 +52,14 @@ void EsciExportImport(Form& form) {
     form.cmdExport.setEnabled(true);
 }
 
-/// What the work may have changed is shown anew.
+/// Loads the main screen again after the work.
 void reloadMainScreen(Form& form) {
     form.stato.CodiceMeta.clear();
     RicaricaItinerario(form);
     AbilitaPulsantiMeta(form, pulsantiDiBase(form));
 }
 
-/// What was chosen comes in.
+/// Imports the chosen destinations.
 EsitoImport importChosen(Form& form) {
     AttivaFormMeta(form, true);
     form.frmframe(riquadroScambio).setVisible(false);
@@ -84,7 +84,7 @@ void importDestinations(Form& form) {
     reloadMainScreen(form);
 }
 
-/// The file that the destinations go to; false when the user wants none.
+/// Asks for the file of the export. False if the user cancelled.
 bool askForFile(Form& form) {
     form.stato.NomeFileScambio = form.ports.files.save(filtroScambio.toString(), Ricopertura::ChiedeIlComando);
     const QString& name = form.stato.NomeFileScambio;

@@ -1,5 +1,5 @@
-// Exchange between travellers: destinations with their legs and the guide go out to a file, or come in from one. Two
-// lists stand side by side, and a click moves a destination from one to the other.
+// Exchange between travellers: exports destinations with their legs and the guide to a file, or imports them. Two lists
+// stand side by side, and a click moves a destination from one to the other.
 #pragma once
 
 #include "exchange/import_screen.h"
@@ -7,16 +7,16 @@
 namespace vanzer {
 
 void cmdExport_Click(Form& form);
-/// Starts the choice: 0 of what goes out, 1 of what comes in from a file.
+/// Starts the choice: 0 for an export, 1 for an import from a file.
 void cmdImportExport_Click(Form& form, int n);
-/// The clicked destination goes to the other list.
+/// Moves the clicked destination to the other list.
 void mfgImExp_Click(Form& form, int n);
-/// The whole list n goes to the other one.
+/// Moves all destinations of list n to the other list.
 void cmdTutto_Click(Form& form, int n);
-/// 0 carries the export or import out, 1 leaves.
+/// 0 exports or imports, 1 leaves.
 void cmdImExp_Click(Form& form, int n);
 
-/// Brings in all destinations of a file with no question and no word; the main screen shows what is there then.
+/// Imports all destinations of a file without questions or messages. Then shows the main screen anew.
 [[nodiscard]] EsitoImport ImportaTutto(Form& form, const QString& path);
 
 } // namespace vanzer

@@ -21,7 +21,7 @@ class Esportazione {
   public:
     explicit Esportazione(Form& form) : form_(form), running_(form), codes_(codiciDellaLista(form.mfgImExp(1))) {}
 
-    /// False when the user gave up.
+    /// False if the user cancelled.
     bool collect() { return destinations() && legs() && guide(); }
 
     [[nodiscard]] const ScrittoreIei& file() const { return file_; }
@@ -99,7 +99,7 @@ QString shortened(const QString& text) {
     return text.size() <= lunghezzaMostrata ? text : text.left(lunghezzaMostrata) + u'…';
 }
 
-/// Which texts don't go out as they are, and how their letters are written.
+/// Tells the user which texts are changed in the file, and how their letters are written.
 void tellReplaced(Form& form, const std::vector<TestoSostituito>& texts) {
     if (texts.empty())
         return;

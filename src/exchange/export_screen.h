@@ -1,11 +1,11 @@
-// An export: the chosen destinations, their legs and the whole guide into a file.
+// An export: writes the chosen destinations, their legs and the whole guide to a file.
 #pragma once
 
 #include "window/form.h"
 
 namespace vanzer {
 
-/// Writes the second list's destinations to NomeFileScambio, and tells the user how it went.
+/// Writes the destinations of the second list to NomeFileScambio, and tells the user the result.
 void writeExchangeFile(Form& form);
 
 } // namespace vanzer

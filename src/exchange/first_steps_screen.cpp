@@ -7,7 +7,7 @@
 #include "trip/destination_screen.h"
 #include "window/changes.h"
 
-/// Resources of a library are found once this has run.
+/// Makes the resources of this library available.
 static void loadSamples() {
     Q_INIT_RESOURCE(samples);
 }

@@ -1,4 +1,4 @@
-// The first steps: what the window offers while the archive holds no trip, and a file of trips that the user opens.
+// The first steps: what the window offers while the archive holds no trip, and opening a file of trips.
 #pragma once
 
 #include "window/form.h"
@@ -8,10 +8,10 @@ namespace vanzer {
 void cmdPrimoViaggio_Click(Form& form);
 /// Asks for a file and offers its trips.
 void cmdImportaViaggi_Click(Form& form);
-/// Brings in the trips that come with the program.
+/// Imports the sample trips that come with the program.
 void cmdViaggiEsempio_Click(Form& form);
 
-/// Offers the trips of a file, as when it is chosen in the exchange. An archive without trips is enough.
+/// Offers the trips of a file, as the exchange does. The archive may be empty.
 void openTripsFile(Form& form, const QString& path);
 
 } // namespace vanzer

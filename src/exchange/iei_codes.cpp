@@ -15,7 +15,7 @@ QString key(QStringView code) {
     return code.toString().toCaseFolded();
 }
 
-/// All texts that stand anywhere in a long one, those of a length at the first question for one.
+/// All texts that are part of a long one. Those of one length are collected when the first of that length is searched.
 class Brani {
   public:
     explicit Brani(const QString& text) : text_(text) {}
@@ -60,7 +60,8 @@ CodiciMete::Esito CodiciMete::assign(const QStringList& stored, const QStringLis
         QString fresh = code;
         if (inUse[i]) {
             failed_ = code;
-            // More numbers than are taken: one of them is free, unless so few digits don't make as many.
+            // Tries one number more than are taken, so that one of them is free. This fails only if so few digits don't
+            // give as many numbers.
             qsizetype attempts = taken.size() + 1;
             do {
                 if (attempts-- == 0)

@@ -1,4 +1,4 @@
-// The codes of destinations that come in: the one in the file and the one that it gets here.
+// The codes of imported destinations: the code in the file, and the code in this archive.
 #pragma once
 
 #include <deque>
@@ -14,26 +14,26 @@ class CodiciMete {
   public:
     enum class Esito { Assegnati, CodiceTroppoLungo, CodiciEsauriti };
 
-    /// Gives each chosen destination a code of its own: the one in the file if it is free here, else the next above the
-    /// highest that is neither stored nor kept by another chosen one, as long as the old one. `stored` is in ascending
-    /// order, `longest` the most characters of a code. When it fails, `colpevole` is the code that it failed on.
+    /// Gives each chosen destination a code of its own. It keeps the code of the file if that is free here. Otherwise
+    /// it gets the next free number above the highest stored code, with as many characters as the old code. `stored` is
+    /// in ascending order; `longest` is the most characters of a code. On failure, `colpevole` is the code at fault.
     [[nodiscard]] Esito assign(const QStringList& stored, const QStringList& chosen, int longest);
     [[nodiscard]] const QString& colpevole() const { return failed_; }
 
-    /// For the next destination with that code; null if it wasn't chosen.
+    /// The new code of the next destination with that old code. Null if it wasn't chosen.
     [[nodiscard]] const QString* perMeta(QStringView old) const;
-    /// The destination has come in under that code, which no other gets.
+    /// Notes that this destination was stored. No other destination gets its code.
     void accept(QStringView old);
-    /// The destination doesn't come in.
+    /// Notes that this destination isn't stored.
     void refuse(QStringView old);
-    /// For its legs: of several destinations with one code those of the first. Null if none was chosen, or all were
-    /// refused.
+    /// The new code for legs with that old code. If several destinations have it, this is the code of the first one
+    /// stored. Null if none was chosen, or all were refused.
     [[nodiscard]] const QString* perTappe(QStringView old) const;
 
   private:
     struct Nuovi {
         std::deque<QString> daDare;
-        QString dellaPrima; ///< of the first destination that came in
+        QString dellaPrima; ///< code of the first destination that was stored
     };
     QHash<QString, Nuovi> codes_; ///< by the old code
     QString failed_;

@@ -8,10 +8,10 @@ namespace vanzer {
 
 namespace {
 
-/// By section; element 0 is nobody's.
+/// The separators by section. Element 0 isn't used.
 constexpr std::array<char16_t, ultimaSezione + 1> separators{u'\0', u'\x00ff', u'\x00fe', u'\x00fd'};
 
-/// A line gives no more columns than this.
+/// The most columns that are read from a line.
 constexpr std::size_t mostColumns = 100;
 
 bool leftOut(QChar c) {
@@ -25,9 +25,9 @@ struct Base {
 constexpr std::array<Base, 6> separatingLetters{
     {{u'ÿ', u'y'}, {u'Ÿ', u'Y'}, {u'þ', u't'}, {u'Þ', u'T'}, {u'ý', u'y'}, {u'Ý', u'Y'}}};
 
-/// The text with base letters for those that part fields, which are added to `letters`.
+/// The text with separator letters replaced by their base letters. The replacements are added to `letters`.
 QString withoutSeparators(const QString& text, std::vector<LetteraSostituita>& letters) {
-    QString plain = text.normalized(QString::NormalizationForm_C); // "y" with an accent behind it is one letter
+    QString plain = text.normalized(QString::NormalizationForm_C); // makes "y" and a combining accent one letter
     for (const Base& base : separatingLetters) {
         if (!plain.contains(QChar(base.letter)))
             continue;
@@ -79,7 +79,7 @@ int LettoreIei::campo(QStringView name) const {
     return found == campi().end() ? -1 : static_cast<int>(found - campi().begin());
 }
 
-/// As every line of columns is taken apart: without quotes and control characters, the columns trimmed.
+/// Splits the current line into trimmed columns, without quotes and control characters.
 void LettoreIei::divide() {
     QStringView work = line_;
     if (std::any_of(work.begin(), work.end(), leftOut)) {

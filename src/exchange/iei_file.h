@@ -1,17 +1,18 @@
-// The exchange file of destinations (.iei): what its lines are, apart from what is done with them.
+// The lines of the exchange file of destinations (.iei).
 //
-// It is a text of up to three sections, in this order: destinations, legs, guide. Each begins with a head line, the
-// names of its table's fields, and goes on with a line for each record, the fields' texts trimmed. Behind every name
-// and every text stands the section's separator, which alone tells the sections apart:
+// The file is a text of up to three sections, in this order: destinations, legs, guide. A section begins with a head
+// line, which has the field names of its table. A line for each record follows, with the trimmed texts of the fields.
+// The section's separator stands after every name and every text. The sections are told apart by their separators
+// alone:
 //
 //     MeteVanzer    ÿ (byte 255)    CodiceMetaÿLocalitaÿ...     000001ÿROMAÿ...
 //     Itinerari     þ (byte 254)    CodiceMetaþSequenzaþ...     000001þ0001þ...
 //     GuidaCitta    ý (byte 253)    LocalitaýCodiceGuidaý...    Romaý02ý...
 //
-// Since the columns are named, a file of another version finds its fields: columns that the table lacks are passed
-// over, fields that the file lacks are blank. Nothing protects a line break or a double quote within a text. The
-// letters that part the fields, and their capitals, go out as their base letters, so that a place of the guide and its
-// leg, which is written in capitals, still meet.
+// A file of another version can be read, since the columns are named. Columns that the table lacks are skipped, and
+// fields that the file lacks become blank. Line breaks and double quotes within a text aren't protected. The letters
+// that serve as separators, and their capitals, are written as their base letters. So a place in the guide still equals
+// its leg, which is in capitals.
 #pragma once
 
 #include <array>
@@ -26,47 +27,47 @@
 
 namespace vanzer {
 
-/// The number of a section is that of its table.
+/// The number of a section is the number of its table.
 enum SezioneIei { sezioneMete = 1, sezioneTappe, sezioneGuida, nessunaSezione = 99 };
 inline constexpr int primaSezione = sezioneMete;
 inline constexpr int ultimaSezione = sezioneGuida;
 
-/// The names of the fields of the three tables, by section from 1; element 0 is empty.
+/// The field names of the three tables by section, from 1. Element 0 is empty.
 using CampiIei = std::array<QStringList, ultimaSezione + 1>;
 
 [[nodiscard]] QChar separatoreIei(int section);
 
-/// The section whose separator a line holds, the lowest of several; `before` if it holds none.
+/// The section whose separator the line holds; if it holds several, the lowest. `before` if it holds none.
 [[nodiscard]] int sezioneDellaRiga(QStringView line, int before);
 
 /// Reads a file line by line.
 class LettoreIei {
   public:
     enum class Riga {
-        Estranea, ///< before the first section
-        Testa,    ///< the first line behind one of another section
+        Estranea, ///< a line before the first section
+        Testa,    ///< the first line of a section
         Record
     };
 
     explicit LettoreIei(CampiIei fields) : fields_(std::move(fields)) {}
 
-    /// What a line is, by the lines before it. It must stay as it is until the next one is read.
+    /// Reads a line and tells what it is. The text must stay valid until the next line is read.
     Riga read(QStringView line);
-    /// Takes a line as a head line, or as a record line, of a section.
+    /// Reads a line as the head line, or as a record, of a section.
     void readHead(QStringView line, int section);
     void readRecord(QStringView line);
 
-    /// Of the current line.
+    /// The section of the current line.
     [[nodiscard]] int sezione() const { return section_; }
     [[nodiscard]] const QStringList& campi() const { return fields_[static_cast<std::size_t>(section_)]; }
-    /// Position of a field of the current section, case ignored; -1 if there is none.
+    /// Position of a field in the current section, case ignored. -1 if there is none.
     [[nodiscard]] int campo(QStringView name) const;
 
-    /// The last head line names the field.
+    /// Whether the last head line names the field.
     [[nodiscard]] bool hasColumn(int field) const;
-    /// The text of a field's column on the current line, trimmed; empty where there is no such column.
+    /// The field's text in the current line, trimmed. Empty if the file has no such column.
     [[nodiscard]] QStringView colonna(int field);
-    /// The text as it is stored: a blank in place of an empty one.
+    /// The field's text as the archive stores it: a blank if it is empty.
     [[nodiscard]] QString valore(int field);
 
   private:
@@ -76,28 +77,28 @@ class LettoreIei {
     CampiIei fields_;
     int section_ = nessunaSezione;
     QStringView line_;
-    QString cleaned_; ///< the line without what is left out, if it holds such characters
+    QString cleaned_; ///< the line without quotes and control characters, if it had any
     bool divided_ = false;
     std::vector<QStringView> columns_;
-    std::vector<int> columnOf_; ///< by field: number of its column from 1, 0 for none
+    std::vector<int> columnOf_; ///< by field: the number of its column from 1, or 0 for none
 };
 
-/// A text that doesn't go into the file as it is.
+/// A text of which some letters were replaced in the file.
 struct TestoSostituito {
     QString testo;
     std::vector<LetteraSostituita> lettere;
 };
 
-/// Puts a file together.
+/// Writes a file.
 class ScrittoreIei {
   public:
     void testa(int section, const QStringList& names);
-    /// A text of the record line at hand.
+    /// Adds a text to the current record line.
     void testo(int section, const QString& text);
     void fineRiga() { contents_ += "\r\n"; }
 
     [[nodiscard]] const QByteArray& contenuto() const { return contents_; }
-    /// The texts with letters that don't go into the file, each once.
+    /// The texts of which letters were replaced, each once.
     [[nodiscard]] const std::vector<TestoSostituito>& sostituiti() const { return replaced_; }
 
   private:

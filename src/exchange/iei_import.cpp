@@ -15,7 +15,7 @@ const QString campoCodice = QStringLiteral("CodiceMeta");
 const QString campoLocalita = QStringLiteral("Localita");
 const QString campoDescrizione = QStringLiteral("Descrizione");
 
-/// Of UTF-8: where the next character begins.
+/// The position of the next character in a UTF-8 text.
 std::size_t dopoIlCarattere(const std::string& text, std::size_t at) {
     do {
         ++at;
@@ -62,7 +62,7 @@ void Descrizioni::add(const std::string& text) {
     }
 }
 
-/// Only texts that begin as the pattern does are looked at, and of many only those that fit its form.
+/// Looks only at texts that begin like the pattern. If these are many, looks only at those that fit its form.
 bool Descrizioni::trova(const std::string& pattern) {
     constexpr int many = 64;
     const std::string beginning = pattern.substr(0, pattern.find_first_of("*?"));
@@ -80,10 +80,10 @@ bool Descrizioni::trova(const std::string& pattern) {
     return false;
 }
 
-/// Null when there are so many forms already that one more costs more than it helps.
+/// Makes or finds the form of a pattern. Null if there are so many forms that another one costs more than it saves.
 Descrizioni::Forma* Descrizioni::forma(const std::string& pattern) {
     constexpr std::size_t most = 128;
-    constexpr std::size_t mostTimes = 4; // that a text lies in forms, on average
+    constexpr std::size_t mostTimes = 4; // in how many forms a text may be, on average
     const std::size_t star = pattern.find('*');
     Forma wanted{.proprie = {}, .intera = star == std::string::npos, .testi = {}};
     const std::string beginning = pattern.substr(0, star);

@@ -1,6 +1,5 @@
-// What becomes of the lines of an exchange file: destinations that were chosen come in under their new codes unless one
-// of that name is here, their legs with them, and of the guide the entries for places that the legs here visit, as far
-// as they are new.
+// Imports the lines of an exchange file. A chosen destination comes in under its new code, with its legs, unless one of
+// that name is in the archive. A guide entry comes in if it is new and the legs in the archive visit its place.
 #pragma once
 
 #include <optional>
@@ -17,14 +16,15 @@
 
 namespace vanzer {
 
-/// What an import asks of the archive that it comes into.
+/// The archive, as an import needs it.
 class ArchivioImport {
   public:
     virtual ~ArchivioImport() = default;
-    /// A record for the table of the section, a text for each of its fields; the texts become what is stored of them.
+    /// Adds a record to the table of the section. `values` has a text for each field; it receives the texts as they
+    /// were stored.
     virtual void add(int section, std::vector<QString>& values) = 0;
-    /// The names of all destinations, the places of all legs, and place and description of all entries of the guide
-    /// that have both.
+    /// The names of all destinations. luoghiTappe: the places of all legs. vociGuida: all entries that have both a
+    /// place and a description.
     [[nodiscard]] virtual std::vector<QString> nomiMete() = 0;
     [[nodiscard]] virtual std::vector<QString> luoghiTappe() = 0;
     struct Voce {
@@ -42,32 +42,34 @@ struct ContatoriImport {
     int vociScartate = 0;
 };
 
-/// Which destinations there are.
+/// The destinations in the archive.
 class MetePresenti {
   public:
     void add(const QString& name);
-    /// One of the same name: up to the bracket, and as a query for the name finds it.
+    /// Whether there is one of that name. The part before the bracket must be equal, and a query for the name must find
+    /// it.
     [[nodiscard]] bool trova(const QString& name) const;
 
   private:
-    QHash<QString, std::vector<std::string>> names_; ///< UTF-8, by what comes before the bracket
+    QHash<QString, std::vector<std::string>> names_; ///< UTF-8, by the part of the name before the bracket
 };
 
-/// Descriptions of one place, UTF-8 with case put away, and whether a pattern fits one of them.
+/// The descriptions of one place, UTF-8 in lower case. Tells whether one of them fits a pattern.
 class Descrizioni {
   public:
     void add(const std::string& text);
     [[nodiscard]] bool trova(const std::string& pattern);
 
   private:
-    /// The form of patterns such as "?ab" and "?ab*": where their own characters stand. Texts of the same characters
-    /// there lie together.
+    /// The positions of a pattern's own characters, which patterns such as "?ab" and "?cd" share. Texts are grouped by
+    /// their characters at these positions.
     struct Forma {
-        std::vector<bool> proprie; ///< by character
-        bool intera = true;        ///< no text is longer
+        std::vector<bool> proprie; ///< true for a position with an own character
+        bool intera = true;        ///< false if the pattern ends in "*" and fits longer texts too
         std::unordered_multimap<std::size_t, const std::string*> testi;
 
-        /// Of the text's characters there; nothing if it has fewer or, for a whole form, more.
+        /// The key of the text's characters at these positions. No value if the text is too short or, for a whole form,
+        /// too long.
         [[nodiscard]] std::optional<std::size_t> chiave(const std::string& text) const;
         void add(const std::string& text);
     };
@@ -75,14 +77,14 @@ class Descrizioni {
     [[nodiscard]] Forma* forma(const std::string& pattern);
 
     std::set<std::string> texts_;
-    std::vector<Forma> forms_; ///< those that were asked for where many texts begin alike
+    std::vector<Forma> forms_; ///< made on demand, when many texts begin alike
 };
 
-/// Which descriptions the guide has for which places.
+/// The guide entries in the archive, by place and description.
 class VociPresenti {
   public:
     void add(const QString& place, const QString& description);
-    /// An entry like the description at a place of the form of `place`.
+    /// Whether there is an entry of such a description at a place that fits the pattern of `place`.
     [[nodiscard]] bool trova(const QString& place, const QString& description);
 
   private:
@@ -95,7 +97,7 @@ class Importazione {
     Importazione(CampiIei fields, CodiciMete codes, ArchivioImport& archive)
         : reader_(std::move(fields)), codes_(std::move(codes)), archive_(archive) {}
 
-    /// False for a head line without the field by which its records are told apart: the file is damaged.
+    /// Reads a line. False for a head line without a key field: the file is damaged.
     [[nodiscard]] bool riga(QStringView line);
     [[nodiscard]] int sezione() const { return reader_.sezione(); }
     [[nodiscard]] const ContatoriImport& contatori() const { return counters_; }
@@ -111,12 +113,12 @@ class Importazione {
     CodiciMete codes_;
     ArchivioImport& archive_;
     ContatoriImport counters_;
-    int code_ = -1; ///< field of the destination's code in the section at hand
+    int code_ = -1; ///< the field of the destination's code in the current section
     int place_ = -1;
     int description_ = -1;
     std::vector<QString> values_;
     std::optional<MetePresenti> destinations_;
-    std::optional<LuoghiPerModello> legs_; ///< from the first line of the guide on
+    std::optional<LuoghiPerModello> legs_; ///< filled at the first line of the guide
     std::optional<VociPresenti> guide_;
 };
 

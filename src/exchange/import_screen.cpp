@@ -30,7 +30,7 @@ store::Recordset wholeTable(Form& form, int table) {
     return {*form.archivio.Db(0), {store::TabelleNomi(table), {}, {}}};
 }
 
-/// The import's way into the archive.
+/// The open archive, for an import.
 class ArchivioAperto final : public ArchivioImport {
   public:
     explicit ArchivioAperto(Form& form) : form_(form) {
@@ -114,14 +114,14 @@ QString report(const ContatoriImport& counts) {
     return text;
 }
 
-/// Reads the whole file; what it leaves unstored is the caller's.
+/// Reads the whole file. The caller commits what was read.
 class Lettura {
   public:
     Lettura(Form& form, CodiciMete codes)
         : form_(form), archive_(form), import_(fieldsOfTables(form), std::move(codes), archive_),
           lines_(readExchangeFile(form).value_or(QByteArray())), running_(form) {}
 
-    /// Empty when all was read, else the reason why not.
+    /// Returns the reason of a failure, or an empty text.
     QString read() {
         form_.stato.PercentualeTotale = static_cast<double>(lines_.lunghezza());
         form_.lblElaborazione.setCaption(QStringLiteral("Importazione mète"));

@@ -1,4 +1,4 @@
-// An import: the chosen destinations of a file, their legs, and of the guide what belongs to the places visited here.
+// An import: the chosen destinations of a file, their legs, and the guide's entries for the places in the archive.
 #pragma once
 
 #include "window/form.h"
@@ -7,11 +7,11 @@ namespace vanzer {
 
 struct EsitoImport {
     bool riuscito = false;
-    QString testo; ///< what the user is told: the counts, or why there are none
+    QString testo; ///< the message for the user: the counts, or why nothing was imported
 };
 
-/// Reads NomeFileScambio for the first list's destinations and stores what comes in. An import that fails or is given
-/// up leaves nothing of itself in the archive.
+/// Imports the destinations of the first list from NomeFileScambio. An import that fails or is cancelled leaves the
+/// archive as it was.
 [[nodiscard]] EsitoImport readImportFile(Form& form);
 
 } // namespace vanzer

@@ -16,7 +16,7 @@ namespace vanzer {
 
 namespace {
 
-constexpr QStringView segno = u"[0"; // of a leg that a stop falls on
+constexpr QStringView segno = u"[0"; // begins the mark of a leg with a stop
 constexpr int cifreSegno = 5;
 constexpr qsizetype lungoSegno = cifreSegno + 2;
 
@@ -32,7 +32,7 @@ bool isNumber(const QString& text) {
     return digit;
 }
 
-/// The longest of the columns that a name falls into; of equals the first.
+/// The longest of the columns of a name. If several are equally long, the first of them.
 QString longestPart(QString name) {
     Colonne columns;
     SeparaColonne(name, columns);
@@ -44,7 +44,7 @@ QString longestPart(QString name) {
     return longest;
 }
 
-/// The rows whose place begins with a stop's name, in their order, for all stops in one walk over the places.
+/// Finds the rows whose place begins with a stop's name. One pass over the places serves all stops.
 class RighePerInizio {
   public:
     RighePerInizio(const QStringList& places, const QStringList& stops) : stops_(stops) {
@@ -64,7 +64,7 @@ class RighePerInizio {
         }
     }
 
-    /// The first row for the stop that isn't taken yet; -1 if there is none.
+    /// The first row for the stop that isn't taken yet. -1 if there is none.
     qsizetype prima(qsizetype stop, const std::vector<bool>& taken) {
         Fila& line = rows_.at(stops_[stop]);
         while (line.next < line.rows.size() && taken[static_cast<std::size_t>(line.rows[line.next])])
@@ -81,7 +81,7 @@ class RighePerInizio {
     std::unordered_map<QStringView, Fila> rows_;
 };
 
-/// Which places hold a text anywhere, found by their runs of three letters. Places of one name are looked at once.
+/// Finds the places that contain a text, by their runs of three letters. Equal places are looked at once.
 class RighePerContenuto {
   public:
     explicit RighePerContenuto(const QStringList& places) : places_(places) {
@@ -92,10 +92,10 @@ class RighePerContenuto {
         }
     }
 
-    /// What is written behind a place from now on is a part of it.
+    /// Adds a text after the place of a row. It is searched too from now on.
     void append(qsizetype row, const QString& text) { marks_[row] += text; }
 
-    /// The first row that holds the text; -1 if there is none.
+    /// The first row that contains the text. -1 if there is none.
     [[nodiscard]] qsizetype prima(const QString& part) const {
         const qsizetype named = firstNamed(part);
         if (!mayMeetMark(part))
@@ -106,7 +106,7 @@ class RighePerContenuto {
     }
 
   private:
-    using Righe = std::vector<qsizetype>; // in their order, the first of each name
+    using Righe = std::vector<qsizetype>; // ascending; of equal places only the first
     static constexpr int run = 3;
 
     static quint64 chiave(const QString& text, qsizetype at) {
@@ -126,7 +126,8 @@ class RighePerContenuto {
         }
     }
 
-    /// A text without blanks at its ends reaches into a mark only with a bracket, or lies in it as digits.
+    /// Whether a text may lie in a mark, at least in part. As it has no blanks at its ends, it then has a bracket or
+    /// consists of digits.
     static bool mayMeetMark(const QString& part) {
         return part.contains(u'[') || part.contains(u']') ||
                std::ranges::all_of(part, [](QChar c) { return c >= u'0' && c <= u'9'; });
@@ -161,7 +162,8 @@ QString withoutZeros(QString marks) {
     return marks;
 }
 
-/// One stop's number without its zeros, or the range from the first to the last of several.
+/// The place with its stop's number, without leading zeros. Several numbers become the range from the first to the
+/// last.
 QString shortMarks(const QString& place) {
     const qsizetype first = place.indexOf(segno);
     if (first < 0 || place.indexOf(segno, first + 1) < 0)
@@ -171,7 +173,7 @@ QString shortMarks(const QString& place) {
                                    .replace(QStringLiteral("]["), QStringLiteral("-"));
 }
 
-/// The name of a leg that stays.
+/// The name of a leg that remains.
 QString shownName(QString place, int nameSize) {
     constexpr int behindEntry = 13; // "Ingresso in "
     if (isEntry(place))

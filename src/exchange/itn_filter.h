@@ -1,11 +1,10 @@
-// The stops that ITN converter writes, and an itinerary folded down to them.
+// Reads the stops that ITN Converter writes, and reduces an itinerary to them.
 //
 // A line of the stop file is a stop if its first four characters are a number:
 //
 //     8.61234,45.50123,"NOVARA"
 //
-// Only the name behind the last comma is read. A leg that a stop falls on gets the stop's number behind its place: "
-// [00007]".
+// Only the name after the last comma is read. The place of a stop's leg gets the stop's number: " [00007]".
 #pragma once
 
 #include <vector>
@@ -16,32 +15,33 @@
 
 namespace vanzer {
 
-/// A leg as its cells have it.
+/// The cells of a leg.
 struct RigaPercorso {
     QString luogo;
     QString strade;
     int km = 0;
 };
 
-/// A leg that stays, and the row, from 1, that it was.
+/// A leg that remains, and its former row, from 1.
 struct RigaRimasta {
     int riga = 0;
     RigaPercorso cella;
 };
 
-/// The names of the stops in the order of the file; a stop's number is its place in the list, from 1.
+/// The names of the stops, in the order of the file. A stop's number is its position in the list, from 1.
 [[nodiscard]] QStringList readDestinations(const QByteArray& contents);
 
-/// Writes the number of each stop behind the place that it falls on: the first unmarked one that begins with the stop's
-/// name, else the first that holds the longest part of the name. A stop that fits nowhere is dropped.
+/// Writes each stop's number after the place of its leg. That is the first unmarked leg whose place begins with the
+/// stop's name. If there is none, it is the first leg that contains the longest part of the name. Other stops are
+/// dropped.
 void markDestinations(std::vector<RigaPercorso>& legs, const QStringList& stops);
 
-/// What is left of the marked legs: those with a stop and the entries into a country. The others go into the next leg
-/// that stays, with their kilometres and roads. Several stops on a leg become a range, and a name keeps at most
-/// `nameSize` characters before its first bracket.
+/// Keeps the marked legs and the entries into a country. Kilometres and roads of the other legs are added to the next
+/// leg that remains. Several stops on one leg are shown as a range. A name keeps at most `nameSize` characters before
+/// its first bracket.
 [[nodiscard]] std::vector<RigaRimasta> foldLegs(const std::vector<RigaPercorso>& legs, int nameSize);
 
-/// The name without its numbers: cut at the last bracket.
+/// The place without its stop numbers: cut at the last bracket.
 [[nodiscard]] QString senzaNumerazione(const QString& place);
 
 } // namespace vanzer

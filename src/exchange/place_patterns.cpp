@@ -17,14 +17,14 @@ char32_t folded(char32_t c) {
     return QChar::toCaseFolded(c);
 }
 
-/// 0 for A to 25 for Z, whatever the case.
+/// 0 for A to 25 for Z, case ignored.
 std::optional<std::size_t> letter(char32_t c) {
     if (c >= U'a' && c <= U'z')
         return c - U'a';
     return std::nullopt;
 }
 
-/// Letters A to Z alone: a sign that only folds to one of them isn't one.
+/// The same for A to Z alone. Other characters that case folding turns into one of these don't count.
 std::optional<std::size_t> plainLetter(char32_t c) {
     return c < 0x80 ? letter(folded(c)) : std::nullopt;
 }

@@ -1,10 +1,10 @@
-// Places found by patterns. A place of the guide is looked for among others by its letters A to Z alone: every other
-// character of it (blank, apostrophe, accented letter) stands for any one character, so that names written differently
-// meet. Case is ignored.
+// Finds places by patterns. Only the letters A to Z of a pattern must be equal, case ignored. Any other character
+// (blank, apostrophe, accented letter) stands for any one character, so that different spellings of a name meet.
 //
-// An archive of 100,000 legs can't be gone through for each of 100,000 entries, and an index by the beginning doesn't
-// help a name that begins with such a character. So the texts are told by bits: for each length, each position and each
-// letter, one bit for every text that has the letter there. A pattern is the intersection of its letters' bits.
+// An archive may have 100,000 legs and 100,000 entries, which is too much to compare each with each. An index by the
+// first characters doesn't help a name that begins with such a character. So the places are kept as bits: for each
+// length, each position and each letter there is one bit for every text that has the letter there. The places of a
+// pattern are the intersection of its letters' bits.
 #pragma once
 
 #include <cstdint>
@@ -17,15 +17,15 @@
 
 namespace vanzer {
 
-/// The pattern of a place as a query has it: each character that isn't a letter A to Z becomes "?".
+/// The query pattern of a place: each character except the letters A to Z becomes "?".
 [[nodiscard]] QString modelloLuogo(const QString& place);
 
 class LuoghiPerModello {
   public:
-    /// The number of the text, from 0; a text that differs in case alone has the same one.
+    /// Adds a text and returns its number, from 0. Texts that differ only in case have the same number.
     int add(const QString& text);
 
-    /// Calls `found` with the number of each text that has the form of the place's pattern, until it returns false.
+    /// Calls `found` with the number of each text that fits the place's pattern, until `found` returns false.
     void find(const QString& place, const std::function<bool(int)>& found) const;
     [[nodiscard]] bool trova(const QString& place) const;
 
@@ -33,7 +33,7 @@ class LuoghiPerModello {
     static constexpr std::size_t letters = 26;
     using Bits = std::vector<std::uint64_t>;
 
-    /// The texts of one length. Bits may end before the last text: what is missing is 0.
+    /// The texts of one length. Missing bits at the end count as 0.
     struct Group {
         std::vector<int> numbers;
         std::vector<Bits> has; ///< by position and letter

@@ -18,10 +18,10 @@ constexpr int headLines = 16;
 constexpr int nameWidth = 30;
 constexpr int lastColumn = 20;
 
-const QString nessuna = QStringLiteral("\\"); // no road, an instruction that is used up
+const QString nessuna = QStringLiteral("\\"); // no road; also an instruction that is used up
 const QString traghetto = QStringLiteral("TRAGH");
 
-/// Columns from 1; what a line lacks is empty.
+/// Columns from 1. Columns that a line lacks are empty.
 using ColonneTappa = std::array<QString, lastColumn + 1>;
 
 ColonneTappa EstraeColonneTappa(QStringView line) {
@@ -36,12 +36,12 @@ ColonneTappa EstraeColonneTappa(QStringView line) {
     return columns;
 }
 
-/// Position of a character from position `from` on (both from 1); 0 if there is none.
+/// Position of a character from position `from` on, both counted from 1. 0 if there is none.
 int posizioneDa(const QString& s, QChar c, int from) {
     return static_cast<int>(s.indexOf(c, from - 1)) + 1;
 }
 
-/// The text from position a up to the position b, which is no part of it.
+/// The text from position a to the position before b, counted from 1.
 QString tra(const QString& s, int a, int b) {
     return Mid(s, a, Maggiore(b - a, 0));
 }
@@ -67,7 +67,7 @@ int posizioneVicino(const QString& s) {
     return italian > 0 ? italian : posizione(s, u"near");
 }
 
-/// What both families of lists keep on the way: the leg under way and the last one.
+/// The state that both kinds of lists share: the current leg, and the legs so far.
 class Percorso {
   public:
     [[nodiscard]] int km() const { return km_; }
@@ -80,7 +80,7 @@ class Percorso {
 
     [[nodiscard]] bool ultima(const QString& place) const { return uguale(place, last_); }
 
-    /// Ends the leg under way at the place.
+    /// Ends the current leg at the place.
     void chiude(const QString& place) {
         last_ = place;
         const QString roads = Mid(roads_, 2);
@@ -95,13 +95,13 @@ class Percorso {
   private:
     int km_ = 0;
     int kmLast_ = 0;
-    QString roads_ = nessuna; // behind the first character
+    QString roads_ = nessuna; // the roads stand after the first character
     QString last_;
     std::vector<TappaImportata> legs_;
 };
 
-/// Lists of time, kilometres, instruction. The steps of a row work on one instruction, each on what the one before
-/// has left of it.
+/// Lists of time, kilometres, instruction. The steps of a row share one instruction. Each works on what the step before
+/// has left.
 class ListaOraria {
   public:
     void riga(const ColonneTappa& columns) {
@@ -133,7 +133,7 @@ class ListaOraria {
         word_ = parola(instruction_, 1);
     }
 
-    /// Rows that give no place: those near one, and the head row.
+    /// Ignores rows without a place: those that are near one, and the head row.
     void nonLuogo() {
         if (parolaE(u"vicino") || parolaE(u"near")) {
             word_ = parola(instruction_, 2);
@@ -143,7 +143,7 @@ class ListaOraria {
             esaurita();
     }
 
-    /// Only the first departure counts.
+    /// Takes the place of the first departure. Later ones don't count.
     void partenza() {
         constexpr int pastNear = 9;
         if (departed_ || !(beginsWith(word_, u"partenza") || beginsWith(word_, u"depart")))
@@ -202,7 +202,7 @@ class ListaOraria {
     }
 
     void traghetti() {
-        constexpr int past = 4; // a star and what stands between it and the name, or " su "
+        constexpr int past = 4; // length of a star and what stands between it and the name, or of " su "
         if (contains(instruction_, u"controllo orari")) {
             int from = posizioneDa(instruction_, u'*', past) + past;
             int end = posizioneDa(instruction_, u',', from);
@@ -232,7 +232,7 @@ class ListaOraria {
         road_.clear();
     }
 
-    /// The road on which the row goes on belongs to the leg that is under way now.
+    /// Adds the road that the row leads to. It belongs to the leg that begins now.
     void seguita() {
         constexpr int shortestRoad = 2;
         findRoad();
@@ -254,8 +254,8 @@ class ListaOraria {
 
     Percorso route_;
     bool departed_ = false;
-    QString road_; // of the last row that named one, until a leg is ended
-    // the row under work
+    QString road_; // of the last row that named one; cleared at the end of a leg
+    // the current row
     int km_ = 0;
     QString instruction_;
     QString word_;
@@ -300,7 +300,7 @@ class ListaLuoghi {
         kmColumn_ = found == columns.end() ? 0 : static_cast<std::size_t>(found - columns.begin());
     }
 
-    /// Takes a road in brackets off the place's front; true if the column names no place.
+    /// Moves a road in brackets from the front of the place to the road. True if the column names no place.
     bool bracketedRoad() {
         bool without = false;
         if (place_.startsWith(u'-')) {
@@ -345,7 +345,7 @@ class ListaLuoghi {
             route_.addRoads(traghetto);
     }
 
-    /// A counter that starts again goes on from where it was.
+    /// Sets the kilometres. If the counter starts again, the count goes on from its last value.
     void tally(int raw) {
         if (raw < lastRaw_)
             correction_ = addToInt(correction_, lastRaw_);
@@ -353,7 +353,7 @@ class ListaLuoghi {
         route_.setKm(addToInt(raw, correction_));
     }
 
-    /// Parts place and road, which share a column, and shortens the place.
+    /// Separates place and road, which share a column, and shortens the place.
     void EstraeTappaStrada() {
         QString number;
         std::ranges::copy_if(place_, std::back_inserter(number), [](QChar c) { return cifra(c) || c == u'/'; });
@@ -372,7 +372,7 @@ class ListaLuoghi {
             place_ = Trim(place_.section(u'(', 0, 0));
     }
 
-    /// "Repubblica Ceca" as "Rep.  Ceca".
+    /// Shortens "Repubblica Ceca" to "Rep.  Ceca".
     void shortenRepublic() {
         constexpr int kept = 3;
         const int at = posizione(place_, u"REPUBBL");
@@ -382,7 +382,7 @@ class ListaLuoghi {
         place_ = Left(place_, at + kept - 1) + u". "_s + (blank > 0 ? Mid(place_, blank) : QString());
     }
 
-    /// True if it was the entry into a country, after which the row is done.
+    /// Ends the leg. True if it was the entry into a country, which ends the row.
     bool closeLeg() {
         const bool entry = contains(place_, ingresso);
         if (entry || (!place_.isEmpty() && route_.kmDallUltima() >= 1 && !route_.ultima(place_))) {
@@ -401,11 +401,11 @@ class ListaLuoghi {
 
     Percorso route_;
     bool head_ = false;
-    std::size_t kmColumn_ = 0; // 0 if there is none: column 0 is empty
+    std::size_t kmColumn_ = 0; // 0 if there is none; column 0 is always empty
     int lastRaw_ = 0;
     int correction_ = 0; // kilometres
-    QString road_;       // until a leg takes it
-    // the row under work
+    QString road_;       // kept until a leg takes it
+    // the current row
     QString place_;
     QString direction_;
 };
@@ -422,7 +422,7 @@ Pacchetto formatoDellaTesta(const ColonneTappa& c) {
     return Pacchetto::Sconosciuto;
 }
 
-/// Reads the lines up to the head row, which is the current one then.
+/// Reads the lines up to the head row, which stays the current one.
 Pacchetto recognise(RigheTesto& lines) {
     auto found = Pacchetto::Sconosciuto;
     while (found == Pacchetto::Sconosciuto && lines.numero() < headLines && lines.prossima())
@@ -430,7 +430,7 @@ Pacchetto recognise(RigheTesto& lines) {
     return found;
 }
 
-/// From the head row on to the end of the file.
+/// Reads the rows from the head row to the end of the file.
 template<typename Lista> std::vector<TappaImportata> readRows(RigheTesto& lines) {
     Lista list;
     do {
@@ -449,7 +449,7 @@ std::string mascheraStrada(QStringView text) {
     return mask;
 }
 
-/// The road in a text that begins in front of it.
+/// The road in a text. One character stands before it.
 QString stradaNel(QString text) {
     std::string mask = mascheraStrada(text);
     const auto begin = [&](std::size_t at) {
@@ -478,7 +478,7 @@ QString stradaNel(QString text) {
 std::optional<QString> RilevaStradaCorrente(const QString& instruction) {
     struct Parola {
         QStringView testo;
-        int salto; // to the character in front of the road
+        int salto; // characters from the word's start to the one before the road
     };
     static constexpr std::array words{Parola{u" onto ", 4}, Parola{u" su ", 2}, Parola{u" on ", 2}, Parola{u" [", 0}};
     for (const Parola& word : words) {

@@ -1,14 +1,14 @@
-// The route lists that route planners save as text, read as the legs of an itinerary.
+// Reads the legs of an itinerary from route lists that route planners save as text.
 //
-// A line is a row, its columns are separated by tabs. Three shapes are known by their head row, one of the first
-// 16 lines:
+// Each line is a row, with columns separated by tabs. Three formats are known by their head row, which is one of the
+// first 16 lines:
 //
 //     MapPoint, Italian     ...ora    km  istruzioni          time, kilometres from the start, what to do
 //     MapPoint, English     ...time   km  instruction         the same
 //     Autoroute, Route      ??località    direzione   distanza    ...     posizione opposta
 //
-// A row that only turns onto a road adds the road to the leg under way; a row that names a place ends the leg there. In
-// the third shape the kilometres from the start stand in the column "posizione opposta".
+// A row that names a place ends the current leg there. A row that only turns onto a road adds the road to the current
+// leg. In the third format the column "posizione opposta" has the kilometres from the start.
 #pragma once
 
 #include <optional>
@@ -35,12 +35,12 @@ struct PercorsoImportato {
     std::vector<TappaImportata> tappe;
 };
 
-/// The road that an instruction goes on along: the last run of at least two digits or capitals behind "onto", "su",
-/// "on" or "[", or what stands in the last brackets, if these hold nothing else. Empty if there is no such run; no
-/// value if the instruction has none of the four.
+/// The road that an instruction leads to, which stands after "onto", "su", "on" or "[". It is the content of the last
+/// brackets, if that is digits and capitals alone. Otherwise it is the last run of at least two digits or capitals.
+/// Empty if there is no such run. No value if the instruction has none of these four words.
 [[nodiscard]] std::optional<QString> RilevaStradaCorrente(const QString& instruction);
 
-/// Reads a whole file. Rows that say nothing, or lack columns, give no leg.
+/// Reads a whole file. Rows that name nothing, or lack columns, give no leg.
 [[nodiscard]] PercorsoImportato readPackage(const QByteArray& contents);
 
 } // namespace vanzer

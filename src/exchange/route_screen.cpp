@@ -19,7 +19,7 @@ bool emptyItinerary(const Form& form) {
     return form.mfgTab.cell(1, tappaLuogo).isEmpty();
 }
 
-/// Asks for the file of an exchange; false when the user wants none.
+/// Asks for a file. False if the user cancelled.
 bool askForFile(Form& form, const QString& filter) {
     form.stato.NomeFileScambio = form.ports.files.open(filter);
     return !form.stato.NomeFileScambio.isEmpty();
@@ -56,7 +56,7 @@ std::vector<RigaPercorso> readLegs(const Grid& grid) {
     return legs;
 }
 
-/// The table as the filter leaves it: the legs that stay, with their other cells, and the last row as it was.
+/// Writes the legs that remain, with their other cells, and keeps the last row.
 void writeFolded(Grid& grid, const std::vector<RigaRimasta>& left) {
     std::vector<bool> marked;
     marked.reserve(left.size());
@@ -93,7 +93,7 @@ void renumber(Grid& grid) {
     }
 }
 
-/// Reads the route list at NomeFileScambio into the table. A file of no known shape changes nothing.
+/// Reads the route list at NomeFileScambio into the table. Changes nothing if the format is unknown.
 void CaricaDaPacchetto(Form& form) {
     form.frmframe(riquadroPulsantiTappe).setEnabled(true);
     StatoFinestra& s = form.stato;
@@ -115,7 +115,7 @@ void CaricaDaPacchetto(Form& form) {
     AbilitaPulsantiMeta(form, pulsanti::nessunoMaiuscolo);
 }
 
-/// Folds the legs down to the stops of the file at NomeFileScambio; totals are left to the next calculation.
+/// Reduces the legs to the stops of the file at NomeFileScambio. The totals are updated by the next calculation.
 void SelezionaMeteValide(Form& form) {
     form.lstMete.clear();
     const bool unnumbered = form.domanda(QStringLiteral("Vuoi eliminare la numerazione finale delle tappe?"),

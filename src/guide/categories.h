@@ -1,4 +1,4 @@
-// The categories of the guide with which an archive begins.
+// The categories of the guide in a new archive.
 #pragma once
 
 #include <array>
@@ -6,12 +6,12 @@
 
 namespace vanzer {
 
-/// In the order of their codes, from 1.
+/// The names in the order of their codes, which count from 1.
 inline constexpr std::array<const char16_t*, 10> primeCategorie{
     u"Ottimo",  u"Da vedere", u"Interessante", u"Vedibile", u"Punto Sosta",
     u"PS e CS", u"Campeggio", u"Ristorante",   u"Gpl",      u"Diari di bordo"};
 
-/// The first of them are for sights, whose visit takes time.
+/// The first categories are sights. A visit there takes time, so their entries need one.
 inline constexpr std::size_t categorieDaVisitare = 4;
 
 } // namespace vanzer

@@ -1,15 +1,15 @@
-// What the guide needs before it is opened: its categories, and places without brackets.
+// Prepares the guide before it opens: its categories, and the places of its entries.
 #pragma once
 
 #include "window/form.h"
 
 namespace vanzer {
 
-/// The stored categories into the list of the editor and into the window's tables. Categories that the archive lacks
-/// are added at its end; they come into the lists with the next start.
+/// Loads the stored categories into the editor's list and into the window's tables. Categories that the archive lacks
+/// are added at its end. They appear in the lists after the next start.
 void CaricaTipiGuida(Form& form);
 
-/// A part in brackets behind the place of a guide entry goes.
+/// Removes a part in brackets from the places of the guide's entries.
 void RipulisceLuoghiGuida(Form& form);
 
 } // namespace vanzer

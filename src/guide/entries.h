@@ -1,7 +1,7 @@
-// A guide entry apart from the window: its category, its group marks, its time, and what it needs to be stored.
+// The rules for a guide entry that need no window: its category, group marks, time, and the fields that it needs.
 //
-// A group is one or more marks joined by "-"; a blank and "0" both mean none. A time is "hh:mm", where the hours may be
-// "G1" to "G8", whole days of visiting; "00:00" means none.
+// A group is one or more marks joined by "-". A blank and "0" both mean no group. A time is "hh:mm". The hours may also
+// be "G1" to "G8", whole days of visiting. "00:00" means no time.
 #pragma once
 
 #include <optional>
@@ -11,7 +11,7 @@
 
 namespace vanzer {
 
-/// Columns of the grid while the guide is open.
+/// The columns of the grid while it shows the guide.
 enum ColonnaGuida {
     guidaNumero = 0,
     guidaLuogo = 1,
@@ -20,34 +20,34 @@ enum ColonnaGuida {
     guidaDescrizione = 4,
     guidaTempo = 5,
     guidaTipo = 6, ///< name of the category
-    guidaSegno = 8 ///< tells an entry from a place
+    guidaSegno = 8 ///< separates an entry from a place
 };
 
 inline constexpr QStringView segnoVoce = u"1";
-inline constexpr QStringView testaGruppo = u"Gruppo"; ///< head of the column, which no other layout of the grid has
+inline constexpr QStringView testaGruppo = u"Gruppo"; ///< Head of its column. No other layout of the grid has it.
 
 enum class TipoRigaGuida {
     Vuota,
-    Luogo, ///< first row of a place: a new entry is written on it
+    Luogo, ///< the first row of a place; a new entry is typed here
     Voce
 };
 [[nodiscard]] TipoRigaGuida tipoRigaGuida(const QString& place, const QString& mark);
 
-/// Number of the last category of that name, case ignored, from 1; -1 if there is none or the name is empty.
+/// Number of the last category of that name, from 1, case ignored. -1 if there is none or the name is empty.
 [[nodiscard]] int CodiceTipoGuida(std::span<const QString> names, const QString& name);
 
-/// Name of a stored category code; empty for one that isn't known.
+/// Name of a stored category code. Empty for an unknown code.
 [[nodiscard]] QString nomeTipoGuida(std::span<const QString> names, const QString& code);
 
-/// The group as the user sees it: trimmed, and empty for none.
+/// The group as the user sees it: trimmed, and empty for no group.
 [[nodiscard]] QString gruppoMostrato(const QString& group);
 [[nodiscard]] bool stessoGruppo(const QString& a, const QString& b);
-/// The marks of a group in order, case ignored, joined again; empty for a group without marks.
+/// The marks of a group sorted, case ignored, and joined again. Empty for no group.
 [[nodiscard]] QString gruppoOrdinato(const QString& group);
 
-/// The time from its two boxes; an empty one counts as "00".
+/// The time "hh:mm" from its two boxes. An empty box counts as "00".
 [[nodiscard]] QString tempoDigitato(const QString& hours, const QString& minutes);
-/// What the boxes show for a stored time: two digits, or "G1" to "G8" for the hours.
+/// The text of the hours' box for a stored time: two digits, or "G1" to "G8".
 [[nodiscard]] QString oreMostrate(const QString& time);
 [[nodiscard]] QString minutiMostrati(const QString& time);
 
@@ -56,30 +56,31 @@ struct VoceDigitata {
     QString descrizione;
     int codice = -1; ///< category
     bool tempoObbligatorio = false;
-    QString tempo;
+    QString tempo; ///< "hh:mm"
 };
 
 enum class EsitoVoce { Buona, MancaDescrizione, MancaTipologia, MancaTempo, MancaLuogo };
-/// The first thing that keeps an entry from being stored.
+/// The first reason why an entry can't be stored.
 [[nodiscard]] EsitoVoce checkEntry(const VoceDigitata& entry);
-/// What the user is told; empty for a good entry.
+/// The message for the user. Empty if the entry can be stored.
 [[nodiscard]] QString messaggioVoce(EsitoVoce result);
 
-/// A description that is written by its first letters, and its category.
+/// A description that the user can type by its first letters, and its category.
 struct FormaBreve {
     QString descrizione;
     QString tipo;
 };
-/// "diar" for the logbook.
+/// The form for the logbook, typed as "diar".
 [[nodiscard]] std::optional<FormaBreve> formaDiario(const QString& text);
-/// The logbook, or "cs" for maps and guide books.
+/// The form for the logbook, or for maps and guide books, typed as "cs".
 [[nodiscard]] std::optional<FormaBreve> formaBreve(const QString& text);
 
-/// A character typed for a group: upper case, 0 where it isn't allowed there. Control codes pass.
+/// The character to put into a group for a typed one: upper case, or 0 if it isn't allowed there. Control codes stay as
+/// they are.
 [[nodiscard]] int carattereGruppo(int code);
 
-/// The row that a key leads to from `row` in a grid of `rows` rows with its head: up and down by one, by twelve with
-/// the page keys; the same row for any other key.
+/// The row that a key leads to from `row`. The grid has `rows` rows, the head included. Arrow keys move by one row,
+/// page keys by twelve; any other key stays in the row.
 [[nodiscard]] int rigaDopoTasto(int row, int key, int rows);
 
 } // namespace vanzer

@@ -20,8 +20,8 @@ QString placeOfRow(const Form& form) {
     return form.stato.RigaCorrente < 1 ? QString() : Trim(RiPulisceNomeLocalita(cellOfRow(form, guidaLuogo)));
 }
 
-/// A list that was made anew has its mark on the first row, whatever row was at hand before: what the user sees counts.
-/// True if another row is at hand now.
+/// Makes the row that is marked in the grid the current one. They differ after a list was rebuilt, which marks the
+/// first row; the user sees the mark alone. True if the current row changed.
 bool takeMarkedRow(Form& form) {
     if (form.stato.RigaCorrente == form.mfgTab.row())
         return false;
@@ -45,7 +45,7 @@ store::Recordset& openWhere(Form& form, const std::vector<store::Condition>& con
     return form.archivio.Rs(store::GuidaCitta);
 }
 
-/// Opens the entries of the places that a pattern finds, by their description; none for an empty description.
+/// Opens the entries of that description at all places that match a pattern. Finds none for an empty description.
 store::Recordset& openEntries(Form& form, const QString& places, const QString& description) {
     using enum store::Condition::Test;
     return openWhere(form, {{QStringLiteral("Localita"), Like, places},
@@ -60,8 +60,8 @@ bool moveToDescription(store::Recordset& records, const QString& description) {
     return false;
 }
 
-/// Moves to the stored entry that the row shows: the one of that description at this very place. Only where there is
-/// none the patterns of the place and of the description are asked, again for the very description first.
+/// Moves to the stored entry that the row shows. Looks for the exact place and description first. Only if there is
+/// none, looks by the patterns of both, and again prefers the exact description.
 bool moveToOld(Form& form, const QString& place, const QString& description) {
     if (description.isEmpty())
         return false;
@@ -95,7 +95,7 @@ void storeEntry(Form& form, const VoceDigitata& entry) {
     records.Update();
 }
 
-/// The list anew, with the same part of it in view.
+/// Rebuilds the list and keeps its scroll position.
 void rebuildList(Form& form) {
     const SenzaRidisegno quiet(form.mfgTab);
     const int top = form.mfgTab.topRow();
@@ -131,7 +131,8 @@ void scrollDownTo(Form& form, int row) {
         grid.setTopRow(Maggiore(Minore(grid.rows() - 2, row - righeInVista), 1));
 }
 
-/// False for a key that leads to no other row. Fields that were filled for a row of another list are nobody's entry.
+/// Stores the row and moves on. False if the key leads to no other row. Fields filled for a row of another list aren't
+/// stored.
 bool saveAndMove(Form& form, int code) {
     const bool anotherList = takeMarkedRow(form);
     int& row = form.stato.RigaCorrente;
@@ -141,7 +142,7 @@ bool saveAndMove(Form& form, int code) {
         return false;
     if (!anotherList) {
         SalvaLaRigaGuidaCitta(form, false);
-        if (!leaveEntry(form, next)) // one that lacks something
+        if (!leaveEntry(form, next)) // the entry lacks something and the user wants to complete it
             return true;
     }
     row = next;

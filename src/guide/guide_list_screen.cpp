@@ -22,7 +22,7 @@ struct TappaGuida {
     QString tempoSosta;
 };
 
-/// The legs of the current destination by name, as far as their names end with the filter.
+/// The legs of the current destination, sorted by name. Only names that end with the filter.
 std::vector<TappaGuida> readPlaces(Form& form) {
     using enum store::Condition::Test;
     const QString place = QStringLiteral("Localita");
@@ -41,7 +41,7 @@ std::vector<TappaGuida> readPlaces(Form& form) {
     return legs;
 }
 
-/// Writes the list downwards, from the first row on.
+/// Writes the list row by row, from the first row on.
 class ListaGuida {
   public:
     explicit ListaGuida(Form& form) : form_(form), row_(form.stato.RigaCaricata) { row_ = 0; }

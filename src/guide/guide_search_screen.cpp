@@ -19,7 +19,7 @@ void enableEditor(Form& form, bool on) {
     form.mfgTab.setEnabled(on);
 }
 
-/// Each place of the grid once, with its row behind the name.
+/// Offers each place of the grid once, with its row after the name.
 void offerPlaces(Form& form) {
     QStringList places;
     QString above;
@@ -35,7 +35,7 @@ void offerPlaces(Form& form) {
     form.cmbRicercaTappa.setVisible(true);
 }
 
-/// Moves to the one entry of that group; false if there is none, or more than one.
+/// Moves to the only entry of that group. False if there is none, or more than one.
 bool moveToOnly(store::Recordset& records, const QString& group) {
     const auto next = [&] {
         while (!records.EOF_() && !uguale(records.testo(u"Gruppo"), group))
@@ -51,7 +51,7 @@ bool moveToOnly(store::Recordset& records, const QString& group) {
     return next();
 }
 
-/// Stores the group of a row with its marks in order, unless the row's entry can't be told from another one.
+/// Stores the group of a row with its marks sorted. Does nothing if the row's entry can't be told from another one.
 void sortGroup(Form& form, int row) {
     using enum store::Condition::Test;
     const Grid& grid = form.mfgTab;
@@ -59,8 +59,8 @@ void sortGroup(Form& form, int row) {
     const QString sorted = gruppoOrdinato(group);
     if (Trim(group).isEmpty() || uguale(sorted, Trim(group)))
         return;
-    // The group is compared here: as a condition it would draw the search to the index of the groups, which many
-    // entries share.
+    // The group is compared here and isn't part of the query. Otherwise the search would use the index of the groups,
+    // which many entries share.
     const QString places = LikeTesto(grid.cell(row, guidaLuogo)) + u'*';
     const QString description = LikeTesto(grid.cell(row, guidaDescrizione));
     form.archivio.RecordSetImposta(

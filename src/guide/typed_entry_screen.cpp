@@ -9,7 +9,7 @@ namespace vanzer {
 
 namespace {
 
-/// What is stored of a description.
+/// The form in which a description is stored.
 QString stored(const QString& description) {
     return PrimoMaiuscolo(Trim(description), false);
 }
@@ -18,7 +18,8 @@ bool entryRow(const Grid& grid, int row) {
     return tipoRigaGuida(grid.cell(row, guidaLuogo), grid.cell(row, guidaSegno)) == TipoRigaGuida::Voce;
 }
 
-/// Category and time that a row leaves empty stay in their fields as they were.
+/// Whether the fields show that row. A category or time that the row leaves empty isn't compared: its field kept an
+/// older value.
 bool shownInFields(const Form& form, int row) {
     const auto cell = [&form, row](ColonnaGuida column) { return form.mfgTab.cell(row, column); };
     const QString category = Trim(cell(guidaTipo));
@@ -40,7 +41,7 @@ bool voceDigitata(const Form& form) {
         return false;
     const QString place = RiPulisceNomeLocalita(grid.cell(marked, guidaLuogo));
     for (int row = 1; row < grid.rows(); ++row) {
-        // A list that was sorted anew has the entry in another row.
+        // a list that was sorted again has the entry in another row
         if (entryRow(grid, row) && RiPulisceNomeLocalita(grid.cell(row, guidaLuogo)) == place &&
             shownInFields(form, row))
             return false;

@@ -5,23 +5,23 @@
 
 namespace vanzer {
 
-/// The commands of the window.
+/// Explains the commands of the window.
 void cmdHelpGenerico_Click(Form& form);
-/// The method: from the data of a trip to its schedule.
+/// Explains the method, from the data of a trip to its schedule.
 void cmdHelpTotale1_Click(Form& form);
-/// The data of the destination.
+/// Explains the data of the destination.
 void cmdHelpTotale2_Click(Form& form);
-/// Day times and rests.
+/// Explains day times and rests.
 void cmdHelpTt_Click(Form& form);
-/// The fields of a leg.
+/// Explains the fields of a leg.
 void cmdHelpKm_Click(Form& form);
-/// The leg editor's buttons: 0 to 3 the lines of buttons, 4 the routes of other packages.
+/// Explains the leg editor's buttons: 0 to 3 are its lines of buttons, 4 is the routes of other packages.
 void cmdHelpItin_Click(Form& form, int index);
-/// Copying a stretch.
+/// Explains how to copy a stretch.
 void cmdHelpDuplica_Click(Form& form);
-/// Export and import.
+/// Explains export and import.
 void cmdHelpExport_Click(Form& form);
-/// The guide editor: 0 its buttons, 1 its fields.
+/// Explains the guide editor: 0 its buttons, 1 its fields.
 void cmdHelpGuida_Click(Form& form, int index);
 
 } // namespace vanzer

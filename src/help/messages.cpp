@@ -8,14 +8,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The text of a message box, from lines as they stand in this file.
+/// The text of a message box from lines in this file's format.
 QString righe(QStringView lines) {
     return lines.toString().replace(u'\n', "\r\n"_L1);
 }
 
 constexpr QStringView altriPulsanti = u"Per gli altri pulsanti, clicca su [?] sulla sinistra dei relativi comandi.";
 
-/// What the buttons of the leg editor do, one text for each line of buttons.
+/// What the buttons of the leg editor do. One text for each line of buttons.
 constexpr std::array<QStringView, 4> pulsantiTappa{
     uR"(INSERISCE TAPPA: memorizza la tappa alla riga selezionata (se già presente, sovrascrive);
 AGGIUNGE RIGA VUOTA: inserisce una riga vuota per l'inserimento di una tappa intermedia;

@@ -1,5 +1,5 @@
-// The texts of the help: fixed messages, one for each thing that a "?" button explains. Lines are parted by carriage
-// return and line feed; blanks at the beginning of a line put it under the text above.
+// The texts of the help: one message for each thing that a "?" button explains. Lines are separated by carriage return
+// and line feed. Blanks at the beginning of a line align it with the text above.
 #pragma once
 
 #include <QString>
@@ -8,15 +8,15 @@ namespace vanzer {
 
 /// What the commands of the window do.
 [[nodiscard]] QString aiutoComandi();
-/// How a schedule comes about, from the first data to the paper.
+/// How to make a schedule, from the first data to the printed page.
 [[nodiscard]] QString aiutoMetodo();
 /// The data of a destination.
 [[nodiscard]] QString aiutoDatiMeta();
-/// Day times, rests, and the defaults of them.
+/// Day times, rests, and their defaults.
 [[nodiscard]] QString aiutoTempiTecnici();
 /// The fields of a leg.
 [[nodiscard]] QString aiutoCampiTappa();
-/// The buttons of the leg editor in one of its lines, 0 to 3.
+/// The buttons in one line of the leg editor, 0 to 3.
 [[nodiscard]] QString aiutoPulsantiTappa(int line);
 /// Routes of other packages.
 [[nodiscard]] QString aiutoAltriPacchetti();

@@ -9,7 +9,7 @@ std::vector<RigaSorgente> copyStretch(const std::vector<RigaSorgente>& source, i
         return r >= 1 && r <= static_cast<int>(source.size()) ? source[static_cast<std::size_t>(r - 1)]
                                                               : RigaSorgente();
     };
-    // A number that somebody typed may be any; no itinerary has as many rows.
+    // A typed number may be huge. No itinerary has as many rows as this.
     constexpr int most = 10'000;
     from = std::clamp(from, -most, most);
     to = std::clamp(to, -most, most);

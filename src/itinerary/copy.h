@@ -1,4 +1,4 @@
-// A stretch of another destination's legs, copied in either direction.
+// Copying a stretch of another destination's legs, forward or backward.
 #pragma once
 
 #include <vector>
@@ -7,7 +7,7 @@
 
 namespace vanzer {
 
-/// A leg of the source as its cells have it; road, kilometres and type are those by which one arrives at the place.
+/// The cells of a leg of the source. Road, kilometres and type belong to the way that arrives at the place.
 struct RigaSorgente {
     QString luogo;
     QString strada;
@@ -18,18 +18,18 @@ struct RigaSorgente {
     friend bool operator==(const RigaSorgente&, const RigaSorgente&) = default;
 };
 
-/// The legs from row `from` to row `to` (from 1) in that direction. Going backward one reaches a place by the road of
-/// the row behind it. A row that the source lacks is empty; a stop comes without the mark of the end of the day.
+/// Copies the legs from row `from` to row `to`, counted from 1. Backward, a place is reached by the road of the row
+/// after it. A row that the source lacks is empty. Stops lose the mark of the end of the day.
 [[nodiscard]] std::vector<RigaSorgente> copyStretch(const std::vector<RigaSorgente>& source, int from, int to,
                                                     bool withStops);
 
-/// Rows from `prima` to `ultima` (from 1).
+/// Rows from `prima` to `ultima`, counted from 1.
 struct Blocco {
     int prima = 0;
     int ultima = 0;
 };
 
-/// What shows as chosen: from the first to the last leg, where these are assigned (else 0), and the row at hand.
+/// The rows to show as chosen. `prima` and `ultima` are the assigned ends, or 0; `riga` is the current row.
 [[nodiscard]] Blocco bloccoScelto(int prima, int ultima, int riga);
 
 } // namespace vanzer

@@ -19,7 +19,7 @@ constexpr int scegliMeta = 3;
 constexpr int scegliTappa = 4;
 constexpr int largoAccantoAllaCopia = 7950;
 constexpr int ultimaColonna = 6;
-/// Columns of the list while it holds destinations, and while it holds the legs of one.
+/// Columns of the list. It holds destinations first, then the legs of one of them.
 enum ColonnaMete { metaNumero, metaNome, metaNazione, metaCodice };
 enum ColonnaCopia { copiaNumero, copiaLuogo, copiaStrada, copiaKm, copiaTipo, copiaSosta };
 
@@ -32,7 +32,8 @@ store::Recordset legsOf(Form& form, const QString& code) {
                    u"Sequenza");
 }
 
-/// Of neighbours of one name the first is looked at; those without legs are left out.
+/// Lists the destinations. Of neighbours with the same name only the first is looked at. Those without legs are left
+/// out.
 void listDestinations(Form& form, store::Recordset& destinations) {
     Grid& list = form.mfgCopia;
     const SenzaRidisegno quiet(list);
@@ -53,7 +54,7 @@ void listDestinations(Form& form, store::Recordset& destinations) {
     list.setRows(row + 1);
 }
 
-/// cmdInsEsegui(0) needs both ends.
+/// Enables cmdInsEsegui(0) once both ends are chosen.
 void enableInsertion(Form& form) {
     form.cmdInsEsegui(0).setEnabled(!form.txtInsNum(0).text().isEmpty() && !form.txtInsNum(1).text().isEmpty());
 }
@@ -71,7 +72,7 @@ void listLegs(Form& form, const QString& code) {
     form.mfgCopia.setContents(std::move(rows));
 }
 
-/// Shows the stretch as it is chosen so far, with the row at hand in it.
+/// Shows the stretch chosen so far, including the current row.
 void SelezioneTappeDuplica(Form& form) {
     const auto number = [&form](int i) { return roundToInt(Val(form.txtInsNum(i).text())); };
     const Blocco chosen = bloccoScelto(number(0), number(1), form.stato.RigaCopia);
@@ -80,7 +81,7 @@ void SelezioneTappeDuplica(Form& form) {
     enableInsertion(form);
 }
 
-/// The destination in the row at hand becomes the source.
+/// Makes the destination in the current row the source.
 void RicercaDiUnaSingolaTappa(Form& form) {
     const Grid& list = form.mfgCopia;
     const int row = form.stato.RigaCopia;

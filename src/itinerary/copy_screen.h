@@ -1,20 +1,20 @@
-// Copying a stretch from another destination, in the window: the list of destinations, that of the legs of one of them,
-// and the panel with the stretch. Nothing reaches the archive before the user saves.
+// Copying a stretch from another destination, in the window. The user picks a destination, then its legs, then the ends
+// of the stretch. The archive doesn't change before the user saves.
 #pragma once
 
 #include "window/form.h"
 
 namespace vanzer {
 
-/// Offers the destinations that have legs.
+/// Lists the destinations that have legs.
 void cmdDuplica_Click(Form& form);
-/// A destination, then its legs: what a click means is told by ModoRicerca.
+/// A click on a destination or on a leg. ModoRicerca tells which of them the list holds.
 void mfgCopia_Click(Form& form);
-/// A leg that is marked by a key is the one at hand, as a clicked one is.
+/// A leg marked by key becomes the current one, like a clicked leg.
 void mfgCopia_Mark(Form& form);
-/// The leg at hand as the stretch's first (0) or last one (1).
+/// Makes the current leg the stretch's first (0) or last one (1).
 void cmdAssegna_Click(Form& form, int i);
-/// Inserts the stretch behind the current row (0), or gives up (1).
+/// Inserts the stretch after the current row (0), or cancels (1).
 void cmdInsEsegui_Click(Form& form, int i);
 
 } // namespace vanzer

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Running totals are typed only from here on; below it a distance and a total can't be told apart.
+/// Below so many running kilometres a typed number can't be told from a distance, so it isn't taken for a total.
 constexpr double sogliaProgressivi = 100;
 
 Rifiuto refusal(const TappaDigitata& typed, const QString& km, const QString& stop) {

@@ -1,4 +1,4 @@
-// The rules of the leg editor, apart from the window.
+// The rules of the leg editor that need no window.
 #pragma once
 
 #include <optional>
@@ -9,20 +9,20 @@ namespace vanzer {
 
 inline constexpr QStringView senzaSosta = u"00:00:00";
 
-/// The stop of a row taken apart.
+/// A row's stop in its parts.
 struct SostaConFine {
     QString durata; ///< gg:hh:mm
     bool fineGiornata = false;
 };
 [[nodiscard]] SostaConFine splitStop(const QString& cell);
 
-/// Index of a row's road type; none if the row has no such letter.
+/// Index of a row's road type. No value if the row has no road-type letter.
 [[nodiscard]] std::optional<int> tipoStrada(const QString& cell);
 
-/// Without every occurrence of the mark, case ignored, trimmed.
+/// The cell without any occurrence of the mark, case ignored. Trimmed.
 [[nodiscard]] QString senzaMarca(const QString& cell, QStringView mark);
 
-/// What the user typed for a row, and what stands above it.
+/// What the user typed for a row, and the total of the row above.
 struct TappaDigitata {
     int riga = 1;
     QString luogo;
@@ -34,12 +34,12 @@ struct TappaDigitata {
     bool primaMeta = false;
     bool ultimaMeta = false;
     double kmPrecedenti = 0;   ///< running kilometres of the row above
-    bool kmComeTotale = false; ///< kilometres above those are a running total
+    bool kmComeTotale = false; ///< above kmPrecedenti the typed kilometres are a running total
 };
 
 enum class Rifiuto {
     Nessuno,
-    KmTroppi, ///< above 999
+    KmTroppi, ///< above 999 km
     LuogoMancante,
     KmELuogo,       ///< both of these
     NienteDaSegnare ///< a later row without kilometres, stop, end of day or ferry
@@ -47,8 +47,8 @@ enum class Rifiuto {
 
 struct TappaControllata {
     Rifiuto rifiuto = Rifiuto::Nessuno;
-    QString km;          ///< as typed, or less what stands above where a running total was typed
-    bool totale = false; ///< such a one was typed
+    QString km;          ///< as typed; of a running total the difference from the row above
+    bool totale = false; ///< a running total was typed
     QString luogo;       ///< with its marks
     QString lettera;
     QString sosta; ///< the cell: empty for none, "*" in front for the end of the day
@@ -56,7 +56,7 @@ struct TappaControllata {
 
 [[nodiscard]] TappaControllata checkLeg(const TappaDigitata& typed);
 
-/// Whether running kilometres are typed behind a row that shows so many.
+/// Whether running kilometres are typed after a row that shows so many.
 [[nodiscard]] bool kmProgressivi(double kmPrecedenti);
 
 } // namespace vanzer

@@ -34,7 +34,7 @@ double kmAbove(const Form& form) {
     return ValoreSenzaPunti(form.mfgTab.cell(form.stato.RigaCorrente - 1, tappaKmProgressivi));
 }
 
-/// The table always ends in one empty row, and in no more than that beyond its least length.
+/// Makes the table end in exactly one empty row. It never becomes shorter than its least length.
 void tidyLength(Form& form) {
     Grid& grid = form.mfgTab;
     StatoFinestra& s = form.stato;
@@ -66,7 +66,7 @@ void showPlace(Form& form, const QString& cell) {
     form.txtTappa.setText(place.nome);
 }
 
-/// The options follow a row that has a road type; on any other the last choice stays.
+/// Selects the option of a row's road type. On a row without one the last choice stays.
 void showRoadType(Form& form, const QString& cell) {
     if (const auto type = tipoStrada(cell))
         form.optStrada(*type).setValue(true);
@@ -91,7 +91,7 @@ void showRow(Form& form) {
     showStop(form, grid.cell(row, tappaSosta));
 }
 
-/// Tells why a row is refused; true if it is.
+/// Tells the user why a row is refused. True if it is.
 bool refused(Form& form, Rifiuto reason) {
     const QString impossible = QStringLiteral("Impossibile:\n");
     if (reason == Rifiuto::KmTroppi || reason == Rifiuto::KmELuogo)
@@ -126,8 +126,8 @@ void writeRow(Form& form, const TappaControllata& row) {
     grid.setCell(r, tappaSosta, row.sosta);
 }
 
-/// Kilometres that stand in the field as the row has them are no total of anything. Before a user nor is a difference
-/// that was put there before the row was refused.
+/// False for kilometres that stand in the field as they stand in the row. Also false for a difference that was put into
+/// the field when the row was refused, if a user is at work.
 bool kmAreTotal(const Form& form) {
     const QString typed = Trim(form.txtKm.text());
     const QString own = Trim(form.mfgTab.cell(form.stato.RigaCorrente, tappaKm));
@@ -140,7 +140,7 @@ void reloadDestination(Form& form) {
     form.stato.RigaCorrente = 1;
 }
 
-/// Before a user the mark stays on the row at hand until what is typed for it is dealt with.
+/// If a user is at work, keeps the mark on the current row until the typed leg is stored or dropped.
 bool leavesRowFor(Form& form, int& row) {
     if (!form.interattiva || !form.leaveRow)
         return true;
@@ -323,7 +323,7 @@ void cmdCancella_Click(Form& form) {
         const SenzaRidisegno quiet(grid);
         const bool leftBlank = grid.shiftRows(form.stato.RigaCorrente + 1, grid.rows() - 1, -1);
         for (int r = form.stato.RigaCorrente; r <= grid.rows() - 2; ++r) {
-            // A row without a place has no number, one that has got a place has its own.
+            // only rows with a place have a number
             if (grid.cell(r, tappaLuogo).isEmpty())
                 grid.setCell(r, tappaNumero, {});
             else

@@ -1,42 +1,42 @@
-// The leg editor in the window: the fields always mirror the current row; nothing reaches the archive before a save.
+// The leg editor in the window. Its fields mirror the current row. The archive doesn't change before a save.
 #pragma once
 
 #include "window/form.h"
 
 namespace vanzer {
 
-/// The road type whose option is on: "A", "S", "P" or "L".
+/// The letter of the chosen road type: "A", "S", "P" or "L".
 [[nodiscard]] QString strTipoStrada(const Serie<OptionButton>& options);
 
-/// The road that the field shows of a row: one without a road takes on that of the row above.
+/// The road that the field shows for a row. A row without a road takes that of the row above.
 [[nodiscard]] QString stradaMostrata(const Grid& grid, int row);
-/// The stop in its fields, gg:hh:mm.
+/// The stop in the editor's fields, gg:hh:mm.
 [[nodiscard]] QString sostaDigitata(const Form& form);
 
-/// Enters the mode.
+/// Enters the mode in which legs are edited.
 void cmdItinerario_Click(Form& form);
-/// Brings the fields up to date and sets the buttons; opens the frame if that was asked for. Legs that a schedule had
-/// replaced come back first.
+/// Fills the fields, sets the buttons, and opens the frame if that was asked for. Legs that a schedule had replaced
+/// come back first.
 void AttivitaInserimentoItinerario(Form& form);
-/// The schedule makes room for the legs again: the destination can be changed, all commands are on.
+/// Gives up the schedule's state: the destination can be changed and all commands are enabled.
 void unlockLegs(Form& form);
-/// The legs that a schedule has replaced come back into the table, saved or not, with their totals.
+/// Puts the legs that a schedule had replaced back into the table, saved or not, with their totals.
 void RimetteTappe(Form& form);
 
-/// Tidies the table's length, refreshes the fields from the current row, sets the buttons that depend on it.
+/// Tidies the table's length, fills the fields from the current row, and sets the buttons that depend on it.
 void AggiornaNumeroRiga(Form& form);
-/// From the third row on, while the frame is open: whether typed kilometres above the running total of the row above
-/// are a running total themselves. On by itself where they can be, unless the user has switched it off.
+/// Sets the option that takes typed kilometres for a running total if they exceed the row above's total. It shows from
+/// the third row on while the frame is open. It is on wherever it applies, unless the user has switched it off.
 void showRunningKm(Form& form);
-/// The user's choice holds until the next one.
+/// Keeps the user's choice until the next one.
 void chkKm_Click(Form& form);
-/// After a change of row: all of the above.
+/// Does all of the above after a change of row.
 void AggiornaTabellaRigaCorrenteItinerario(Form& form);
 
 void cmdInserisce_Click(Form& form);
-/// Takes "[Start]" (0) or "[End]" (1) from every row.
+/// Removes "[Start]" (0) or "[End]" (1) from every row.
 void CancellaFlagStartEnd(Form& form, int which);
-/// Opens n blank rows at the current one.
+/// Inserts n blank rows at the current one.
 void InserisciRigheItinerario(Form& form, int n);
 void cmdAggiunge_Click(Form& form);
 void cmdCancella_Click(Form& form);

@@ -1,4 +1,4 @@
-// A pick in the list of places, which serves the leg editor and the guide alike.
+// A choice in the list of places, for the leg editor and the guide.
 #pragma once
 
 #include "window/form.h"

@@ -10,7 +10,7 @@ namespace vanzer {
 
 namespace {
 
-/// Moves the legs up over the rows without a place.
+/// Moves the legs up so that no row without a place lies between them.
 void packTable(Form& form) {
     Grid& grid = form.mfgTab;
     int& last = form.stato.NumeroTappe;

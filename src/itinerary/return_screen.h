@@ -5,7 +5,7 @@
 
 namespace vanzer {
 
-/// Packs the table and appends the way home to it; nothing is stored. The join becomes the current row.
+/// Packs the table and appends the way home. Nothing is stored. The row of the join becomes the current one.
 void cmdRitorno_Click(Form& form);
 
 } // namespace vanzer

@@ -26,7 +26,7 @@ QString luogoDiSvolta(const QString& place) {
 
 Ritorno ritornoAStart(const std::vector<QStringView>& places) {
     Ritorno home{joinRow(places), {}};
-    // The road between two places stands on the later one of the way out.
+    // The road between two places stands in the row of the later one.
     for (int r = home.riga - 1; r >= 1; --r)
         home.passi.push_back({.luogo = r, .strada = r + 1});
     return home;

@@ -8,7 +8,7 @@ namespace vanzer {
 
 namespace {
 
-/// Whoever types an end may name any row: one behind all tables then.
+/// The row that an end names. A typed number may be huge; the result is then a row after every table.
 int rowOf(const QString& end) {
     constexpr double behindAll = 999'999;
     return roundToInt(std::clamp(Val(end.section(u' ', 0, 0)), 0.0, behindAll));

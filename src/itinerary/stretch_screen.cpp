@@ -69,7 +69,7 @@ bool save(Form& form) {
     return true;
 }
 
-/// Asks for what was assigned; false if it was to be stored and can't be.
+/// Asks whether to store the assigned road types. False if they were to be stored and can't be.
 bool storeIfWanted(Form& form) {
     return !form.stato.MappaModifiche.contains(u'1') ||
            form.domanda(QStringLiteral("Vuoi salvare le modifiche apportate?"), QStringLiteral("Salvataggio dati"),
@@ -92,7 +92,7 @@ void showStretch(Form& form) {
         SelezioneGriglia(form, stretch.daRiga(), stretch.aRiga(), 0, 99);
 }
 
-/// A schedule that stands in the table makes room for the legs again; true when the table holds them.
+/// Puts the legs back into the table if a schedule is there. True if the table then holds the legs.
 bool legsInTable(Form& form) {
     if (form.stato.ModoGuida)
         return false;

@@ -13,13 +13,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype longestLine = 75; // bytes, the fold's blank among them
+constexpr qsizetype longestLine = 75; // bytes, including the blank that continues a folded line
 
 bool endsLine(QChar c) {
     return QStringView(u"\n\v\f\r\u0085\u2028\u2029").contains(c);
 }
 
-/// A property's text on one line: whatever ends a line becomes the mark for that, other controls are left out.
+/// A property's text on one line. Line ends are escaped, other control characters are left out.
 QString escaped(QString text) {
     text.replace(u"\r\n"_s, u"\n"_s).replace(u'\t', u' ');
     QString result;
@@ -34,7 +34,7 @@ QString escaped(QString text) {
     return result;
 }
 
-/// A line is folded between characters.
+/// Folds a long line. A fold never splits a character.
 QByteArray folded(const QString& line) {
     const QByteArray bytes = line.toUtf8();
     QByteArray result;
@@ -62,8 +62,8 @@ QString floating(const LineaDelTempo& line, double hundredths) {
 }
 
 struct Evento {
-    Attivita attivita; ///< a stop of several days from its first piece to its last
-    double spesa = 0;  ///< hundredths that it takes without the nights between
+    Attivita attivita; ///< a stop of several days lasts from its first piece to its last
+    double spesa = 0;  ///< hundredths of an hour without the nights between the pieces
 };
 
 std::vector<Evento> events(const LineaDelTempo& line) {

@@ -1,5 +1,5 @@
-// The trip as a calendar that other programs read: iCalendar (RFC 5545), times without a zone, since a traveller's
-// clock is the local one wherever the trip goes.
+// The trip as a calendar for other programs, in iCalendar format (RFC 5545). Times have no zone: a traveller's clock
+// shows local time wherever the trip goes.
 #pragma once
 
 #include <QByteArray>
@@ -10,9 +10,9 @@
 
 namespace vanzer {
 
-/// An event for each drive, each stop (one, if it lasts several days) and each night. An event keeps its identifier
-/// when hours or other legs change: it is made of the trip's name, the kind, the place or stop, and which of its kind
-/// there it is. `now` is when the file is made.
+/// Writes an event for each drive, each stop and each night. A stop of several days is one event. An event keeps its
+/// identifier when hours or other legs change: it consists of the trip's name, the kind, the place or stop, and a count
+/// of equal ones. `now` is the time when the file is made.
 [[nodiscard]] QByteArray calendario(const QString& trip, const LineaDelTempo& line, const QDateTime& now);
 
 } // namespace vanzer

@@ -10,7 +10,7 @@ bool isFigure(QChar c) {
     return (c >= u'0' && c <= u'9') || c == u'.' || c == u',' || c == u':';
 }
 
-/// A calculating program takes it for a formula. Numbers and hours with a sign are what they look like.
+/// Whether a spreadsheet would take the text for a formula. Numbers and hours with a sign are none.
 bool isFormula(QStringView text) {
     while (!text.isEmpty() &&
            (text.front() == u'\t' || text.front() == u'\r' || text.front() == u'\n' || text.front() == u' '))

@@ -7,8 +7,8 @@
 
 namespace vanzer {
 
-/// Rows 0 to `rows` - 1 with `columns` cells each; empty rows at the end are left out. A text that would run as a
-/// formula where the file is opened has an apostrophe in front.
+/// Writes rows 0 to `rows` - 1 with `columns` cells each. Empty rows at the end are left out. A text that a spreadsheet
+/// would run as a formula gets an apostrophe in front.
 [[nodiscard]] QByteArray valoriSeparati(int rows, int columns, const CellaViandoria& cell);
 
 } // namespace vanzer

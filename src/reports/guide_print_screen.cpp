@@ -23,7 +23,7 @@ store::Recordset& openGuide(Form& form, const std::vector<store::Condition>& whe
     return form.archivio.Rs(store::GuidaCitta);
 }
 
-/// Every place of the guide once.
+/// All places of the guide, each once.
 QStringList allPlaces(Form& form) {
     store::Recordset& records = openGuide(form, {}, {{localita}});
     const int field = records.campo(localita);
@@ -38,7 +38,7 @@ QStringList allPlaces(Form& form) {
     return places;
 }
 
-/// The places of the trip that the guide knows, numbered in the order of the route.
+/// The places of the trip that the guide has entries for, numbered in the order of the route.
 QStringList placesOfTrip(Form& form) {
     form.archivio.RecordSetImposta(0, store::Itinerari,
                                    {store::TabelleNomi(store::Itinerari),

@@ -8,9 +8,9 @@ using enum Posizione;
 
 namespace {
 
-constexpr double lastGuideLine = 280; ///< a row below it goes to the next page
-constexpr double leftEdge = 5;
-constexpr double rowSize = 8; ///< points
+constexpr double lastGuideLine = 280; ///< mm; a row below it goes to the next page
+constexpr double leftEdge = 5;        ///< mm
+constexpr double rowSize = 8;         ///< points
 
 using Headings = std::array<const char16_t*, 5>;
 constexpr Headings nameHeadings{u"Località", u"Località", u"Località", u"Località", u"Località"};
@@ -22,6 +22,7 @@ ReportGuida::ReportGuida(Foglio& sheet, DettaglioGuida detail, QString title, co
     : sheet_(sheet), detail_(detail), title_(std::move(title)), foot_(foot), x_(edgesOf(detail)) {}
 
 ReportGuida::Edges ReportGuida::edgesOf(DettaglioGuida detail) {
+    // mm
     static constexpr std::array<double, columns> entryWidths{40, 15, 15, 110, 15};
     constexpr double nameWidth = 38;
     Edges edges{leftEdge};

@@ -1,4 +1,4 @@
-// The guide on paper: the names of its places, five to a line, or every entry in a row of its own.
+// The guide on paper: the names of its places, five in a row, or every entry in a row of its own.
 #pragma once
 
 #include <array>
@@ -11,7 +11,7 @@ namespace vanzer {
 
 enum class DettaglioGuida { Nomi, Voci };
 
-/// An entry as it is printed.
+/// The printed texts of an entry.
 struct VoceStampata {
     QString localita;
     QString categoria;
@@ -24,9 +24,9 @@ class ReportGuida {
   public:
     ReportGuida(Foglio& sheet, DettaglioGuida detail, QString title, const Piede& foot);
 
-    /// A name in the next place of its line, or an entry in its row; a page begins where one is needed.
+    /// Prints the next name of a row, or an entry in a row of its own. Begins a page where needed.
     void StampaRigaGuidaCitta(const VoceStampata& entry);
-    /// Ends a line of names that isn't full, and the page; false if nothing was printed.
+    /// Ends the page, and a row of names that isn't full. False if nothing was printed.
     bool chiude();
 
   private:
@@ -44,8 +44,8 @@ class ReportGuida {
     QString title_;
     Piede foot_;
     Edges x_;
-    double y_ = nessunaPagina; ///< bottom of the row at hand
-    double top_ = 0;           ///< of the table on this page
+    double y_ = nessunaPagina; ///< bottom of the current row, mm
+    double top_ = 0;           ///< top of the table on this page, mm
     std::size_t nextName_ = 0; ///< column of the next name
 };
 

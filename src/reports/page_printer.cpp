@@ -61,7 +61,7 @@ void PagePrinter::box(Punto from, Punto to, int width, std::optional<quint32> fi
     draw(paper::DrawnBox{from, to, width * penStep, fill});
 }
 
-/// Both pictures are the product's sign.
+/// Draws the product's sign, for either picture.
 void PagePrinter::picture(Immagine /*picture*/, Punto at, Punto size) {
     draw(paper::DrawnSign{at, size});
 }
@@ -81,7 +81,7 @@ bool PagePrinter::endDoc() {
     orDrop([this, &sent] {
         if (output_ == nullptr)
             return;
-        if (!drawn_.empty() || page_ == 1) // no blank sheet at the end
+        if (!drawn_.empty() || page_ == 1) // leaves out a blank last page
             output_->write(std::exchange(drawn_, {}));
         sent = output_->finish();
         if (sent)

@@ -1,4 +1,4 @@
-// What printers that draw have in common: texts in the paper's fonts, and a page that goes off when the next one
+// The common part of printers that draw pages. It sets texts in the paper's fonts, and sends a page when the next one
 // begins.
 #pragma once
 
@@ -12,19 +12,19 @@
 
 namespace vanzer {
 
-/// Where the pages of a document go, one after the other. Whatever fails throws PrinterError with the name of the file
-/// or printer. One that is let go before its end leaves no file, and an older file as it was.
+/// The target for the pages of a document, one after the other. Every failure throws PrinterError with the name of the
+/// file or printer. If the object is destroyed before finish(), no file is written and an older one stays as it was.
 class PageOutput {
   public:
     virtual ~PageOutput() = default;
     virtual void write(paper::Page page) = 0;
-    /// After the last page. False if the user gave the document up instead.
+    /// Ends the document after its last page. False if the user cancelled it instead.
     virtual bool finish() = 0;
-    /// The file that the document goes into; none for paper.
+    /// The files that the document goes into. Empty for paper.
     [[nodiscard]] virtual QStringList files() const { return {}; }
 };
 
-/// A PDF, written aside; it takes the file's place at the end. `fonts` lives as long.
+/// Writes a PDF. It is written beside the file and replaces it at the end. `fonts` must outlive the result.
 [[nodiscard]] std::unique_ptr<PageOutput> pdfOutput(const QString& path, paper::Fonts& fonts, const QDateTime& now);
 
 class PagePrinter : public Printer {
@@ -51,12 +51,12 @@ class PagePrinter : public Printer {
     [[nodiscard]] QStringList madeFiles() const override { return madeFiles_; }
 
   protected:
-    /// Where the document that begins is to go; null if the user doesn't want it after all.
+    /// Opens the target of a new document. Null if the user cancels it.
     [[nodiscard]] virtual std::unique_ptr<PageOutput> begin() = 0;
     [[nodiscard]] paper::Fonts& fonts() { return fonts_; }
 
   private:
-    /// Throws what `step` throws, with the document dropped.
+    /// Runs `step`. If it throws, drops the document and throws again.
     template<typename Step> void orDrop(Step step);
     [[nodiscard]] const paper::Font& font() const;
     void beginOnce();
@@ -64,11 +64,11 @@ class PagePrinter : public Printer {
 
     mutable paper::Fonts fonts_;
     QString wantedFont_;
-    mutable paper::Font font_; ///< its family is looked up when it is needed
+    mutable paper::Font font_; ///< the family is looked up on demand
 
-    // The document that is being drawn.
+    // the current document
     int page_ = 0;
-    std::unique_ptr<PageOutput> output_; ///< null: unwanted
+    std::unique_ptr<PageOutput> output_; ///< null if the user cancelled it
     paper::Page drawn_;
 
     QStringList madeFiles_;

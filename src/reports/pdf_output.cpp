@@ -45,7 +45,7 @@ class PdfOutput : public PageOutput {
     }
 
     QSaveFile file_;
-    std::unique_ptr<paper::Pdf> pdf_; ///< ends before its file goes
+    std::unique_ptr<paper::Pdf> pdf_; ///< declared last, so that it is destroyed before its file
 };
 
 } // namespace

@@ -1,4 +1,4 @@
-// A print while it runs: the printer with its sheet, the user's wish to stop, and what failed on the way.
+// A print while it runs: its printer and sheet, the user's wish to stop, and failures.
 #pragma once
 
 #include <QStringList>
@@ -19,7 +19,7 @@ class CorsaDiStampa {
     /// Today's date and the window's caption.
     [[nodiscard]] Piede piede() const;
 
-    /// Carries out a step of the drawing, unless one before it has failed. A step that fails ends the print.
+    /// Runs a step of the drawing, unless an earlier one has failed. A step that fails ends the print.
     template<typename Step> void step(const Step& step) {
         if (failed_)
             return;
@@ -29,20 +29,20 @@ class CorsaDiStampa {
             fallita(error.testo);
         }
     }
-    /// Keeps what failed, for the message at the end, and ends the print.
+    /// Ends the print, and keeps the reason for the message at the end.
     void fallita(const QString& reason);
-    /// Kept for the message at the end; the print goes on.
+    /// Keeps a missing part for the message at the end. The print goes on.
     void isMissing(const QString& what);
 
-    /// A step has failed, or the user wants no more.
+    /// Whether a step has failed or the user has stopped the print.
     [[nodiscard]] bool finita() const { return failed_ || form_.stato.InterrompiStampa; }
-    /// Sends the document; one that the user gave up is dropped.
+    /// Sends the document, or drops it if the user stopped the print.
     void fineDocumento();
-    /// The user didn't want the document after all.
+    /// Whether the user cancelled the document when asked for its file.
     [[nodiscard]] bool rinunciata() const { return unwanted_; }
     /// The files that the documents went into.
     [[nodiscard]] const QStringList& fileFatti() const { return files_; }
-    /// Tells what is missing of the print, if anything is.
+    /// Tells the user what is missing in the print, if anything.
     void tellLost();
 
   private:

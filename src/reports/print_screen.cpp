@@ -13,7 +13,7 @@ namespace {
 
 constexpr int reportViandoria = 1;
 constexpr int reportGuida = 2;
-constexpr int sinistraStampanti = 5300;
+constexpr int sinistraStampanti = 5300; // twips
 
 void offerPrinters(Form& form, int report) {
     form.stato.TipoStampa = report;

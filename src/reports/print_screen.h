@@ -5,20 +5,20 @@
 
 namespace vanzer {
 
-/// The options of a print of the schedule, which is calculated first if there is none.
+/// Shows the options for printing the schedule. Calculates the schedule first if there is none.
 void cmdStampa_Click(Form& form);
 void CmdEsegui_Click(Form& form, int index);
 
-/// The options of a print of the guide.
+/// Shows the options for printing the guide.
 void cmdStampaGuidaCitta_Click(Form& form);
 void cmdStampaGuida_Click(Form& form, int index);
 
-/// Offers the printers.
+/// Shows the list of printers.
 void VisualizzaListaStampanti(Form& form);
-/// Prints on the chosen printer, or gives up.
+/// Prints on the chosen printer, or cancels.
 void cmdSelStampante_Click(Form& form, int index);
 
-/// Asks whether the print that is running is to be given up.
+/// Asks the user whether to stop the running print.
 void askToInterruptPrint(Form& form);
 
 } // namespace vanzer

@@ -11,7 +11,7 @@ namespace vanzer {
 
 namespace {
 
-/// Columns of the table that the user sees.
+/// The columns that the user sees.
 constexpr int shownColumns = 13;
 
 struct Formato {

@@ -1,4 +1,4 @@
-// The schedule for other programs: calendar and table.
+// Files of the schedule for other programs: calendar and table.
 #pragma once
 
 #include "window/form.h"
@@ -7,11 +7,11 @@ namespace vanzer {
 
 enum class FormatoViandoria { Calendario, Tabella };
 
-/// Writes the schedule of the table to a file; the result is the reason of a failure, empty when all went well. There
-/// must be a schedule.
+/// Writes the schedule in the table to a file. There must be a schedule. Returns the reason of a failure, or an empty
+/// text.
 [[nodiscard]] QString writeSchedule(const Form& form, FormatoViandoria format, const QString& path);
 
-/// Ask for the file and write it.
+/// Asks for the file and writes it.
 void cmdCalendario_Click(Form& form);
 void cmdFoglio_Click(Form& form);
 

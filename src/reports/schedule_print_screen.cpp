@@ -113,7 +113,7 @@ class StampaItinerario {
             run_.step([this] { report_.frontespizioViandoria(); });
     }
 
-    /// The table gets all rows, even if the pages end early.
+    /// Prints all rows. The table file gets them all, even if the pages end early.
     void rows() {
         const int last = form_.mfgTab.rows() - 1;
         for (int r = 1; r <= last; ++r) {
@@ -191,7 +191,7 @@ class StampaItinerario {
     CellaViandoria cell_;
     ReportViandoria report_;
     QStringList table_;
-    int page_ = -1; ///< that the text below names
+    int page_ = -1; ///< the page number in pageText_
     QString pageText_;
 };
 

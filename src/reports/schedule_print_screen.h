@@ -7,7 +7,7 @@ namespace vanzer {
 
 inline constexpr QStringView fileTabella = u"Vanztabl.txt";
 
-/// A file of the program's directory, as paths are shown on this platform.
+/// The full path of a file in the program's directory, as this platform shows paths.
 [[nodiscard]] QString percorsoMostrato(const Form& form, QStringView file);
 
 void StampaDellItinerario(Form& form);

@@ -13,7 +13,7 @@ using enum Posizione;
 
 namespace {
 
-constexpr double lastScheduleLine = 285; ///< a row below it goes to the next page
+constexpr double lastScheduleLine = 285; ///< mm; a row below it goes to the next page
 constexpr int printedColumns = 13;
 
 struct Colonna {
@@ -22,8 +22,8 @@ struct Colonna {
     Posizione headAt;
     Posizione cellAt;
 };
-constexpr double firstEdge = 12;
-constexpr double lastEdge = 200;
+constexpr double firstEdge = 12; ///< mm
+constexpr double lastEdge = 200; ///< mm
 constexpr std::array<Colonna, printedColumns> columns{{{u"N.", 6, Centro, Destra},
                                                        {u"Località", 48, Sinistra, Sinistra},
                                                        {u"Num.Strada", 18, Centro, Centro},
@@ -37,7 +37,7 @@ constexpr std::array<Colonna, printedColumns> columns{{{u"N.", 6, Centro, Destra
                                                        {u"Data", 8, Centro, Centro},
                                                        {u"Ora", 8, Sinistra, Centro},
                                                        {u"Note", 20, Sinistra, Sinistra}}};
-/// Printed columns, from 1.
+/// Numbers of printed columns, from 1.
 constexpr std::size_t colLuogo = 2;
 constexpr std::size_t colVia = 3;
 constexpr std::size_t colItinerario = 8;
@@ -46,7 +46,7 @@ constexpr std::size_t colNota = 13;
 constexpr std::size_t oltreNota = 14;  ///< right edge of the table
 constexpr std::size_t dentroNota = 15; ///< where the second part of a note begins
 
-/// Left edges of the columns, from 1; behind them the right edge of the table and the working edge of the notes.
+/// Left edges of the columns in mm, from 1. The right edge of the table and the working edge of the notes follow.
 constexpr std::array<double, 17> baseEdges = [] {
     std::array<double, 17> edges{};
     edges[1] = firstEdge;
@@ -57,7 +57,7 @@ constexpr std::array<double, 17> baseEdges = [] {
     return edges;
 }();
 
-/// Edges are whole millimetres.
+/// Moves an edge to a whole millimetre.
 void move(double& edge, double to) {
     edge = roundToInt(to);
 }
@@ -83,14 +83,14 @@ QString clockText(const DatiViandoria::Orologio& clock) {
     return clock.ore + u':' + clock.minuti;
 }
 
-/// Digits, points and commas, with a sign in front or not.
+/// Whether a text has only digits, points and commas, with or without a sign in front.
 bool isNumber(const QString& text) {
     const QStringView digits = QStringView(text).mid(text.startsWith(u'-') || text.startsWith(u'+') ? 1 : 0);
     const auto belongs = [](QChar c) { return (c >= u'0' && c <= u'9') || c == u'.' || c == u','; };
     return std::ranges::all_of(digits, belongs) && std::ranges::any_of(digits, [](QChar c) { return c.isDigit(); });
 }
 
-/// A cell that opens a stop: ">" among its first two characters, blanks left out.
+/// Whether a cell opens a stop: ">" is the first character, or the second after a blank.
 bool opensStop(const QString& cell) {
     return Trim(Left(cell, 2)).startsWith(u'>');
 }
@@ -100,7 +100,7 @@ QString without(QString text, QStringView marks) {
     return text;
 }
 
-/// The word that begins with "(Tr" goes.
+/// The text without the word that begins with "(Tr".
 QString withoutFerry(const QString& text) {
     const int word = posizione(text, u"(Tr");
     if (word == 0)
@@ -114,8 +114,8 @@ struct DueRighe {
     QString sotto;
 };
 
-/// A road on two lines: split at the first blank in its second half, else at the last one in the first half, else in
-/// the middle.
+/// A road on two lines. It is split at the first blank in its second half, else at the last blank in its first half,
+/// else in the middle.
 DueRighe splitRoad(const QString& text) {
     const qsizetype half = (text.size() + 1) / 2;
     qsizetype blank = text.indexOf(u' ', half - 1);
@@ -147,12 +147,12 @@ void ReportViandoria::frontespizioViandoria() {
 
 namespace {
 
-constexpr double titleSize = 48;
+constexpr double titleSize = 48; ///< points
 
-/// The trip's name on one to three lines: a number at its end goes to a line of its own, a name that is too wide is
+/// The trip's name on one to three lines. A number at its end gets a line of its own, and a name that is too wide is
 /// halved.
 std::vector<QString> titleLines(Foglio& sheet, const QString& name) {
-    constexpr double widest = 180;
+    constexpr double widest = 180; // mm
     std::vector<QString> lines{name};
     const qsizetype blank = name.lastIndexOf(u' ');
     if (blank >= 0 && isNumber(Trim(name.mid(blank))))
@@ -174,6 +174,7 @@ std::vector<QString> titleLines(Foglio& sheet, const QString& name) {
 } // namespace
 
 void ReportViandoria::cover(const std::vector<QString>& titles) {
+    // mm
     constexpr double height = 280;
     constexpr double left = 16;
     constexpr double right = 195;
@@ -347,7 +348,7 @@ void ReportViandoria::rests(double y) {
 
 void ReportViandoria::StampaRiga(int row) {
     Edges x = baseEdges;
-    std::size_t firstFilled = colItinerario; // separators stand from here on in any case
+    std::size_t firstFilled = colItinerario; // from this column on, separators are drawn in any case
     for (std::size_t j = 1; j <= printedColumns; ++j) {
         const int column = static_cast<int>(j);
         if (!Trim(QStringView(cell_(row, column - 1))).isEmpty()) {
@@ -381,7 +382,8 @@ void ReportViandoria::cell(int row, int column, Edges& x) {
     text(s, y_, x[j], j == colLuogo ? x[colItinerario] : x[j + 1], style);
 }
 
-/// The group of an entry stands at the right of the row; a place that opens a run of stops is in bold capitals.
+/// Prints a name. The group of an entry stands at the right of the row. A place that opens a run of stops is in bold
+/// capitals.
 QString ReportViandoria::name(int row, QString s, Edges& x, bool& heavy) {
     const int column = colTappa;
     const qsizetype star = s.indexOf(u'*');
@@ -400,6 +402,7 @@ QString ReportViandoria::name(int row, QString s, Edges& x, bool& heavy) {
 }
 
 void ReportViandoria::road(const QString& s, Edges& x) {
+    // points
     constexpr double step = 0.3;
     constexpr double smallestOneLine = 7;
     constexpr double twoLines = 6.5;

@@ -1,4 +1,4 @@
-// The schedule on paper: covers, the heads of the pages with the trip's data on the first one, and the rows.
+// The schedule on paper: covers, page heads, and rows. The first page's head has the trip's data.
 #pragma once
 
 #include <array>
@@ -11,7 +11,7 @@
 
 namespace vanzer {
 
-/// The trip as the window shows it. Dates and clocks come in their parts.
+/// The texts of the trip as the window shows them. Dates and clocks are split into their parts.
 struct DatiViandoria {
     struct Orologio {
         QString ore;
@@ -20,12 +20,12 @@ struct DatiViandoria {
     struct Strada {
         QString nome;
         QString media; ///< km/h
-        QString km;    ///< with points; 0 or empty for none
+        QString km;    ///< with thousands points; 0 or empty for none
         QString tempo;
     };
     QString localita;
     QString nazione;
-    QString giornoInizio; ///< of the week
+    QString giornoInizio; ///< day of the week
     std::array<QString, 3> inizio;
     Orologio oraInizio;
     QString giornoFine;
@@ -36,25 +36,25 @@ struct DatiViandoria {
     std::array<Strada, 4> strade;
     QString traghetti;
     std::array<Orologio, 8>
-        orari;     ///< breakfast, lunch, dinner, night, length of lunch, of dinner, start and end of visits
-    QString range; ///< minutes
-    QString riposoMinuti;
+        orari;            ///< breakfast, lunch, dinner, night, length of lunch, of dinner, start and end of visits
+    QString range;        ///< minutes
+    QString riposoMinuti; ///< minutes
     QString riposoOre;
     QString riposoGiorni;
     QString riposoDopoGiorni;
 };
 
-/// Which titles the general cover bears.
+/// Which titles the general cover shows.
 using VociFrontespizio = std::array<bool, 4>;
 
 class ReportViandoria {
   public:
-    /// `cell` gives an empty text beyond the schedule's end.
+    /// `cell` returns an empty text beyond the end of the schedule.
     ReportViandoria(Foglio& sheet, const DatiViandoria& trip, const Piede& foot, CellaViandoria cell);
 
     void frontespizioGenerale(const VociFrontespizio& titles);
     void frontespizioViandoria();
-    /// A page begins where the row needs one; the first row's has the trip's data.
+    /// Begins a page if the row needs one. The head of the first row's page has the trip's data.
     void preparePage(int row);
     void StampaRiga(int row);
     void finePagina();
@@ -82,8 +82,8 @@ class ReportViandoria {
     const DatiViandoria& trip_;
     Piede foot_;
     CellaViandoria cell_;
-    double y_ = nessunaPagina; ///< bottom of the row at hand
-    double top_ = 0;           ///< of the table on this page
+    double y_ = nessunaPagina; ///< bottom of the current row, mm
+    double top_ = 0;           ///< top of the table on this page, mm
 };
 
 } // namespace vanzer

@@ -6,9 +6,9 @@ namespace vanzer {
 
 namespace {
 
-constexpr double smallest = 6; ///< points: what is below isn't shrunk further
-constexpr double shrinking = 0.33;
-constexpr double beside = 1; ///< mm that a text is to leave free in its box
+constexpr double smallest = 6;     ///< points; a smaller text isn't shrunk further
+constexpr double shrinking = 0.33; ///< points of each step
+constexpr double beside = 1;       ///< mm that stay free beside a text in its box
 
 const QString condensed = QStringLiteral("Agency FB");
 const QString serif = QStringLiteral("Times new roman");
@@ -74,7 +74,7 @@ void Foglio::immagine(Immagine picture, double x, double y, double size) {
 
 void StampaFinePagina(Foglio& sheet, const Piede& foot, double y, double top, double left, double dateRight,
                       double right) {
-    constexpr double noPage = 800;
+    constexpr double noPage = 800; // mm; far below the sheet
     if (y >= noPage)
         return;
     const Stile small{.dimensione = 6, .corsivo = true};

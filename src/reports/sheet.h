@@ -1,5 +1,5 @@
-// The sheet that a report draws on: text fitted into boxes, lines and boxes with the pen and the fill of the moment,
-// the table's frame at the foot. Everything in mm from the top left corner.
+// The sheet that a report draws on. It fits texts into boxes, draws lines and boxes with the current pen and fill, and
+// frames the table at the end of a page. All lengths are mm from the top left corner.
 #pragma once
 
 #include <array>
@@ -10,7 +10,7 @@
 
 namespace vanzer {
 
-/// Where a text stands between its two edges.
+/// Position of a text between its two edges.
 enum class Posizione { Sinistra, Centro, Destra };
 
 struct Stile {
@@ -20,28 +20,28 @@ struct Stile {
     Posizione posizione = Posizione::Sinistra;
 };
 
-/// Height of a row.
+/// Height of a row, mm.
 inline constexpr double interlinea = 4.5;
-/// Where the next row would stand while no page was begun.
+/// The position of the next row, mm, before a page has begun.
 inline constexpr double nessunaPagina = 900;
 
 class Foglio {
   public:
     explicit Foglio(Printer& printer) : printer_(printer) {}
 
-    /// A4, portrait, mm, the report's font, a thin pen and no fill.
+    /// Sets A4 portrait, mm, the reports' font, a thin pen and no fill.
     void setUp();
-    /// The condensed font of the reports, or the other one where it is missing.
+    /// Sets the condensed font of the reports, or the serif font if that is missing.
     void SettaFontNamePrinter();
 
-    /// Draws a text above the line `y`, shrunk until it fits between the edges or is smaller than 6 points. A text of
-    /// blanks draws nothing and leaves the font as it was.
+    /// Draws a text above the line `y`. Shrinks it until it fits between the edges or is smaller than 6 points. A blank
+    /// text draws nothing and doesn't change the font.
     void StampaTesto(const QString& text, double y, double left, double right, const Stile& style);
-    /// Width of a text as it would be drawn, not shrunk.
+    /// Width of a text in mm, not shrunk.
     [[nodiscard]] double larghezza(const QString& text, const Stile& style);
 
     void penna(int steps) { pen_ = steps; }
-    /// Nothing leaves boxes open.
+    /// Sets the fill of boxes. No value draws only their outline.
     void fill(std::optional<quint32> colour) { fill_ = colour; }
     void linea(double x1, double y1, double x2, double y2);
     void riquadro(double x1, double y1, double x2, double y2);
@@ -58,17 +58,18 @@ class Foglio {
     std::optional<quint32> fill_;
 };
 
-/// Light green of the headings.
+/// The light green of the headings.
 inline constexpr quint32 verdeChiaro = 0xC0FFC0;
 
-/// What the foot of a page tells.
+/// The texts at the foot of a page.
 struct Piede {
     QString data;     ///< today, dd/mm/yyyy
     QString finestra; ///< the window's caption
 };
 
-/// Date, caption and the frame of the table, and the next sheet; nothing while no page was begun. The table reaches
-/// from `top` to the row above `y`, its columns from `left` to `right`; the date has room up to `dateRight`.
+/// Ends a page: prints date and caption, frames the table, begins the next sheet. Does nothing before a page has begun.
+/// The table reaches from `top` to the row above `y`, and from `left` to `right`. The date may reach to `dateRight`.
+/// All in mm.
 void StampaFinePagina(Foglio& sheet, const Piede& foot, double y, double top, double left, double dateRight,
                       double right);
 

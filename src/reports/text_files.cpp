@@ -10,7 +10,7 @@ namespace {
 constexpr int cellsOfLine = 11;
 const QString tab = QStringLiteral("\t");
 
-/// Rows that are no places: stops, breaks, and whatever begins with one of these characters.
+/// Whether a row names no place: a stop, a break, or a text that begins with one of these characters.
 bool passedOver(const QString& place) {
     static constexpr QStringView noPlaces = u">\\aA*";
     return place.isEmpty() || noPlaces.contains(place.front()) || beginsWith(place, u"verso");
@@ -22,7 +22,7 @@ QString withoutDirections(QString place) {
     return place;
 }
 
-/// The first of the rows of totals; `rows` if there are none.
+/// The first row of totals. `rows` if there are none.
 int firstTotal(int rows, const CellaViandoria& cell) {
     for (int r = 1; r < rows; ++r) {
         if (cell(r, colNumero).isEmpty() && cell(r, colTappa) == titoloTotali)

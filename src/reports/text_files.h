@@ -1,5 +1,5 @@
-// The text files of a print: the schedule as a table, the list of places by nation, and the line that starts the
-// program of the logbook forms. Lines without their ends.
+// The text files of a print: the schedule as a table, the list of places by nation, and the command line for the
+// program of the logbook forms. The lines have no line ends.
 #pragma once
 
 #include <array>
@@ -15,16 +15,16 @@ using CellaViandoria = std::function<const QString&(int row, int column)>;
 
 /// The first three lines of "Vanztabl.txt".
 [[nodiscard]] QStringList intestazioneTabella(const QString& trip);
-/// The line of a row: each cell closed by a tab.
+/// A row as a line. A tab follows each cell.
 [[nodiscard]] QString rigaTabella(int row, const CellaViandoria& cell);
 
-/// "ListaLocalita.txt": nation and place of each leg. A leg that enters a nation names the nation of those behind it.
+/// The lines of "ListaLocalita.txt": nation and place of each leg. The nation is the last one that a leg has entered.
 [[nodiscard]] QStringList listaLocalita(int rows, const CellaViandoria& cell);
 
 /// The trip for the logbook forms: name, first and last day.
 [[nodiscard]] QString viaggioPerModuli(const QString& trip, const std::array<QString, 3>& first,
                                        const std::array<QString, 3>& last);
-/// The line of "CommandLine.txt"; the directory has no separator at its end.
+/// The line of "CommandLine.txt". `directory` has no separator at its end.
 [[nodiscard]] QString comandoModuli(const QString& directory, const QString& trip);
 
 } // namespace vanzer

@@ -13,7 +13,7 @@ using enum Posizione;
 
 namespace {
 
-// mm
+// all in mm
 constexpr double left = 12;
 constexpr double right = 200;
 constexpr double firstHour = 32;
@@ -25,7 +25,7 @@ constexpr double top = 36;
 constexpr double bottom = 284;
 constexpr double highestRow = 10;
 constexpr double lowestRow = 2.5;
-constexpr double air = 0.12; ///< of a row's height, above its bars and below
+constexpr double air = 0.12; ///< part of a row's height that stays free above its bars, and below
 
 constexpr double leastSize = 6; // points
 constexpr int shortestName = 3; // letters
@@ -125,11 +125,11 @@ class Pagina {
     }
 
     void inTheMiddle(const QString& text, double y, double from, double to, double size) {
-        constexpr double leftwards = 1; // of the middle, where the sheet centres the cells of its tables
+        constexpr double leftwards = 1; // mm left of the middle, where the sheet centres the cells of its tables
         sheet_.StampaTesto(text, y, from + leftwards, to + leftwards, {.dimensione = size, .posizione = Centro});
     }
 
-    /// As much of a name as fits; nothing where that says nothing.
+    /// The name, shortened until it fits. Empty if too few letters would remain.
     QString shortened(const QString& name, double width) {
         constexpr double margin = 1.5;
         const auto fits = [this, width](const QString& text) {

@@ -1,4 +1,4 @@
-// The line of time on paper: a row for each day of the trip, on one page as long as its days can be told apart there.
+// The line of time on paper, with a row for each day. Days share a page as long as their rows are high enough to read.
 #pragma once
 
 #include "reports/sheet.h"
@@ -6,7 +6,7 @@
 
 namespace vanzer {
 
-/// Draws on the page at hand; a trip of more days goes on over the next ones.
+/// Draws on the current page. A trip of more days continues on the next pages.
 void printTimeLine(Foglio& sheet, const QString& trip, const LineaDelTempo& line, const Piede& foot);
 
 } // namespace vanzer

@@ -83,7 +83,7 @@ void showPanel(Form& form, const PannelloViandoria& panel) {
     form.txtFine(5).setText(GiornoSettimana(Gma2Data(date)));
 }
 
-/// What the rows take from the kept legs and the window.
+/// The texts of the kept legs and of the window that the rows need.
 TestiViandoria rowTexts(const Form& form) {
     const TestiTabella& legs = *form.tappeConservate;
     return {
@@ -94,7 +94,7 @@ TestiViandoria rowTexts(const Form& form) {
     };
 }
 
-/// The table as the last test leaves it, closed and tidied.
+/// Shows the table after the last test, with its closing rows.
 void showSchedule(Form& form) {
     const ViandoriaMostrata& shown = *form.viandoria;
     Grid& grid = form.mfgTab;
@@ -115,7 +115,7 @@ void tellResult(Form& form, ScopoCalcolo purpose) {
     form.messaggio(text, QStringLiteral("Calcolo viandoria"), Icona::Informazione);
 }
 
-/// The half-built schedule goes; the editor's unsaved legs come back, else the stored ones.
+/// Drops the unfinished schedule. The editor's unsaved legs come back, or else the stored ones.
 void abandon(Form& form) {
     if (form.stato.TornaAlleTappe) {
         AttivitaInserimentoItinerario(form);
@@ -139,7 +139,7 @@ class Calcolo {
         AbilitaPulsantiMeta(form_, pulsanti::soloStop);
     }
 
-    /// The tests, until one fits or they are used up; false if the user stopped them.
+    /// Runs the tests until one fits or none is left. False if the user stopped them.
     bool prove() {
         Adeguamento search(fittingData());
         VistaCrescente view(form_, prepared_->righe, rowTexts(form_));
@@ -207,7 +207,7 @@ class Calcolo {
         view.nuovaProva();
         showProgressText(form_);
         s_.PercentualeTotale = static_cast<double>(prepared_->righe.size());
-        // Looks up from its work some two hundred times: often enough for the eye, and for "&Stop".
+        // Looks at the window about two hundred times. That is often enough for the eye, and for "&Stop".
         const int step = Maggiore(static_cast<int>(prepared_->righe.size()) / 200, 1);
         const auto looksUp = [this, &view, step, next = 1](int row, const Viandoria& soFar) mutable {
             if (s_.InterrompiCalcolo || row < next)

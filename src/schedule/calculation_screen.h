@@ -6,15 +6,15 @@
 
 namespace vanzer {
 
-/// Calculates, or gives up a finished schedule, by the caption of the button.
+/// Calculates a schedule, or gives up a finished one. The caption of the button tells which.
 void cmdCalcola_Click(Form& form);
 /// Calculates from the leg editor.
 void cmdRicalcola_Click(Form& form);
-/// What a schedule is calculated for: to be looked at, with what came of a wanted number of days, or to be printed.
+/// What a schedule is calculated for. Vista tells the user how the fitting to the wanted days ended; Stampa prints.
 enum class ScopoCalcolo { Vista, Stampa };
 void CalcolaViandoria(Form& form, ScopoCalcolo purpose = ScopoCalcolo::Vista);
 
-/// What a test goes by, from the variables and the lists as they stand.
+/// The parameters of a test, from the variables and the lists as they are now.
 [[nodiscard]] ParametriSimulazione parametriSimulazione(const Form& form);
 
 } // namespace vanzer

@@ -41,7 +41,7 @@ Adeguamento::Passo Adeguamento::prossimo(int giorniCalcolati, int giorniDesidera
             partenza_ = coefficienteDiPartenza(data_, giorniDesiderati);
             return Passo::NuovaSerie;
         }
-        // The fresh start has failed too: the search goes on at 1, and its tests are counted on.
+        // The fresh start has failed too. The search goes on at 1, and the count of tests goes on.
         coefficiente_ = 1;
     } else if (numeroTest_ != 0) {
         change(giorniCalcolati, giorniDesiderati);

@@ -9,7 +9,7 @@ namespace vanzer {
 
 void grow(TestiTabella& rows, const Viandoria& soFar, const std::vector<RigaDiLavoro>& work,
           const TestiViandoria& texts) {
-    // A long rest may have been noted on the last two rows since.
+    // The last two rows may have received a long rest since.
     constexpr std::size_t unsettled = 2;
     const std::size_t made = std::min(static_cast<std::size_t>(rows.rows()), soFar.righe.size());
     const std::size_t kept = made - std::min(made, unsettled);

@@ -1,4 +1,4 @@
-// The schedule while its test still runs: the rows so far as texts, and how often they may be shown.
+// The schedule during its test: the rows so far as texts, and how often to show them.
 #pragma once
 
 #include <chrono>
@@ -7,21 +7,22 @@
 
 namespace vanzer {
 
-/// The most rows that one call makes texts for: about a millisecond's work.
+/// The most rows that one call turns into texts. That takes about a millisecond.
 inline constexpr std::size_t massimoRigheNuove = 400;
 
-/// Brings the texts of a test's first rows up to what it has written so far, or as near as one call goes. `rows` holds
-/// what an earlier call made for the same test, or nothing; all but its last two rows stay as they are.
+/// Updates `rows` to what a test has written so far, or as far as one call may go. `rows` is the result of an earlier
+/// call for the same test, or empty. All its rows except the last two stay as they are.
 void grow(TestiTabella& rows, const Viandoria& soFar, const std::vector<RigaDiLavoro>& work,
           const TestiViandoria& texts);
 
-/// Keeps showings apart by twenty times what the last one took: all of them together take a twentieth of the time.
+/// Spaces out the showings. After each one it waits twenty times as long as that took, so that showings need a
+/// twentieth of the time.
 class RitmoMostre {
   public:
     using Istante = std::chrono::steady_clock::time_point;
 
     [[nodiscard]] static Istante adesso() { return std::chrono::steady_clock::now(); }
-    /// Whether a showing may begin.
+    /// Whether it is time for the next showing.
     [[nodiscard]] bool isDue(Istante now) const { return now >= next_; }
     void shown(Istante begin, Istante end) { next_ = end + 20 * (end - begin); }
 

@@ -28,7 +28,7 @@ void VistaCrescente::showIfDue(const Viandoria& soFar) {
 void VistaCrescente::show(const Viandoria& soFar) {
     Grid& grid = form_.mfgTab;
     const SenzaRidisegno quiet(grid);
-    // A click would go to the editor, which takes the rows for legs.
+    // A click would reach the editor, which would take these rows for legs.
     grid.setEnabled(false);
     TestiTabella rows = grid.takeContents();
     if (std::exchange(fresh_, false))

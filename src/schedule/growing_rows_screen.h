@@ -1,4 +1,4 @@
-// The table while a calculation runs: where somebody looks, it shows the rows so far.
+// The table during a calculation. In a window it shows the rows so far.
 #pragma once
 
 #include "schedule/growing_rows.h"
@@ -6,8 +6,8 @@
 
 namespace vanzer {
 
-/// Lives as long as the tests of a calculation. From the first showing on the table takes no clicks; in the end it is
-/// empty again.
+/// Exists while the tests of a calculation run. From the first showing on, the table takes no clicks. The destructor
+/// empties it.
 class VistaCrescente {
   public:
     VistaCrescente(Form& form, const std::vector<RigaDiLavoro>& work, TestiViandoria texts);
@@ -15,10 +15,10 @@ class VistaCrescente {
     VistaCrescente(const VistaCrescente&) = delete;
     VistaCrescente& operator=(const VistaCrescente&) = delete;
 
-    /// The next rows belong to another test; what is shown stays until some of them are.
+    /// Begins another test. The rows of the last one stay in view until the new test has some.
     void nuovaProva() { fresh_ = true; }
-    /// Shows the rows so far, the newest in view, if a frame is due and the last showing is paid for. The next yield
-    /// lets the window draw them.
+    /// Shows the rows so far, with the newest in view, if a frame is due and the pause after the last showing is over.
+    /// The window draws them at the next yield.
     void showIfDue(const Viandoria& soFar);
 
   private:

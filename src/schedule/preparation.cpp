@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What is left of a stop that gives way to the other source: the user still sees it.
+/// Hundredths of an hour that remain of a stop when the other source counts. The user still sees the stop.
 constexpr float sostaRidotta = 1;
 
 bool holdsMark(const QString& place, QStringView mark) {
@@ -38,7 +38,7 @@ void makeMarksConsistent(std::vector<TappaDaPreparare>& legs) {
     }
 }
 
-/// " > 2 * Foro" for a stop of group 2.
+/// The name that the schedule shows for an entry: " > 2 * Foro" for a stop of group 2.
 QString nomeDellaVoce(const VoceGuida& entry, RigaDiLavoro::Tipo type) {
     const QStringView name = Trim(QStringView(entry.descrizione));
     const QStringView group = Trim(QStringView(entry.gruppo));
@@ -50,7 +50,7 @@ QString nomeDellaVoce(const VoceGuida& entry, RigaDiLavoro::Tipo type) {
 class Preparatore {
   public:
     Preparatore(const Preparazione& with, std::size_t legs) : with_(with) {
-        constexpr std::size_t rowsPerLeg = 8; // most trips have fewer; what is not written takes no memory
+        constexpr std::size_t rowsPerLeg = 8; // most trips have fewer, and unused rows take no memory
         result_.righe.reserve(legs * rowsPerLeg);
     }
 
@@ -130,7 +130,7 @@ class Preparatore {
         return static_cast<float>(sum);
     }
 
-    /// The choices of the larger and the smaller sum: the stops of the other source shrink.
+    /// For the sources "larger sum" and "smaller sum": shrinks the stops of the source that doesn't count.
     void narrowDown(std::size_t first, float planned, float visited) {
         const bool larger = with_.fonte == FonteSoste::Maggiore;
         if (!larger && with_.fonte != FonteSoste::Minore)
@@ -146,8 +146,8 @@ class Preparatore {
 
     const Preparazione& with_;
     RigheDiLavoro result_;
-    bool inside_ = false; ///< a "[Start]" was met
-    bool past_ = false;   ///< an "[End]" was met in an earlier row
+    bool inside_ = false; ///< a "[Start]" was found
+    bool past_ = false;   ///< an "[End]" was found in an earlier row
 };
 
 } // namespace

@@ -1,4 +1,4 @@
-// From the legs and the guide to the working rows of a calculation.
+// Turns the legs and the guide into the working rows of a calculation.
 #pragma once
 
 #include <functional>
@@ -8,11 +8,11 @@
 
 namespace vanzer {
 
-/// Which stops count, by the leading digit of the chosen source.
+/// The stops that count. The first digit of the chosen source is the number.
 enum class FonteSoste { Nessuna = 0, Itinerario = 1, Guida, Entrambe, Maggiore, Minore, NessunaSosta };
 [[nodiscard]] FonteSoste fonteSoste(const QString& choice);
 
-/// What the preparation needs of a row of the leg table.
+/// The cells of the leg table that the preparation needs.
 struct TappaDaPreparare {
     int riga = 0; ///< from 1
     QString luogo;
@@ -24,16 +24,17 @@ struct TappaDaPreparare {
 
 struct Preparazione {
     FonteSoste fonte = FonteSoste::Nessuna;
-    float oreVisitaGiorno = 0; ///< hundredths
-    /// The entries of a place that weren't used yet: by category, the longest first, then by group.
+    float oreVisitaGiorno = 0; ///< visiting time of a day, hundredths of an hour
+    /// The entries of a place that weren't used yet. Sorted by category, then by time with the longest first, then by
+    /// group.
     std::function<std::vector<const VoceGuida*>(const QString& place)> guida;
     std::function<QString(int category)> categoria;
-    /// Called once a leg.
+    /// Called once for each leg.
     std::function<void(int row)> advance;
 };
 
-/// Rows without a place may be among the legs. The marks of the stretch are made consistent on the way: an "[End]"
-/// before any "[Start]" goes, and without a "[Start]" the first place receives it.
+/// Makes the working rows. Legs without a place are skipped. Corrects the marks of the stretch: removes an "[End]"
+/// before any "[Start]", and gives the first place a "[Start]" if there is none.
 [[nodiscard]] RigheDiLavoro prepareRows(std::vector<TappaDaPreparare> legs, const Preparazione& with);
 
 } // namespace vanzer

@@ -16,9 +16,9 @@ namespace vanzer {
 
 namespace {
 
-constexpr int colonneTappa = 7; ///< what a working row shows of its leg
+constexpr int colonneTappa = 7; ///< columns of the leg that a working row shows
 
-/// Columns of the hidden grid beyond those of the leg table.
+/// Columns that only the hidden grid has.
 constexpr int colCategoria = 12;
 constexpr int colSostaFissa = 14;
 constexpr int colVoceGuida = 15;
@@ -34,7 +34,7 @@ std::vector<TappaDaPreparare> legsToPrepare(const TestiTabella& rows) {
     return legs;
 }
 
-/// A stop as text; one that had to give way is "01".
+/// A stop as text. One that was shrunk because the other source counts is "01".
 QString stopText(float stop, QChar decimalMark) {
     return stop == 1 ? QStringLiteral("01") : testoNumero(stop, decimalMark);
 }

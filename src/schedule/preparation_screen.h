@@ -1,4 +1,4 @@
-// The preparation of a calculation from the window's legs and the archive's guide.
+// Prepares a calculation from the window's legs and the archive's guide.
 #pragma once
 
 #include <memory>
@@ -8,8 +8,8 @@
 
 namespace vanzer {
 
-/// Takes the legs out of the table and keeps them, reads them and the guide into the working rows, shows these in the
-/// hidden grid, and marks the guide's entries that were used.
+/// Makes the working rows from the legs and the guide, and shows them in the hidden grid. Moves the legs from the table
+/// to a kept copy. Marks the guide's entries that were used.
 [[nodiscard]] std::shared_ptr<const RigheDiLavoro> PreparaTabellaPerCalcoloViandoria(Form& form);
 
 } // namespace vanzer

@@ -13,8 +13,6 @@ namespace {
 using Tipo = AspettoRiga::Tipo;
 using Cella = std::function<const QString&(int row, int column)>;
 
-/// Stop of a leg: the schedule has the stop of the guide there.
-
 bool isSchedule(int rows, const Cella& cell) {
     for (int r = 1; r < rows; ++r) {
         if (!cell(r, colGiorno).isEmpty())
@@ -82,7 +80,7 @@ class AspettoViandoria {
     }
 
     void followDate(const QString& date) {
-        // The rows of a day mostly share one text: no need to read it again.
+        // the rows of a day mostly share one text, which needn't be read again
         if (date.isEmpty() || date.constData() == date_.constData() || date == date_)
             return;
         if (!date_.isEmpty()) {

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Kilometres, driving time and stops of a day, a stretch or the whole trip; times in hundredths.
+/// Kilometres, driving time and stops of a day, a stretch or the whole trip. Times are hundredths of an hour.
 struct SommaViandoria {
     int km = 0;
     float guida = 0;
@@ -25,13 +25,13 @@ struct SommaViandoria {
 
 constexpr int righeTotali = 7;
 
-/// A stop as its text tells it, hundredths.
+/// A stop's length rounded to whole minutes, as its text shows it. Hundredths of an hour.
 float minutiInteri(float stop, float visitingDay) {
     const float unit = visitingDay > 0 ? visitingDay : giornoIntero;
     return recompose(splitTime(stop, unit), unit);
 }
 
-/// A stop within a day shows hours and minutes alone.
+/// The text of a stop. A stop within one day shows only hours and minutes.
 QString lunghezzaSosta(float length, float visitingDay) {
     const float unit = visitingDay > 0 ? visitingDay : giornoIntero;
     if (splitTime(length, unit).gg == 0)
@@ -91,7 +91,7 @@ QString conNotaDelGiorno(QString note, const SommaViandoria& day, QStringView st
     return day.soste == 0 ? note : note + u" [Sosta ore "_s + oreDelGiorno(day.soste) + u']';
 }
 
-/// The texts of a day, made once for all its rows.
+/// The texts of a day. They are made once and shared by all its rows.
 struct TestiGiorno {
     float giuliano = -1;
     QString settimana; ///< "Lun"
@@ -106,7 +106,7 @@ struct TestiGiorno {
     }
 };
 
-/// The cells of a row as the simulation wrote it. A stop without any length has neither day nor hour.
+/// Writes the cells of a row of the simulation. A stop of no length has neither day nor hour.
 void writeRow(RigaDiTesti cells, int number, const RigaViandoria& row, const RigaDiLavoro& work,
               const TestiViandoria& texts, TestiGiorno& day) {
     switch (row.tipo) {
@@ -129,7 +129,7 @@ void writeRow(RigaDiTesti cells, int number, const RigaViandoria& row, const Rig
     cells[colOra] = row.riposoDopo ? u"* "_s + oraMostrata(row.ora) : oraMostrata(row.ora);
 }
 
-/// One way through the whole rows: their notes of the days, the mark of the end, the sums.
+/// Closes the rows in one pass: notes of the days, mark of the trip's end, sums.
 class Chiusura {
   public:
     Chiusura(TestiTabella& rows, const Viandoria& schedule, const TestiViandoria& texts)
@@ -150,7 +150,8 @@ class Chiusura {
   private:
     [[nodiscard]] int rows() const { return static_cast<int>(schedule_.righe.size()); }
 
-    /// From the last "[Start]" to the row before the next numbered one behind the last "[End]".
+    /// Finds the stretch. It begins at the last "[Start]" and ends before the next numbered row after the last
+    /// "[End]".
     void findStretch() {
         const int none = rows();
         int end = none;
@@ -212,7 +213,7 @@ class Chiusura {
         sum.guida += time;
     }
 
-    /// What the texts of a row say, read with a day of 24 hours.
+    /// The driving time that the texts of a row show, read as if a day had 24 hours. Hundredths of an hour.
     [[nodiscard]] float timeShown(const RigaViandoria& row) const {
         Ghm time = splitTime(row.tempo, texts_.oreGuidaGiorno);
         time.gg = 0;
@@ -254,7 +255,7 @@ class Chiusura {
     SommaViandoria trip_;
 };
 
-/// Whether anything stands in a row beyond its name, day and hour.
+/// Whether a row has text in any cell except name, day and hour.
 bool says(const TestiTabella& rows, int row) {
     static constexpr std::array columns{colNumero, colStrada,     colKm,    colTipo, colKmProgressivi,
                                         colTempo,  colSostaGuida, colSosta, colNote};

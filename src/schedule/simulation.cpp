@@ -17,19 +17,20 @@ float f(double x) {
     return static_cast<float>(x);
 }
 
-/// Kilometres that fit into a time, in whole ones; no speed makes a piece longer than any trip.
+/// Whole kilometres that fit into a time in hundredths of an hour. Without a speed (km/h) the result is longer than any
+/// trip.
 int lunghezza(double speed, double hundredths) {
     constexpr double longest = 1000000;
     return roundToInt(std::min(Int(speed * hundredths / 100), longest));
 }
 
-/// A milestone of the day with what a walk asks of it at every row.
+/// A milestone of the day: lunch, dinner or night. Holds the values that each row compares.
 struct Traguardo {
     Traguardo(float clock, int range) : ora(clock), vicino(intorno(clock, range)), raggiunta(d(clock) + range) {}
 
     float ora;
-    Intorno vicino;   ///< clocks that count as the milestone
-    double raggiunta; ///< an arrival from here on lies behind it
+    Intorno vicino;   ///< clocks that count as being at the milestone
+    double raggiunta; ///< an arrival at or after this clock is past the milestone
 };
 
 class Prova {
@@ -45,7 +46,7 @@ class Prova {
     }
 
     Viandoria walk(const FermaRiga& stop) {
-        float counted = giuliano_ - 1; // the day up to which the days were counted
+        float counted = giuliano_ - 1; // the last day that was counted
         for (int index = 0; const RigaDiLavoro& row : rows_) {
             if (stop && stop(index + 1, result_)) {
                 result_.esito = Viandoria::Esito::Interrotta;
@@ -70,7 +71,8 @@ class Prova {
     [[nodiscard]] int daysSoFar() const { return roundToInt(d(giuliano_) - d(p_.giulianoInizio) + 1); }
     [[nodiscard]] bool vicino(const Traguardo& milestone) const { return milestone.vicino.contains(ora_); }
 
-    /// A departure within a meal waits for its end, one behind the night is at the hour of activity of the same date.
+    /// Sets the clock and calendar of the start. A departure during a meal moves to the end of the meal. A departure
+    /// after the night moves to the hour of activity of the same date.
     void prepareStart() {
         ora_ = p_.oraInizioViaggio;
         if (ora_ >= p_.oraPranzo && ora_ <= fineDelPranzo_)
@@ -119,7 +121,7 @@ class Prova {
         }
     }
 
-    /// The first row is the departure: it is driven once, with no kilometres too.
+    /// Drives a leg. The first row is the departure, which is written even without kilometres.
     void tappa(int index, const RigaDiLavoro& row) {
         if (row.traghetto)
             ++result_.traghetti;
@@ -163,8 +165,8 @@ class Prova {
         } while (left > 0);
     }
 
-    /// Kilometres of the next piece, its time in `tempoTratta_`: what is left of the leg, unless a break or a milestone
-    /// comes before its end.
+    /// Returns the kilometres of the next piece, and sets its driving time `tempoTratta_`. The piece is the rest of the
+    /// leg, unless a break or a milestone comes earlier.
     int cutPiece(int left, double speed, Fine& why) {
         int km = left;
         pieceTime(km, speed);
@@ -194,7 +196,7 @@ class Prova {
         return km;
     }
 
-    /// Rest days move the calendar alone; their one trace is on the row before the last one written.
+    /// Adds a long rest if it is due. Rest days only move the calendar; they are noted on the last row but one.
     void longRest() {
         if (!conRiposi_ || d(ultimoRiposo_) + p_.riposoDopoGiorni > d(giuliano_))
             return;
@@ -255,7 +257,7 @@ class Prova {
         cenaFatta_ = cenaFatta_ || ora_ > p_.oraCena;
     }
 
-    /// Moves the clock through a stop, over as many visiting days as it takes.
+    /// Moves the clock by the length of a stop, over as many visiting days as that needs.
     void spend(float length) {
         const float start = ora_;
         ora_ = f(d(start) + d(length));
@@ -290,7 +292,7 @@ class Prova {
     const double fineDelleVisite_ = d(p_.fineVisita) + p_.range / 3.0;
     const bool conPause_ = p_.riposoOre >= 1 && p_.riposoMinuti >= 1;
     const bool conRiposi_ = p_.riposoGiorno >= 1 && p_.riposoDopoGiorni >= 1;
-    const double intervallo_ = p_.riposoOre * 100; ///< driving between two breaks
+    const double intervallo_ = p_.riposoOre * 100; ///< driving time between two breaks, hundredths of an hour
     Viandoria result_;
 
     float ora_ = 0;

@@ -1,4 +1,4 @@
-// The guide's times of a place, added to the stop of its leg.
+// Adds the guide's times of a place to the stop of its leg.
 #pragma once
 
 #include <vector>
@@ -7,8 +7,8 @@
 
 namespace vanzer {
 
-/// The stop (gg:hh:mm, whose gg are days of `visitingDay` hundredths; 2400 if that is no length of a day) with the
-/// entries' times (hh:mm, read as they stand) on top. A mark of the end of the day in it is lost.
+/// The stop (gg:hh:mm) with the times of the entries (hh:mm) added. The gg are days of `visitingDay` hundredths of an
+/// hour; 2400 is used if that isn't a possible length of a day. A mark of the end of the day is lost.
 [[nodiscard]] QString sostaConGuida(const QString& stop, const std::vector<QString>& times, float visitingDay);
 
 } // namespace vanzer

@@ -13,7 +13,7 @@ namespace vanzer {
 
 namespace {
 
-/// True if any stop has grown.
+/// Adds the guide's times to the stops. True if any stop has grown.
 bool addGuideStops(Form& form) {
     Grid& grid = form.mfgTab;
     bool any = false;

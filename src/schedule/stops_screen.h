@@ -1,11 +1,11 @@
-// The two commands of the leg editor that change all stops at once. They change the table alone.
+// The two commands of the leg editor that change all stops at once. They change only the table.
 #pragma once
 
 #include "window/form.h"
 
 namespace vanzer {
 
-/// Adds the guide's times of each place to the stop of its leg; an entry counts once.
+/// Adds the guide's times of each place to the stop of its leg. Each entry counts once.
 void cmdTrasferisce_Click(Form& form);
 /// Blanks all stops.
 void cmdAzzeraSoste_Click(Form& form);

@@ -15,7 +15,7 @@ namespace {
 
 constexpr double giorno = giornoIntero;
 constexpr double minutiDelGiorno = 1440;
-constexpr double impercettibile = 2; ///< a shorter gap is left by the counting, not spent
+constexpr double impercettibile = 2; ///< hundredths of an hour; a shorter gap comes from rounding and is no activity
 
 double ore(float x) {
     return static_cast<double>(x);
@@ -97,7 +97,7 @@ class Tracciatore {
         visits(now_, end);
     }
 
-    /// What follows the last row up to `until`: its meals and breaks, then nights and free hours.
+    /// Fills the time from the last row up to `until`: first its meals and breaks, then nights and free hours.
     void fills(double until) {
         if (last_ == nullptr)
             return;
@@ -161,10 +161,10 @@ class Tracciatore {
     LineaDelTempo line_;
     const RigaViandoria* last_ = nullptr;
     int row_ = 0;
-    double now_ = 0;     ///< up to where the line is filled
+    double now_ = 0;     ///< the line is filled up to here
     bool night_ = false; ///< the night begins at once
-    QString place_;      ///< the last one reached, or the next one on the way
-    QString shown_;      ///< the same as a night names it
+    QString place_;      ///< the last place reached, or on the way the next one
+    QString shown_;      ///< the same, as a night shows it
 };
 
 void counts(Giornata& day, const Attivita& activity, double hundredths, bool begins) {

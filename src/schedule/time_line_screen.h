@@ -1,4 +1,4 @@
-// The schedule of the table as a line of time.
+// The schedule in the table as a line of time.
 #pragma once
 
 #include <memory>
@@ -10,17 +10,17 @@
 
 namespace vanzer {
 
-/// A schedule with what it was made from.
+/// A schedule, and the data that it was made from.
 struct ViandoriaMostrata {
     std::shared_ptr<const RigheDiLavoro> lavoro;
     Viandoria viandoria;
     ParametriSimulazione parametri;
 };
 
-/// Made anew from the numbers; empty while the table shows no schedule.
+/// The line of the schedule in the table. Empty while the table shows no schedule.
 [[nodiscard]] LineaDelTempo lineaMostrata(const Form& form);
 
-/// Shows the picture over the table, or takes it away.
+/// Shows the picture over the table, or closes it.
 void cmdLinea_Click(Form& form);
 
 } // namespace vanzer

@@ -1,4 +1,4 @@
-// The one flat list that a simulation walks: each leg, then its itinerary stop, then what the guide knows of the place.
+// The flat list that a simulation reads: each leg, then its itinerary stop, then the guide's entries of its place.
 #pragma once
 
 #include <vector>
@@ -12,22 +12,22 @@ struct RigaDiLavoro {
 
     Tipo tipo = Tipo::Tappa;
     int tappa = 0;  ///< row of the leg in the table, from 1
-    int km = 0;     ///< of the leg; 0 on all other rows
+    int km = 0;     ///< kilometres of a leg; 0 in all other rows
     int strada = 0; ///< index of the road type
     bool traghetto = false;
-    bool fineGiorno = false; ///< the day ends behind this row
-    float sostaFissa = 0;    ///< itinerary stop, hundredths
-    float sostaGuida = 0;    ///< guide stop, hundredths: the one that the multiplier stretches
-    QString nome;            ///< place; of a guide entry what is shown: " > 2 * Foro"
-    QString nota;            ///< its category
+    bool fineGiorno = false; ///< the day ends after this row
+    float sostaFissa = 0;    ///< itinerary stop, hundredths of an hour
+    float sostaGuida = 0;    ///< guide stop, hundredths of an hour, before the factor
+    QString nome;            ///< place of a leg; for a guide entry its shown text: " > 2 * Foro"
+    QString nota;            ///< category of a guide entry
 };
 
-/// The name as the schedule and its picture take it: " > a ROMA" for a stop there.
+/// The name that the schedule and its picture show: " > a ROMA" for a stop in ROMA.
 [[nodiscard]] QString nomeMostrato(const RigaDiLavoro& row);
 
 struct RigheDiLavoro {
     std::vector<RigaDiLavoro> righe;
-    float sosteItinerario = 0; ///< sums over all rows, hundredths
+    float sosteItinerario = 0; ///< sums over all rows, hundredths of an hour
     float sosteGuida = 0;
 };
 

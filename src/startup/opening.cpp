@@ -23,7 +23,7 @@ namespace vanzer {
 
 namespace {
 
-/// Where the copies of the days before are; empty if there are none.
+/// Tells where the copies of earlier days are. Empty if there are none.
 QString copiesAre(const Form& form) {
     const QFileInfo newest(store::ultimaCopia(form.archivio.PercorsoDatabase));
     if (newest.fileName().isEmpty())
@@ -43,8 +43,8 @@ QString isDamaged(const Form& form) {
                                 .arg(QDir::toNativeSeparators(form.archivio.PercorsoDatabase)));
 }
 
-/// The day's copy of the archive as the day before left it. One that lasts shows its progress and can be stopped. The
-/// result is what the user must be told, nothing when all went well.
+/// Makes the day's copy of the archive, as the day before left it. A copy that takes long shows its progress and can be
+/// stopped. Returns messages for the user, none if all went well.
 QStringList copyOfTheDay(Form& form, store::Database& archive) {
     std::optional<LavoroInCorso> shown;
     const auto progress = [&form, &shown](qint64 done, qint64 total) {
@@ -72,8 +72,8 @@ QStringList copyOfTheDay(Form& form, store::Database& archive) {
     return failure;
 }
 
-/// An archive that is in order is looked at once a day; one that was left otherwise, or written by another program, at
-/// once. The result is what the user must be told.
+/// Checks the archive and copies it. This happens once a day, and also if the archive wasn't closed properly or another
+/// program wrote it. Returns messages for the user.
 QStringList checkAndCopy(Form& form, store::Database& archive) {
     using enum store::Database::Salute;
     const bool due = store::copyDue(archive.percorso(), form.ports.clock.now().date());
@@ -125,7 +125,7 @@ QStringList told(const Form& form, const store::Archive::Apertura& opening) {
     return texts;
 }
 
-/// The result is what the user must be told once the window stands.
+/// Opens the archive. Returns messages for the user, to be shown once the window is ready.
 QStringList openArchive(Form& form) {
     QStringList warnings;
     const store::Archive::Apertura opening = form.archivio.openArchive(
@@ -147,7 +147,7 @@ void showCurrentTrip(Form& form) {
 
 void Form_Load(Form& form) {
     StatoFinestra& s = form.stato;
-    form.comandoInCorso = true; // till all is loaded
+    form.comandoInCorso = true; // until all is loaded
     s.PulsantiItinerario = pulsanti::nessunoMaiuscolo;
     AbilitaPulsantiMeta(form, pulsanti::nessunoMaiuscolo);
     PulisciFinestre(form);
@@ -185,8 +185,8 @@ void Form_Load(Form& form) {
         form.messaggio(warning, QStringLiteral("Archivio"), Icona::Avviso);
 }
 
-/// A damaged file needs no more words; every other reason is one that the user can do something about. The copies help
-/// where the archive isn't just in use.
+/// The message for a failed opening. It has the reason, unless the file is damaged. It names the copies, unless the
+/// archive is only in use.
 QString openingFailed(const Form& form, const store::StoreError& error) {
     QStringList text{QStringLiteral("Errore apertura database ") + form.archivio.PercorsoDatabase};
     if (error.kind() != store::StoreError::Kind::Corrupt)

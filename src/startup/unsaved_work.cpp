@@ -21,7 +21,7 @@ namespace vanzer {
 namespace {
 
 const QString title = QStringLiteral("Lavoro non salvato");
-/// Beside the fields of the leg editor: what the kilometres in theirs were made into from a total.
+/// Key beside the editor's fields. Its value is the difference that the kilometres field got in place of a typed total.
 const QString difference = QStringLiteral("KmDifferenza");
 
 bool typesLeg(const Form& form) {
@@ -29,7 +29,7 @@ bool typesLeg(const Form& form) {
            tappaDigitata(form);
 }
 
-/// The fields of the leg editor.
+/// Calls `visit` with each field of the leg editor.
 template<typename Visitor> void visitLegFields(const Form& form, const Visitor& visit) {
     visit(form.txtTappa);
     visit(form.txtNumStrada);
@@ -68,7 +68,8 @@ void putLegBack(Form& form, const TestiDeiCampi& texts) {
         form.stato.KmDifferenza = text->second;
 }
 
-/// The legs, and what they were worked with. A destination that isn't stored any more has lost its legs too.
+/// Puts the legs back, and the frame in which the user edited them. If the destination isn't stored any more, its legs
+/// aren't either.
 void putLegsBack(Form& form, const Bozza& draft, bool lost) {
     const bool changed = draft.tappeCambiate || (lost && !draft.tappe.empty());
     const bool typed = !draft.digitata.empty();
@@ -187,7 +188,7 @@ void CustodeBozza::offer() {
         if (!bytes)
             return;
         draft = bozzaDaiByte(*bytes);
-    } catch (const store::StoreError&) { // told below
+    } catch (const store::StoreError&) { // the user is told below
     }
     if (!draft) {
         setsAside(store::bozzaDanneggiata,
@@ -201,7 +202,7 @@ void CustodeBozza::offer() {
                    .detail = QStringLiteral("Con «No» resta accanto all'archivio, in %1, fino al prossimo «No».")
                                  .arg(store::nomeBozza + store::bozzaRifiutata)});
     if (form_.chiusa)
-        return; // nobody has answered
+        return; // the window was closed without an answer
     if (answer != rispostaSi)
         setsAside(store::bozzaRifiutata, {});
     else

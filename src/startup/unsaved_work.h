@@ -1,6 +1,6 @@
-// The draft: work that a user has typed and not stored, kept beside the archive so that neither a signal nor a loss of
-// power takes it. It never changes the archive: it comes back as unsaved work when the next start offers it. A script
-// has none.
+// The draft: work that the user has typed and not stored. It is kept in a file beside the archive, so that neither a
+// signal nor a loss of power destroys it. The next start offers it, and it comes back as unsaved work. It
+// never changes the archive. Scripts have no draft.
 #pragma once
 
 #include <atomic>
@@ -12,40 +12,41 @@
 
 namespace vanzer {
 
-/// Whether something is typed and not stored: fields of the destination and its parameters, legs, a leg that isn't in
-/// the table yet.
+/// Whether something is typed and not stored: fields of the destination, parameters, legs, or a leg that isn't in the
+/// table yet.
 [[nodiscard]] bool nonSalvato(const Form& form);
 
-/// All of it; nothing if there is none.
+/// All work that isn't stored. No value if there is none.
 [[nodiscard]] std::optional<Bozza> lavoroNonSalvato(const Form& form);
 
-/// A command of the user: the destination is loaded, or made anew if it isn't stored any more, and what was typed
-/// stands in the window as it stood, unsaved. False if the archive failed.
+/// Puts the draft back into the window, as unsaved work. Loads its destination, or makes it anew if it isn't stored any
+/// more. Runs as a command of the user. False if the archive failed.
 [[nodiscard]] bool resumeDraft(Form& form, const Bozza& draft);
 
-/// Keeps the draft's file as the work in the window is.
+/// Keeps the draft's file up to date with the work in the window.
 class CustodeBozza {
   public:
-    /// The form lives longer. Nothing that lies there already is touched before it was offered.
+    /// `form` must outlive this object. An existing draft isn't touched before offer().
     explicit CustodeBozza(Form& form);
     ~CustodeBozza();
     CustodeBozza(const CustodeBozza&) = delete;
     CustodeBozza& operator=(const CustodeBozza&) = delete;
 
-    /// Offers a draft that lies there. One that is refused, or is none, gets another name.
+    /// Offers an existing draft to the user. A refused or unreadable draft is renamed.
     void offer();
-    /// Takes the draft away once everything is stored. Costs nothing while there is none.
+    /// Removes the draft once everything is stored. Costs nothing while there is no draft.
     void look();
-    /// Writes the draft if the work has changed since it was written last, or takes it away. The work of a command that
-    /// is running counts as it stood before it. The disk is written behind; a failure is told by the next call.
+    /// Writes the draft if the work has changed since the last time, or removes it. During a command, the work before
+    /// the command counts. Writes in the background; a failure is told by the next call.
     void keep();
-    /// What a command that is running does from here on isn't the user's choice: the work stays as it stood before it.
+    /// From here on the running command doesn't follow the user's choices. The draft keeps the work from before the
+    /// command.
     void notHisChoice() { chosenForHim_ = true; }
-    /// The window has been left by its own questions.
+    /// Called when the user has left the window and answered its questions. Removes the draft.
     void wasLeft();
-    /// Writes for the last time and waits for it: from here on the file stays as it is.
+    /// Writes for the last time and waits for it. The file doesn't change any more.
     void finish();
-    /// Waits until what was written is safe on the disk.
+    /// Waits until everything written is safe on the disk.
     void wait() { pool_.waitForDone(); }
 
   private:
@@ -55,12 +56,12 @@ class CustodeBozza {
 
     Form& form_;
     const QString path_;
-    std::optional<Bozza> before_; ///< the work before the command that is running, or ran last
+    std::optional<Bozza> before_; ///< the work before the running command, or before the last one
     std::optional<Bozza> written_;
-    bool exists_ = false; ///< a draft of this window's work
+    bool exists_ = false; ///< there is a draft of this window's work
     bool chosenForHim_ = false;
     std::atomic<bool> failed_ = false;
-    QThreadPool pool_; ///< of one thread, so that one write comes after the other
+    QThreadPool pool_; ///< one thread, so that writes happen in order
 };
 
 } // namespace vanzer

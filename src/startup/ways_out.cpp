@@ -14,13 +14,13 @@ namespace vanzer {
 
 namespace {
 
-/// A thing of the window that can be open, and what leaves it.
+/// A part of the window that can be open, and how to leave it.
 struct Aperto {
     bool (*open)(const Form& form);
     void (*leave)(Form& form);
 };
 
-/// From the top down: what lies over another thing goes before it.
+/// From the top down: a part that covers another one is left first.
 constexpr std::array<Aperto, 10> apribili{{
     {[](const Form& f) { return f.frmframe(riquadroStampanti).visible(); },
      [](Form& f) { f.cmdSelStampante(1).click(); }},
@@ -41,7 +41,7 @@ constexpr std::array<Aperto, 10> apribili{{
     {[](const Form& f) { return f.cmbRicerca.visible(); }, [](Form& f) { comando(f, [&f] { RinunciaRicerca(f); }); }},
 }};
 
-/// Asks the work that is running to end; false if it can't be asked.
+/// Asks the running work to end. False if it can't be asked.
 bool asksToInterrupt(Form& form) {
     if (form.stato.StampaInCorso)
         askToInterruptPrint(form);

@@ -1,22 +1,22 @@
-// What the window's close button and the Esc key mean. Both press the button that is there for it, so that nothing is
-// left without its question.
+// The window's close button and the Esc key. Both press the buttons that are there to leave, so that no question is
+// skipped.
 #pragma once
 
 #include "window/form.h"
 
 namespace vanzer {
 
-/// The close button: leaves what is open, one thing after the other and each with its own question, then asks to leave
-/// the program. Stops at the first that stays open. Running work is asked to end; false if it can't be asked, so that
-/// the wish has to wait for its end.
+/// The close button. Leaves all that is open, one part after the other, each with its own question. Then asks to leave
+/// the program. Stops at the first part that stays open. Asks running work to end; returns false if that can't be
+/// asked, and the caller must wait for its end.
 bool askToClose(Form& form);
 
-/// Stops the work that is running, as its own way to stop does after its question; false if it has none.
+/// Stops the running work without a question, as its own stop button does after the question. False if it can't be
+/// stopped.
 bool interruptUnasked(Form& form);
 
-/// Esc: leaves a list that was opened to pick from, with nothing picked, and the frames of a print, of a copy, of a
-/// stretch and of the exchange; a print, an import or an export that is running may be given up. Does nothing
-/// elsewhere.
+/// The Esc key. Closes a list without a choice. Leaves the frames of print, copy, stretch, exchange and line of time.
+/// Asks whether to stop a running print, import or export. Elsewhere it does nothing.
 void giveUpChoice(Form& form);
 
 } // namespace vanzer

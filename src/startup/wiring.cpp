@@ -48,7 +48,7 @@ std::function<void()> wired(Form& form, HandlerConIndice handler, int index) {
     return [&form, handler, index] { comando(form, [&form, handler, index] { handler(form, index); }); };
 }
 
-/// The same for what takes the leg editor's fields away from what is typed in them.
+/// The same for commands that close the leg editor's fields. They first ask about a typed leg.
 std::function<void()> wiredLeaving(Form& form, Handler handler) {
     return [&form, handler] {
         comando(form, [&form, handler] {
@@ -230,7 +230,7 @@ void wire(Form& form) {
     wireKeys(form);
 }
 
-/// Caption, frames and places before anything is opened.
+/// Sets caption, frames and places before anything is opened.
 void layOutWindow(Form& form) {
     const QString product = QStringLiteral("Vanzer");
     form.caption = product + u" (v. "_s + form.ambiente.versione + u", "_s + product + u") by "_s + product;

@@ -1,4 +1,4 @@
-// The form's wiring: which handler answers to which control, and which signals connect the rooms.
+// Connects the form's controls with their handlers, and the signals between the rooms.
 #pragma once
 
 #include <memory>
@@ -7,10 +7,10 @@
 
 namespace vanzer {
 
-/// The window, wired and laid out, with nothing in it yet: a view can be tied to it before it is loaded.
+/// Makes the window, wired and laid out but empty. A view can be tied to it before anything is loaded.
 [[nodiscard]] std::unique_ptr<Form> nuovaFinestra(const Ambiente& surroundings, Ports& ports);
 
-/// The version of this build, "1.0.0".
+/// The version of this build: "1.0.0".
 [[nodiscard]] QString versioneProgramma();
 
 } // namespace vanzer

@@ -1,4 +1,4 @@
-// What is worked out about destinations, apart from the window.
+// Rules about destinations that need no window.
 #pragma once
 
 #include <optional>
@@ -8,14 +8,14 @@
 
 namespace vanzer {
 
-/// The code of a new destination, from the stored codes in ascending order: the lowest free one if there is a gap in
-/// the run from 1, else the next.
+/// The code for a new destination. `codes` are the stored ones, in ascending order. The result is the lowest free code
+/// in the run from 1, or the next one if that run has no gap.
 [[nodiscard]] QString codiceNuovaMeta(const std::vector<int>& codes);
 
-/// Whether two names mean the same destination: equal, case ignored, in what stands before their first bracket.
+/// Whether two names mean the same destination. Only what stands before the first bracket counts, case ignored.
 [[nodiscard]] bool stessaMeta(const QString& a, const QString& b);
 
-/// The search list: names in their order, motorway stretches behind all others.
+/// The entries of the search list: the names in their order, with motorway stretches after all others.
 [[nodiscard]] QStringList elencoRicerca(const QStringList& names);
 
 } // namespace vanzer

@@ -20,7 +20,7 @@ namespace vanzer {
 
 namespace {
 
-constexpr int appoggio = 7; // the slot for what a command needs beside the current destination
+constexpr int appoggio = 7; // archive slot for records needed beside those of the current destination
 
 store::Recordset& open(Form& form, int slot, const QString& sql) {
     form.archivio.StringaSQL = sql;
@@ -36,7 +36,7 @@ store::Recordset& openDestination(Form& form, const QString& code) {
 constexpr std::span meals = std::span(campiCoppie).first<numeroPasti>();
 constexpr std::span visits = std::span(campiCoppie).subspan<numeroPasti>();
 
-/// Copies a record to the controls; a field without a value is passed over.
+/// Copies a record to the controls. A field without a value leaves its control as it is.
 class MostraRecord {
   public:
     MostraRecord(Form& form, const store::Recordset& record) : form_(form), record_(record) {}
@@ -136,7 +136,7 @@ void writeRecord(Form& form, store::Recordset& record) {
     write(u"Range", form.cmbRange.text());
 }
 
-/// The stored destination that a save without a code means, left open in its slot.
+/// Opens the stored destination that a save without a code means. False if there is none.
 bool findSameName(Form& form) {
     store::Recordset& found = open(form, store::MeteVanzer,
                                    QStringLiteral("SELECT * FROM MeteVanzer WHERE Localita LIKE '") +
@@ -160,7 +160,7 @@ QString newCode(Form& form) {
     return codiceNuovaMeta(codes);
 }
 
-/// Into the open slot of the destinations, as the current one.
+/// Writes the controls into the open destination record, which becomes the current one.
 void storeRecord(Form& form, bool insertion) {
     if (contains(form.txtLocalita.text(), u"AUTOSTRADA"))
         form.txtLocalita.setText(minuscolo(form.txtLocalita.text()));
@@ -185,7 +185,7 @@ void saveRecord(Form& form, bool insertion) {
     AbilitaPulsantiMeta(form, pulsanti::tutti);
 }
 
-/// Tells which of the fields that a destination can't do without is empty; false if one is.
+/// False, with a message to the user, if a field that a destination needs is empty.
 bool hasNames(Form& form) {
     const bool place = !Trim(form.txtLocalita.text()).isEmpty();
     const bool nation = !Trim(form.txtNazione.text()).isEmpty();

@@ -8,7 +8,7 @@ namespace vanzer {
 
 namespace {
 
-/// The rows of legs, wherever they are: in the table, or kept while a schedule has their place.
+/// The rows of the legs: in the table, or in the kept copy while a schedule fills the table.
 class Righe {
   public:
     explicit Righe(const Form& form)
@@ -18,7 +18,7 @@ class Righe {
             --count_;
     }
     [[nodiscard]] std::size_t count() const { return static_cast<std::size_t>(count_); }
-    /// `row` from 0, `cell` as in TappaTenuta.
+    /// `row` counts from 0, `cell` is an index into TappaTenuta.
     [[nodiscard]] const QString& text(std::size_t row, std::size_t cell) const {
         const int r = static_cast<int>(row);
         return kept_ != nullptr ? kept_->text(r, colonneTenute[cell]) : grid_.cell(r + 1, colonneTenute[cell]);
@@ -57,7 +57,7 @@ class Righe {
     int count_;
 };
 
-/// A table that shows the guide, or that an exchange has emptied, holds no legs.
+/// False while the table shows the guide, or after an exchange has emptied it.
 bool holdsLegs(const Form& form) {
     return form.tappeConservate || !(form.stato.ModoGuida || form.frmframe(riquadroScambio).visible());
 }

@@ -1,4 +1,4 @@
-// The legs that stand in the window, against those that are stored.
+// The legs in the window, compared with the stored ones.
 #pragma once
 
 #include "core/draft.h"
@@ -6,17 +6,17 @@
 
 namespace vanzer {
 
-/// What is in the table counts as stored. Kept for a user only: nobody asks a script.
+/// Notes that the legs in the table are stored. Does nothing in a script, which is never asked to save.
 void rememberLegs(Form& form);
 
-/// The trip's legs as they stand, those that a schedule has replaced too; the stored ones while the table shows the
-/// guide.
+/// The trip's legs as they are now, also while a schedule fills the table. While the table shows the guide, these are
+/// the stored legs.
 [[nodiscard]] TappeTenute tappeInVista(const Form& form);
 
-/// Whether legs that can be worked on, or that a schedule has replaced, differ from the stored ones.
+/// Whether the legs in the window differ from the stored ones. Counts legs that a schedule has replaced as well.
 [[nodiscard]] bool tappeCambiate(const Form& form);
 
-/// The legs come into the table in place of what is there, not stored, with their totals.
+/// Replaces the table's rows by these legs, as not stored, and works out their totals.
 void putLegs(Form& form, const TappeTenute& legs);
 
 } // namespace vanzer

@@ -46,7 +46,7 @@ TrattoDellaGuida::Passo TrattoDellaGuida::prossimo(const QString& localita) {
     if (uguale(localita, last_))
         return {};
     QString s = localita;
-    // A mark behind a bracket, or a second mark behind the first, is cut away before it is looked for.
+    // Cuts the text from the mark on. A mark after a bracket or after another mark is therefore not found.
     const auto cut = [&s](QStringView mark) {
         const int at = s.contains(mark.front()) ? posizione(s, mark) : 0;
         if (at > 0)

@@ -14,7 +14,7 @@ namespace vanzer {
 inline constexpr int massimoTratti = 9999;
 inline constexpr int massimoKmRecord = 999;
 
-/// The cells of a row that are stored.
+/// The cells of a row that go to the archive.
 struct RigaTappa {
     QString luogo;
     QString strada;
@@ -28,37 +28,37 @@ struct RecordTappa {
     QString chilometri;
     QString nomeStrada;
     QString tipoStrada;
-    QString tempoSosta;
-    QString sostaGuidaCitta;
+    QString tempoSosta;      ///< gg:hh:mm; a blank for none
+    QString sostaGuidaCitta; ///< gg:hh:mm; a blank for none
     bool fineGiorno = false;
 };
 
-/// The place as it is stored: cut to the field's size less 1.
+/// The place as the archive stores it: cut to one character less than the field holds.
 [[nodiscard]] QString luogoMemorizzato(const QString& place, int fieldSize);
 
-/// How many records a leg of so many kilometres takes.
+/// The number of records that a leg of `km` kilometres needs.
 [[nodiscard]] int numeroRecord(int km);
 
-/// The records of one row; the sum of the guide's stops stands on the first of them.
+/// The records of one row. The first one holds the sum of the guide's stops.
 [[nodiscard]] std::vector<RecordTappa> recordDellaRiga(const RigaTappa& row, const QString& guideStops, int placeSize);
 
-/// Cell of the stop, from a record's texts.
+/// The stop's cell, made from the texts of a record.
 [[nodiscard]] QString sostaDelRecord(const QString& fineGiorno, const QString& tempoSosta);
 
-/// Which legs lie in the stretch that counts for the guide, seen record by record while an itinerary is loaded.
+/// Tells which legs belong to the stretch that the guide covers. Takes the records one by one, as an itinerary loads.
 class TrattoDellaGuida {
   public:
     struct Passo {
-        bool leggere = false; ///< the guide's entries of `luogo` are to be read
+        bool leggere = false; ///< read the guide's entries of `luogo`
         QString luogo;
     };
-    /// The next leg's place as it is stored.
+    /// Takes the next leg's place, as it is stored.
     [[nodiscard]] Passo prossimo(const QString& localita);
 
   private:
     QString last_;
     bool start_ = false;
-    bool end_ = false; ///< an end was met: a start behind it opens its own place alone
+    bool end_ = false; ///< an end was met: a later start covers only its own place
 };
 
 } // namespace vanzer

@@ -19,7 +19,7 @@ namespace vanzer {
 
 namespace {
 
-/// One row of the table for each record. The places are told apart from the rows' marks later.
+/// One row of the table for each record. Marks still stand in the place's name.
 TestiTabella readLegs(Form& form) {
     store::Archive& archive = form.archivio;
     archive.StringaSQL = QStringLiteral("SELECT * FROM Itinerari WHERE CodiceMeta = '") +
@@ -47,7 +47,7 @@ TestiTabella readLegs(Form& form) {
     return rows;
 }
 
-/// The guide's stops of a place as the text of its cell.
+/// The guide's stops of a place, as the text of their cell. `visitingDay` is in hundredths of an hour.
 QString guideStops(store::SegniGuida& guide, const QString& place, float visitingDay) {
     double sum = 0;
     for (const VoceGuida* const entry : guide.usePlace(place))
@@ -55,7 +55,7 @@ QString guideStops(store::SegniGuida& guide, const QString& place, float visitin
     return ghmCentesimi2Stringa(static_cast<float>(sum), giornoIntero);
 }
 
-/// The guide's stops into the rows of the stretch, each entry once.
+/// Writes the guide's stops into the rows of the stretch. Each entry counts once.
 void addGuideStops(Form& form, TestiTabella& rows) {
     store::SegniGuida guide(form.archivio);
     TrattoDellaGuida stretch;
@@ -88,7 +88,7 @@ qint64 recordsNeeded(const Form& form) {
     return needed;
 }
 
-/// All that the guide knows for a place as it is stored; a wider pattern may find more than the place itself.
+/// All guide entries for a place as it is stored. The search pattern may also find entries of other places.
 QString guideSnapshot(store::SegniGuida& guide, const QString& place) {
     double sum = 0;
     for (const VoceGuida* const entry : guide.usePattern(LikeTesto(place)))
@@ -148,7 +148,7 @@ void storeRows(Form& form, store::Recordset& records, store::SegniGuida& guide) 
     }
 }
 
-/// All rows in place of what is stored; the marks of the guide come behind.
+/// Replaces the stored legs by all rows of the table, then writes the guide's marks.
 void storeTable(Form& form) {
     StatoFinestra& s = form.stato;
     CancellaTabella(form, store::Itinerari, QStringLiteral("CodiceMeta"), s.CodiceMeta);

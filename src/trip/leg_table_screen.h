@@ -1,4 +1,4 @@
-// The leg table in the window: emptied, loaded from the archive, stored in it.
+// The leg table in the window: empty it, load it from the archive, store it.
 #pragma once
 
 #include "window/form.h"
@@ -11,14 +11,14 @@ void CancellaMatrice(Form& form);
 /// Fills the table with the legs of the current destination.
 void CaricaTappeItinerario(Form& form);
 
-/// A run through the guide begins with no mark of use set: shown here, written with the marks of the run at its end.
+/// Shows that the guide's marks of used entries are being reset. The marks themselves are written when the run ends.
 void SettaAZeroFlaGVisto(Form& form);
 
-/// Replaces the stored legs of the current destination by the table's rows. False if these are more records than a
-/// destination takes: the user is told, and what was stored stays.
+/// Replaces the stored legs of the current destination by the table's rows. If the rows need more records than a
+/// destination can have, tells the user, changes nothing and returns false.
 bool MemorizzaTappeItinerario(Form& form);
 
-/// Deletes the records of a table whose field matches the value, with progress.
+/// Deletes a table's records whose field has that value. Shows the progress.
 void CancellaTabella(Form& form, int table, const QString& field, const QString& value);
 
 } // namespace vanzer

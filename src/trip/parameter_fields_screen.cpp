@@ -10,7 +10,7 @@ namespace {
 
 constexpr int troppeVolte = 100;
 
-/// A list from "first" to "last" at a fixed width.
+/// The numbers of a list, from `first` to `last`, each written with `width` digits.
 struct Intervallo {
     int first;
     int last;
@@ -105,7 +105,8 @@ float timeShown(Form& form, int pair) {
     return ghmStringa2Centesimi(form.cmbOra(pair).text() + u':' + form.cmbMin(pair).text(), giornoIntero);
 }
 
-/// One pair: empty lists take their first entry, hours outside the list its end. The time before the correction.
+/// Corrects one pair: empty lists take their first entry, an hour outside its list takes the nearest one. Returns the
+/// time before the correction, hundredths of an hour.
 float ControlloOrarioCmbOra(Form& form, int pair, bool& corrected) {
     ListControl& hour = form.cmbOra(pair);
     ListControl& minute = form.cmbMin(pair);
@@ -152,14 +153,14 @@ void readStart(Form& form) {
     s.OraCorrente = s.OraInizioViaggio;
 }
 
-/// Hours and minutes of a clock value, into the lists of a pair.
+/// Writes a clock time, hundredths of an hour, into the lists of a pair.
 void writeTime(Form& form, int pair, float value) {
     const bool endOfDay = value >= giornoIntero;
     const QString text = Right(ghmCentesimi2Stringa(value, giornoIntero), 5);
     writePair(form, pair, endOfDay ? QStringLiteral("24") : Left(text, 2), Mid(text, 4, 2));
 }
 
-/// The order of the day; true if something had to be moved that asks for another round.
+/// Brings the times into the order of a day. True if a change needs another round of checks.
 bool orderDay(Form& form) {
     const NumeriViaggio s = *form.viaggio;
     bool corrected = false;
@@ -273,7 +274,7 @@ void ControllaVariabiliConvertite(Form& form) {
     bool corrected = true;
     for (int round = 0; corrected && round < troppeVolte; ++round) {
         corrected = false;
-        // The lists correct themselves while they are read; the values read here are those before the correction.
+        // Reading corrects the lists. The values are still those before the correction.
         std::array<float, numeroCoppie> times{};
         for (int i = 0; i < numeroCoppie; ++i)
             times[static_cast<std::size_t>(i)] = ControlloOrarioCmbOra(form, i, corrected);
@@ -294,7 +295,7 @@ void Aggiorna(Form& form, bool tieniSchermo) {
     ControllaVariabiliConvertite(form);
     NumeriViaggio& s = *form.viaggio;
     limitClocks(s);
-    const NumeriViaggio bounded = s; // the write-back raises change events, which set the variables from half a pair
+    const NumeriViaggio bounded = s; // writing back raises change events, which set the variables from half a pair
     for (const int pair : {0, 1, 2, 3, 4, 5, 8, 6, 7}) {
         NumeriViaggio copy = bounded;
         writeTime(form, pair, variabileCoppia(copy, pair));

@@ -1,5 +1,5 @@
-// The planning parameters in the window: their lists, the user's defaults, and the checks that keep the clock of the
-// day in order.
+// The planning parameters in the window: their lists, the user's defaults, and the checks that keep the times of a day
+// in order.
 #pragma once
 
 #include "trip/parameters.h"
@@ -7,26 +7,26 @@
 
 namespace vanzer {
 
-/// Writes a pair of clock lists, the hours first: their change event reads the minutes that still stand there.
+/// Writes a pair of clock lists, the hours first. Their change event still reads the old minutes.
 void writePair(Form& form, int pair, const QString& hour, const QString& minute);
 
-/// Fills the lists, loads the defaults, puts today and now into the start.
+/// Fills the lists, loads the defaults, and sets the start to now.
 void CaricaComboBox(Form& form);
-/// The list of the tolerances, and its first value.
+/// Fills the list of tolerances and selects the first.
 void CaricaRange(Form& form);
-/// Today and the present time, cut down to a quarter of an hour, into the start.
+/// Sets the start to today and the present time, rounded down to a quarter of an hour.
 void MetteAdesso(Form& form);
 
-/// The defaults into the controls; with mode 2 the standard values, which replace the stored ones.
+/// Loads the defaults into the controls. With mode 2 it first replaces the stored ones by the standard values.
 void CaricaDefaultMeta(Form& form, int modo);
-/// The controls become the user's defaults.
+/// Stores the controls as the user's defaults.
 void MemorizzaVariabiliMeta(Form& form);
 
-/// Corrects what is out of place and sets the variables from the controls. Repeats until nothing is corrected any more,
-/// at most a hundred times.
+/// Corrects the controls and sets the variables from them. Repeats until nothing needs correction, at most a hundred
+/// times.
 void ControllaVariabiliConvertite(Form& form);
 
-/// The check, the bounds of the clock values, and their write-back. With `tieniSchermo` false the leg editor goes too.
+/// Checks the controls, limits the clock times and writes them back. Unless `tieniSchermo`, closes the leg editor too.
 void Aggiorna(Form& form, bool tieniSchermo);
 
 /// Fits the list of days to the month.
@@ -34,7 +34,7 @@ void ImpostaGiorniMeseInizio(Form& form);
 /// Shows the week days of start and end.
 void MettiGiornoSett(Form& form);
 
-/// The entry of the stops' sources that a stored code means; empty reads as "3".
+/// The entry in the list of stop sources for a stored code. An empty code counts as "3".
 [[nodiscard]] QString voceSoste(Form& form, const QString& code);
 
 void cmbOra_Change(Form& form, int i);

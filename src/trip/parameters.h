@@ -1,4 +1,4 @@
-// The planning parameters of a trip: the clock times by their pairs of lists, and their bounds.
+// The planning parameters of a trip: clock times, their pairs of lists, and their bounds.
 #pragma once
 
 #include <array>
@@ -8,7 +8,7 @@
 
 namespace vanzer {
 
-/// The pairs of clock lists, by their index.
+/// The pairs of lists (hours, minutes) by their index.
 enum Coppia {
     coppiaColazione,
     coppiaPranzo,
@@ -22,8 +22,8 @@ enum Coppia {
     numeroCoppie
 };
 
-/// The pairs and the speeds as the records of destinations and defaults name them, in the order of their fields; the
-/// pairs of the visits and ferries come last.
+/// The field that holds each pair, and below each speed, in the records of destinations and defaults. The order is that
+/// of the fields; visits and ferries come last.
 struct CampoCoppia {
     Coppia pair;
     const char16_t* field;
@@ -41,10 +41,10 @@ inline constexpr std::size_t numeroPasti = 6;
 inline constexpr std::array<const char16_t*, 4> campiMedie{u"MediaAutostrada", u"MediaSuperStrada", u"MediaPrincipale",
                                                            u"MediaLocale"};
 
-/// The variable of a pair, hundredths.
+/// The variable of a pair, hundredths of an hour.
 [[nodiscard]] float& variabileCoppia(NumeriViaggio& trip, int pair);
 
-/// Brings clock times and lengths of meals inside their bounds and into the order of a day.
+/// Limits clock times and lengths of meals to their bounds, in the order of a day.
 void limitClocks(NumeriViaggio& trip);
 
 } // namespace vanzer

@@ -20,7 +20,7 @@ void cmdDefault_Click(Form& form, int i) {
         form.archivio.storeSoFar();
     } else {
         CaricaDefaultMeta(form, i == 1 ? 0 : 2);
-        form.campiDaRicordare = false; // they are the user's change
+        form.campiDaRicordare = false; // they are the user's own change
     }
     if (i == 1)
         CalcolaKmTempiItinerario(form);

@@ -5,7 +5,7 @@
 
 namespace vanzer {
 
-/// 0 saves the controls as the user's defaults, 1 loads them, 2 puts the standard values back.
+/// 0 saves the controls as the user's defaults, 1 loads the defaults, 2 restores the standard values.
 void cmdDefault_Click(Form& form, int i);
 
 } // namespace vanzer

@@ -76,7 +76,7 @@ void TotaliTabella::adds(TotaliItinerario& totals, const Tratto& leg, float sign
     }
 }
 
-/// Single precision adds and takes away whole numbers without loss up to 2^24.
+/// Single precision adds and subtracts whole numbers without loss up to 2^24.
 bool TotaliTabella::exact(const TotaliItinerario& totals) const {
     constexpr float largest = 16'777'216;
     return !negative_ && totals.km[4] < largest && totals.tempo[4] < largest;

@@ -1,4 +1,4 @@
-// Kilometres and driving times of an itinerary, with no simulation: what the trip needs at least.
+// Kilometres and driving times of an itinerary without a simulation: the least that the trip needs.
 #pragma once
 
 #include <array>
@@ -9,16 +9,16 @@
 
 namespace vanzer {
 
-/// The letters of the road types, in the order of all that goes by road type.
+/// The letters of the road types. All arrays by road type have this order.
 inline constexpr QStringView tipiStrada = u"ASPL";
 
 /// Average speeds in km/h by road type.
 using Medie = std::array<double, 4>;
 
-/// Position of a road-type letter, from 0: an empty text counts as the first, an unknown letter as the last.
+/// Position of a road-type letter, from 0. An empty text gives the first, an unknown letter the last.
 [[nodiscard]] int indiceStrada(QStringView letter);
 
-/// Driving time in hundredths, rounded to whole ones; 0 without a speed.
+/// Driving time in hundredths of an hour, rounded to whole ones. 0 if the speed is 0. `speed` is in km/h.
 [[nodiscard]] double tempoTratta(int km, double speed);
 
 struct Tratto {
@@ -28,27 +28,27 @@ struct Tratto {
 };
 
 struct TotaliItinerario {
-    std::array<float, 5> km{};    ///< by road type, and in all
-    std::array<float, 5> tempo{}; ///< hundredths
+    std::array<float, 5> km{};    ///< by road type; the last is the sum
+    std::array<float, 5> tempo{}; ///< the same, hundredths of an hour
     int traghetti = 0;
 };
 
-/// The totals of a table of legs. They are kept up to date by difference, so that a leg typed into a long trip costs no
-/// more than one in a short trip.
+/// The totals of a table of legs. They are updated by the difference of a change, so that typing a leg takes no longer
+/// in a long trip than in a short one.
 class TotaliTabella {
   public:
-    /// A leg for each row of the table, or none; rows count from 0.
+    /// The leg of each row of the table, or none. Rows count from 0.
     using Righe = std::vector<std::optional<Tratto>>;
 
     void recalculate(Righe rows, const Medie& speeds);
-    /// A row's leg as it is now. False, and nothing changed, if the totals can't be had by difference.
+    /// Replaces the leg of a row. Returns false and changes nothing if the difference wouldn't be exact.
     [[nodiscard]] bool change(int row, const std::optional<Tratto>& leg);
 
     [[nodiscard]] const TotaliItinerario& totali() const { return totals_; }
     [[nodiscard]] const Medie& medie() const { return speeds_; }
-    /// Null where the row has none.
+    /// The leg of a row, or none.
     [[nodiscard]] const std::optional<Tratto>& tratto(int row) const;
-    /// Driving time of a row's leg, hundredths.
+    /// Driving time of a row's leg, hundredths of an hour.
     [[nodiscard]] float tempo(int row) const;
 
   private:
@@ -61,10 +61,10 @@ class TotaliTabella {
     bool negative_ = false; ///< some leg has negative kilometres
 };
 
-/// Least number of days, from the driving time as gg:hh:mm with a driving day as its gg.
+/// The least number of days, from a driving time as gg:hh:mm. Its gg are driving days.
 [[nodiscard]] int giorniMinimi(const QString& drivingTime);
 
-/// What the list of the wanted days offers.
+/// The entries of the list of wanted days.
 [[nodiscard]] QStringList giorniOfferti(int least, bool anyKilometres);
 
 } // namespace vanzer

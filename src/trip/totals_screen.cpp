@@ -18,7 +18,7 @@ Tratto legOf(const Grid& grid, int row) {
             contains(grid.cell(row, tappaStrada), u"TRAGH")};
 }
 
-/// The row's leg as the table has it now. A row without a place has none and is blanked.
+/// Reads the leg of a row from the table. A row without a place has none, and its cells are blanked.
 std::optional<Tratto> readLeg(Grid& grid, int row) {
     if (!grid.cell(row, tappaLuogo).isEmpty())
         return legOf(grid, row);
@@ -26,7 +26,7 @@ std::optional<Tratto> readLeg(Grid& grid, int row) {
     return {};
 }
 
-/// The running texts from a row on. A leg without kilometres keeps those that it had.
+/// Writes the running totals from a row on. A leg without kilometres keeps its texts.
 void writeRunningTexts(Grid& grid, const TotaliTabella& totals, int first) {
     const SenzaRidisegno quiet(grid);
     float km = 0;
@@ -52,7 +52,7 @@ void workOutAll(Form& form, const Medie& speeds) {
     writeRunningTexts(grid, *form.totali, 1);
 }
 
-/// The totals by what has changed since they were last worked out; false if that isn't known.
+/// Updates the totals by the rows that have changed. False if these aren't known.
 bool workOutChanges(Form& form, const Medie& speeds) {
     Grid& grid = form.mfgTab;
     const std::optional<std::vector<int>> rows = grid.takeChangedRows();
@@ -108,7 +108,7 @@ void CalcolaKmTempiItinerario(Form& form) {
     const Medie speeds = medieMostrate(form);
     if (!workOutChanges(form, speeds))
         workOutAll(form, speeds);
-    (void)form.mfgTab.takeChangedRows(); // what was written on the way
+    (void)form.mfgTab.takeChangedRows(); // the cells written above are no changes of the user
     const TotaliItinerario& totals = form.totali->totali();
     form.viaggio->NumeroTraghetti = totals.traghetti;
     showPanel(form, totals);

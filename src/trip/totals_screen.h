@@ -6,14 +6,14 @@
 
 namespace vanzer {
 
-/// Kilometres of a cell: its number, without the thousands points.
+/// The kilometres in a cell. Thousands points are ignored.
 [[nodiscard]] int chilometri(const QString& cell);
 
-/// The speeds as the lists show them.
+/// The average speeds that the lists show, km/h.
 [[nodiscard]] Medie medieMostrate(const Form& form);
 
-/// Works out kilometres and driving times of the legs in the table: their running columns, the panel of totals and the
-/// list of the wanted days. A wanted number of days below what the driving needs is raised to it.
+/// Works out kilometres and driving times of the legs in the table. Writes their running columns, the panel of totals
+/// and the list of wanted days. Raises the wanted days to the least number that the driving needs.
 void CalcolaKmTempiItinerario(Form& form);
 
 } // namespace vanzer

@@ -1,5 +1,5 @@
-// The trip in work, as numbers. The controls of the window hold the truth; these are copies, made when the parameters
-// are checked, for everything that calculates. Clock times and durations are hundredths of an hour.
+// The numbers of the trip, for everything that calculates. They are copies: the window's controls hold the truth, and
+// every check of the parameters copies them anew. Clock times and durations are hundredths of an hour.
 #pragma once
 
 namespace vanzer {
@@ -16,9 +16,9 @@ struct NumeriViaggio {
     float OreTraghetti = 0; ///< time for one ferry
 
     float OreGuidaGiorno = 0;  ///< driving time of a planned day: the day unit of driving times
-    float OreVisitaGiorno = 0; ///< visiting time of a day
+    float OreVisitaGiorno = 0; ///< driving time of a planned day; one day of a driving time has this length
 
-    int RiposoMinuti = 0;     ///< length of a break: hundredths, not minutes
+    int RiposoMinuti = 0;     ///< length of a break, hundredths of an hour in spite of the name
     int RiposoOre = 0;        ///< whole hours of travel after which a break falls due
     int RiposoGiorno = 0;     ///< days of a long rest
     int RiposoDopoGiorni = 0; ///< days of travel after which a long rest falls due
@@ -27,14 +27,14 @@ struct NumeriViaggio {
     int MeseInizio = 0;
     int AnnoInizio = 0;
     float GiulianoInizio = 0;   ///< Julian day
-    float GiulianoCorrente = 0; ///< Julian day of the moment
+    float GiulianoCorrente = 0; ///< Julian day of the present moment
     float OraInizioViaggio = 0;
     float OraCorrente = 0;
 
     int GiorniDesiderati = 0; ///< wanted days; 0: no fitting
     int NumeroTraghetti = 0;
 
-    float Coefficiente = 0; ///< multiplier of the guide stops
+    float Coefficiente = 0; ///< factor of the guide's stops
     int NumeroTest = 0;     ///< of the calculation, from 1
     int GiorniCalcolati = 0;
 };

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# What goes to other programs, read by other programs: formats.sh BUILD computes the sample trip, and readers that know nothing of
-# Vanzer compare its calendar and its table with the schedule. The manual pages are formatted without a complaint.
+# formats.sh BUILD: other programs read the files that are made for them. Computes the sample trip. Readers that know
+# nothing of Vanzer compare its calendar and its table with the schedule. The manual pages must format without
+# complaints.
 set -uo pipefail
 cd "$(dirname "$0")/../.." || exit 1
 
@@ -18,7 +19,7 @@ for page in share/man/*.1; do
     complaints=$(groff -man -Tutf8 -ww "$page" 2>&1 >"$scratch/page")
     [ -z "$complaints" ] && grep -q VANZER "$scratch/page" || { printf '%s: %s\n' "$page" "$complaints"; exit 1; }
 done
-# Each command that --help lists is told in the manual page and in docs/batch.md's language.
+# The manual page and docs/batch.md explain each command that --help lists.
 "$1/vanzer-batch" --help | sed -n '/^Commands:/,/^$/s/^  \([a-z]*\) .*/\1/p' | sort -u >"$scratch/words"
 [ "$(wc -l <"$scratch/words")" -gt 20 ] || { echo 'vanzer-batch --help lists no commands'; exit 1; }
 while read -r word; do

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# hardened.sh BUILD [PROGRAM...]: the programs that users run are built so that a fault of memory ends them, and can't be led
-# elsewhere: placed anywhere, tables of functions read-only from the start, no stack that runs, stacks and the C library's calls
-# guarded. Says what a program lacks.
+# hardened.sh BUILD [PROGRAM...]: checks that users' programs are built against memory faults. Each loads at a random
+# address, has read-only tables of functions and no executable stack, and guards its stacks and the C library's calls.
+# Prints what a program lacks.
 set -uo pipefail
 build=$1
 shift
@@ -9,7 +9,7 @@ shift
 
 lacking=0
 
-# needs PROGRAM WHAT PATTERN TEXT: a line of the text matches.
+# needs PROGRAM WHAT PATTERN TEXT: some line of the text must match the pattern.
 needs() {
     grep -qE "$3" <<<"$4" && return
     printf '%s: %s\n' "$1" "$2"
@@ -26,12 +26,12 @@ for program in "$@"; do
     needs "$program" 'its tables are filled while it runs (no BIND_NOW)' '\(FLAGS\).*BIND_NOW|FLAGS_1.*NOW' "$shape"
     needs "$program" 'its stack can be run' '^ *GNU_STACK .* RW ' "$shape"
     needs "$program" 'its stacks are not guarded' 'UND __stack_chk_fail' "$imported"
-    # The logbook's program calls nothing that could be guarded.
+    # The logbook's program has no calls that could be guarded.
     [ "$program" = Scribolo ] ||
         needs "$program" 'calls of the C library are not guarded' 'UND __[a-z]+_chk(@|$| )' "$imported"
 done
 
-# That tells of some calls; the commands tell of all files.
+# Guarded calls show only some files. The compile commands show all of them.
 commands=$(grep -E '"command".* -c .*/src/CMakeFiles/' "$build/compile_commands.json")
 [ -n "$commands" ] || { echo 'No commands that compiled them'; lacking=1; }
 for flag in -D_FORTIFY_SOURCE=[23] -fstack-protector-strong; do

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The rules of the rooms that the link lines can't see, read from the include lines; what an include brings along counts
-# too where a rule says so. Prints each line that breaks one.
+# Checks the rules for includes between rooms that the linker can't check. Some rules count indirect includes as well.
+# Prints each line that breaks a rule.
 set -uo pipefail
 cd "$(dirname "$0")/../.." || exit 1
 exec python3 - <<'PYTHON'
@@ -8,7 +8,7 @@ import re
 import sys
 from pathlib import Path
 
-# What each room may include, besides itself.
+# The rooms that each room may include, besides itself.
 ROOMS = {"core": []}
 ROOMS["toolkit"] = ROOMS["store"] = ROOMS["paper"] = ["core"]
 ROOMS["window"] = ["core", "toolkit", "store"]
@@ -32,7 +32,7 @@ ONLY = [(r"sqlite3", ["store"], "Only the store knows SQLite"),
         (rf"(QtGui|QtWidgets|QtPrintSupport|QtUiTools)[/>]|Q({SCREEN_CLASSES})$", ["desktop"], "Only the desktop draws"),
         (r".*_screen\.h", ["trip", "help", "itinerary", "guide", "schedule", "exchange", "reports", "startup", "batch"],
          "The desktop knows no handler")]
-# Rooms that have engines: what isn't a screen there.
+# Rooms with engines. Their files are engines unless they are screens.
 WORK = ["trip", "help", "itinerary", "guide", "schedule", "exchange", "reports"]
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]', re.MULTILINE)

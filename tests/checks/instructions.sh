@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# instructions.sh BUILD: no key work takes a tenth more instructions for a row than benchmarks/instructions.txt has.
+# instructions.sh BUILD: no key work may take over a tenth more instructions for a row than benchmarks/instructions.txt
+# says.
 set -uo pipefail
 cd "$(dirname "$0")/../.." || exit 1
 

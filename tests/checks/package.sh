@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# package.sh BUILD: what a traveller gets. The Debian package is made, installed, worked as an ordinary user, and taken away with
-# nothing left; the portable folder is started where it was copied to. The machine is left as it was.
+# package.sh BUILD: checks what a traveller gets. Makes and installs the Debian package, runs it as an ordinary user,
+# and removes it without a trace. Starts the portable folder from a copy. The machine is left as it was.
 set -uo pipefail
 cd "$(dirname "$0")/../.." || exit 1
 . tools/packages.sh
@@ -29,7 +29,7 @@ version=$(sed -n 's/^project(Vanzer VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 package=$build/vanzer_${version}_$(dpkg --print-architecture).deb
 dpkg-deb -c "$package" | awk '$2 != "root/root" { bad = 1; print } END { exit bad }' || fail 'files that are not root'"'s"
 
-# An ordinary user with a home of his own, who may not write where the program lies.
+# Runs a command as an ordinary user with a home folder, who can't write where the program is.
 user() {
     local as=()
     [ "$(id -u)" -eq 0 ] && as=(setpriv --reuid=65534 --regid=65534 --clear-groups)
@@ -41,7 +41,8 @@ mkdir -m 755 "$scratch/home"
 chmod 755 "$scratch"
 owned "$scratch/home"
 
-# shows_window PROGRAM ARCHIVE TITLE [FILE]: the window comes up with the archive in that place, and stays until it is ended.
+# shows_window PROGRAM ARCHIVE TITLE [FILE]: the window must appear with the archive in that place, and stay until it is
+# ended.
 cat >"$scratch/look" <<'LOOK'
 program=$1 archive=$2 file=${3:-}
 "$program" ${file:+"$file"} & pid=$!
@@ -64,7 +65,7 @@ shows_window() { user xvfb-run -a -s '-screen 0 1920x1200x24' bash "$scratch/loo
 
 as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "$package" >"$scratch/log" 2>&1 ||
     { tail -n 20 "$scratch/log"; fail 'not installed'; }
-# A machine may be told to leave documents out: those are looked for in the package, all others on the disk.
+# Some machines don't install documents. Those are looked for in the package, all others on the disk.
 dpkg -L vanzer | while read -r file; do [ -f "$file" ] && echo "$file"; done >"$scratch/files"
 dpkg-deb -c "$package" | sed 's/.* \.//' >"$scratch/packed"
 for file in bin/vanzer bin/vanzer-batch bin/Scribolo share/applications/vanzer.desktop share/mime/packages/vanzer-iei.xml \
@@ -74,7 +75,7 @@ for file in bin/vanzer bin/vanzer-batch bin/Scribolo share/applications/vanzer.d
     case $file in share/doc/* | share/man/*) list=packed ;; *) list=files ;; esac
     grep -qx "/usr/$file" "$scratch/$list" || fail "no $file"
 done
-# Every picture of the manual is there.
+# Every picture of the manual must be there.
 sed -n 's/^!\[.*(\(.*\))$/\1/p' docs/manuale.md >"$scratch/pictures"
 [ -s "$scratch/pictures" ] || fail 'a manual without pictures'
 desktop-file-validate /usr/share/applications/vanzer.desktop || fail 'the desktop file'
@@ -92,7 +93,7 @@ shows_window /usr/bin/vanzer "$scratch/home/.local/share/Vanzer/Vanzer/Vanzer.md
 as_root dpkg --purge vanzer >"$scratch/log" 2>&1 || fail 'not removed'
 while read -r file; do [ ! -e "$file" ] || fail "left behind: $file"; done <"$scratch/files"
 
-# The folder, from its archive, in a place with a blank in its name.
+# The portable folder, unpacked from its archive in a place with a blank in its name.
 mkdir "$scratch/home/una chiavetta"
 tar xzf "$build/vanzer-$version-portable.tar.gz" -C "$scratch/home/una chiavetta" || fail 'the portable archive'
 owned "$scratch/home"

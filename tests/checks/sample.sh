@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# What a new user sees: ./run with no display shows the sample trip to its end, and the first trip of README.md gives the table
-# printed there.
+# Checks what a new user sees. ./run without a display must show the whole sample trip. The first trip of README.md must
+# give the table that is printed there.
 set -uo pipefail
 cd "$(dirname "$0")/../.." || exit 1
 
-legs=64 # of the sample trip; its schedule has at least as many numbered rows
+legs=64 # legs of the sample trip; its schedule has at least as many numbered rows
 table=$(env -u DISPLAY -u WAYLAND_DISPLAY ./run 2>&1) || {
     printf '%s\n' "$table" | tail -n 20
     exit 1
@@ -19,7 +19,7 @@ scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 mkdir "$scratch/programma"
 
-# block KIND: the README's fenced text of that kind
+# block KIND: prints the README's fenced text of that kind
 block() { awk -v fence="\`\`\`$1" '$0 == "```" { on = 0 } on; $0 == fence { on = 1 }' README.md; }
 
 block vanzer-batch >"$scratch/script"

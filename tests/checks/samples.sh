@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# samples.sh BUILD: samples/make gives the exchange files that the repository holds, byte for byte, and each of them, imported one
-# after another into one archive, is calculated to the very schedule of the script that it came from.
+# samples.sh BUILD: samples/make must give the exchange files of the repository, byte for byte. They are imported into
+# one archive, one after the other. Each must give the schedule of the script that it came from.
 set -uo pipefail
 cd "$(dirname "$0")/../.." || exit 1
 batch=$(realpath "$1")/vanzer-batch
@@ -15,19 +15,19 @@ for trip in "${trips[@]}"; do
     cmp "samples/$trip.iei" "$scratch/made/$trip.iei" || { echo 'Is it meant so? samples/make puts the new files in place'; exit 1; }
 done
 
-# commands FOLDER SCRIPT: its answers, on standard output; fails where a command was not understood
+# commands FOLDER SCRIPT: prints the script's answers; fails if a command was not understood
 commands() {
     "$batch" --dir "$1" --script "$2" >"$scratch/answers" && ! grep '"error"' "$scratch/answers" >&2 && cat "$scratch/answers"
 }
 
-# schedule ANSWERS: the cells of the last grid, one line
+# schedule ANSWERS: prints the cells of the last grid on one line
 schedule() { grep '"cmd":"grid mfgTab"' "$1" | tail -n 1 | sed 's/"cmd":.*//'; }
 
-# name TRIP: as its script calls it
+# name TRIP: prints the name of the trip in its script
 name() { sed -n 's/^set txtLocalita //p' "samples/$1.txt"; }
 
-# Somebody else's archive with a trip of his own: an empty one has no button for an import. It goes to Munich and Oslo, because
-# notes come in for places that a leg is called by in full, and in the sample those two legs are called "... [Start]" and
+# Makes an archive with another trip, since an empty one has no button for an import. The trip goes to Munich and Oslo.
+# Guide entries are imported if a leg has their place's full name, and the sample calls these legs "... [Start]" and
 # "... [End]".
 own_trip() {
     printf '%s\n' start 'click cmdNuovo' 'set txtLocalita OSLO IN BREVE' 'set txtNazione NORVEGIA' 'answer 6' 'click cmdSalva' \

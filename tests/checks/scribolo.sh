@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The logbook as its users get it: scribolo.sh BUILD-FOLDER. Pages and texts of the PDF, an older file that survives a failure,
-# the messages of what can't be done, the viewer on a display.
+# scribolo.sh BUILD-FOLDER: checks the logbook as its users get it. That is the pages and texts of the PDF, an older
+# file that survives a failure, the error messages, and the viewer on a display.
 set -uo pipefail
 cd "$(dirname "$0")/../.." || exit 1
 program=$(realpath "${1:?the build folder}")/Scribolo
@@ -16,14 +16,14 @@ complain() {
     broken=1
 }
 
-# pages FILE COUNT: an A4 document of so many pages.
+# pages FILE COUNT: the file must be an A4 document of so many pages.
 pages() {
     local shown
     shown=$(pdfinfo "$1" | sed -nE 's/^(Pages|Page size): *//p' | paste -sd' ')
     [[ $shown == "$2 595"*"(A4)" ]] || complain "$1: '$shown' instead of $2 pages A4"
 }
 
-# holds FILE PAGE TEXT...: the page has all these texts.
+# holds FILE PAGE TEXT...: the page must have all these texts.
 holds() {
     local file=$1 page=$2 shown text
     shift 2
@@ -33,7 +33,7 @@ holds() {
     done
 }
 
-# refuses STATUS MESSAGE ARGUMENT...: fails with the status, one message that holds this, and nothing on standard output.
+# refuses STATUS MESSAGE ARGUMENT...: must fail with the status and one message that holds this, and print nothing.
 refuses() {
     local status=$1 message=$2 got
     shift 2
@@ -44,7 +44,7 @@ refuses() {
     grep -qF -- "$message" errors || complain "Scribolo $*: '$(cat errors)' instead of '$message'"
 }
 
-# A short trip, its name parted by a shell, with a comma and letters outside the code page.
+# A short trip. Its name was split by a shell, and has a comma and letters outside the code page.
 short="$scratch/Diario di bordo - Elba, Łódź -e ritorno.pdf"
 shown=$("$program" Elba, Łódź -e ritorno,31/05/2026,02/06/2026 2>/dev/null) || complain "the short trip: status $?"
 [ "$shown" = "$short" ] || complain "the short trip: '$shown'"
@@ -56,7 +56,7 @@ holds "$short" 2 'Domenica 31 maggio 2026' 'giorno 1 di 3' Partenza Arrivo Conta
 holds "$short" 4 'Martedì 2 giugno 2026' 'giorno 3 di 3'
 holds "$short" 5 Riepilogo 'dom 31/05' 'mar 02/06' 'Totale del viaggio' 'pagina 5 di 5'
 
-# A long one from the command file, into a folder of its own.
+# A long trip from the command file, into another folder.
 mkdir 'I miei viaggi'
 printf '/home/anna/I miei viaggi\\Scribolo.exe Capo Nord, l\x92estate: \x80/giorno,20/06/2026,29/07/2026\r\n' \
     >'I miei viaggi/CommandLine.txt'
@@ -69,7 +69,7 @@ holds "$long" 41 'Mercoledì 29 luglio 2026' 'giorno 40 di 40'
 holds "$long" 42 'giorni 1–27' 'gio 16/07' 'Da riportare'
 holds "$long" 43 'giorni 28–40' Riporto 'ven 17/07' 'Totale del viaggio' 'pagina 43 di 43'
 
-# What can't be done.
+# Requests that can't be fulfilled.
 refuses 1 'CommandLine.txt non può essere letto'
 refuses 1 'Il viaggio va indicato come' Elba
 refuses 1 '"31/06/2026" non è una data' Elba,31/06/2026,02/07/2026
@@ -85,7 +85,7 @@ refuses 1 'non può essere scritto' Giglio,01/06/2026,02/06/2026
 refuses 2 CARTELLA --dir
 refuses 2 CARTELLA --altro
 
-# No room for the whole file, or only for the last of it: the one of before stays, and nothing half-written beside it.
+# No room for most of the file, or not for its end. The old file stays, and no half-written file is left beside it.
 cp "$short" before
 touch names && ls >names
 for room in 8 $((($(stat -c %s "$short") - 1) / 1024)); do # KiB
@@ -99,7 +99,7 @@ for room in 8 $((($(stat -c %s "$short") - 1) / 1024)); do # KiB
 done
 diff names <(ls) || complain 'something is left over'
 
-# With a display the platform's viewer gets the file.
+# With a display, the platform's viewer opens the file.
 mkdir tools
 printf '#!/bin/sh\nprintf %%s "$1" >"%s/given"\n' "$scratch" >tools/xdg-open
 chmod +x tools/xdg-open

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# clang-tidy over all sources: tidy.sh BUILD BENCHMARKS, two folders of unity builds, the second one with the benchmarks. A room or
-# a handful of tests is looked at a time, since most of the work is on Qt's headers.
+# tidy.sh BUILD BENCHMARKS: runs clang-tidy on all sources. The arguments are two folders of unity builds, the second
+# one with the benchmarks. It checks a room or a few tests at a time, since Qt's headers take most of the work.
 set -uo pipefail
 cd "$(dirname "$0")/../.." || exit 1
 build=$(realpath "${1:?the build folder}") benchmarks=$(realpath "${2:?the build folder with the benchmarks}")
 failed=0
 
-# look BUILD PART [OPTION...]: what was put together for the part in that folder.
+# look BUILD PART [OPTION...]: checks the unity files of that part.
 look() {
     local folder=$1 part=$2 files
     shift 2
@@ -15,11 +15,13 @@ look() {
     xargs -n 1 -P "$(nproc)" clang-tidy --quiet -p "$folder" "$@" <<<"$files" 2> >(grep -vE '^[0-9]+ warnings? generated|^$' >&2) || failed=1
 }
 
-# The analyzer looks at included files too, since the rooms include theirs; in shallow mode: the deep one found nothing more.
+# The analyzer checks included files too, since the rooms include theirs. It runs in shallow mode: the deep one found
+# nothing more.
 look "$build" src --checks=-bugprone-suspicious-include --extra-arg=-Xclang --extra-arg=-analyzer-config --extra-arg=-Xclang \
     --extra-arg=mode=shallow --extra-arg=-Xclang --extra-arg=-analyzer-opt-analyze-headers
 
-# Nobody waits for tests, and an exception that ends one is told. The other checks that are left out take the most time.
+# No user waits for tests, and an exception that ends a test is reported. The other checks left out here take the most
+# time.
 lighter=-bugprone-suspicious-include,-clang-analyzer-*,-performance-*,-bugprone-exception-escape,-bugprone-use-after-move
 lighter+=,-bugprone-unused-return-value,-bugprone-implicit-widening-of-multiplication-result
 lighter+=,-bugprone-suspicious-string-compare,-bugprone-sizeof-expression,-bugprone-suspicious-semicolon

@@ -1,4 +1,4 @@
-// What a user does, key by key, the mouse left alone, and what the window shows.
+// What a user does by keyboard alone, and what the window shows.
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QScrollBar>
@@ -17,7 +17,7 @@ class ByKeyboard : public DesktopTest {
         storeTrip(legs);
         open();
     }
-    /// One cell of all rows that have it, joined.
+    /// The cells of a column in all rows that have text there, joined.
     [[nodiscard]] std::string cells(int column) {
         QStringList texts;
         for (int row = 1; row < form().mfgTab.rows(); ++row)
@@ -25,14 +25,14 @@ class ByKeyboard : public DesktopTest {
         texts.removeAll(QString());
         return texts.join(u'|').toStdString();
     }
-    /// In what is at work then, while no box is up.
+    /// Presses Esc once `holds` is true, inside the running command and while no box is open.
     void escapeOnce(const std::function<bool()>& holds) {
         once([holds] { return QApplication::activeModalWidget() == nullptr && holds(); },
              [this] { QTest::keyClick(&window(), Qt::Key_Escape); });
     }
 };
 
-/// From an empty archive to the calendar of the trip.
+/// From an empty archive to the trip's calendar.
 TEST_F(ByKeyboard, AWholeTripIsPlanned) {
     open();
     story({{"", "+frmPrimiPassi"},
@@ -46,7 +46,7 @@ TEST_F(ByKeyboard, AWholeTripIsPlanned) {
            {"<c>", "cmdCalcola=&Sblocca"},
            {"<p>", "@vistaLinea"},
            {"<Esc><s>", "-frmLinea"}});
-    if (focusName() != "cmdStampa") // shared: the letter goes from one button to the other
+    if (focusName() != "cmdStampa") // shared letter: it moves from one button to the next
         press("<s>");
     story({{"", "@cmdStampa"}, {"<Return>", "@chkTabella"}});
     boxes.expect(Qt::Key_Return);
@@ -72,7 +72,7 @@ TEST_F(ByKeyboard, AScheduleIsLookedAtAndPrinted) {
     press("<Home>");
     EXPECT_EQ(textOf("giornoLinea"), first);
     story({{"<Esc>", "-frmLinea"}, {"<p>", "+frmLinea"}});
-    work("click cmdCalcola"); // the legs come back into the table
+    work("click cmdCalcola"); // shows the legs in the table again
     story({{"", "-frmLinea;/cmdLinea"},
            {"<s>", "@chkTabella"},
            {"<Space><s>", "+frmframe_23"},
@@ -108,7 +108,7 @@ TEST_F(ByKeyboard, ACalculationIsStoppedOnceAndFinishedOnce) {
     storeTrip(12);
     open(everyStep);
     for (const bool byClick : {false, true}) {
-        work("set cmbGiorni 900"); // takes all tests; a stop brings the stored trip back
+        work("set cmbGiorni 900"); // runs all tests; a stop loads the stored trip again
         once([this] { return textOf("cmdEsce") == "&Stop"; },
              [this, byClick] {
                  EXPECT_TRUE(isSeen("txtPerc")) << "no progress line during the calculation";
@@ -187,7 +187,8 @@ TEST_F(ByKeyboard, AStretchIsCopiedBackwardsBehindTheCurrentLeg) {
 
 TEST_F(ByKeyboard, NotesOfTheGuideAreTypedOneAfterTheOther) {
     openTrip(2);
-    // What is told once stays for the notes that follow; a row key stores the third one, and goes past them all.
+    // A message that was shown once isn't repeated for later notes. A row key stores the third note and moves past all
+    // of them.
     story({{"<g>", "@txtGDescr"},
            {"un museo<Tab>", "@cmbGTipo"},
            {"<Down><Tab>01<Tab>30<s>", "@txtGDescr;txtGDescr="},
@@ -207,19 +208,19 @@ TEST_F(ByKeyboard, GroupsAndShortFormsOfTheGuideAreTyped) {
            {"b_-à a", "txtGGruppo=B-A"},
            {"<Tab>diars", "txtGDescr=Diari di bordo;cmbGTipo=Diari bordo"},
            {"<Tab>gpl<s>", "mfgTab:2:3=B-A;mfgTab:2:4=Diari di bordo;mfgTab:2:6=Gpl"},
-           // The description is kept beside a group, and typing replaces it.
+           // The description stays when a group is chosen, and typing replaces it.
            {"stazione", "txtGDescr=stazione"},
            {"<Ctrl+A><Del><f><g>", "mfgTab:2:3=A-B"},
            {"<Down><Up><Down>", "txtGGruppo=A-B"},
            {"z<Up>", "mfgTab:2:3=Z"},
-           {"<t>", "@cmbGTipo"}, // a letter that a label has too only moves the focus
+           {"<t>", "@cmbGTipo"}, // this letter also belongs to a label, so it only moves the focus
            {"<t>", "@cmdStampaGuidaCitta"}});
 }
 
 TEST_F(ByKeyboard, ATripGoesOutAndComesInUnderAnotherName) {
     openTrip(5);
     const QString path = inFolder("prova.iei");
-    writeFile(path, {}); // an older file is asked for once; Enter is no
+    writeFile(path, {}); // asks once about an existing file; Enter means no
     story({{"<x>", "@cmdImportExport_0"},
            {"<e>", "@mfgImExp_0;/cmdImExp_0"},
            {"<Return>", "mfgImExp(1):1:1=PROVA;cmdTutto_1=<--- Tutti [1]"}});

@@ -1,4 +1,4 @@
-// The window's own close button, in whatever state the window is.
+// The window's close button in every state of the window.
 #include <QScreen>
 
 #include "desktop_fixture.h"
@@ -8,7 +8,7 @@ namespace {
 
 using CloseButton = DesktopTest;
 
-/// One press closes what is open, each thing with its own question, and then asks to leave.
+/// One press closes all that is open, each with its own question, and then asks to leave.
 TEST_F(CloseButton, AsksToLeaveWhateverIsOpen) {
     constexpr const char* legs = "?Hai chiesto di uscire dalla funzione 'Itinerari'";
     constexpr const char* stretch = "?Vuoi salvare le modifiche";

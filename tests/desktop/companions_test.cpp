@@ -1,4 +1,4 @@
-// What the window has beside the table: the first steps, texts to the letter, the manual.
+// What the window has beside the table: the first steps, texts shown without mark-up, the manual.
 #include <QHelpEvent>
 #include <QLabel>
 #include <QRegularExpression>
@@ -101,7 +101,7 @@ TEST_F(Companions, TheManualOpensWithAllItsPicturesAndCanBeSearched) {
 TEST_F(Companions, WhatTheManualNamesIsInTheWindow) {
     open();
     seeAllFrames();
-    // Captions that come and go.
+    // Captions that change at run time.
     QStringList captions{QStringLiteral("Sblocca"), QStringLiteral("Esporta"), QStringLiteral("Converte vecchi file")};
     for (const auto& control : form().controls()) {
         if (const auto* const captioned = dynamic_cast<const Captioned*>(control.get()))

@@ -1,4 +1,4 @@
-// Every control of the window against its widget.
+// Every control of the model and its widget.
 #include <algorithm>
 #include <set>
 
@@ -29,7 +29,7 @@ class Controls : public DesktopTest {
         boxes.forget();
     }
 
-    /// Frames that have no form yet, and what is never seen: pictures for paper, the stops of a route file.
+    /// Controls without a widget: those of frames not made yet, pictures for paper, and the stops of a route file.
     [[nodiscard]] static bool notInTheWindow(const Control& control) {
         static const std::set<int> noForm{13, 20, 21};
         const auto* frame = dynamic_cast<const Frame*>(&control);
@@ -59,7 +59,7 @@ class Controls : public DesktopTest {
             EXPECT_EQ(find(name)->palette().color(QPalette::Button), tints.fillable) << name;
     }
 
-    /// Fields that can be typed into now, with the line that takes the keys.
+    /// The fields that can be typed into at present, each with the line that receives the keys.
     [[nodiscard]] std::vector<std::pair<TextControl*, QLineEdit*>> typedInto() {
         std::vector<std::pair<TextControl*, QLineEdit*>> fields;
         for (const auto& control : form().controls()) {
@@ -122,7 +122,7 @@ TEST_F(Controls, TheStatusLineTellsWhatAControlIsFor) {
     auto* const line = find<ShortenedLabel>("lblElaborazione");
     const QString idle = testoInAttesa.toString();
     const QString work = QStringLiteral("Calcolo in corso");
-    // Under the mouse; the caption; what is shown.
+    // widget under the mouse, caption, shown text
     const std::tuple<const char*, QString, QString> cases[] = {
         {"lblAutore", idle, form().cmbInizio(0).tooltip()},     {"cmdNuovo", idle, form().cmdNuovo.tooltip()},
         {"cmbMediaKm_0", idle, form().cmbMediaKm(0).tooltip()}, {"cmdRicerca", work, work},
@@ -163,7 +163,7 @@ TEST_F(Controls, ABoxOpensTheFilesThatItTellsOf) {
     }
 }
 
-/// No line is broken, those that blanks indent stand under each other, and the focus is back where it was.
+/// In the help no line is broken, and indented lines are aligned. The focus returns afterwards.
 TEST_F(Controls, TheHelpIsReadAndLeft) {
     openEditor();
     const QString blanks(37, QChar::Nbsp);
@@ -223,7 +223,7 @@ TEST_F(Controls, PastedTextGoesThroughTheKeyHandlers) {
            {"<End><Backspace>", "txtKm=1234"}});
 }
 
-/// A character that shares its number with a key that moves is a character all the same.
+/// A character may have the same number as a key that moves. It must be typed all the same.
 TEST_F(Controls, EveryCharacterIsTypedAndNothingElse) {
     storeTrip(3);
     QString characters = QStringLiteral("èéàòùçñ°§€");
@@ -237,7 +237,7 @@ TEST_F(Controls, EveryCharacterIsTypedAndNothingElse) {
     for (const char* const opens : {"<i>", "<g>"}) {
         open();
         press(opens);
-        form().cmbGH.setText(QStringLiteral("01")); // with a time a description is an entry that can be stored
+        form().cmbGH.setText(QStringLiteral("01")); // an entry with a description and a time can be stored
         for (const auto& [model, line] : typedInto()) {
             met.insert(model->name());
             for (const QChar c : characters) {
@@ -267,19 +267,19 @@ TEST_F(Controls, EveryCharacterIsTypedAndNothingElse) {
 TEST_F(Controls, ListsArePickedFromAndTypedIntoAsTheirKindAllows) {
     story({{"<@cmbOra_0>3", "cmbOra_0=09"}, {"<Down><@cmbRange>", "cmbOra_0=10"}});
     auto* const hour = find<DropDown>("cmbOra_0");
-    turnWheel(*hour); // that passes by
+    turnWheel(*hour); // the wheel passes by a list without the focus
     turnWheel(*find<DropDown>("cmbMediaKm_0")->lineEdit());
     story({{"", "@cmbRange;cmbOra_0=10"}, {"<@cmbOra_0>", ""}});
     turnWheel(*hour);
     EXPECT_EQ(form().cmbOra(0).text().toStdString(), "11");
     story({{"<@cmbMediaKm_0><Ctrl+A>1x35", "cmbMediaKm_0=135"}, {"<@cmbGiorni><Ctrl+A>998", "cmbGiorni=997"}});
     EXPECT_EQ(find<DropDown>("cmbGiorni")->currentText().toStdString(), "997");
-    form().cmbOra(0).setText(QStringLiteral("99")); // beside the entries
+    form().cmbOra(0).setText(QStringLiteral("99")); // a text that isn't an entry
     window().binder().flush();
     sees("cmbOra_0=99");
 }
 
-/// The arrow goes on from the entry that was chosen, whatever has become of the entries.
+/// The arrow keys go on from the chosen entry, even if the entries have changed.
 TEST_F(Controls, ListsMadeAnewKeepTheirEntry) {
     work("pick cmbInizio(0) 27;pick cmbInizio(1) 06");
     seeAllFrames();
@@ -304,7 +304,7 @@ TEST_F(Controls, FocusThatLeavesAnHourChecksTheClock) {
 TEST(FilteredEdit, KeepsTheCaretBehindWhatWasBroughtIn) {
     TextBox digits(QStringLiteral("t"), -1, nullptr);
     digits.onKeyPress = [](int& code) { code = code >= u'0' && code <= u'9' ? code : 0; };
-    // The text before, as edited, its caret; what is kept, and the caret then.
+    // old text, edited text, its caret; text and caret that remain
     const std::tuple<const char*, const char*, int, const char*, int> cases[] = {
         {"12", "1x2", 2, "12", 1},  {"12", "13x42", 4, "1342", 3}, {"", "a1b2", 4, "12", 2},
         {"1212", "12", 0, "12", 0}, {"111", "1111", 2, "1111", 2}, {"123", "12", 2, "12", 2},

@@ -51,7 +51,7 @@ bool BoxKeys::eventFilter(QObject* watched, QEvent* event) {
     const Qt::Key key = keys_.empty() ? Qt::Key_Escape : keys_.front();
     if (!keys_.empty())
         keys_.pop_front();
-    // Enter is meant for the default button, which has the focus once the box is open.
+    // Enter is for the default button, which has the focus once the box is open.
     QMetaObject::invokeMethod(
         box,
         [box, key, shown] {
@@ -263,7 +263,7 @@ void DesktopTest::pressFor(const QString& path, const char* keys) {
     });
     answer.start(20);
     press(keys);
-    // The dialog took the focus; keys are for the window again once it has it back.
+    // The dialog took the focus. Wait until the window has it again, or it misses the next keys.
     window().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
 }

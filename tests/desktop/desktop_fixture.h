@@ -1,4 +1,4 @@
-// The whole program with its real window, on an archive of its own, worked by keys and clicks alone.
+// The whole program with its real window on an archive of its own, used by keys and clicks.
 #pragma once
 
 #include <deque>
@@ -15,7 +15,7 @@
 
 namespace vanzer::desktop {
 
-/// Opens nothing and keeps what it was to open.
+/// Opens nothing and notes what it was asked to open.
 class KeptOpener : public FileOpener {
   public:
     [[nodiscard]] bool open(const QString& path) override {
@@ -25,23 +25,23 @@ class KeptOpener : public FileOpener {
     QStringList opened;
 };
 
-/// A message box that came up.
+/// A message box that was shown.
 struct ShownBox {
     QString text;
     QString title;
     QStringList buttons;
     QFont font;
-    int lines = 0;     ///< that its text takes in the window
-    bool plain = true; ///< nothing in its texts is taken for a mark-up
+    int lines = 0;     ///< lines of its text in the window
+    bool plain = true; ///< none of its texts is read as mark-up
 };
 
-/// Presses keys in each message box that shows up, in the order told; Esc when none is told.
+/// Presses the noted keys in each message box that appears, in order. Presses Esc when no keys are left.
 class BoxKeys : public QObject {
   public:
     BoxKeys();
     ~BoxKeys() override;
     void expect(Qt::Key key) { keys_.push_back(key); }
-    /// The next one that came up; a failure if there is none.
+    /// The next box that appeared. Fails if there is none.
     ShownBox take();
     [[nodiscard]] bool none() const { return shown_.empty(); }
     void forget() { shown_.clear(); }
@@ -54,7 +54,7 @@ class BoxKeys : public QObject {
 
 class DesktopTest : public ::testing::Test {
   protected:
-    /// What is pressed, and what the window shows then, as `press` and `sees` know them.
+    /// The keys to press, for `press`, and the expected looks, for `sees`.
     struct Step {
         const char* keys;
         const char* seen;
@@ -63,14 +63,14 @@ class DesktopTest : public ::testing::Test {
     void SetUp() override;
     void TearDown() override;
 
-    /// Starts the program on the test's archive; events run inside commands at the given pace.
+    /// Starts the program on the test's archive. Events run inside commands at this pace.
     void open(Pace pace = {});
     void close() { program_.reset(); }
-    /// The window is left, and archive and copies are gone.
+    /// Closes the window and removes archive and copies.
     void forgetArchive();
-    /// All frames come up and go again: their forms are made when they are first seen.
+    /// Opens and closes every frame. A frame's form is made when it is first shown.
     void seeAllFrames();
-    /// The window as it stands, then with one frame after the other open.
+    /// Calls `look` with the present window, then with one frame after the other open.
     void withEachFrame(const std::function<void(const std::string& where)>& look);
     void show(Frame& frame, bool on);
 
@@ -83,39 +83,39 @@ class DesktopTest : public ::testing::Test {
         EXPECT_NE(found, nullptr) << name.toStdString();
         return found;
     }
-    /// All that a table of the archive holds.
+    /// All records of a table of the archive.
     [[nodiscard]] auto records(const char* table) { return form().archivio.tabella(QString::fromLatin1(table)).record; }
-    /// A form that was never seen isn't there yet.
+    /// Whether a widget is visible. The form of a frame that was never shown doesn't exist.
     [[nodiscard]] bool isSeen(const QString& name);
     [[nodiscard]] static std::string focusName();
-    /// Of a widget, or of a cell: "mfgTab:row:column".
+    /// The text of a widget, or of a cell as "mfgTab:row:column".
     [[nodiscard]] std::string textOf(const QString& name);
-    /// By a screen reader.
+    /// The name that a screen reader speaks.
     [[nodiscard]] static QString spokenName(QWidget& widget);
 
-    /// Keys for whatever has the focus. Characters are typed, each with its own key. In "<>" stand Alt letters ("<n>"),
-    /// other keys ("<Tab>", "<Ctrl+A>", "<Down*4>") and tabs up to a widget ("<@txtKm>"); in "[]" the key for a box
-    /// that will come up.
+    /// Presses keys in the widget with the focus. Characters are typed one by one. "<>" holds Alt letters ("<n>"),
+    /// other keys ("<Tab>", "<Ctrl+A>", "<Down*4>") or tabs up to a widget ("<@txtKm>"). "[]" holds the key for a box
+    /// that will appear.
     void press(const char* keys);
-    /// What the window shows, between ";": "@x" has the focus, "+x" is there, "-x" isn't, "*x" is on, "/x" is off,
-    /// "x=y" has this text, "?x" is the begin of the next message box.
+    /// Checks what the window shows. Items are separated by ";": "@x" has the focus, "+x" is visible, "-x" isn't, "*x"
+    /// is enabled, "/x" is disabled, "x=y" has this text, "?x" begins the text of the next message box.
     void sees(const char* looks);
-    /// Steps, each without any other message box.
+    /// Runs steps. Any other message box is a failure.
     void story(std::initializer_list<Step> steps);
-    /// Commands of vanzer-batch on controls, between ";", or keys.
+    /// Runs commands of vanzer-batch on controls, or keys, separated by ";".
     void work(const char* commands);
     void write(const QString& text);
 
-    /// As the mouse's own wheel, one step down.
+    /// Turns the mouse wheel one step down.
     static void turnWheel(QWidget& over);
-    /// Does `hand` once, as soon as `holds` does: mostly inside what is at work then. A failure if that never comes.
+    /// Runs `hand` once, as soon as `holds` is true, mostly inside a running command. Fails if that never happens.
     void once(const std::function<bool()>& holds, const std::function<void()>& hand);
-    /// Does `hand` once, inside the next command.
+    /// Runs `hand` once, inside the next command.
     void inside(const std::function<void()>& hand);
-    /// Presses keys that open a file dialog, which gets this path.
+    /// Presses keys that open a file dialog, and chooses this path in it.
     void pressFor(const QString& path, const char* keys);
 
-    /// A destination and its legs, put into the archive with the models alone. The window is closed.
+    /// Stores a destination and its legs without the window, which must be closed.
     void storeTrip(int legs);
 
     BoxKeys boxes;
@@ -124,14 +124,14 @@ class DesktopTest : public ::testing::Test {
 
   private:
     batch::SetClock clock_;
-    int awaited_ = 0; ///< what is to be done once
+    int awaited_ = 0; ///< calls of once() that are still open
     std::unique_ptr<Program> program_;
 };
 
-/// So that events run inside commands as often as can be.
+/// Makes events run inside commands as often as possible.
 inline constexpr Pace everyStep{.patience = 0, .yields = 0, .frames = 0};
 
-/// What another program says of a file.
+/// The output of another program.
 [[nodiscard]] QString output(const char* program, const QStringList& arguments);
 [[nodiscard]] QByteArray contents(const QString& path);
 void writeFile(const QString& path, const QByteArray& bytes);

@@ -1,4 +1,4 @@
-// The end of the program without the user's word, and the next start.
+// Ends of the program that the user didn't ask for, and the next start.
 #include <csignal>
 
 #include <QFile>
@@ -14,7 +14,7 @@ namespace {
 class Drafts : public DesktopTest {
   protected:
     const QString draft = inFolder("Vanzer.bozza");
-    /// As the program runs: `task` in its event loop, which its end leaves.
+    /// Runs `task` in the program's event loop until that ends.
     void runToTheEnd(const std::function<void()>& task) {
         QTimer::singleShot(0, &window(), task);
         QTimer late;
@@ -37,11 +37,11 @@ TEST_F(Drafts, TypedLegsComeBackWithEnter) {
     EXPECT_EQ(asked.text.toStdString(), "Riprendere il lavoro non salvato a «ROMA» (2 tappe, 09:10)?");
     EXPECT_EQ(asked.buttons, (QStringList{QStringLiteral("Sì"), QStringLiteral("No")}));
     story({{"", "@txtTappa;txtTappa=CUNEO;mfgTab:2:1=ALBA"},
-           {"[N][N]<f>", "?;?"}}); // the leg, the legs, and what is left then is stored
+           {"[N][N]<f>", "?;?"}}); // stores the leg, then the legs, then the rest
     EXPECT_TRUE(QTest::qWaitFor([this] { return !QFile::exists(draft); })) << "left by the usual questions";
 }
 
-/// What is answered in the user's place isn't his choice.
+/// An answer that was given in the user's place isn't the user's choice.
 TEST_F(Drafts, AnOpenQuestionGoesAndTheWorkStays) {
     storeTrip(3);
     open();
@@ -85,14 +85,14 @@ TEST_F(Drafts, ASecondProgramOnTheSameArchiveIsToldSo) {
     sees("?Errore apertura database ;txtLocalita=PROVA");
 }
 
-/// The program itself, by a real signal: the archive is closed in order, which takes its journal away.
+/// The program in a process of its own, with a real signal. It closes the archive properly, which removes the journal.
 TEST_F(Drafts, ASignalEndsTheProgramInOrder) {
     const QString journal = inFolder("Vanzer.mdb-journal");
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         QFile::remove(inFolder("Vanzer.mdb"));
         QProcess program;
         program.setProcessChannelMode(QProcess::ForwardedChannels);
-        // Whoever started the tests may have chosen to ignore some, which the program would respect.
+        // The parent of the tests may ignore some signals, and the program would then ignore them too.
         program.setChildProcessModifier([signal] { std::signal(signal, SIG_DFL); });
         program.start(QStringLiteral(VANZER_PROGRAM), {QStringLiteral("--dir"), directory.path()});
         ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(journal); }, 20000));

@@ -1,4 +1,4 @@
-// Enter in the editors: what was typed is taken, and only then the editor is left.
+// Enter in the editors: it first takes what was typed, and then leaves the editor.
 #include "desktop_fixture.h"
 
 namespace vanzer::desktop {
@@ -9,7 +9,7 @@ class EnterKey : public DesktopTest {
     struct Case {
         int row;
         const char* focus;
-        const char* change; ///< to the row that is shown, as `work` knows it
+        const char* change; ///< changes to the shown row, as commands for `work`
         bool taken;
     };
 
@@ -37,7 +37,7 @@ TEST_F(EnterKey, TakesATypedLegElseAsksToLeave) {
         {3, "cmbSosta_1", "", false},
         {3, "cmbSosta_1", "pick cmbSosta(1) 00", true},
         {4, "txtTappa", "", false},
-        {4, "optStrada_2", "option optStrada(2)", false}, // a new row is nothing yet
+        {4, "optStrada_2", "option optStrada(2)", false}, // a new row without text
         {4, "txtKm", "set txtTappa ALTROVE;set txtKm 5", true},
         {4, "mfgTab", "set txtTappa ALTROVE", false}, // the focus isn't in the editor
     };
@@ -45,7 +45,7 @@ TEST_F(EnterKey, TakesATypedLegElseAsksToLeave) {
         SCOPED_TRACE(std::string(c.change) + ", " + c.focus);
         open();
         press("<i>");
-        form().mfgTab.setCell(3, 2, QStringLiteral("SS9")); // is carried over into a new row
+        form().mfgTab.setCell(3, 2, QStringLiteral("SS9")); // this road is carried over into a new row
         enterAfter(c);
         EXPECT_EQ(form().stato.RigaCorrente, c.taken ? c.row + 1 : c.row);
         EXPECT_EQ(boxes.none(), c.taken);
@@ -63,7 +63,7 @@ TEST_F(EnterKey, TakesATypedEntryElseLeavesTheGuide) {
         {1, "cmbGH", "set cmbGH 03", false},
         {1, "cmbGTipo", "pick cmbGTipo Gpl", false},
         {1, "txtGDescr", "set txtGDescr zzz", true},
-        {1, "txtGDescr", "set txtGDescr 2;click cmdFind", false}, // what was searched for
+        {1, "txtGDescr", "set txtGDescr 2;click cmdFind", false}, // the text of a search
         {2, "txtGDescr", "", false},                              // an entry
         {2, "txtGDescr", "set txtGDescr museo", false},
         {2, "txtGDescr", "set txtGDescr zzz", true},

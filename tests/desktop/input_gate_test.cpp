@@ -1,4 +1,4 @@
-// What the user does while a command is at work waits for its end; what stops it gets through.
+// What the user does during a command waits for its end. What stops the command gets through.
 #include <QLineEdit>
 
 #include "desktop_fixture.h"
@@ -14,9 +14,9 @@ TEST_F(InputGateTest, KeysLettersAndClicksWaitInTheirOrder) {
     auto* const place = find<QLineEdit>("txtLocalita");
     auto* const nation = find<QLineEdit>("txtNazione");
     inside([&] {
-        press("<n>"); // a new trip; then its name
+        press("<n>"); // a new trip, then its name
         QTest::keyClick(place, Qt::Key_X);
-        QTest::keyClick(place, 'd', Qt::AltModifier); // a button that is off by then
+        QTest::keyClick(place, 'd', Qt::AltModifier); // this button is disabled by then
         QTest::mouseClick(window().windowHandle(), Qt::LeftButton, {},
                           nation->mapTo(&window(), nation->rect().center()));
         QTest::keyClick(nation, Qt::Key_Y);
@@ -26,7 +26,7 @@ TEST_F(InputGateTest, KeysLettersAndClicksWaitInTheirOrder) {
     find<QAbstractButton>("cmdRicerca")->click();
     sees("txtNazione=Y;txtLocalita=X;@txtNazione;-cmbRicerca");
 
-    auto* const month = find("cmbInizio_1"); // a wheel is of the moment
+    auto* const month = find("cmbInizio_1"); // a turn of the wheel isn't kept for later
     month->setFocus();
     const std::string before = textOf("cmbInizio_1");
     inside([month] { turnWheel(*month); });

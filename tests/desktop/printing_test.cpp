@@ -1,4 +1,4 @@
-// What the printers of the desktop bring to paper, read back from the PDF; the preview; the frames of printing.
+// What the desktop's printers put on paper, read from the PDF. Also the preview and the frames of printing.
 #include <QApplication>
 #include <QDir>
 #include <QImage>
@@ -16,7 +16,7 @@
 namespace vanzer::desktop {
 namespace {
 
-/// A printer whose files go into the test's folder.
+/// A printer that writes its files into the test's folder.
 class Printing : public DesktopTest {
   protected:
     void SetUp() override {
@@ -51,7 +51,7 @@ class Printing : public DesktopTest {
 };
 
 TEST_F(Printing, TextsStandWhereTheyWereDrawnAndAreAsWideAsMeasured) {
-    // Font, bold, italic, its points, place, text.
+    // font, bold, italic, points, place, text
     const std::tuple<const char*, bool, bool, double, Punto, const char*> cases[] = {
         {"Agency FB", false, false, 9, {0, 0}, "Angolo"},
         {"Agency FB", true, false, 9, {18, 49}, "Località"},
@@ -167,7 +167,7 @@ TEST_F(Printing, ThePdfAsksForItsFileOnceAndACancelDropsTheDocument) {
         const QJsonArray asked = files.exchange({});
         EXPECT_EQ(asked.size(), 1);
         EXPECT_EQ(asked[0][u"filter"].toString(), QStringLiteral("PDF (*.pdf)|*.pdf"));
-        printer.newPage(); // an end right behind a new page leaves no blank sheet
+        printer.newPage(); // an end right after a new page leaves no blank sheet
         printer.endDoc();
         EXPECT_EQ(printer.page(), 0);
         printer.endDoc();
@@ -198,7 +198,7 @@ TEST_F(Printing, AFileThatCannotBeWrittenIsToldAndTheOlderOneStays) {
         const QString text = failure(1);
         EXPECT_TRUE(text.contains(QDir::toNativeSeparators(inFolder(path)))) << path << ": " << text.toStdString();
     }
-    // The disk fills up while pages are written, and at the very end.
+    // The disk gets full while pages are written, and at the very end.
     for (const auto& [pages, room] : {std::pair{400, 100'000}, std::pair{1, 0}}) {
         files.enqueue(pdf);
         const FullDisk full(static_cast<rlim_t>(room));
@@ -239,7 +239,7 @@ TEST_F(Printing, ThePreviewIsHadAndLeft) {
             auto& preview = dynamic_cast<PrintPreview&>(*QApplication::activeWindow());
             press(keys);
             EXPECT_EQ(preview.findChild<QLabel*>(QStringLiteral("pagina"))->text().toStdString(), lastPage);
-            QTest::qWait(200); // a button that a letter presses goes down for a moment
+            QTest::qWait(200); // a button pressed by a letter stays down for a moment
             EXPECT_FALSE(preview.isVisible()) << "the keys leave the preview";
             if (preview.isVisible())
                 preview.reject();
@@ -248,7 +248,7 @@ TEST_F(Printing, ThePreviewIsHadAndLeft) {
         EXPECT_EQ(printer.page(), 0);
         EXPECT_EQ(QFile::exists(pdf) ? pageCount(pdf) : 0, sent);
     }
-    press("<p>"); // of a frame that is not open
+    press("<p>"); // belongs to a frame that isn't open
     EXPECT_TRUE(previewWanted());
 }
 
@@ -272,7 +272,7 @@ TEST_F(Printing, TheFramesAreWorkedByKeyboard) {
     EXPECT_TRUE(printed) << "of two buttons with one letter the one of the frame at hand";
     form().lstStampanti.clear();
     show(form().frmframe(23), false);
-    sees("@chkModuli"); // the focus goes back
+    sees("@chkModuli"); // the focus returns
     form().lstStampanti.setEntries({QStringLiteral("PDF")});
     show(form().frmframe(23), true);
     EXPECT_FALSE(list->currentIndex().isValid()) << "nor the next time";

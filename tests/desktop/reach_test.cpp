@@ -1,5 +1,5 @@
-// Who can't see well, or at all, or has no mouse: what the window says to a screen reader, how its colours part, and
-// what becomes of it when letters are large.
+// The window for users who see badly or not at all, or have no mouse: what it tells a screen reader, its contrasts, and
+// its layout with large letters.
 #include <algorithm>
 #include <cmath>
 
@@ -25,7 +25,7 @@ TEST_F(Reach, WhatTakesTheFocusHasANameOfItsOwn) {
             if (!widget->isVisible() || (widget->focusPolicy() & Qt::TabFocus) == 0 ||
                 widget->objectName().startsWith(u"qt_") || qobject_cast<QComboBox*>(widget->parentWidget()) != nullptr)
                 continue;
-            // Buttons of the exchange get their captions with the choice of what is exchanged.
+            // The buttons of the exchange get captions when its kind is chosen.
             if (const auto* const button = qobject_cast<QAbstractButton*>(widget);
                 button != nullptr && button->text().isEmpty())
                 continue;
@@ -38,13 +38,13 @@ TEST_F(Reach, WhatTakesTheFocusHasANameOfItsOwn) {
     });
 }
 
-/// As the guidelines for readable pages count it.
+/// The relative luminance, as the guidelines for accessible web pages define it.
 double light(const QColor& colour) {
     const auto channel = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
     return 0.2126 * channel(colour.redF()) + 0.7152 * channel(colour.greenF()) + 0.0722 * channel(colour.blueF());
 }
 
-/// 1 to 21.
+/// The contrast of two colours, from 1 to 21.
 double contrast(const QColor& one, const QColor& other) {
     const auto [dark, bright] = std::minmax({light(one), light(other)});
     return (bright + 0.05) / (dark + 0.05);
@@ -72,7 +72,7 @@ TEST(Colours, TextsStandOutFromEveryGroundInTheLightAndInTheDark) {
         EXPECT_GE(contrast(Qt::white, coloreCategoria(category)), 4.5) << category;
 }
 
-/// A text needs no more room than it has.
+/// The widget has room for its whole text.
 void expectWhole(const QWidget& widget, const std::string& where) {
     const QSize lacks = widget.sizeHint() - widget.size();
     EXPECT_TRUE(lacks.width() <= 1 && lacks.height() <= 2)
@@ -105,7 +105,7 @@ TEST_F(Reach, LettersUpToTwiceAsLargeStayWhole) {
     QApplication::setFont(usual);
 }
 
-/// Whether it lies whole in all that holds it, or in what an area can scroll to.
+/// Whether the widget is fully visible, or can be scrolled into view.
 bool isReached(const QWidget& widget) {
     QRect place = widget.rect();
     for (const QWidget* at = &widget; !at->isWindow(); at = at->parentWidget()) {
@@ -122,7 +122,7 @@ bool isReached(const QWidget& widget) {
     return true;
 }
 
-/// A low screen, and a wide one at twice the scale, each without its panel and the window's title.
+/// A low screen, and a wide one at twice the scale. Panel and window title take their room.
 TEST_F(Reach, ASmallWindowShowsEverythingOrScrollsToIt) {
     storeTrip(3);
     for (const QSize size : {QSize(1280, 660), QSize(1024, 540), QSize(960, 480)}) {

@@ -1,4 +1,4 @@
-// Settings that would keep the program waiting.
+// Settings that could make the program wait.
 #include "desktop/settings_file.h"
 
 #include <QDir>

@@ -10,7 +10,7 @@ namespace scenarios {
 
 namespace {
 
-constexpr double pageTolerance = 0.011; // mm: two roundings to two decimals
+constexpr double pageTolerance = 0.011; // mm; two values that are each rounded to two decimals may differ so much
 
 QString shown(const QJsonValue& value) {
     return QString::fromUtf8(

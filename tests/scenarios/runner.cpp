@@ -24,14 +24,14 @@ namespace scenarios {
 
 namespace {
 
-constexpr int longestRun = 300'000; // ms; sanitized builds are slow
+constexpr int longestRun = 300'000; // ms; builds with sanitizers are slow
 constexpr int differencesShown = 12;
 
 std::string plain(const QString& text) {
     return text.toStdString();
 }
 
-/// The answers to the scenario's commands, the program's directory written as "{DIR}".
+/// The answers to the scenario's commands. The path of the program's directory is replaced by "{DIR}".
 QList<QByteArray> answersOf(const Scenario& scenario) {
     const QTemporaryDir scratch;
     const QString directory = QFileInfo(scratch.path()).canonicalFilePath();
@@ -57,8 +57,8 @@ QList<QByteArray> answersOf(const Scenario& scenario) {
     return answers;
 }
 
-/// What is wrong with the answer to one command, one difference a line; empty when it is as expected. The command
-/// itself is always part of it, so that answers can't slip by a line.
+/// The differences in the answer to one command, one a line. Empty if it is as expected. The command belongs to every
+/// answer, so that answers can't slip by a line.
 QString complaint(const Step& step, bool example, const QByteArray& answer) {
     const QByteArray piece = "~ ";
     if (example && step.expected.startsWith(piece))

@@ -18,7 +18,7 @@ TEST(AnswerCompare, SeesWhatDiffers) {
         const char* idea;
         const char* expected;
         const char* got;
-        const char* difference; ///< the place of the only one, empty for none
+        const char* difference; ///< where the only difference is; empty for none
     };
     const Case cases[] = {
         {"equal", R"({"a":[1,{"b":null}]})", R"({"a":[1.0,{"b":null}]})", ""},

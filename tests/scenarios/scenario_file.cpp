@@ -9,7 +9,7 @@ namespace {
 
 const QByteArray arrow = "=> ";
 
-/// Empty when the file can't be read.
+/// The lines of a file. Empty if it can't be read.
 QList<QByteArray> linesOf(const QString& path) {
     QFile file(path);
     QList<QByteArray> lines = file.open(QIODevice::ReadOnly) ? file.readAll().split('\n') : QList<QByteArray>();
@@ -43,7 +43,7 @@ Scenario readScenario(const QString& path) {
     Scenario scenario;
     scenario.path = path;
     scenario.examples = path.endsWith(u".md");
-    QByteArray end; // of the block of examples at hand
+    QByteArray end; // the line that ends the current block of examples
     const QList<QByteArray> lines = linesOf(path);
     for (int i = 0; i < lines.size(); ++i) {
         const QByteArray& line = lines.at(i);

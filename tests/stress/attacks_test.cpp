@@ -1,4 +1,4 @@
-// Works attacked at each of their calls on files in turn, and by losses of power.
+// Attacks each work at each of its calls on files, and by losses of power.
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
@@ -15,7 +15,7 @@
 namespace vanzer::stress {
 namespace {
 
-/// The records that belong together: those of a destination's itinerary, those of each other table.
+/// Groups records that belong together: those of a destination's itinerary, and those of each other table.
 std::map<QString, QStringList> groups(const QStringList& records) {
     std::map<QString, QStringList> found;
     for (const QString& record : records)
@@ -23,15 +23,15 @@ std::map<QString, QStringList> groups(const QStringList& records) {
     return found;
 }
 
-/// Boxes that nobody expects at a start; that the archive is missing beside its copies is a state in order.
+/// The text of the boxes that are a fault at a start. A missing archive with copies beside it is a proper state.
 std::string wordsAtStart(QStringList boxes) {
     boxes.removeIf([](const QString& box) { return box.contains(u"ci sono le sue copie. Riprendere"_s); });
     return text(boxes);
 }
 
-/// Whether a file that nobody expects may lie in the folder behind a start: none of the archive may. A file for others
-/// may have been whole, but under the name that it had until then; of a conversion that was all but done the codes stay
-/// that it gave out; a rebuild that begins anew keeps the old archive once more.
+/// Whether an unexpected file may remain after a start. It may be a complete file for others that still has its
+/// temporary name. It may be the list of codes of an almost finished conversion. It may also be the old archive, which
+/// a restarted rebuild keeps a second time. Files of the archive may not remain.
 bool mayBeLeft(const std::string& name) {
     static const std::regex known(R"((giro\.iei|giro\.pdf|Vanztabl\.txt|ListaLocalita\.txt)\.\w{6}|VanzMete\.codici|)"
                                   R"(Copie/Vanzer prima della ricostruzione \d+ \(ancora \d+ avvii\)\.mdb)");
@@ -40,7 +40,7 @@ bool mayBeLeft(const std::string& name) {
 
 class Attacked : public testing::TestWithParam<const char*> {
   protected:
-    /// Does the work once with all in order, and keeps what it changes.
+    /// Does the work once without an attack, and notes its changes.
     void SetUp() override {
         ASSERT_TRUE(folders.isValid());
         readWork();
@@ -90,27 +90,27 @@ class Attacked : public testing::TestWithParam<const char*> {
         today = QDate(2026, 5, kinds.contains(u"later"_s) ? 20 : 4);
     }
 
-    /// The start is several commands: what came first may be stored when what comes behind fails.
+    /// A start consists of several commands. The first ones may be stored when a later one fails.
     [[nodiscard]] bool atStart() const { return prelude.isEmpty(); }
     [[nodiscard]] QStringList starts() const { return atStart() ? risky : QStringList{u"start"_s}; }
-    /// Records behind one more start.
+    /// The records after one more start.
     [[nodiscard]] QStringList started() const {
         Desk desk(folder, today);
         desk.run(starts());
         return desk.records();
     }
-    /// A program that has come to the risky lines.
+    /// A program that has reached the risky lines.
     [[nodiscard]] std::unique_ptr<Desk> atWork() const {
         auto desk = std::make_unique<Desk>(folder, today);
         desk->run(prelude);
         return desk;
     }
-    /// Where the power fails: within the risky lines or behind them.
+    /// Where the power fails: within the risky lines or after them.
     [[nodiscard]] std::size_t drawnCut(std::mt19937_64& chance) const {
         return firstRisky + chance() % (recording.changes.size() - firstRisky + 1);
     }
 
-    /// Gives the lines up to the first box that doesn't come up when all is well: the user stops there.
+    /// Runs the lines up to the first box that doesn't appear without an attack. The user stops there.
     QStringList troubles(Desk& desk, const QStringList& lines) const {
         for (const QString& line : lines) {
             QStringList told = desk.run({line});
@@ -121,26 +121,26 @@ class Attacked : public testing::TestWithParam<const char*> {
         return {};
     }
 
-    /// Each group of records that belong together is as in one of the states.
+    /// Expects each group of records to be as in one of the states.
     static void expectGroups(const QStringList& found, const std::vector<QStringList>& states) {
         for (const auto& [name, records] : groups(found)) {
             const bool asKnown = std::ranges::any_of(states, [&name = name, &records = records](const auto& state) {
                 const auto known = groups(state);
                 return known.contains(name) && known.at(name) == records;
             });
-            // Old destinations are written with the first file and adjusted with the last.
+            // Old destinations are stored with the first file, and adjusted with the last one.
             EXPECT_TRUE(asKnown || name == u"MeteVanzer") << text(records);
         }
     }
 
-    /// Outputs are whole, the older one or the new one.
+    /// Expects every output to be whole: the old file or the new one.
     void expectOutputs(bool fresh) const {
         const Disk disk = outputs.empty() ? Disk() : Disk::of(folder);
         for (const std::string& name : outputs)
             EXPECT_TRUE(disk[name] == done[name] || (!fresh && disk[name] == ready[name])) << name;
     }
 
-    /// Nothing half-made; the copies that were there, and new ones that give the trips back.
+    /// Expects no half-written file. The old copies must be there, and new copies must contain the trips.
     void expectFiles() const {
         const Disk disk = Disk::of(folder);
         for (const auto& [name, number] : ready.names) {
@@ -163,7 +163,7 @@ class Attacked : public testing::TestWithParam<const char*> {
         }
     }
 
-    /// What a program that was stopped anywhere in the work has left: all as before or as after, and the program
+    /// Checks what a program has left that was stopped during the work. All is as before or as after, and a new program
     /// starts on it and goes on. `finished`: all was done.
     void expectWhole(bool finished = false) const {
         expectOutputs(false);
@@ -200,7 +200,7 @@ class Attacked : public testing::TestWithParam<const char*> {
         });
     }
 
-    /// What a failed command has left, and that it can be given again.
+    /// Checks what a failed command has left, and that it can be repeated.
     void expectWholeAfterFault(Desk& desk, const QStringList& told) const {
         EXPECT_EQ(unclearWords(told), "");
         EXPECT_TRUE(desk.alive() || (atStart() && !told.isEmpty()));
@@ -223,30 +223,30 @@ class Attacked : public testing::TestWithParam<const char*> {
 
     QTemporaryDir folders;
     const QString prepared = folders.filePath(u"pronta"_s);
-    const QString folder = folders.filePath(u"viaggi"_s); ///< the same for all, as its name may go into files
-    QStringList prelude, risky, again, resume;            ///< lines, as scripts.txt tells them
+    const QString folder = folders.filePath(u"viaggi"_s); ///< the same for all tests, as its name may go into files
+    QStringList prelude, risky, again, resume;            ///< lines, as scripts.txt explains them
     std::vector<std::string> outputs;
     bool inSteps = false, canBeMadeAnew = false;
     QDate today;
     QStringList usualBoxes;
-    QStringList stored;                      ///< records that were made ready
+    QStringList stored;                      ///< records that were prepared
     QStringList before, after;               ///< records
-    QStringList startedBefore, startedAfter; ///< with one more start
+    QStringList startedBefore, startedAfter; ///< records after one more start
     Disk ready, done;                        ///< the folder before and after
-    std::set<std::string> expected;          ///< files that may be there
+    std::set<std::string> expected;          ///< files that may exist
     Recording recording;
-    std::size_t firstRisky = 0; ///< where the changes of the risky lines begin
+    std::size_t firstRisky = 0; ///< number of the first change by the risky lines
     std::array<int, kindsOfCalls> calls{};
 };
 
-// Nothing of what follows is worth anything if the calls of the libraries don't come through this binary.
+// The other tests prove nothing if the libraries' calls don't come through this binary.
 TEST_P(Attacked, CallsAreSeen) {
     for (const Call call : {Call::Open, Call::Read, Call::Write, Call::Sync})
         EXPECT_GT(calls[static_cast<std::size_t>(call)], 0) << static_cast<int>(call);
     EXPECT_GT(recording.changes.size(), firstRisky);
 }
 
-/// The program is killed before each change, and when a write is done by half.
+/// Kills the program before each change, and in the middle of a write.
 TEST_P(Attacked, Kills) {
     for (const bool half : {false, true}) {
         const int first = half ? together : 0;
@@ -267,8 +267,7 @@ TEST_P(Attacked, Kills) {
     }
 }
 
-/// At each change a signal asks for the end: the command at hand is finished or undone, and the program leaves in
-/// order.
+/// Sends a signal at each change. The running command is finished or undone, and the program ends properly.
 TEST_P(Attacked, Signals) {
     eachNumber(0, [&](int n) {
         ready.lay(folder);
@@ -294,7 +293,7 @@ TEST_P(Attacked, Signals) {
     });
 }
 
-/// The power fails at any moment, or behind the command.
+/// Cuts the power at any moment, or after the command.
 TEST_P(Attacked, PowerCuts) {
     eachDrawn([&](int n, std::mt19937_64& chance) {
         const std::size_t cut = drawnCut(chance);
@@ -317,8 +316,8 @@ constexpr std::pair<const char*, Fault> faults[] = {
     {"all reads fail from then on", Fault{+Call::Read, EIO, true}},
 };
 
-/// A call fails: the user is told or all is stored, the window lives, what was stored stays, and the command given
-/// again ends as if nothing had been.
+/// Lets a call fail. The user is told or all is stored, the window lives on, and stored records stay. The command can
+/// be repeated as if nothing had happened.
 TEST_P(Attacked, Faults) {
     int first = -together;
     int told = 0;
@@ -326,7 +325,7 @@ TEST_P(Attacked, Faults) {
         SCOPED_TRACE(name);
         first += together;
         eachNumber(first, [&, &fault = fault](int n) {
-            // What the child has seen of the fault, it leaves behind.
+            // The child writes down how it met the fault.
             const QString hit = folders.filePath(u"colpito"_s);
             QDir().rmdir(hit);
             ready.lay(folder);
@@ -359,7 +358,7 @@ INSTANTIATE_TEST_SUITE_P(Works, Attacked,
                                          "looked_up_and_calculated"),
                          nameOf);
 
-/// A disk that syncs nothing must lose what is stored, else losses aren't seen here at all.
+/// A disk that syncs nothing must lose stored records. Otherwise these tests wouldn't notice any loss.
 class LyingDisk : public Attacked {};
 
 TEST_P(LyingDisk, LosesWhatIsStored) {

@@ -14,16 +14,16 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-extern "C" [[gnu::weak]] int __lsan_do_recoverable_leak_check(); // there under the sanitizers
+extern "C" [[gnu::weak]] int __lsan_do_recoverable_leak_check(); // exists with sanitizers only
 
 namespace vanzer::stress {
 
 namespace {
 
-constexpr int mostBad = 5; // of a test, behind which it ends
+constexpr int mostBad = 5; // bad tries of a test, after which it ends
 
 constexpr const char* endNames[] = {"held", "told", "killed", "lost", "crashed", "hung"};
-/// By test, how often it came to each end.
+/// The number of tries with each end, by test.
 auto& tallies() {
     static std::map<std::string, std::array<long, std::size(endNames)>> all;
     return all;
@@ -40,7 +40,7 @@ const testing::TestInfo& running() {
         static_cast<void>(std::freopen("/dev/null", "w", stdout));
         static_cast<void>(std::freopen("/dev/null", "w", stderr));
     }
-    // The sanitizers' shadow of the memory takes terabytes of addresses.
+    // The sanitizers' shadow memory takes terabytes of addresses.
     const rlimit room{rlim_t{4} << 30, rlim_t{4} << 30};
     if (__lsan_do_recoverable_leak_check == nullptr)
         setrlimit(RLIMIT_AS, &room);
@@ -76,7 +76,7 @@ End inChild(const Body& body, bool muted) {
 End attempt(int number, const Body& body) {
     const End end = inChild(body);
     const testing::TestInfo& test = running();
-    // "Kills/import" of the test "Works/Attacked.Kills/import", "LargeArchive" of a test without works.
+    // "Kills/import" for the test "Works/Attacked.Kills/import", "LargeArchive" for a test without works.
     const std::string name = test.name();
     ++tallies()[name.find('/') == std::string::npos ? test.test_suite_name() : name][static_cast<std::size_t>(end)];
     if (end != End::Held && end != End::Told) {

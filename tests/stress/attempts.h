@@ -1,4 +1,4 @@
-// Tries, each in a process of its own, and the table of how they ended.
+// Runs tries, each in its own process, and counts how they ended.
 #pragma once
 
 #include <cstdint>
@@ -7,42 +7,41 @@
 
 namespace vanzer::stress {
 
-/// What the command line asks for.
+/// The options of the command line.
 struct Options {
     std::uint64_t seed = 1;
-    int number = 0; ///< of the one try to make; 0 for all
-    int tries = 30; ///< of each attack that draws them
-    int step = 1;   ///< of the others, each so many'th is made, from one on that the seed says
+    int number = 0; ///< number of the single try to run; 0 for all
+    int tries = 30; ///< tries of each attack that draws them
+    int step = 1;   ///< other attacks run every step-th try, from one that depends on the seed
 };
 Options& options();
 
 enum class End { Held, Told, Killed, Lost, Crashed, Hung };
 
-/// Runs in a child; the result is whether the user was told something. What a test expects there in vain is lost, and
-/// so is memory that nobody gives back.
+/// Runs in a child. Returns whether the user was told something. A failed expectation there counts as a loss, and so
+/// does leaked memory.
 using Body = std::function<bool()>;
 
-/// One that takes longer hangs.
+/// A try that takes longer counts as hung.
 inline constexpr unsigned longestTry = 60; // s
 
-/// A try that nobody counts. `muted` keeps quiet about what was lost.
+/// Runs a try without counting it. `muted` doesn't print failures.
 [[nodiscard]] End inChild(const Body& body, bool muted = false);
 
-/// The try of that number of the running test goes into the table. One that ends badly fails the test and is named so
-/// that it can be made again.
+/// Runs a try of the running test and counts it. A bad end fails the test, with the command that repeats the try.
 End attempt(int number, const Body& body);
 
-/// Numbers of a test's tries from one on to the next thousands belong together.
+/// Tries of one test whose numbers are in the same block of so many belong together.
 inline constexpr int together = 10'000;
 
-/// Gives 1, 2, 3 … to `once` until it answers false, or after five tries that ended badly; where one try is asked for,
-/// its number behind `first` alone.
+/// Calls `once` with 1, 2, 3 … until it returns false, or until five tries have ended badly. If a single try is asked
+/// for, calls it with its number after `first` only.
 void eachNumber(int first, const std::function<bool(int n)>& once, int step = options().step);
-/// Gives it the numbers of as many tries as are asked for, or so many times as many, each with a chance of its own: the
-/// same on every machine.
+/// Calls `once` with the numbers of as many tries as are asked for, times `times`. Each gets its own random generator,
+/// which is the same on every machine.
 void eachDrawn(const std::function<void(int number, std::mt19937_64& chance)>& once, int times = 1);
 
-/// Ends of tries, by test.
+/// Prints the ends of the tries, by test.
 void printTable();
 
 } // namespace vanzer::stress

@@ -1,4 +1,4 @@
-// Archives and journals that are damaged, and a large archive whose pages the disk doesn't give.
+// Damaged archives and journals, and a large archive with unreadable pages.
 #include <algorithm>
 #include <cerrno>
 
@@ -16,7 +16,7 @@ namespace {
 const std::string archiveName = "Vanzer.mdb";
 const std::string journalName = "Vanzer.mdb-journal";
 
-/// A program is killed while it stores: its journal waits to be rolled back.
+/// Kills a program while it stores. Its journal then waits to be rolled back.
 void killWhileStoring(const QString& folder) {
     const Disk before = Disk::of(folder);
     Disk now = before;
@@ -50,10 +50,10 @@ void damage(std::string& bytes, std::mt19937_64& chance) {
     if (kind < 3) { // anywhere in a page
         for (std::size_t i = draw(20); i < 20; ++i)
             set(one + draw(page));
-    } else if (kind < 6) { // in the head of a page, where its cells and pointers begin
+    } else if (kind < 6) { // at the head of a page, where its cells and pointers begin
         for (std::size_t i = draw(4); i < 4; ++i)
             set(one + draw(24));
-    } else if (kind < 9) { // a text, or the text of a table
+    } else if (kind < 9) { // in a text, or in the text of a table's definition
         for (std::size_t i = draw(3); i < 3; ++i)
             set(bytes.find_first_of("LPSTVZ", draw(bytes.size())));
     } else if (kind == 9)
@@ -68,14 +68,13 @@ void damage(std::string& bytes, std::mt19937_64& chance) {
         std::copy_n(&bytes[one], size, &bytes[other]);
 }
 
-/// The head tells of a write-ahead log: the engine sets that right before it looks any further.
+/// Whether the head announces a write-ahead log. The engine repairs that before it looks any further.
 bool speaksOfLog(const std::string& archive) {
     constexpr std::size_t versions = 18;
     return archive.size() > versions + 1 && (archive[versions] != 1 || archive[versions + 1] != 1);
 }
 
-/// No damage crashes the program or makes it hang, whatever is done then; the copies stay, and so does a file that is
-/// refused.
+/// No damage crashes the program or makes it hang, whatever follows. The copies stay, and so does a refused file.
 TEST(Damaged, ArchivesAndJournals) {
     const QTemporaryDir folders;
     const QString folder = folders.filePath(u"viaggi"_s);
@@ -112,14 +111,14 @@ TEST(Damaged, ArchivesAndJournals) {
         8);
 }
 
-/// The exchange file without the guide's marks of use, which are no reason to tell a failure.
+/// The exchange file without the guide's marks of use. A difference in these is no failure.
 QString withoutMarks(const std::string& file) {
     static const QRegularExpression mark(u"^((?:[^\u00FD\\n]*\u00FD){5})[^\u00FD\\n]*"_s,
                                          QRegularExpression::MultilineOption);
     return QString::fromLatin1(file.data(), std::ssize(file)).replace(mark, u"\\1"_s);
 }
 
-/// A read that fails in any room is told, and what comes out then is whole all the same.
+/// A read that fails in any room is told to the user. What is written then is still whole.
 TEST(LargeArchive, Reads) {
     const QTemporaryDir folders;
     const QString folder = folders.filePath(u"viaggi"_s);

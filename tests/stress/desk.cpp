@@ -36,7 +36,7 @@ Sections sectionsOf(const char* file) {
     return found;
 }
 
-/// Of "NAME N" or "NAME N*", the editor stays open.
+/// The legs of "NAME N" or "NAME N*". With "*" the editor stays open.
 QStringList legs(const QString& words) {
     static const QStringList scripts = section("scripts.txt", u"scripts"_s);
     const QString name = words.section(u' ', 0, -2);

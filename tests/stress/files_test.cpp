@@ -1,4 +1,4 @@
-// Folders where nothing can be written, an archive that another program has, an itinerary that is too long.
+// Folders that can't be written, an archive in use by another program, an itinerary that is too long.
 #include <cerrno>
 #include <functional>
 
@@ -29,7 +29,8 @@ TEST(Files, ThatCannotBeWrittenAreToldByNameAndTheOlderOnesStay) {
     Desk desk(folder);
     desk.run({u"start"_s});
     Watch watch(folder);
-    // Nobody may write into the folder, and the administrator works as somebody else; the folder isn't there; no sync.
+    // Cases: a folder without write permission (the administrator becomes another user), a missing folder, a failing
+    // sync.
     const bool administrator = geteuid() == 0;
     constexpr uid_t nobody = 65534;
     const struct {
@@ -61,7 +62,7 @@ TEST(Files, ThatCannotBeWrittenAreToldByNameAndTheOlderOnesStay) {
         EXPECT_TRUE(Disk::of(folder).contents == before.contents);
         EXPECT_TRUE(desk.alive());
         const std::string output = files.first().toStdString();
-        bool inPlace = false; // told all the same, as the folder isn't safe
+        bool inPlace = false; // told although the file is in place, as the folder isn't synced
         int sync = 0;
         do {
             prepare(folder, {u"put %1 > quello di prima"_s.arg(files.first())});
@@ -77,7 +78,7 @@ TEST(Files, ThatCannotBeWrittenAreToldByNameAndTheOlderOnesStay) {
 
 TEST(Files, PutIntoPlaceAreToldWhereTheyArentSafe) {
     const QTemporaryDir home;
-    for (const int sync : {1, 2}) { // of the file, of the folder
+    for (const int sync : {1, 2}) { // sync of the file, sync of the folder
         prepare(home.path(), {u"put nuovo.mdb > nuovo"_s, u"put Vanzer.mdb > quello di prima"_s});
         Watch watch(home.path());
         watch.arm({.calls = +Call::Sync, .error = EIO}, sync);
@@ -87,7 +88,7 @@ TEST(Files, PutIntoPlaceAreToldWhereTheyArentSafe) {
     }
 }
 
-/// Whatever sync of a rebuild fails, the archive from before is there, as itself or kept.
+/// Whichever sync of a rebuild fails, the old archive still exists, in place or as a kept file.
 TEST(Rebuild, KeepsTheArchiveFromBeforeWhereASyncFails) {
     bool keptAlone = false;
     for (int n = 1;; ++n) {
@@ -113,11 +114,11 @@ TEST(TwoPrograms, TheSecondIsToldByNameAndChangesNothing) {
     const QTemporaryDir home;
     Desk first(home.path());
     first.run(script(u"start; trip GARDA 5"_s));
-    // Not even the archive itself, chosen as a file to import, opens the door.
+    // Even the archive itself, chosen as a file to import, doesn't unlock it.
     const QStringList told =
         first.run(script(u"click cmdExport; file Vanzer.mdb; click cmdImportExport(1); click cmdImExp(1)"_s));
     EXPECT_TRUE(told.join(u' ').contains(u"è l'archivio stesso")) << text(told);
-    // In another process: whoever opens and closes the archive's file here lets go of its lock.
+    // Runs in another process, because opening and closing the archive's file here would release its lock.
     const End second = inChild([&home] {
         const Disk before = Disk::of(home.path());
         Desk desk(home.path());

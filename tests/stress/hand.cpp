@@ -9,7 +9,7 @@ namespace vanzer::stress {
 
 namespace {
 
-/// Texts that a plain line can't hold.
+/// Texts that one line of a file can't hold.
 const QStringList& otherTexts() {
     static const QStringList all =
         u"| |   |\u0001\u0007|\u007F|\u202Eatrabla|\uFEFF|\u200D\u200B|\u2028|\u00A0"_s.split(u'|') +
@@ -86,7 +86,7 @@ QString Hand::onReachableControl(const Form& window) {
     return onControl(reachable.empty() ? *oneOf(window.controls()) : *oneOf(reachable));
 }
 
-/// Commands that don't fit their control, or whose arguments don't fit them.
+/// Commands that don't fit their control, or have unfit arguments.
 QString Hand::anything(const Form& window) {
     const QString command = drawn("words");
     const QString control = oneIn(10) ? text() : oneOf(window.controls())->name();

@@ -1,5 +1,5 @@
-// Attacks on the program and its files: the options below, and the test framework's own, of which --gtest_filter names
-// attacks.
+// Runs attacks on the program and its files. Takes the options below and those of the test framework; --gtest_filter
+// selects attacks.
 #include <algorithm>
 
 #include <gtest/gtest.h>
@@ -22,7 +22,7 @@ int main(int argc, char** argv) {
     const auto value = [&parser](const char* name) { return parser.value(QString::fromLatin1(name)).toInt(); };
     vanzer::stress::Options& options = vanzer::stress::options();
     options = {static_cast<std::uint64_t>(value("seed")), value("number"), value("tries"), std::max(value("step"), 1)};
-    // As long as there is time, from one seed to the next.
+    // Goes from seed to seed until the time is over.
     const QDeadlineTimer end(qint64{60'000} * value("minutes"));
     int result = RUN_ALL_TESTS();
     while (!end.hasExpired()) {

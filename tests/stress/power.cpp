@@ -8,16 +8,16 @@ namespace vanzer::stress {
 
 namespace {
 
-constexpr std::size_t sector = 512; // bytes, which are written all or not at all
+constexpr std::size_t sector = 512; // bytes that are written all or not at all
 
-/// By file or folder, the number of changes behind which its last sync left nothing to lose.
+/// For each file or folder, the number of changes that its last sync made safe.
 using Synced = std::map<std::string, std::size_t>;
 
 std::string keyOf(int file, const std::string& folder) {
     return file != 0 ? std::to_string(file) : '/' + folder;
 }
 
-/// The pieces of a write for which `kept` says so.
+/// Writes those pieces of a write for which `kept` returns true.
 void doWrite(std::string& contents, const Change& change, std::size_t piece, const std::function<bool()>& kept) {
     for (std::size_t done = 0; done < change.bytes.size();) {
         const std::size_t at = change.at + done;
@@ -43,12 +43,12 @@ void changeNames(Disk& disk, const Change& change) {
         disk.folders.erase(change.name);
 }
 
-/// What is lost of the changes since their last sync.
+/// Which changes since the last sync are lost.
 struct Losses {
     enum class Of { Nothing, All, FromOneOn, Some, SomeSectors } of = Of::Nothing;
-    std::size_t from = 0;         ///< the first change that is lost, if one is
+    std::size_t from = 0;         ///< FromOneOn: the first change that is lost
     std::size_t names = SIZE_MAX; ///< the first change of names that is lost
-    std::function<bool()> kept;   ///< draws for one of several
+    std::function<bool()> kept;   ///< Some: draws whether a change is kept
 };
 
 Disk after(const Recording& recording, std::size_t cut, const Synced& synced, const Losses& losses) {

@@ -14,12 +14,12 @@ namespace {
 
 const std::array<QString, 2> setMarks{u"[Start]"_s, u"[End]"_s};
 
-/// The legs stand in the table of the editor, and nothing else.
+/// Whether the editor's table holds the legs, and nothing else.
 bool legsInEditor(const Form& window) {
     return !window.stato.ModoGuida && !window.tappeConservate && window.frmframe(12).visible();
 }
 
-/// A row's number is its own, or none; a row with a place has it.
+/// A row's number is its own number or empty. A row with a place has its number.
 QString wrongNumber(const Grid& grid) {
     for (int r = 1; r < grid.rows(); ++r) {
         const QString& number = grid.cell(r, 0);
@@ -38,7 +38,7 @@ QStringList rowsWith(const QString& mark, const Grid& grid) {
     return places;
 }
 
-/// No two places have the same mark. One place may stand in several rows with it, since a long leg is stored in pieces.
+/// No two places have the same mark. One place may have it in several rows, since a long leg is stored in pieces.
 QString doubleMark(const Grid& grid) {
     for (const QString& mark : setMarks) {
         const QStringList places = rowsWith(mark, grid);
@@ -50,7 +50,7 @@ QString doubleMark(const Grid& grid) {
     return {};
 }
 
-/// Current row, end of the selection and top row are rows of the grid below its head, if it has any.
+/// Current row, end of the selection and top row are rows below the head, if there are any.
 QString wrongPlace(const Form& window) {
     for (const Grid* const grid : {&window.mfgTab, &window.mfgCopia, &window.mfgImExp(0), &window.mfgImExp(1)}) {
         for (const int place : {grid->row(), grid->rowSel(), grid->topRow()}) {
@@ -61,7 +61,7 @@ QString wrongPlace(const Form& window) {
     return {};
 }
 
-/// Between two commands nothing waits to be stored.
+/// Between two commands no change waits to be stored.
 QString leftOpen(const Form& window) {
     if (window.comandoInCorso)
         return u"a command still runs"_s;
@@ -93,7 +93,7 @@ QString brokenCode(const store::TabellaLetta& mete) {
     return {};
 }
 
-/// At most one record, and each of its texts has a value.
+/// The table has at most one record, and each of its texts has a value.
 QString brokenSingle(const store::TabellaLetta& table) {
     if (table.record.size() > 1)
         return u"more than one record"_s;
@@ -107,7 +107,7 @@ QString brokenSingle(const store::TabellaLetta& table) {
     return {};
 }
 
-/// As a schedule writes it: with no mark, which may be typed or taken away while it is at work.
+/// The place as a schedule writes it, without its mark. Marks may be typed or removed while the schedule is shown.
 QString unmarked(QString place) {
     for (const QString& mark : setMarks)
         place.remove(mark, Qt::CaseInsensitive);
@@ -127,7 +127,7 @@ QString wrongAnswer(const QString& line, const std::optional<QJsonObject>& answe
 }
 
 void Promises::before(const QString& line, const Form* window) {
-    // A place is copied, and driven through again on the way back, with the mark that stands in its name.
+    // Copies and the way back may repeat a place with the mark in its name.
     marksRepeated_ = marksRepeated_ || line.contains(u"cmdInsEsegui", Qt::CaseInsensitive) ||
                      line.contains(u"cmdRitorno", Qt::CaseInsensitive);
     wantedMarks_ = {};
@@ -148,10 +148,10 @@ QString Promises::brokenBehind(const Form& window) {
     return broken.isEmpty() ? takenMark(window) : broken;
 }
 
-/// A leg that is put in as the first or the last real destination takes the mark from all others, however many had it.
+/// A leg that is put in as first or last destination takes the mark from all others, even if several had it.
 QString Promises::takenMark(const Form& window) const {
     for (std::size_t i = 0; i < setMarks.size(); ++i) {
-        // The box goes off with the leg; it stays on where the leg was refused.
+        // The box is cleared when the leg is put in. It stays set if the leg was refused.
         if (wantedMarks_[i] && !window.chkMeta(static_cast<int>(i)).value() &&
             rowsWith(setMarks[i], window.mfgTab).size() > 1)
             return u"rows with %1 that another has just taken"_s.arg(setMarks[i]);

@@ -79,7 +79,7 @@ namespace {
 
 const char* const elsewhere = "/";
 
-/// The name of a watched file or folder; empty for the folder itself.
+/// The name of a watched file or folder relative to the folder. Empty for the folder itself.
 std::string watched(const std::string& path) {
     if (Watch::current == nullptr)
         return elsewhere;
@@ -96,7 +96,7 @@ std::string watched(int file) {
     return size <= 0 ? elsewhere : watched(std::string(path, static_cast<std::size_t>(size)));
 }
 
-/// True if this is the call that doesn't pass. `half` does what is done of it all the same.
+/// Whether this call must fail. `half` does the first half of it before.
 bool stopped(Call call, const std::function<void()>& half = {}) {
     Watch& watch = *Watch::current;
     ++watch.counts[static_cast<std::size_t>(call)];
@@ -121,7 +121,7 @@ int numberOf(int file) {
     return ::fstat(file, &found) == 0 && S_ISREG(found.st_mode) ? Watch::current->numbers[found.st_ino] : 0;
 }
 
-/// Returns what the call did; a failure has changed nothing.
+/// Records the change and returns the result. A failed call has changed nothing.
 template<typename Result> Result keep(Result result, Change change) {
     if (result >= 0 && Watch::current->recording != nullptr)
         Watch::current->recording->changes.push_back(std::move(change));
@@ -161,7 +161,7 @@ ssize_t writes(int file, const void* bytes, std::size_t count, off_t at, const D
     return keep(done, {Call::Write, numberOf(file), {}, {}, static_cast<std::size_t>(place), kept});
 }
 
-/// A change of names; `to` is null where there is one alone.
+/// Makes a change of names. `to` is null if the call has only one name.
 int names(Call call, const char* path, const char* to, const std::function<long()>& change) {
     const std::string name = watched(path);
     const std::string newName = to == nullptr ? std::string() : watched(to);
@@ -176,7 +176,7 @@ int names(Call call, const char* path, const char* to, const std::function<long(
 
 } // namespace vanzer::stress
 
-// The names are the system's: the libraries find these before those of the C library.
+// The C library's names. The libraries find these functions before those of the C library.
 namespace stress = vanzer::stress;
 using stress::Call;
 
@@ -208,7 +208,7 @@ ssize_t pwrite(int file, const void* bytes, size_t count, off_t at) {
                           [&](size_t size) { return syscall(SYS_pwrite64, file, bytes, size, at); });
 }
 
-// A copy goes piece by piece.
+// A copy is done piece by piece.
 ssize_t sendfile(int to, int from, off_t* at, size_t count) noexcept {
     char bytes[4096];
     size_t all = 0;
@@ -241,7 +241,7 @@ ssize_t pread(int file, void* bytes, size_t count, off_t at) {
     return fails ? -1 : syscall(SYS_pread64, file, bytes, count, at);
 }
 
-// Nothing needs to outlive the machine here, so nothing is really synced.
+// Nothing is really synced, as nothing here has to survive a crash of the machine.
 int fsync(int file) {
     const std::string name = stress::watched(file);
     if (name == stress::elsewhere)
@@ -267,7 +267,7 @@ int rename(const char* from, const char* to) noexcept {
     return renameat2(AT_FDCWD, from, AT_FDCWD, to, 0);
 }
 
-// A file gets a name more.
+// Gives a file another name.
 int linkat(int folder, const char* from, int folderTo, const char* to, int flags) noexcept {
     const std::string name = stress::watched(to);
     if (name != stress::elsewhere && stress::stopped(Call::Rename))
@@ -292,7 +292,7 @@ int mkdir(const char* path, mode_t mode) noexcept {
                          [path, mode] { return syscall(SYS_mkdirat, AT_FDCWD, path, mode); });
 }
 
-// Sizes and places are of 64 bits by either name.
+// File sizes have 64 bits with either name.
 int open64(const char* path, int flags, ...) __attribute__((alias("open")));
 ssize_t pwrite64(int file, const void* bytes, size_t count, off64_t at) __attribute__((alias("pwrite")));
 ssize_t pread64(int file, void* bytes, size_t count, off64_t at) __attribute__((alias("pread")));

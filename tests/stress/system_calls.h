@@ -1,5 +1,5 @@
-// The calls on files that the program and its libraries make: they come through this binary, which counts them, lets
-// one fail, kills the program at one, or keeps what they change; and the disk as it may look after a loss of power.
+// Stands between the program with its libraries and the system's calls on files. It counts the calls, lets one fail,
+// kills the program at one, or records the changes. Also gives the disk as it may look after a loss of power.
 #pragma once
 
 #include <array>
@@ -20,48 +20,48 @@ inline constexpr std::size_t kindsOfCalls = 9;
 constexpr unsigned operator+(Call call) {
     return 1U << static_cast<unsigned>(call);
 }
-/// The calls that change what is on the disk.
+/// The calls that change the disk.
 inline constexpr unsigned changes =
     +Call::Create | +Call::Write | +Call::Sync | +Call::Truncate | +Call::Rename | +Call::Unlink | +Call::MakeFolder;
 
-/// What a folder holds. Names are relative to it.
+/// The contents of a folder. Names are relative to it.
 struct Disk {
     std::map<std::string, int> names; ///< files by their numbers
     std::map<int, std::string> contents;
-    std::map<int, std::filesystem::file_time_type> times; ///< an archive that was left in order is known by its own
+    std::map<int, std::filesystem::file_time_type> times; ///< an archive that was closed properly is known by its time
     std::set<std::string> folders;
 
     [[nodiscard]] static Disk of(const QString& folder);
-    /// Makes the folder anew. What lies in a folder that isn't there is lost.
+    /// Makes the folder anew with these contents. Files in a subfolder that doesn't exist are lost.
     void lay(const QString& folder) const;
-    /// Nothing if there is no such file.
+    /// The contents of a file. Empty if it doesn't exist.
     [[nodiscard]] const std::string& operator[](const std::string& name) const;
 };
 
 /// One change, as far as it was done.
 struct Change {
     Call call;
-    int file; ///< its number, which no other file ever gets; 0 for a folder
+    int file; ///< the file's number, which is never used again; 0 for a folder
     std::string name{}, to{};
-    std::size_t at = 0; ///< of the bytes; the new size
+    std::size_t at = 0; ///< position of the bytes, or the new size
     std::string bytes{};
 };
 
 struct Recording {
-    Disk first; ///< before all changes
+    Disk first; ///< the disk before all changes
     std::vector<Change> changes;
 };
 
-/// One call that doesn't pass.
+/// A fault at one call.
 struct Fault {
-    unsigned calls = 0; ///< the kinds that count, as a sum of +Call
+    unsigned calls = 0; ///< kinds of calls that count, as a sum of +Call
     int error = 0;      ///< errno; 0 kills the program
     bool lasting = false;
-    bool half = true; ///< a write is done by half before
-    int signal = 0;   ///< comes instead, and the call passes
+    bool half = true; ///< does half of a write before it fails
+    int signal = 0;   ///< sends this signal instead; the call succeeds
 };
 
-/// The calls on the files of a folder while it lives. There is one at a time.
+/// Watches the calls on the files of a folder during its lifetime. Only one may exist at a time.
 class Watch {
   public:
     explicit Watch(const QString& watchedFolder) : folder(watchedFolder.toStdString()) { current = this; }
@@ -69,7 +69,7 @@ class Watch {
     Watch(const Watch&) = delete;
     Watch& operator=(const Watch&) = delete;
 
-    /// The n-th call from here on doesn't pass.
+    /// Sets the fault for the n-th call from here on.
     void arm(const Fault& next, int n) {
         fault = next;
         countdown = n;
@@ -83,20 +83,20 @@ class Watch {
     std::array<int, kindsOfCalls> counts{};
 
     Fault fault;
-    int countdown = 0; ///< calls to the fault; 0 when it is not armed
+    int countdown = 0; ///< calls until the fault; 0 if none is set
     Recording* recording = nullptr;
-    std::map<ino_t, int> numbers; ///< of the files that are there, for the recording
+    std::map<ino_t, int> numbers; ///< numbers of existing files, for the recording
     int lastNumber = 0;
 
     static inline constinit Watch* current = nullptr;
 };
 
-/// The disk behind the first `cut` changes. All that was synced is there. Of what was written to a file since its last
-/// sync a part is there, drawn by chance, torn at sectors; of names made, changed and taken away since their folder's
-/// last sync the first few are. `ignoreSyncs` is a disk that lies: it has synced nothing.
+/// The disk after the first `cut` changes and a loss of power. All synced changes are there. Of later writes to a file
+/// a random part is there, torn at sector bounds. Of later changes of names the first few are there. `ignoreSyncs` is a
+/// disk that has synced nothing.
 [[nodiscard]] Disk afterPowerCut(const Recording& recording, std::size_t cut, std::mt19937_64& chance,
                                  bool ignoreSyncs = false);
-/// Nothing is lost.
+/// The disk if nothing is lost.
 [[nodiscard]] Disk afterAll(const Recording& recording);
 
 } // namespace vanzer::stress

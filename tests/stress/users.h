@@ -1,4 +1,4 @@
-// Users who do anything, and what holds whatever they do.
+// Random users, and the promises that hold whatever they do.
 #pragma once
 
 #include <deque>
@@ -16,29 +16,29 @@ namespace vanzer::stress {
 
 using namespace Qt::StringLiterals;
 
-/// Does sensible work, uses every control, types texts of every kind. Chance comes from one generator alone, and always
-/// in the same order.
+/// A user who works sensibly, uses every control and types texts of every kind. All chance comes from one generator, in
+/// a fixed order.
 class Hand {
   public:
     explicit Hand(std::mt19937_64& chance) : chance_(chance), typesMarks_(oneIn(8)), route_(below(3)) {}
 
-    /// The next command line for the window as it stands.
+    /// The next command line for the present window.
     [[nodiscard]] QString next(const Form* window);
 
     [[nodiscard]] int below(std::size_t limit) { return static_cast<int>(chance_() % limit); }
-    /// Some users write the marks of the first and the last destination into the names of places themselves.
+    /// Whether this user types the marks of the first and last destination into place names.
     [[nodiscard]] bool typesMarks() const { return typesMarks_; }
 
   private:
     template<typename List> [[nodiscard]] auto& oneOf(const List& list) {
         return list[static_cast<typename List::size_type>(below(static_cast<std::size_t>(list.size())))];
     }
-    /// One line of a section of users.txt.
+    /// A random line of a section of users.txt.
     [[nodiscard]] QString drawn(const char* list);
     [[nodiscard]] bool oneIn(std::size_t cases) { return below(cases) == 0; }
     [[nodiscard]] QString count(std::size_t limit) { return QString::number(below(limit)); }
 
-    /// Lines of the plan, in the language of users.txt, for the window as it stands.
+    /// Adds lines to the plan. They are in the language of users.txt, and depend on the present window.
     void plan(const QString& lines, const Form& window);
     [[nodiscard]] QString filled(const QString& line, const Form& window);
     [[nodiscard]] QString given(const QString& wanted, const Form& window);
@@ -57,28 +57,28 @@ class Hand {
 
     std::mt19937_64& chance_;
     bool typesMarks_;
-    int route_; ///< of the planner's three the one that this user brings in
+    int route_; ///< which of the three planner files this user imports
     std::deque<QString> planned_;
 };
 
-/// Of an answer: what is wrong with it, or nothing; and so with all that follows.
+/// What is wrong with an answer. Empty if nothing is, here and below.
 [[nodiscard]] QString wrongAnswer(const QString& line, const std::optional<QJsonObject>& answer);
 
-/// In the open archive.
+/// What is wrong in an open archive.
 [[nodiscard]] QString brokenInArchive(store::Archive& archive);
 
-/// In one that nobody has open. Throws StoreError if it can't be opened.
+/// What is wrong in an archive that nobody has open. Throws StoreError if it can't be opened.
 [[nodiscard]] QString brokenInFile(const QString& path);
 
-/// One window, from its first command to its last.
+/// Checks one window, from its first command to its last.
 class Promises {
   public:
-    /// With `marksRepeated` a mark may stand in more than one row.
+    /// `marksRepeated`: a mark may stand in more than one row.
     explicit Promises(bool marksRepeated) : marksRepeated_(marksRepeated) {}
 
     void before(const QString& line, const Form* window);
     [[nodiscard]] QString brokenBehind(const Form& window);
-    /// A row that a schedule writes between the legs never becomes a leg.
+    /// Rows that a schedule writes between the legs never become legs.
     [[nodiscard]] QString scheduleRowIn(store::Archive& archive) const;
 
   private:
@@ -86,7 +86,7 @@ class Promises {
     void seeScheduleRows(const Form& window);
 
     bool marksRepeated_;
-    std::array<bool, 2> wantedMarks_{}; ///< of the leg that is put in
+    std::array<bool, 2> wantedMarks_{}; ///< marks of the leg that is being put in
     std::set<QString> scheduleRows_;
 };
 

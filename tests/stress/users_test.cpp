@@ -1,4 +1,4 @@
-// Users who do anything, and each command with each other one inside it: what holds, holds behind every line.
+// Random users, and each command inside each other one. The promises hold after every line.
 #include <functional>
 #include <numeric>
 
@@ -18,7 +18,7 @@ namespace {
 
 const QDate today(2026, 5, 20);
 
-/// The next line for the window as it stands; null behind the last one.
+/// The next line for the present window. Null after the last line.
 using NextLine = std::function<QString(const Form* window)>;
 
 NextLine linesOf(const QStringList& lines) {
@@ -29,12 +29,12 @@ class UsersTest : public testing::Test {
   protected:
     struct Script {
         int number = 0;
-        QString folder;          ///< the one that it begins with
-        bool typesMarks = false; ///< marks of the first and last destination may come in as texts
+        QString folder;          ///< the folder to begin with
+        bool typesMarks = false; ///< marks of the first and last destination may be typed as texts
         NextLine next;
     };
 
-    /// A folder of users.txt, the same for all.
+    /// A folder of users.txt, made once for all tests.
     const Disk& ready(const QString& name) {
         Disk& disk = ready_[name];
         if (disk.names.empty()) {
@@ -45,7 +45,7 @@ class UsersTest : public testing::Test {
         return disk;
     }
 
-    /// Makes the try, and where it is the one that was asked for and breaks the program, prints the few lines that do.
+    /// Runs the try. If it is the one asked for and breaks the program, prints the few lines that do so.
     void attemptOn(const Script& wanted) {
         ready(wanted.folder);
         const End end = attempt(wanted.number, [&] { return run(wanted); });
@@ -74,7 +74,7 @@ class UsersTest : public testing::Test {
     const QString folder = home_.filePath(u"viaggi"_s);
 
   private:
-    /// True if the user was told anything.
+    /// True if the user was told something.
     bool run(const Script& wanted) {
         const Disk& before = ready_[wanted.folder];
         before.lay(folder);
@@ -95,7 +95,7 @@ class UsersTest : public testing::Test {
 
     QString brokenByLines(const Script& wanted, bool& told) {
         constexpr int archiveEach = 20;          // lines
-        QFile lines(home_.filePath(u"righe"_s)); // what was given
+        QFile lines(home_.filePath(u"righe"_s)); // the lines that were run
         EXPECT_TRUE(lines.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
         Promises promises(wanted.typesMarks);
         Desk desk(folder, today);
@@ -122,7 +122,7 @@ class UsersTest : public testing::Test {
                 broken = wrongAnswer(line, answer);
             Form* const window = desk.program().window();
             if (broken.isEmpty() && window != nullptr) {
-                window->interattiva = wanted.number % 2 == 1; // before a user, who is asked more
+                window->interattiva = wanted.number % 2 == 1; // asks more questions if a user is present
                 broken = promises.brokenBehind(*window);
             }
             if (!broken.isEmpty())
@@ -162,7 +162,7 @@ QStringList buttonCommands(const Form& window, bool reachable) {
 class Pairs : public UsersTest {};
 
 TEST_F(Pairs, OfCommandsOneInsideTheOther) {
-    // Folders, and scripts that lead to a command; behind it its user stores all that he can, and has it calculated.
+    // Folders, and scripts that lead to a command. After the command, its user stores everything and calculates.
     std::vector<std::pair<QString, QString>> doors;
     const QString around = u"%1; answer 6 6 6; during {}; %2; answer 6 6; click cmdFine; click cmdCalcola; "
                            "click cmdItinerario; answer 6 6; click cmdFine"_s;
@@ -180,7 +180,7 @@ TEST_F(Pairs, OfCommandsOneInsideTheOther) {
             doors.emplace_back(name, around.arg(lines, command));
     }
     const auto count = doors.size() * static_cast<std::size_t>(inside.size());
-    // Neighbouring numbers are of different windows and commands, so that some hundred of them are a fair choice.
+    // Neighbouring numbers belong to different windows and commands, so that a few hundred are a fair sample.
     std::size_t step = 7919;
     while (std::gcd(step, count) != 1)
         ++step;

@@ -18,9 +18,9 @@ class Desk {
         program_.setClock(QDateTime(today, QTime(9, 30)));
     }
 
-    /// The texts of the boxes that came up. Each line is understood and allowed.
+    /// Runs lines, which must all be valid and enabled. Returns the texts of the boxes that appeared.
     QStringList run(const QStringList& lines) { return boxes(lines, true); }
-    /// The same of lines that may not be allowed, as for a hand that tries everything.
+    /// The same for lines that may be refused.
     QStringList tries(const QStringList& lines) { return boxes(lines, false); }
 
     [[nodiscard]] bool alive() { return !program().run(u"get cmdEsce"_s)->contains(u"error"_s); }
@@ -42,7 +42,7 @@ class Desk {
     batch::Interpreter program_;
 };
 
-/// The editor stays open.
+/// Makes a trip. The editor stays open.
 inline QStringList newTrip(const QString& name, int legs) {
     QStringList lines{u"click cmdNuovo"_s, u"set txtLocalita "_s + name, u"set txtNazione ITALIA"_s,
                       u"answer 6"_s,       u"click cmdSalva"_s,          u"click cmdItinerario"_s};

@@ -5,7 +5,7 @@
 
 namespace vanzer {
 
-/// Files that are written grow no more than this while it lives, as on a full disk.
+/// During its lifetime, written files can't grow beyond this size, as on a full disk.
 class FullDisk {
   public:
     explicit FullDisk(rlim_t bytes) {

@@ -1,4 +1,4 @@
-// An archive in memory for imports, with no more than an import asks of it. Nothing of it is quick.
+// An archive in memory, with only what an import needs. It isn't fast.
 #pragma once
 
 #include <array>
@@ -16,7 +16,7 @@ class MemoryArchive final : public ArchivioImport {
     using Record = std::vector<QString>;
 
     std::array<std::vector<Record>, ultimaSezione + 1> tables; ///< by section
-    std::array<std::size_t, ultimaSezione + 1> added{};        ///< records that came in
+    std::array<std::size_t, ultimaSezione + 1> added{};        ///< records that the import added
 
     [[nodiscard]] static const std::vector<store::FieldDef>& fields(int section) {
         static const std::array<std::vector<store::FieldDef>, ultimaSezione + 1> all{
@@ -35,7 +35,7 @@ class MemoryArchive final : public ArchivioImport {
     }
     [[nodiscard]] std::vector<Record>& table(int section) { return tables[static_cast<std::size_t>(section)]; }
 
-    /// A record with a few texts, all others a blank.
+    /// Adds a record with these texts. All other fields are blank.
     void put(int section, const std::vector<std::pair<QString, QString>>& texts) {
         Record record(fields(section).size(), QStringLiteral(" "));
         for (const auto& [name, text] : texts)

@@ -1,4 +1,4 @@
-// Files as the earlier generation wrote them: records of fixed length, texts padded with blanks.
+// Writes files in the format of the earlier version: records of fixed length, texts padded with blanks.
 #pragma once
 
 #include <QFile>
@@ -9,7 +9,7 @@
 
 namespace vanzer {
 
-/// A record with these texts in its first fields, the others blank; a text that is too long is cut.
+/// A record with these texts in its first fields, and blanks in the others. A text that is too long is cut.
 inline QByteArray oldRecord(const FormatoVecchio& format, const QStringList& texts) {
     QByteArray record;
     for (qsizetype i = 0; i < static_cast<qsizetype>(format.campi.size()); ++i) {
@@ -26,7 +26,7 @@ inline QByteArray oldFile(const FormatoVecchio& format, const QList<QStringList>
     return contents;
 }
 
-/// An itinerary with its head; the head may tell another count than there are legs.
+/// An itinerary with its head. `count` can differ from the number of legs.
 inline QByteArray oldItinerary(const QList<QStringList>& legs, const QString& count = {}) {
     const QString told = count.isEmpty() ? QString::number(legs.size()) : count;
     return oldFile(vecchieTappe(), QList<QStringList>{{told, told}} + legs);

@@ -1,11 +1,11 @@
-// A day of a trip, and what is driven and visited on it.
+// A day of a trip, with drives and visits.
 #pragma once
 
 #include "schedule/simulation.h"
 
 namespace vanzer {
 
-/// From 5 July 2003, a Saturday, at 100 km/h: a kilometre is one hundredth of an hour.
+/// Starts on 5 July 2003, a Saturday. At 100 km/h, a kilometre takes one hundredth of an hour.
 inline ParametriSimulazione plainDay() {
     ParametriSimulazione p;
     p.oraColazione = 900;
@@ -34,6 +34,7 @@ inline RigaDiLavoro drive(const QString& place, int km, bool endOfDay = false) {
     return row;
 }
 
+/// `length` in hundredths of an hour.
 inline RigaDiLavoro guideStop(float length) {
     RigaDiLavoro row;
     row.tipo = RigaDiLavoro::Tipo::SostaGuida;

@@ -1,4 +1,4 @@
-// The window before a user, on an archive in a folder of its own.
+// The window with a user present, on an archive in its own folder.
 #pragma once
 
 #include <QTemporaryDir>
@@ -9,13 +9,13 @@ namespace vanzer {
 
 class WindowTest : public testing::Test {
   protected:
-    /// Another program, on an empty archive.
+    /// Starts another program on an empty archive.
     void startAnew() {
         desk.reset();
         folder.emplace();
         start();
     }
-    /// The program on the archive of the one before. Returns what the boxes told.
+    /// Starts another program on the archive of the last one. Returns the texts of the boxes.
     QStringList start() {
         desk.emplace(folder->path());
         desk->program().setClock(now);
@@ -23,12 +23,12 @@ class WindowTest : public testing::Test {
         form().interattiva = true;
         return told;
     }
-    /// Two legs, NAME 0 and NAME 1.
+    /// Stores a trip with two legs, NAME 0 and NAME 1.
     void storeTrip(const QString& name) { desk->run(storedTrip(name, 2)); }
 
-    /// Carries out commands of vanzer-batch, parted by "; ". Returns the texts of the boxes.
+    /// Runs commands of vanzer-batch, separated by "; ". Returns the texts of the boxes.
     QStringList does(const QString& commands) { return desk->run(commands.split(u"; "_s, Qt::SkipEmptyParts)); }
-    /// The same of the boxes that came up outside a command.
+    /// The texts of boxes that appeared outside a command.
     QStringList asked() {
         QStringList texts;
         for (const QJsonValue box : static_cast<batch::QueuedBoxes&>(form().ports.messages).exchange({}))
@@ -36,7 +36,7 @@ class WindowTest : public testing::Test {
         return texts;
     }
     Form& form() { return *desk->program().window(); }
-    /// Comes in at the first yield of a command that suits it.
+    /// Calls `visitor` at the first yield of a command that suits it.
     void atAYield(batch::VisitedYield::Visitor visitor) {
         static_cast<batch::VisitedYield&>(form().ports.events).expect(std::move(visitor));
     }

@@ -1,4 +1,4 @@
-// Fields that were typed and not stored, before a user: asked for once before they are cleared or reloaded.
+// Typed fields that aren't stored, with a user present. The user is asked once before they are cleared or reloaded.
 #include "support/window_test.h"
 #include "window/changes.h"
 
@@ -24,7 +24,7 @@ class Changes : public WindowTest {
 TEST_F(Changes, EachWayThatTakesThemAsksFirst) {
     const struct {
         QString reach, leave;
-        QString own; ///< answers to the way's own questions, which come first
+        QString own; ///< answers to questions of this way, which come first
     } ways[] = {{{}, u"click cmdNuovo"_s, {}},
                 {u"click cmdRicerca"_s, u"pick cmbRicerca PROVA"_s, {}},
                 {{}, u"click cmdCancMeta"_s, {}},
@@ -74,7 +74,7 @@ TEST_F(Changes, WhatTheProgramSetsRightIsNoChangeOfTheUsers) {
     begin();
     EXPECT_EQ(does(u"click cmdCalcola; click cmdCalcola; click cmdNuovo; click cmdRicerca; pick cmbRicerca PROVA"_s),
               QStringList());
-    does(u"pick cmbRange 45; click cmdCalcola; click cmdCalcola"_s); // it stays the user's through other commands
+    does(u"pick cmbRange 45; click cmdCalcola; click cmdCalcola"_s); // stays the user's change through other commands
     EXPECT_EQ(does(u"answer 6 2; click cmdDefault(1); click cmdNuovo"_s).mid(0, 2),
               (QStringList{u"Vuoi caricare i dati di default?"_s, u"Operazione eseguita!"_s}))
         << "the defaults are what was stored: nothing is left to ask for";
@@ -87,7 +87,7 @@ TEST_F(Changes, WhatIsMissingIsToldAndNothingGoes) {
     EXPECT_EQ(form().txtLocalita.text(), u"PROVA"_s);
 }
 
-/// A stretch that was changed is asked for too, and its frame never stays open over a table that isn't the trip's.
+/// A changed stretch is asked for too. Its frame never stays open over a table that doesn't hold the trip.
 TEST_F(Changes, AStretchIsLeftByItsOwnWay) {
     begin();
     EXPECT_EQ(does(u"click cmdModStrada; click cmdTappaSEl(0); click cmdTappaSEl(2); answer 6; click cmdNuovo"_s),
@@ -96,7 +96,7 @@ TEST_F(Changes, AStretchIsLeftByItsOwnWay) {
     expectStored(false);
 }
 
-/// A leg that is typed and not in the table, before its fields show another row or go.
+/// A typed leg that isn't in the table is asked for before its fields change or close.
 TEST_F(Changes, ATypedLegIsAskedForBeforeItsFieldsGo) {
     const QString typed = u"click cmdItinerario; row mfgTab 3; set txtTappa CUNEO; "_s;
     const QString ways[] = {u"row mfgTab 1"_s,       u"key mfgTab 38"_s,      u"click cmdAggiunge"_s,
@@ -133,11 +133,11 @@ TEST_F(Changes, ATypedEntryIsAskedForBeforeItsFieldsGo) {
         begin();
         EXPECT_EQ(does(typed + u"Gpl; answer "_s + wish + u"; row mfgTab 2"_s), QStringList{ofTheEntry});
         EXPECT_EQ(stored(u"GuidaCitta"_s, u"Descrizione"_s), wish == u"6" ? u"Torre"_s : QString());
-        // The row that was clicked is one further down when the entry has come in above it.
+        // The clicked row is one further down if the entry was inserted above it.
         EXPECT_EQ(form().mfgTab.row(), wish == u"2" ? 1 : wish == u"7" ? 2 : 3);
         EXPECT_EQ(form().txtGCitta.text(), wish == u"2" ? u"Prova 0"_s : u"Prova 1"_s);
     }
-    // A key stores it and moves on with no word, unless it lacks something.
+    // A row key stores the entry and moves on without a message, unless the entry lacks something.
     begin();
     EXPECT_EQ(does(typed + u"Ottimo; answer 6; keydown txtGDescr 40"_s),
               (QStringList{ofTheEntry, u"Errore! Manca il tempo stimato!!!"_s}));

@@ -1,4 +1,4 @@
-// The values that everything else stands on: texts, durations, dates, columns, names of places.
+// The basic values: texts, durations, dates, columns, names of places.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -75,7 +75,7 @@ TEST(Date, JulianDayAndBack) {
     EXPECT_EQ(Giu2Datas(730501), u"01012001");
     EXPECT_EQ(GiornoSettimana(u"01012001"_s), u"Lun");
     EXPECT_EQ(GiornoSettimana(u"1012001"_s), u"");
-    // Every day from 1998 to 2047 comes back as itself, one day behind the other.
+    // Every day from 1998 to 2047 is converted back to itself, and days are consecutive.
     float day = Data2Giul(u"01011998"_s);
     for (int year = 1998; year < 2048; ++year) {
         for (int month = 1; month <= 12; ++month) {

@@ -1,4 +1,4 @@
-// The copy of the day: which ones are kept, when there is none, and what the user is told of them.
+// The daily copies: which ones are kept, when none is made, and what the user is told.
 #include "store_fixture.h"
 
 #include <algorithm>
@@ -16,7 +16,7 @@ namespace {
 
 class DailyCopy : public StoreTest {
   protected:
-    static constexpr int ample = 30'000; ///< legs of an archive that takes more than one step to copy
+    static constexpr int ample = 30'000; ///< legs of an archive that needs more than one step to copy
 
     [[nodiscard]] QString copies() const { return path(directory, "Copie"); }
     [[nodiscard]] QString ofDay(int day) const { return copies() + u'/' + nameOf(day); }
@@ -40,9 +40,9 @@ TEST(CopiesKept, AreTheNewestOfDaysWeeksAndMonthsAndTheFullest) {
     const QDate today(2026, 5, 10); // a Sunday
     const struct {
         const char* name;
-        int days; ///< before them, a copy for each of so many days
+        int days; ///< number of earlier days, each with a copy
         int trips;
-        QString others; ///< days, with their trips if they are more than one
+        QString others; ///< other days, with their number of trips if that isn't one
         QString kept;   ///< besides the ten days of May
     } cases[] = {
         {"two years of days",
@@ -98,7 +98,7 @@ TEST_F(DailyCopy, OnesTooManyGoAndOthersFilesStay) {
     EXPECT_EQ(kept(), expected + own);
 
     addLegs(1);
-    copy(17); // the day has its copy
+    copy(17); // the day has its copy already
     const QTemporaryDir restored;
     ASSERT_TRUE(QFile::copy(ofDay(17), path(restored, "Vanzer.mdb")));
     Archive other(restored.path());
@@ -106,7 +106,7 @@ TEST_F(DailyCopy, OnesTooManyGoAndOthersFilesStay) {
     EXPECT_EQ(other.tabella("Itinerari").record, stored);
     other.close();
 
-    copy(2); // a clock that was put back
+    copy(2); // the clock was set back
     EXPECT_EQ(kept(), QStringList{nameOf(2)} + expected + own);
 }
 
@@ -164,19 +164,19 @@ TEST_F(DailyCopy, OneThatIsLeftOrFailsLeavesNothing) {
         return ++asked < 1;
     });
     EXPECT_EQ(asked, 1);
-    writeOver(qint64{4096} * 200, QByteArray(4096, 'x')); // inside: the file opens all the same
+    writeOver(qint64{4096} * 200, QByteArray(4096, 'x')); // inside the file, which still opens
     archive.DatabaseApre(0);
     EXPECT_EQ(failureOf([&] { copy(3); }), StoreError::Kind::Corrupt);
     EXPECT_EQ(kept(), QStringList{nameOf(1)});
     ASSERT_TRUE(QDir(copies()).removeRecursively());
-    ASSERT_TRUE(QFile(copies()).open(QIODevice::WriteOnly)); // a file where the folder should be
+    ASSERT_TRUE(QFile(copies()).open(QIODevice::WriteOnly)); // a file in place of the folder
     EXPECT_EQ(failureOf([&] { copy(4); }), StoreError::Kind::ReadOnly);
 }
 
-/// The window on this archive, on days of May.
+/// A window on this archive, on days in May.
 class WindowOnCopies : public DailyCopy {
   protected:
-    /// Returns what the boxes told.
+    /// Starts the window. Returns the texts of the boxes.
     QString start(int day, const QStringList& answers = {}) {
         archive.close();
         desk.reset();
@@ -219,7 +219,7 @@ TEST_F(WindowOnCopies, AreNamedWhereTheyHelp) {
     addLegs(ample);
     EXPECT_EQ(start(7), "");
     const QString where = QDir::toNativeSeparators(copies());
-    // The archive is in use: no copy is needed.
+    // The archive is in use, so the message names no copy.
     const QString inUse = Desk(directory.path()).run({u"start"_s}).join(u'\n');
     EXPECT_TRUE(inUse.contains(u"è già aperto da un altro Vanzer") && !inUse.contains(where)) << inUse.toStdString();
     desk.reset();
@@ -239,7 +239,7 @@ TEST_F(WindowOnCopies, AreNamedWhereTheyHelp) {
     }
 }
 
-// A damaged index isn't waited for until tomorrow, nor told as damage: what it leads to is whole.
+// A damaged index is repaired at once, and isn't reported as damage, since its records are whole.
 TEST_F(WindowOnCopies, AMissingArchiveIsAskedForAndABrokenIndexMended) {
     addLegs(2);
     start(7);

@@ -1,4 +1,4 @@
-// The draft of unsaved work: what it keeps, how it comes back, and what lies in its place.
+// The draft of unsaved work: what it keeps, how it comes back, and other files in its place.
 #include <sys/stat.h>
 
 #include <QFile>
@@ -32,7 +32,7 @@ TEST(Draft, WhatNoWindowWroteIsNone) {
     EXPECT_TRUE(bozzaDaiByte(least));
 }
 
-/// A window on an archive with a trip PROVA of two legs; another start is another window.
+/// A window on an archive with the trip PROVA of two legs. Each start makes another window.
 class DraftScreen : public WindowTest {
   protected:
     void begin() {
@@ -45,16 +45,16 @@ class DraftScreen : public WindowTest {
         custodian.reset();
         start();
         form().cmdRicerca.click();
-        form().cmbRicerca.pick(form().cmbRicerca.List(0)); // a load, as of a start before a user
+        form().cmbRicerca.pick(form().cmbRicerca.List(0)); // loads the trip, as a start with a user does
         custodian.emplace(form());
         asked();
     }
-    /// What is unsaved is written, if it is due.
+    /// Writes the unsaved work, if that is due.
     void keep() {
         custodian->keep();
         custodian->wait();
     }
-    /// The program goes without a word of the user's, and starts again.
+    /// Ends the program without asking the user, and starts another one.
     void cut() {
         keep();
         ASSERT_TRUE(isThere());
@@ -72,13 +72,13 @@ class DraftScreen : public WindowTest {
     }
     bool isThere() const { return QFile::exists(path()); }
     QString path() const { return inFolder(store::nomeBozza); }
-    /// Legs and trips that are stored.
+    /// All stored legs and trips.
     QString all() { return stored(u"Itinerari"_s, u"Localita"_s) + u'/' + stored(u"MeteVanzer"_s, u"Localita"_s); }
 
     std::optional<CustodeBozza> custodian;
 };
 
-/// Whatever is unsaved comes back as it stood, with a yes; and the archive doesn't change by it.
+/// After a yes, all unsaved work comes back as it was, and the archive is unchanged.
 TEST_F(DraftScreen, UnsavedWorkComesBackAsItStood) {
     const std::pair<QString, QString> cases[] = {
         {u"«OSLO» (nessuna tappa"_s, u"click cmdNuovo; set txtLocalita OSLO; set cmbInizio(2) 2031"_s},
@@ -104,10 +104,10 @@ TEST_F(DraftScreen, UnsavedWorkComesBackAsItStood) {
         EXPECT_EQ(offer(u"answer 6"_s), QStringList(u"Riprendere il lavoro non salvato a "_s + what + u", 18:05)?"_s));
         std::optional<Bozza> back = lavoroNonSalvato(form());
         ASSERT_TRUE(back);
-        // The schedule is not made again: its legs are in the editor instead.
+        // The schedule isn't calculated again. Its legs are in the editor instead.
         if (kept->tappeCambiate && !kept->tratto)
             kept->editor = true;
-        for (Bozza* const one : {&*kept, &*back}) // of a table that is longer by some blank rows
+        for (Bozza* const one : {&*kept, &*back}) // the table may be longer by some blank rows
             one->modifiche = one->modifiche.left(2);
         kept->riga = back->riga = kept->editor ? back->riga : 0;
         EXPECT_EQ(*back, *kept) << byteDellaBozza(*back, now).toStdString() << byteDellaBozza(*kept, now).toStdString();
@@ -117,7 +117,7 @@ TEST_F(DraftScreen, UnsavedWorkComesBackAsItStood) {
 }
 
 TEST_F(DraftScreen, GoesWhenAllIsStoredOrGivenUp) {
-    // The last one types back what is stored.
+    // The last way types the stored texts again.
     for (const QString& way : {u"answer 6; click cmdSalva"_s, u"answer 7; click cmdNuovo"_s, QString()}) {
         begin();
         keep();
@@ -153,7 +153,7 @@ TEST_F(DraftScreen, ARefusedOneStaysUnderAnotherName) {
         does(u"now 2026-11-24T18:05; set txtNazione "_s + nation);
         ASSERT_NO_FATAL_FAILURE(cut());
         does(u"now 2026-11-25T18:05"_s);
-        // Unasked is no.
+        // Without an answer it is no.
         EXPECT_EQ(offer(), QStringList(u"Riprendere il lavoro non salvato a «PROVA» (2 tappe, 24/11/2026 18:05)?"_s));
         EXPECT_EQ(form().txtNazione.text(), u"ITALIA "_s);
         EXPECT_FALSE(isThere());
@@ -162,7 +162,7 @@ TEST_F(DraftScreen, ARefusedOneStaysUnderAnotherName) {
     }
 }
 
-/// Nothing of the program that runs then is touched before the question has been answered.
+/// Until the question is answered, nothing of the killed program's draft is changed.
 TEST_F(DraftScreen, StaysUntilItIsAnswered) {
     begin();
     does(u"set txtNazione FRANCIA"_s);
@@ -172,15 +172,15 @@ TEST_F(DraftScreen, StaysUntilItIsAnswered) {
     EXPECT_TRUE(isThere());
 }
 
-/// A trip that another program has changed, taken away, or put under another code.
+/// A trip that another program has changed, removed or stored under another code.
 TEST_F(DraftScreen, MeetsAnotherArchive) {
     begin();
     does(u"click cmdItinerario; "_s + legCuneo + u"set txtTappa NIZZA"_s);
     keep();
-    const QByteArray draft = store::readDraft(path())->replace("\"riga\":", "\"riga\":99999"); // no row is so far down
+    const QByteArray draft = store::readDraft(path())->replace("\"riga\":", "\"riga\":99999"); // beyond all rows
     const struct {
-        QString trip;   ///< of the archive; none if empty
-        QString answer; ///< the leg that isn't in the table, then whether all is stored
+        QString trip;   ///< the trip in the archive; empty for none
+        QString answer; ///< the leg that isn't in the table, then whether everything is stored
         QString left, code;
     } cases[] = {{{}, u"7 6"_s, u"PROVA 0|PROVA 1|CUNEO/PROVA"_s, u"000001"_s},
                  {{}, u"7 7 7"_s, u"/"_s, {}},
@@ -245,7 +245,7 @@ TEST_F(DraftScreen, AFailureToWriteIsTold) {
     EXPECT_TRUE(isThere()) << "tried again";
 }
 
-/// The work of a command that is running, or that was ended in the user's place, counts as it stood before it.
+/// During a command, and if it was ended in the user's place, the work before the command counts.
 TEST_F(DraftScreen, ACommandAtWorkDoesNotCount) {
     begin();
     does(stretch);
@@ -257,7 +257,7 @@ TEST_F(DraftScreen, ACommandAtWorkDoesNotCount) {
         keep();
         draft = store::readDraft(path());
         custodian->notHisChoice();
-        form().stato.InterrompiCalcolo = true; // which loads the stored legs
+        form().stato.InterrompiCalcolo = true; // a stop loads the stored legs
         return true;
     });
     form().cmdCalcola.click();

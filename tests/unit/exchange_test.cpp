@@ -1,4 +1,4 @@
-// The exchange file: its lines, the codes and places of an import, and what an import takes.
+// The exchange file: its lines, the codes and places of an import, and the records that an import takes.
 #include <random>
 
 #include <gtest/gtest.h>
@@ -44,7 +44,7 @@ TEST(TextLines, OfAnyCodeAndAnyEnd) {
     EXPECT_FALSE(RigheTesto("").prossima());
 }
 
-/// The texts of fields A, B and C on a record line, behind a head line.
+/// The texts of the fields A, B and C in a record line that follows a head line.
 QStringList read(const QString& head, const QString& record) {
     LettoreIei reader({QStringList(), {u"A"_s, u"B"_s, u"C"_s}, QStringList(), QStringList()});
     EXPECT_EQ(reader.read(head), LettoreIei::Riga::Testa);
@@ -64,7 +64,7 @@ TEST(ExchangeLine, FieldsFindTheirColumnsByName) {
         {u"AÿBÿCÿ"_s, u"\"1\"ÿ\u0001 2\u0007\tÿ3\r"_s, u"1|2\t|3"_s},
         {u"AÿBÿCÿ"_s, u"senza separatore"_s, u"senza separatore| | "_s},
         {wide, u"yÿ"_s.repeated(98) + u"2ÿ"_s, u" |2| "_s},
-        {u"xÿ"_s + wide, u"yÿ"_s.repeated(99) + u"2ÿ"_s, u" | | "_s}, // the hundredth has no number
+        {u"xÿ"_s + wide, u"yÿ"_s.repeated(99) + u"2ÿ"_s, u" | | "_s}, // only a hundred columns are read
     };
     for (const auto& [head, record, fields] : cases)
         EXPECT_EQ(read(head, record).join(u'|'), fields) << plain(head) << " | " << plain(record);
@@ -96,15 +96,15 @@ TEST(RouteList, CountersBeyondAllNumbersStayAtTheGreatest) {
 
 TEST(ExchangeCodes, AreKeptWhenFreeElseCountedOn) {
     const QString cases[][3] = {
-        // stored, chosen, and the fresh ones: empty if it can't be done
+        // stored codes, chosen codes, and their new codes; empty if that fails
         {u""_s, u"000005 000001"_s, u"000005 000001"_s},
         {u"000001 000004"_s, u"000900"_s, u"000900"_s},
         {u"000001 000004"_s, u"000004 000001"_s, u"000005 000006"_s},
-        {u"000001"_s, u"000001 000002"_s, u"000003 000002"_s}, // another one keeps 2
-        {u"000001 999999"_s, u"000001"_s, u"000000"_s},        // the digits begin anew
+        {u"000001"_s, u"000001 000002"_s, u"000003 000002"_s}, // the other one keeps 2
+        {u"000001 999999"_s, u"000001"_s, u"000000"_s},        // the digits start again
         {u"000001 AAAAAA"_s, u"aaaaaa"_s, u"000002"_s},
-        {u"000012"_s, u"1"_s, u"3"_s},                   // a part of a stored code is in use as well
-        {u""_s, u"000005 000005"_s, u"000005 000001"_s}, // a damaged file: each has its own all the same
+        {u"000012"_s, u"1"_s, u"3"_s},                   // a part of a stored code counts as used
+        {u""_s, u"000005 000005"_s, u"000005 000001"_s}, // a damaged file: each destination still gets its own code
         {u"000005"_s, u"000005 000005"_s, u"000006 000007"_s},
         {u""_s, u"1234567"_s, u""_s},
         {u"0 1 2 3 4 5 6 7 8 9"_s, u"3"_s, u""_s},
@@ -123,7 +123,7 @@ TEST(ExchangeCodes, AreKeptWhenFreeElseCountedOn) {
     }
 }
 
-/// Names over few letters, so that many of them meet; among them what only looks like a letter, and what folds to one.
+/// Random names of few letters, so that many are alike. Some characters only look like a letter, or fold to one.
 QString randomName(std::mt19937& chance) {
     static const QString letters = u"aAbBkKsS è'(?*K\u017fÈ\t"_s;
     QString name;
@@ -134,7 +134,7 @@ QString randomName(std::mt19937& chance) {
     return name;
 }
 
-// Against the rule, word by word: an entry comes in if a leg is like its place and no entry is like both its texts.
+// A plain version to compare with: an entry comes in if a leg is like its place, and no entry is like both its texts.
 TEST(ExchangeImport, TakesOfTheGuideWhatTheRuleSays) {
     EXPECT_EQ(modelloLuogo(u"L'Àq(x)🚐"_s), u"L??q?x??"_s);
     std::mt19937 chance(2);
@@ -177,7 +177,7 @@ TEST(ExchangeImport, LegsThatComeLateCountForTheGuideToo) {
     ASSERT_EQ(codes.assign({}, {u"000001"_s}, 6), CodiciMete::Esito::Assegnati);
     Importazione import(MemoryArchive::names(), codes, archive);
     const std::pair<const char16_t*, int> lines[] = {
-        // with the entries so far
+        // with the number of entries so far
         {u"LocalitaýDescrizioneý", 0}, {u"RomaýDuomoý", 0},  {u"CodiceMetaþLocalitaþ", 0},
         {u"000001þROMAþ", 0},          {u"000002þBARIþ", 0}, {u"LocalitaýDescrizioneý", 0},
         {u"RomaýDuomoý", 1},           {u"BariýDuomoý", 1},  {u"ROMAýduomoý", 1}};

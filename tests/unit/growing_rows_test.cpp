@@ -1,4 +1,4 @@
-// The table while a calculation runs: the rows so far, their pace, and nothing left of them behind the end.
+// The table during a calculation: the rows so far, their pace, and nothing left afterwards.
 #include <thread>
 
 #include <gtest/gtest.h>
@@ -22,17 +22,17 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// A user who looks at every n-th row and does something at each yield.
+/// Shows every n-th row, and calls `onYield` at each yield.
 class Onlooker : public EventYield {
   public:
-    int every = 0; ///< 0: nobody looks
+    int every = 0; ///< 0: shows nothing
     std::function<void()> onYield;
     [[nodiscard]] bool due() const { return due_; }
 
     bool frameDue() override {
         due_ = every != 0 && ++asked_ % every == 0;
         if (due_)
-            std::this_thread::sleep_for(std::chrono::milliseconds(4)); // the last showing is paid for, as a rule
+            std::this_thread::sleep_for(std::chrono::milliseconds(4)); // mostly longer than the pause between showings
         return due_;
     }
     void yield() override {
@@ -46,14 +46,14 @@ class Onlooker : public EventYield {
     bool due_ = false;
 };
 
-/// What the rows take from the window while its legs are kept.
+/// The texts that the rows take from the window while its legs are kept.
 TestiViandoria texts(const Form& form) {
     const TestiTabella& legs = *form.tappeConservate;
     return {[&legs](int row, int column) -> const QString& { return legs.text(row - 1, column); }, form.cmbRipM.text(),
             form.viaggio->OreGuidaGiorno, form.viaggio->OreVisitaGiorno};
 }
 
-/// A stored trip of some days with breaks, long rests and an entry of the guide for each leg, in a window of its own.
+/// A stored trip of some days in its own window. It has breaks, long rests and a guide entry for each leg.
 class Trip {
   public:
     Trip() {

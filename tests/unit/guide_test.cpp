@@ -50,10 +50,10 @@ TEST(GuideStops, AreAddedToTheLegsStop) {
         QString result;
     } rows[] = {
         {{}, {u"01:30"_s, u"00:45"_s}, 800, u"00:02:15"_s},
-        {u"*00:02:00"_s, {u"01:00"_s}, 900, u"00:03:00"_s}, // the end of the day goes
-        {u"01:01:00"_s, {u"07:30"_s}, 850, u"02:00:00"_s},  // a day is a day of visits, in and out
-        {u"01:01:00"_s, {u"23:00"_s}, 0, u"02:00:00"_s},    // no visiting hours: a whole day
-        {u"00:01:00"_s, {u"G2:30"_s}, 900, u"00:01:30"_s},  // read as it stands
+        {u"*00:02:00"_s, {u"01:00"_s}, 900, u"00:03:00"_s}, // the mark of the end of the day is lost
+        {u"01:01:00"_s, {u"07:30"_s}, 850, u"02:00:00"_s},  // a day has the length of the visiting time
+        {u"01:01:00"_s, {u"23:00"_s}, 0, u"02:00:00"_s},    // no visiting time: a day of 24 hours
+        {u"00:01:00"_s, {u"G2:30"_s}, 900, u"00:01:30"_s},  // "G2" is no hour
     };
     for (const auto& row : rows)
         EXPECT_EQ(sostaConGuida(row.stop, row.times, row.visitingDay), row.result) << row.stop.toStdString();

@@ -1,4 +1,4 @@
-// Legs as rows and records. The rules that a user sees are scenarios.
+// Legs as rows and records. What a user sees is tested by scenarios.
 #include <limits>
 
 #include <gtest/gtest.h>

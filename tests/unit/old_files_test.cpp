@@ -1,4 +1,4 @@
-// The files of the earlier generation: their records, and how they come into the archive.
+// The files of the earlier version: their records, and their conversion into the archive.
 #include <QDir>
 
 #include "exchange/conversion.h"
@@ -35,7 +35,7 @@ TEST(OldFiles, TheCountOfLegsIsBelievedOnlyWhereItHolds) {
                 {oldItinerary(three, u"9"_s), {3, 1}},
                 {oldItinerary(three, u"-1"_s), {0, 4}},
                 {differing, {0, 4}},
-                {oldItinerary(three).chopped(5), {3, 0}}}; // the last one is cut
+                {oldItinerary(three).chopped(5), {3, 0}}}; // the last record is cut
     for (const auto& row : rows) {
         const TappeVecchie legs = tappeDaLeggere({vecchieTappe(), row.contents});
         EXPECT_EQ(std::pair(legs.tappe, legs.tralasciati), std::pair(row.legs.tappe, row.legs.tralasciati))
@@ -44,7 +44,7 @@ TEST(OldFiles, TheCountOfLegsIsBelievedOnlyWhereItHolds) {
 }
 
 TEST(OldFiles, LegsPartPlaceAndRoad) {
-    const QString rows[][3] = {// place with its road, time, and the leg: place, road and stop, empty if there is none
+    const QString rows[][3] = {// place with its road, time; then place, road and stop of the leg, empty for no leg
                                {u"MODENA * A1 *A22 "_s, u"010230"_s, u"MODENA|A1 *A22 |01:02:30"_s},
                                {u"ÅNDALSNES*E136"_s, u"000100"_s, u"ÅNDALSNES|E136 |00:01:00"_s},
                                {u"østersund"_s, u"00010"_s, u"østersund| |00:01:0"_s},
@@ -57,7 +57,7 @@ TEST(OldFiles, LegsPartPlaceAndRoad) {
     }
 }
 
-/// A window on an archive of its own, with old files beside it.
+/// A window on its own archive, with old files beside it.
 class Conversion : public WindowTest {
   protected:
     void old(const QString& name, const QByteArray& contents) { ASSERT_TRUE(writeOldFile(inFolder(name), contents)); }
@@ -69,7 +69,7 @@ class Conversion : public WindowTest {
     }
     QString files() const { return QDir(folder->path()).entryList({u"*.dat*"_s}, QDir::Files, QDir::Name).join(u'|'); }
 
-    /// Two destinations with an itinerary each, and a guide.
+    /// Writes two destinations with an itinerary each, and a guide.
     void oldArchive() {
         const auto& mete = vecchieMete();
         old(u"VANZMETE.DAT"_s, oldFile(mete, {{u"1"_s, u"ROMA"_s}, {u"2"_s, u"..BARI"_s}, {u"000003"_s, u"PISA"_s}}));
@@ -82,7 +82,7 @@ class Conversion : public WindowTest {
 };
 
 TEST_F(Conversion, StoppedAnywhereItLosesNothingAndGoesOn) {
-    // ROMA's code is taken: it comes in under another one, with its legs, whenever the work is broken off.
+    // ROMA's code is taken. ROMA gets another one, with its legs, wherever the conversion is interrupted.
     folder.emplace();
     old(u"VanzMete.dat"_s, oldFile(vecchieMete(), {{u"1"_s, u"VIENNA"_s}}));
     old(u"vanz0001.dat"_s, oldItinerary({{u"GRAZ"_s}}));

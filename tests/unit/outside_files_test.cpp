@@ -1,4 +1,4 @@
-// Names of files for others that lead to the archive or its companions, and files that have no end.
+// Names of files for others that lead to the archive or its companions. Files without an end.
 #include "store/outside_files.h"
 
 #include <filesystem>
@@ -119,7 +119,7 @@ TEST_F(OutsideFiles, AreReadOnlyWhereTheyEnd) {
     }
 }
 
-/// As another program sees it.
+/// Whether another program finds the file locked.
 bool isLocked(const QString& file) {
     const pid_t other = ::fork();
     if (other == 0) {

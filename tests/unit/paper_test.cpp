@@ -1,4 +1,4 @@
-// Pages as other programs find them: the texts of a PDF, what it says of itself, its picture.
+// PDF pages as other programs see them: their texts, properties and picture.
 #include <algorithm>
 #include <array>
 
@@ -30,7 +30,7 @@ QByteArray pdfOf(const std::vector<Page>& pages) {
     return bytes.data();
 }
 
-/// What a program says of a PDF.
+/// What another program prints about a PDF.
 QStringList asked(const QString& program, const QStringList& options, const QByteArray& pdf) {
     QProcess process;
     process.start(program, options);
@@ -86,7 +86,7 @@ TEST(Paper, APictureShowsItsPartOfThePage) {
     std::vector<quint32> points(std::size_t{width} * height, 0xFFFFFFFFU);
     Fonts fonts;
     drawPage(page, fonts, {reinterpret_cast<unsigned char*>(points.data()), width, height, width * 4}, {100, 0}, 4);
-    // mm of the page
+    // position on the page in mm
     const auto seen = [&](double x, double y) {
         return points[static_cast<std::size_t>(y * 4) * width + static_cast<std::size_t>(x * 4 - 100)] & 0xFFFFFFU;
     };

@@ -1,4 +1,4 @@
-// Where reports begin another page, told by the recording printer.
+// Where reports begin a new page, according to the recording printer.
 #include <algorithm>
 
 #include <gtest/gtest.h>
@@ -20,7 +20,7 @@ class Reports : public testing::Test {
   protected:
     [[nodiscard]] QJsonArray pages() { return printer.takePages(); }
 
-    /// Something on the page has all these values.
+    /// Whether something on the page has all these values.
     static bool holds(const QJsonValue& page, const QJsonObject& part) {
         return std::ranges::any_of(page.toArray(), [&part](const QJsonValue& drawn) {
             return std::ranges::all_of(part.keys(), [&](const QString& key) { return drawn[key] == part[key]; });

@@ -1,4 +1,4 @@
-// How the rows of the table are told apart.
+// How the rows of the table are recognized.
 #include <gtest/gtest.h>
 
 #include <QStringList>
@@ -9,8 +9,9 @@
 
 namespace vanzer {
 
-/// Rows as "1=text,2=text ..." by column, parted by "/", below a head row whose column of the groups has a name. Each
-/// becomes "V" for a row of a schedule, its kind, its day or category, and "|" at the end of a day.
+/// The looks of rows. The rows are separated by "/", their cells are "column=text" separated by ",", below a head row
+/// with a name for the group column. Each look is "V" for a row of a schedule, the kind, the day or category, and "|"
+/// at the end of a day.
 std::string looks(const QString& rows, const QString& group = QStringLiteral("Km.")) {
     std::vector<std::map<int, QString>> cells{{{guidaGruppo, group}}};
     for (const QString& row : rows.split(u'/')) {
@@ -27,7 +28,7 @@ std::string looks(const QString& rows, const QString& group = QStringLiteral("Km
     for (const AspettoRiga& look : aspettoRighe(static_cast<int>(cells.size()), cell, categories))
         told += (look.viandoria ? "V " : "") + std::string(kinds[static_cast<std::size_t>(look.tipo)]) + ' ' +
                 std::to_string(look.giorno + look.categoria) + (look.fineGiornata ? "| " : " ");
-    return told.substr(told.find(' ', told.find(' ') + 1) + 1); // without the head
+    return told.substr(told.find(' ', told.find(' ') + 1) + 1); // without the head row
 }
 
 TEST(AspettoRighe, AreToldFromTheTexts) {
@@ -39,12 +40,12 @@ TEST(AspettoRighe, AreToldFromTheTexts) {
         {"0=1,1=ROMA,9=Lun,10=05/1= > Foro,9=Lun,10=05/1= > Colosseo/"
          "1= > Partenza mattino successivo,9=Lun,10=06/0=5,1=OSTIA,9=Lun,10=06",
          "V tappa 0 V sosta 0 V sosta 0| V mattino 1 V tappa 1| "},
-        // A mention before the first date; a date that comes again is another day; a row left empty ends no day.
+        // A mention before the first date. A repeated date is another day. An empty row ends no day.
         {"1= > Foro/0=2,1=ROMA,9=Lun,10=05/0=3,1=PISA,9=Lun,10=06/0=4,1=LUCCA,9=Lun,10=05/",
          "V sosta 0 V tappa 0| V tappa 1| V tappa 2| V vuota 2 "},
         {"0=1,1=ROMA,9=Lun,10=05/1=Totali: Km e tempi (gg:hh:mm):/1=Percorso specifico:\t/1=\t\tKm. 0/",
          "V tappa 0| V titolo 0 V titolo 0 V totale 0 V vuota 0 "},
-        // A place called like the totals is a leg while it has a number.
+        // A place named like the totals is a leg if it has a number.
         {"0=1,1=Totali: Km e tempi (gg:hh:mm):,9=Lun,10=05/1= > Foro,9=Lun,10=05", "V tappa 0 V sosta 0| "},
     };
     for (const auto& [rows, told] : cases)

@@ -1,4 +1,4 @@
-// Running kilometres and times of a table: by difference they are what they would be if all were worked out each time.
+// Running kilometres and times of a table. Updated by differences, they equal those that are worked out anew.
 #include <gtest/gtest.h>
 
 #include "trip/totals.h"

@@ -1,4 +1,4 @@
-// The logbook's trip: how it is told, how it is called on the disk, and the pages it needs.
+// The logbook's trip: its arguments, its file name, and the pages that it needs.
 #include <algorithm>
 
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// "NAME|first day|number of days", or the words of the problem.
+/// "NAME|first day|number of days", or the text of the problem.
 std::string told(const QString& word) {
     try {
         const Trip trip = tripOf(word);
@@ -31,7 +31,7 @@ Trip trip(int days) {
 
 TEST(Scribolo, AWordTellsATripOrWhatItLacks) {
     const std::pair<const char16_t*, const char*> cases[] = {
-        // with a part of what is told
+        // the word, and a part of the expected result
         {u"Elba,01/06/2026,01/06/2026", "Elba|2026-06-01|1"},
         {u"Elba,01/01/2025,02/01/2025,01/06/2026,03/06/2026", "Elba,01/01/2025,02/01/2025|2026-06-01|3"},
         {u"  Łódź \n e \u0007ritorno , 28/02/2028 , 01/03/2028 ", "Łódź e ritorno|2028-02-28|3"},

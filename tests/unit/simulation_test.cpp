@@ -1,4 +1,4 @@
-// The walk through the days: what its rows know, and its early ends. Its rules are scenarios.
+// The simulation of the days: the data of its rows, and its early ends. Other behaviour is tested by scenarios.
 #include <gtest/gtest.h>
 
 #include "support/plain_day.h"

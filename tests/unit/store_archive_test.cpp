@@ -1,4 +1,4 @@
-// The file: its making, check, rebuild, locking, damage, crashes.
+// The archive's file: creation, check, rebuild, lock, damage, crashes.
 #include "store_fixture.h"
 
 #include <csignal>
@@ -15,7 +15,7 @@
 namespace vanzer::store {
 namespace {
 
-/// A program that deletes all legs and dies in mid-command, when a part of it is in the file already.
+/// A program that deletes all legs and dies in mid-command, after a part has reached the file.
 void dieDeleting(const QString& folder) {
     const pid_t child = fork();
     if (child == 0) {
@@ -33,7 +33,7 @@ void dieDeleting(const QString& folder) {
 
 class StoreArchive : public StoreTest {
   protected:
-    /// Makes the archive anew with another table TipoGuida of these records, none without a descriptor.
+    /// Makes the archive anew with these records in another table TipoGuida. An empty descriptor leaves the table out.
     void makeOld(const QString& descriptor, const std::vector<std::map<QString, QString>>& records) {
         archive.close();
         QFile::remove(file());
@@ -61,7 +61,7 @@ TEST_F(StoreArchive, IsRebuiltWhereATableDiffers) {
     const struct {
         QString descriptor; ///< of TipoGuida in the old file
         bool rebuilt;
-        QString records; ///< afterwards: all fields, "-" without a value
+        QString records; ///< records after the rebuild: all fields, "-" for no value
         QString code = "01";
     } rows[] = {
         {"CodiceGuida[T=2],Descrizione[T=32],TempoObbligatorio[Y]", false, "01 Ott\u00e0mo True"},
@@ -73,7 +73,7 @@ TEST_F(StoreArchive, IsRebuiltWhereATableDiffers) {
         {"CodiceGuida[T=2],Descrizione[T=31],TempoObbligatorio[Y]", true, "01 Ott\u00e0mo True"},
         {"CodiceGuida[T=6],Descrizione[T=32],TempoObbligatorio[Y]", true, "01 Ott\u00e0mo True", "01xxxx"},
         {"CodiceGuida[I],Descrizione[T=32]", true, "1 Ott\u00e0mo False"},
-        {"", true, ""}, // a table that is missing
+        {"", true, ""}, // a missing table
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.descriptor.toStdString());
@@ -125,7 +125,7 @@ TEST_F(StoreArchive, PlacesWhereNothingCanBeOpened) {
     QFile::setPermissions(directory.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-// A killed program's journal is rolled back into its own archive, and into no other that has taken the place.
+// The journal of a killed program is rolled back into its own archive only, never into another one in its place.
 TEST_F(StoreArchive, OnlyItsOwnJournalIsRolledBack) {
     addLegs(2'000);
     const QString copy = path(directory, "copia.mdb");
@@ -154,7 +154,7 @@ TEST_F(StoreArchive, OnlyItsOwnJournalIsRolledBack) {
     }
 }
 
-// The system would let the program write on to a file that nobody finds again, or into another archive.
+// Without a check, the program could write on into a file that was replaced or removed, or into another archive.
 TEST_F(StoreArchive, AFileThatIsAnotherNowIsToldAndLeft) {
     addLegs(2);
     ASSERT_TRUE(QFile::rename(file(), path(directory, "altrove.mdb")));
@@ -186,7 +186,7 @@ TEST_F(StoreArchive, AFileOfAnotherVersionIsRefusedOrCarriedOver) {
     write(file(), newer);
     EXPECT_EQ(failureOf([&] { archive.openArchive(); }), StoreError::Kind::Newer);
     EXPECT_EQ(contents(file()), newer);
-    makeOld("Descrizione[T=32],CodiceGuida[T=2]", {}); // would be rebuilt with codes as names
+    makeOld("Descrizione[T=32],CodiceGuida[T=2]", {}); // a rebuild would make codes of the names
     const QByteArray reordered = contents(file());
     EXPECT_EQ(failureOf([&] { archive.openArchive(); }), StoreError::Kind::Unlike);
     EXPECT_EQ(contents(file()), reordered);
@@ -207,7 +207,7 @@ TEST_F(StoreArchive, AFileOfAnotherVersionIsRefusedOrCarriedOver) {
     EXPECT_EQ(archive.tabella("TipoGuida").record.at(1), (std::vector<Cell>{Cell(), Cell(), false, Cell()}));
     EXPECT_EQ(archive.tabella("Extra").record.at(0), (std::vector<Cell>{"x", "7"}));
     archive.close();
-    EXPECT_TRUE(Database::open(opening.archivioDiPrima)->intatto()); // for ten starts
+    EXPECT_TRUE(Database::open(opening.archivioDiPrima)->intatto()); // kept for ten starts
     for (int start = 1; start <= avviiTenuti; ++start) {
         EXPECT_EQ(QDir(directory.path() + "/Copie").count(), 3U) << start;
         countStart(file());

@@ -1,4 +1,4 @@
-// An archive in a directory of its own.
+// An archive in its own directory.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -24,7 +24,7 @@ inline void write(const QString& file, const QByteArray& bytes) {
     EXPECT_TRUE(f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size());
 }
 
-/// The index that leads to the two legs of destination 000001, places P0 and P1, leads nowhere.
+/// Damages the index that leads to the two legs of destination 000001, places P0 and P1.
 inline void breakIndexOfLegs(const QString& file) {
     constexpr qsizetype page = 4096;
     QByteArray bytes = contents(file);
@@ -35,7 +35,7 @@ inline void breakIndexOfLegs(const QString& file) {
     write(file, bytes);
 }
 
-/// The kind of failure of an action; nothing if it succeeds.
+/// The kind of an action's failure. No value if it succeeds.
 template<typename Action> std::optional<StoreError::Kind> failureOf(Action action) {
     try {
         action();
@@ -58,7 +58,7 @@ class StoreTest : public testing::Test {
         return archive.Rs(slot);
     }
 
-    /// The texts of one field, in the set's order; "-" where there is no value.
+    /// The texts of one field, in the order of the set. "-" for no value.
     QStringList texts(const QString& query, const QString& field) {
         QStringList found;
         for (Recordset& rs = open(query); !rs.EOF_(); rs.MoveNext())
@@ -66,7 +66,7 @@ class StoreTest : public testing::Test {
         return found;
     }
 
-    /// Guide entries, by place and description.
+    /// Adds guide entries by place and description.
     void addGuide(const std::vector<std::pair<QString, QString>>& entries) {
         Comando command(archive);
         Recordset rs(*archive.Db(0), {TabelleNomi(GuidaCitta), {}, {}});
@@ -80,7 +80,7 @@ class StoreTest : public testing::Test {
         command.commit();
     }
 
-    /// `count` legs of destination 000001, places P0, P1, ...
+    /// Adds `count` legs of destination 000001, places P0, P1, ...
     void addLegs(int count) {
         Comando command(archive);
         Recordset rs(*archive.Db(0), {TabelleNomi(Itinerari), {}, {}});

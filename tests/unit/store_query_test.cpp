@@ -12,7 +12,7 @@ int sign(int x) {
 }
 
 TEST(Collation, LettersFirstThenAccents) {
-    const std::pair<const char*, const char*> rows[] = {// in their order, or equal: parted by blanks
+    const std::pair<const char*, const char*> rows[] = {// in ascending order, or equal; separated by blanks
                                                         {" a Roma Romano", "rises"},
                                                         {"cote coté côte cotf", "rises"},
                                                         {"Citta Città Cittab", "rises"},
@@ -63,13 +63,13 @@ TEST(Collation, Like) {
                 {"*ab", "aab", true}};
     for (const auto& row : rows)
         EXPECT_EQ(resembles(row.pattern, row.text), row.expected) << row.pattern << " / " << row.text;
-    // A pattern that is hard for a matcher that tries all ways.
+    // This pattern takes very long in a matcher that tries all ways.
     EXPECT_FALSE(resembles("*a*a*a*a*a*a*a*a*a*a*a*a*b", std::string(3000, 'a')));
 }
 
 TEST(QueryText, IsReadInItsOneForm) {
     constexpr std::pair<const char*, const char*> rows[] = {
-        // read: table | field=text or field~pattern, ... | order
+        // read as: table | field=text or field~pattern, ... | order
         {"Itinerari", "Itinerari||"},
         {"select*from T where a='x'", "T|a=x,|"},
         {"SELECT * FROM T WHERE Localita LIKE 'L''AQUILA*' AND b = ''", "T|Localita~L'AQUILA*,b=,|"},
@@ -149,7 +149,7 @@ TEST_F(StoreQuery, SortsWithTiesAsAdded) {
         {{"Fano", "1"}, {"èze", "2"}, {"EZE", "3"}, {QString(), "4"}, {"eze", "5"}, {"Éa", "6"}, {QString(), "7"}});
     const std::pair<QString, QString> rows[] = {
         {"Localita", "4,7,6,3,5,2,1"},
-        {"Localita DESC", "1,2,3,5,6,4,7"}, // ties stay as added, records without a value come last
+        {"Localita DESC", "1,2,3,5,6,4,7"}, // equal ones as they were added, those without a value last
         {"FlagVisto, Localita DESC", "1,2,3,5,6,4,7"},
         {"Descrizione DESC", "7,6,5,4,3,2,1"},
     };

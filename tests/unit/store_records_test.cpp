@@ -8,7 +8,7 @@ namespace {
 
 const QString allLegs = QStringLiteral("SELECT * FROM Itinerari");
 
-/// The ways to open the same legs that keep a walk in different states.
+/// Ways to open the same legs that differ in how a walk keeps its state.
 const QStringList waysToLegs{allLegs, QStringLiteral("SELECT * FROM Itinerari WHERE CodiceMeta = '000001'"),
                              QStringLiteral("SELECT * FROM Itinerari ORDER BY Sequenza")};
 
@@ -60,8 +60,8 @@ TEST_F(StoreRecords, MisuseIsTold) {
     EXPECT_EQ(failureOf([&] { archive.RecordSetImposta(0, 1); }), StoreError::Kind::Other);
 }
 
-/// A walk of steps: n next, f first, l last, c count, a adds N0, N1 …, e changes the record's place in every order, d
-/// deletes, o another set changes P1. Returns the places that it came to, and the counts.
+/// Walks by steps: n next, f first, l last, c count, a adds N0, N1 …, e moves the record in every order, d deletes, o
+/// another set changes P1. Returns the places it reached, and the counts.
 std::string walked(Recordset& legs, const char* steps, const std::function<void()>& other) {
     std::string seen;
     for (int added = 0; *steps != 0; ++steps) {
@@ -81,7 +81,7 @@ std::string walked(Recordset& legs, const char* steps, const std::function<void(
             break;
         default:
             legs.AddNew();
-            legs.write("Localita", QStringLiteral("N%1").arg(added++)); // it isn't what the query asks for
+            legs.write("Localita", QStringLiteral("N%1").arg(added++)); // so that the query doesn't find it
             legs.Update();
         }
         if (QByteArrayView("nfleo").contains(*steps))
@@ -90,12 +90,12 @@ std::string walked(Recordset& legs, const char* steps, const std::function<void(
     return seen;
 }
 
-// Every record is seen once, however the walk or another set changes its table; what is added comes at the end.
+// Every record is seen once, even if the walk or another set changes the table. Added records come at the end.
 TEST_F(StoreRecords, AWalkKeepsItsOrderWhateverIsWritten) {
     addLegs(4);
     constexpr std::pair<const char*, const char*> walks[] = {
         {"ceanedanenedannnnc", "4 P0 P1 P1 P2 P2 P3 P3 N0 N1 N2 - 5 "},
-        {"acldancfnnnnn", "5 N0 N1 5 P0 P1 P2 P3 N1 - "}, // the second one takes over the identity of the first
+        {"acldancfnnnnn", "5 N0 N1 5 P0 P1 P2 P3 N1 - "}, // the second added record gets the identity of the first
         {"aalfnnnndnn", "N1 P0 P1 P2 P3 N0 N1 - "},
         {"nonon", "P1 P1 P2 P2 P3 "},
         {"lana", "P3 N0 "},
@@ -123,14 +123,14 @@ QStringList placesOf(Recordset& legs) {
     return places;
 }
 
-// Whatever a walk does when a page of the file can't be read, it is at its end then, and can be begun anew.
+// If a page of the file can't be read, a walk is at its end, and can be started again.
 TEST_F(StoreRecords, AWalkThatFailsIsAtItsEnd) {
     addLegs(400);
     constexpr int pageSize = 4096; // bytes
     QFile file(path(directory, "Vanzer.mdb"));
     ASSERT_TRUE(file.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
     const QByteArray whole = file.readAll();
-    // The archive has read nothing of it yet.
+    // The archive hasn't read these pages yet.
     const auto put = [&](qsizetype page, const QByteArray& bytes) {
         ASSERT_TRUE(file.seek(page * pageSize) && file.write(bytes) == pageSize);
         archive.Db(0)->prepare("PRAGMA shrink_memory")->step();
@@ -194,7 +194,7 @@ TEST_F(StoreRecords, CommandsAreWholeOrNothing) {
             }
         });
         EXPECT_EQ(failure.has_value(), row.fails) << row.steps;
-        archive.rollbackCommand(); // what the failure left open
+        archive.rollbackCommand(); // rolls back what the failure left open
         EXPECT_FALSE(archive.Db(0)->inTransaction()) << row.steps;
         EXPECT_EQ(open(allLegs).RecordCount(), row.stored) << row.steps;
         archive.CancellaTabella(Itinerari, QString(), QString());
@@ -209,7 +209,7 @@ TEST_F(StoreRecords, AFullDiskSpoilsTheCommandAndNothingElse) {
     EXPECT_EQ(adds(10'000), StoreError::Kind::Full);
     archive.beginCommand();
     EXPECT_EQ(adds(10'000), StoreError::Kind::Full);
-    EXPECT_EQ(adds(1), StoreError::Kind::Full); // the outer command has failed, whatever its caller overlooks
+    EXPECT_EQ(adds(1), StoreError::Kind::Full); // the outer command has failed, even if its caller ignores that
     EXPECT_EQ(failureOf([&] { archive.commitCommand(); }), StoreError::Kind::Full);
     EXPECT_EQ(open(allLegs).RecordCount(), 10);
     EXPECT_EQ(adds(1), std::nullopt);

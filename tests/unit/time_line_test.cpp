@@ -1,4 +1,4 @@
-// The trip as a line of time, and what other programs get of it.
+// The trip as a line of time, and the files made of it for other programs.
 #include <gtest/gtest.h>
 
 #include "core/time_values.h"
@@ -52,7 +52,7 @@ TEST(TimeLine, AGapThatTheCountingLeavesIsNoFreeTime) {
     ParametriSimulazione p = plainDay();
     p.range = 0;
     for (const auto& [night, between] : {std::pair(1002.F, false), std::pair(1003.F, true)}) {
-        p.oraNotte = night; // two hundredths of an hour, or three, behind the arrival
+        p.oraNotte = night; // two or three hundredths of an hour after the arrival
         const LineaDelTempo line =
             lineOf({drive(u"ROMA"_s, 0), drive(u"TERNI"_s, 100, true), drive(u"RIETI"_s, 50)}, p);
         ASSERT_GT(line.attivita.size(), 1U);
@@ -82,7 +82,7 @@ TEST(Calendar, LongLinesAreFoldedBetweenCharactersAndEndWhereTheyAreWritten) {
             calendario(trip, lineOf({drive(u"ROMA"_s, 0), drive(u"TERNI\u2028\fA"_s, 100)}, plainDay()),
                        QDateTime::currentDateTime());
         for (const QByteArray& line : file.split('\n'))
-            EXPECT_TRUE(line.size() <= 76 && line.isValidUtf8()) << line.toStdString(); // 75 and the CR
+            EXPECT_TRUE(line.size() <= 76 && line.isValidUtf8()) << line.toStdString(); // 75 bytes and the CR
         const QString text = QString::fromUtf8(file).remove(u"\r\n"_s);
         for (const QChar c : text)
             EXPECT_FALSE(c.category() == QChar::Other_Control || c == u'\u2028' || c == u'\u2029') << int{c.unicode()};

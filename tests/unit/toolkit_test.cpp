@@ -1,4 +1,4 @@
-// The control models: what the window's logic relies on, and what a view is told.
+// The control models: the behaviour that the window relies on, and the notices to a view.
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModelTester>

@@ -1,4 +1,4 @@
-// The days of a trip: where the search for a wanted number begins.
+// The days of a trip: where the search for the wanted days begins.
 #include <gtest/gtest.h>
 
 #include "schedule/fitting.h"

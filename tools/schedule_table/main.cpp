@@ -9,8 +9,8 @@
 #include <QJsonObject>
 #include <QStringList>
 
-// Reads the answers of vanzer-batch, one JSON object a line, from standard input and prints the last grid among them as
-// a table. Exit status 1 when there is none.
+// Reads answers of vanzer-batch from standard input, one JSON object a line. Prints the last grid among them as a
+// table. The exit status is 1 if there is none.
 
 namespace {
 
@@ -21,7 +21,7 @@ struct Column {
     Align align;
 };
 
-// The columns of the schedule grid, in its order; what stands behind them is bookkeeping.
+// The columns of the schedule grid, in its order. Columns after these are internal.
 constexpr std::array<Column, 13> columns{{{"Num.", Align::right},
                                           {"Tappa", Align::left},
                                           {"Strada", Align::left},
@@ -50,7 +50,7 @@ std::optional<QJsonArray> lastGrid(QFile& input) {
     return cells;
 }
 
-// The grid's rows below its head row, under our own heads.
+// The grid's rows below its head row, with the heads of this table.
 QList<Row> tableOf(const QJsonArray& cells) {
     Row heads;
     std::transform(columns.begin(), columns.end(), heads.begin(),
@@ -66,7 +66,7 @@ QList<Row> tableOf(const QJsonArray& cells) {
     return table;
 }
 
-// A sentence below the schedule: it stands in the column of the places and runs on over the others.
+// Whether the row is a sentence below the schedule. It begins in the column of places and continues over the others.
 bool isRemark(const Row& row) {
     for (std::size_t c = 0; c < columns.size(); ++c)
         if (row[c].isEmpty() == (c == placeColumn))

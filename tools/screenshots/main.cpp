@@ -1,6 +1,7 @@
-// Pictures of the window for the README: screenshots ARCHIVE-FOLDER EMPTY-FOLDER PICTURE-FOLDER [NAME...] takes those
-// named, else all of them; "pagine" prints the schedule to viandoria.pdf in the first folder. The archive holds some
-// trips, the current one with legs and a guide. Drives the real widgets; docs/screenshots/make prepares the folders.
+// Makes the pictures of the window for the README. screenshots ARCHIVE-FOLDER EMPTY-FOLDER PICTURE-FOLDER [NAME...]
+// makes the named ones, or all of them. "pagine" prints the schedule to viandoria.pdf in the first folder. The archive
+// holds some trips; the current one has legs and a guide. Uses the real widgets. docs/screenshots/make prepares the
+// folders.
 
 #include <array>
 #include <cstdio>
@@ -26,7 +27,7 @@ class FixedClock : public Clock {
     [[nodiscard]] QDateTime now() const override { return {QDate(2026, 6, 1), QTime(9, 10)}; }
 };
 
-/// Presses the default button of every message box as soon as it shows; a file that is asked for is `file`.
+/// Presses the default button of every message box as soon as it appears. Chooses `file` in file dialogs.
 class Agreeable : public QObject {
   public:
     explicit Agreeable(QString file) : file_(std::move(file)) {}
@@ -71,7 +72,7 @@ class Scene {
         if (auto* const list = dynamic_cast<ListControl*>(program_.form().find(QLatin1StringView(control))))
             list->setText(QLatin1StringView(text));
     }
-    /// Print options, with the choice of the printer above them; "PDF" is marked.
+    /// Opens the print options and the choice of the printer above them, with "PDF" marked.
     void choosePrinter() {
         Form& form = program_.form();
         form.chkTabella.setValue(true);
@@ -86,11 +87,11 @@ class Scene {
     void click(int row) {
         program_.window().binder().input([this, row] { program_.form().mfgTab.clickRow(row); });
     }
-    /// In the exchange: of the list's destinations the one in that row goes over.
+    /// Moves the destination in that row to the other list of the exchange.
     void moveDestination(int row) {
         program_.window().binder().input([this, row] { program_.form().mfgImExp(0).clickRow(row); });
     }
-    /// In the list from which a stretch is copied: a destination, then one of its legs.
+    /// Picks a destination, then one of its legs, in the list for copying a stretch.
     void clickSource(int row) {
         program_.window().binder().input([this, row] { program_.form().mfgCopia.clickRow(row); });
     }
@@ -171,7 +172,7 @@ const std::array shots{
              calculate(scene);
              scene.choosePrinter();
          }},
-    Shot{"pagine", smallest, false, false, // the pages go to the file
+    Shot{"pagine", smallest, false, false, // prints the pages to the file
          [](Scene& scene) {
              calculate(scene);
              scene.choosePrinter();

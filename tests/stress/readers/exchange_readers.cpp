@@ -1,4 +1,4 @@
-// Readers of what comes from others: exchange files, route lists, stop files, old files.
+// Readers of files from others: exchange files, route lists, stop files, old files.
 #include <algorithm>
 #include <numeric>
 #include <set>
@@ -42,7 +42,7 @@ QStringList codesInFile(const QByteArray& input) {
     return codes;
 }
 
-/// What came in behind what was there before.
+/// Checks the records that were added.
 void checkRecords(const MemoryArchive& archive, const std::set<QString>& codes) {
     for (int section = primaSezione; section <= ultimaSezione; ++section) {
         const auto& table = archive.tables[static_cast<std::size_t>(section)];
@@ -60,7 +60,7 @@ void checkRecords(const MemoryArchive& archive, const std::set<QString>& codes) 
     }
 }
 
-/// As a text comes back: trimmed, in the letters of the code page but those that part the fields.
+/// The text as it is read back: trimmed, in the code page, with separator letters replaced.
 QString asRead(const QString& text) {
     QString plain = Trim(text).normalized(QString::NormalizationForm_C);
     const QString letters = u"ÿŸþÞýÝ"_s;
@@ -69,7 +69,7 @@ QString asRead(const QString& text) {
     return Trim(fromCodePage(toCodePage(plain)));
 }
 
-/// Written and read again, the records are the same but for what a text loses.
+/// Records that are written and read again are the same, except for letters that a text loses.
 void checkRoundTrip(const MemoryArchive& archive) {
     ScrittoreIei file;
     std::vector<MemoryArchive::Record> written;
@@ -97,7 +97,7 @@ void checkRoundTrip(const MemoryArchive& archive) {
     promise(read == written.size(), "as many records come back as were written");
 }
 
-/// Imports every destination of an exchange file into an archive with some of the like, and writes what came in again.
+/// Imports every destination of an exchange file into an archive with similar records. Then exports what was imported.
 void readExchangeFile(const QByteArray& input) {
     MemoryArchive archive = someArchive();
     const QStringList chosen = codesInFile(input);
@@ -107,7 +107,7 @@ void readExchangeFile(const QByteArray& input) {
     std::set<QString> given;
     for (CodiciMete left = codes; const QString& old : chosen) {
         promise(given.insert(*left.perMeta(old)).second, "each destination has a code of its own");
-        left.refuse(old); // the next of that code comes forward
+        left.refuse(old); // the next destination with that code takes its turn
     }
     Importazione import(MemoryArchive::names(), codes, archive);
     RigheTesto lines(input);
@@ -136,7 +136,7 @@ void checkLegs(const PercorsoImportato& route) {
 
 constexpr int nameSize = 30;
 
-/// Places that begin, hold or repeat the stops' names, and some of their own.
+/// Places that begin with, contain or repeat the stops' names, and some others.
 std::vector<RigaPercorso> routeThrough(const QStringList& stops) {
     std::vector<RigaPercorso> legs{{u"PARTENZA"_s, {}, 0}};
     int number = 0;
@@ -150,7 +150,7 @@ std::vector<RigaPercorso> routeThrough(const QStringList& stops) {
     return legs;
 }
 
-/// The rule of the marks, row by row.
+/// A simple version of marking stops, row by row, to compare with.
 QStringList markedOneByOne(const std::vector<RigaPercorso>& legs, const QStringList& stops) {
     QStringList places;
     for (const RigaPercorso& leg : legs)
@@ -191,7 +191,7 @@ void checkFolded(const std::vector<RigaPercorso>& legs, const std::vector<RigaRi
     promise(km == driven, "no kilometre is lost before the last leg that stays");
 }
 
-/// Reads a route list, and again with other line ends.
+/// Reads a route list, and reads it again with other line ends.
 void readRoutePackage(const QByteArray& input) {
     const PercorsoImportato route = readPackage(input);
     checkLegs(route);
@@ -202,7 +202,7 @@ void readRoutePackage(const QByteArray& input) {
     promise(std::ranges::equal(route.tappe, again.tappe, {}, texts, texts), "line ends don't matter");
 }
 
-/// Reads a stop file and folds a route down to its stops, some of whose names are the route's.
+/// Reads a stop file and reduces a route to its stops. Some of their names are in the route.
 void readStopFile(const QByteArray& input) {
     const QStringList stops = readDestinations(input).mid(0, 500);
     std::vector<RigaPercorso> legs = routeThrough(stops);
@@ -213,7 +213,7 @@ void readStopFile(const QByteArray& input) {
     checkFolded(legs, foldLegs(legs, nameSize));
 }
 
-/// What a record says is what stands in its bytes, and nothing of it is a control.
+/// Every text of a record stands in its bytes, without control characters.
 void checkRecord(const FormatoVecchio& format, const QByteArray& bytes, const RecordVecchio& record) {
     qsizetype at = 0;
     for (std::size_t i = 0; i < format.campi.size(); ++i) {

@@ -1,17 +1,17 @@
 #!/usr/bin/env bash
-# Fuzzes readers for so many seconds each: long.sh BUILD-FOLDER SECONDS [READER...], all of them without a name. First each
-# file of the reader's corpus is run once. An input that breaks a reader is left in BUILD-FOLDER/fuzz/READER/broken, what
-# covers more than the corpus in BUILD-FOLDER/fuzz/READER/found. The last lines are a table; the exit status is 1 when a
-# reader broke.
+# long.sh BUILD-FOLDER SECONDS [READER...]: fuzzes each reader for so many seconds, or all readers if none is named.
+# First runs each file of the reader's corpus once. An input that breaks a reader is left in
+# BUILD-FOLDER/fuzz/READER/broken. Inputs that cover more than the corpus are left in BUILD-FOLDER/fuzz/READER/found.
+# Prints a table at the end. The exit status is 1 if a reader broke.
 set -uo pipefail
 build=$(realpath "${1:?the build folder}") seconds=${2:?seconds for each reader}
 shift 2
 cd "$(dirname "$0")" || exit 1
 [ $# -gt 0 ] || set -- iei pacchetto mete vecchi archivio comando bozza impostazioni
 [ -w /dev/shm ] && export TMPDIR=/dev/shm
-most=10 # broken inputs, after which a reader is left alone
+most=10 # broken inputs; then the reader is left alone
 
-# fuzz READER: goes on behind an input that broke it, until the time is over.
+# fuzz READER: continues after broken inputs until the time is over.
 fuzz() {
     local folder=$build/fuzz/$1 end=$((SECONDS + seconds)) left tries=0 broken=-1 now=0 hung ran status=0 options=()
     rm -rf "$folder" && mkdir -p "$folder/found" "$folder/broken" || return 1

@@ -1,5 +1,5 @@
-// Lets libFuzzer loose on a reader, which the environment names: VANZER_FUZZ=READER vanzer_fuzz [OPTION...] FOLDER...
-// long.sh runs them all.
+// Runs libFuzzer on the reader that the environment names: VANZER_FUZZ=READER vanzer_fuzz [OPTION...] FOLDER... long.sh
+// runs all readers.
 #include <cstdint>
 
 #include "readers.h"

@@ -1,4 +1,4 @@
-// Readers of what the programs themselves have written: archives, drafts, settings, the logbook's command.
+// Readers of files that the programs themselves write: archives, drafts, settings, the logbook's command.
 #include <algorithm>
 #include <tuple>
 
@@ -46,7 +46,7 @@ qint64 walked(Archive& archive, const store::Query& query) {
     return count;
 }
 
-/// Each way through a table meets the same records.
+/// All ways through a table find the same records.
 void walkAll(Archive& archive, bool sound) {
     for (int table = store::primaTabella; table <= store::ultimaTabella; ++table) {
         const QString& name = store::TabelleNomi(table);
@@ -75,7 +75,7 @@ qint64 added(Archive& archive) {
     return walked(archive, {store::TabelleNomi(store::GuidaCitta), {{u"Localita"_s, Equal, place}}, {}});
 }
 
-/// Whether the archive was found sound.
+/// Opens the archive. Returns whether it was found sound.
 bool open(Archive& archive) {
     bool sound = false;
     archive.openArchive(
@@ -83,7 +83,7 @@ bool open(Archive& archive) {
     return sound;
 }
 
-/// Opens an archive as the program does, walks it by every index, and stores a record.
+/// Opens an archive as the program does, reads it by every index, and stores a record.
 void openArchive(const QByteArray& input) {
     const QTemporaryDir folder;
     put(folder.filePath(store::nomeArchivio), input);
@@ -127,7 +127,7 @@ void checkTrip(const Trip& trip) {
             "file systems take the name");
 }
 
-/// What Vanzer writes for that trip is read as it.
+/// The file that Vanzer writes for a trip is read as the same trip.
 void checkWrittenAgain(const Trip& trip) {
     const auto date = [](QDate day) {
         return std::array{day.toString(u"dd"_s), day.toString(u"MM"_s), day.toString(u"yyyy"_s)};
@@ -140,7 +140,7 @@ void checkWrittenAgain(const Trip& trip) {
             "a trip comes back as it was written");
 }
 
-/// Reads the command file of the logbook's program, and the trip alone.
+/// Reads the command file of the logbook's program, and its trip alone.
 void readCommandFile(const QByteArray& input) {
     for (const bool whole : {true, false}) {
         try {
@@ -154,7 +154,7 @@ void readCommandFile(const QByteArray& input) {
     }
 }
 
-/// Reads a draft, and what it says once more.
+/// Reads a draft, writes it and reads it again.
 void readDraft(const QByteArray& input) {
     const std::optional<Bozza> draft = bozzaDaiByte(input);
     if (!draft)
@@ -165,7 +165,7 @@ void readDraft(const QByteArray& input) {
     promise(byteDellaBozza(*again, again->scritta) == byteDellaBozza(*draft, draft->scritta), "it says the same");
 }
 
-/// A window that nobody sees, the same for all inputs. It lasts to the end.
+/// An invisible window, shared by all inputs. It lives to the end.
 desktop::Program& program() {
     static const QTemporaryDir folder;
     static desktop::SystemClock clock;
@@ -180,11 +180,11 @@ desktop::Program& program() {
     static_cast<void>(application);
     QApplication::setOrganizationName(u"Vanzer"_s);
     made = new desktop::Program({.directory = folder.path(), .decimalMark = u'.', .versione = {}}, clock);
-    made->form().chiusa = true; // nobody is asked when it is closed
+    made->form().chiusa = true; // asks nothing when it is closed
     return *made;
 }
 
-/// Starts the window on a file of settings, and stores them again.
+/// Starts the window with a settings file, and stores the settings again.
 void readSettings(const QByteArray& input) {
     desktop::MainWindow& window = program().window();
     const QTemporaryDir folder;
@@ -192,7 +192,7 @@ void readSettings(const QByteArray& input) {
     put(folder.filePath(u"Vanzer/Vanzer.conf"_s), input);
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
     promise(desktop::impostazioniIllegibili(folder.path()).isEmpty(), "a plain file is read");
-    for (int times = 0; times < 2; ++times) { // those of the input, then what the window stored
+    for (int times = 0; times < 2; ++times) { // first the settings of the input, then those that the window stored
         window.restorePlace();
         const QRect room = window.screen()->availableGeometry();
         promise(window.size() == window.size().boundedTo(room.size()), "the window is no larger than the screen");
@@ -210,7 +210,7 @@ const Reader settings("impostazioni", readSettings);
 
 } // namespace vanzer::fuzz
 
-/// What a library keeps to the end is its own.
+/// Memory that fontconfig keeps to the end is no leak of ours.
 extern "C" const char* __lsan_default_suppressions() {
     return "leak:libfontconfig";
 }

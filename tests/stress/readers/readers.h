@@ -1,4 +1,4 @@
-// Readers under fire: each takes any bytes and must neither crash nor hang nor break its promises.
+// Readers under attack. Each takes any bytes, and must not crash, hang or break its promises.
 #pragma once
 
 #include <cstdio>
@@ -10,7 +10,7 @@
 
 namespace vanzer::fuzz {
 
-/// A new one gets its name in long.sh and its corpus in a folder of that name.
+/// Add the name of a new reader to long.sh, and its corpus in a folder of that name.
 struct Reader {
     using Function = void (*)(const QByteArray& input);
 
@@ -21,7 +21,7 @@ struct Reader {
     }
 };
 
-/// Ends the program with what was promised, if it isn't so.
+/// Ends the program with the text of a broken promise.
 inline void promise(bool kept, const char* what) {
     if (kept)
         return;
