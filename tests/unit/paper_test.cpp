@@ -80,7 +80,7 @@ TEST(Paper, APictureShowsItsPartOfThePage) {
                     DrawnText{{40, 30}, u"HHH"_s, {.family = serif.family, .points = 40}},
                     DrawnPath{Path::circle({50, 50}, 5), 0xff0000U},
                     DrawnPath{Path().moveTo({40, 60}).lineTo({60, 60}), 0x0000ffU, Stroke{2, {4, 4}}},
-                    DrawnPath{Path().moveTo({40, 64}).lineTo({60, 64}), 0x0000ffU, Stroke{2}}};
+                    DrawnLine{{40, 64}, {60, 64}, 2, 0x0000ffU}};
     constexpr int width = 200;
     constexpr int height = 260;
     std::vector<quint32> points(std::size_t{width} * height, 0xFFFFFFFFU);
