@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The reads and writes of the window, done by plain calls of the database engine on a copy of the archive.
 #pragma once
 

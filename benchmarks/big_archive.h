@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An archive as after decades of travelling. It holds destinations with legs through real places, and guide entries for
 // these places. The same sizes always give the same records.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "big_trip.h"
 
 #include <stdexcept>

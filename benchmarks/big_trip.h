@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A trip of many legs in a window without a display, with its own archive.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Imports an archive of 100,000 legs from a file, compared with adding the same records by plain engine calls.
 
 #include <map>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The slow commands on a trip of 9,999 legs, compared with a trip of 1,000 legs. The time should grow as the legs do.
 // The quick commands are compared with a frame of the screen.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The cost of the guide's commands as the guide grows. Both sides have the same trip with the same entries. One guide
 // has a hundred times as many entries of other places.
 

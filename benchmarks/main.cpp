@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // vanzer_benchmarks: prints a table with a row for each measure that --benchmark_filter selects.
 
 #include <cstdio>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // make_archive FOLDER [--destinations N] [--legs N] [--entries N]: makes a big archive, the same in every run.
 
 #include <cstdio>

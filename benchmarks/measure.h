@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A measure compares a piece of the program's work with the least work that it needs, or with itself on a smaller trip.
 // Both sides run in turns in one process. The median of five samples counts.
 #pragma once

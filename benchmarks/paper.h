@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Prints a schedule into a PDF as the desktop does.
 #pragma once
 

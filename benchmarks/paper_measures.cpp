@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A schedule of some 10,000 rows as a PDF, compared with LibreOffice and the same table.
 
 #include <QFile>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "places.h"
 
 #include <stdexcept>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Real names of places, as they are and as users write them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The time from the start of the program to its first idle moment, on a big archive that already has its daily copy.
 
 #include <stdexcept>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The cost of a long trip, compared with the least work that it needs.
 
 #include <QFile>

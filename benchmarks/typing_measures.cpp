@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Typing a leg into a long trip and painting it. This must fit into one frame of the screen.
 
 #include <stdexcept>

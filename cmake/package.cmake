@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What is installed, and the two forms in which Vanzer is given away: a Debian package (target "package") and a folder that holds
 # program and archive together (target "portable").
 include(GNUInstallDirs)

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # long.sh MINUTES [SEED]: runs all attacks for so long, with the programs that ./test has built. Half of the time goes
 # to kills, losses of power, failing disks and damage, from one seed to the next. A third goes to readers under attack,
 # the rest to random users. Prints the tables of all tries at the end. Bad ends are in build/long.log, with the command

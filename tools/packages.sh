@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Sourced by run and test. Lists the Debian packages that they need, and installs the missing ones.
 
 build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libgl-dev libsqlite3-dev libcairo2-dev libharfbuzz-dev libfontconfig-dev libfreetype-dev qt6-translations-l10n fonts-dejavu-core fonts-liberation)

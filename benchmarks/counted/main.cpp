@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // vanzer_counted WORK [LEGS]: does one of the key works on a trip of so many legs (default 1,000). An instruction
 // counter sees the work alone. Prints the number of rows that the work handled. Run by benchmarks/count.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // least_batch FOLDER: the fastest possible start. A Qt program without a window reads the current trip of the folder's
 // archive by plain engine calls, and ends.
 #include <QCoreApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // least_window FOLDER: the fastest possible start with a window. A Qt program reads the current trip of the folder's
 // archive by plain engine calls. It shows a window with as many standard widgets as Vanzer's first window, and ends
 // when it is idle.

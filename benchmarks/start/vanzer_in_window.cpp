@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // vanzer_in_window FOLDER: starts the program on the folder's archive. Ends when its window is shown and it is idle.
 #include <cstdlib>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Measures how much an open window slows a calculation. The same trip is calculated with and without the window, in
 // turns. Also measures the longest time that a click on "&Stop" would have to wait. Needs a display.
 

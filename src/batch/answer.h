@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The answer to a command: an object with its results, or with "error" alone.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "batch/batch_printer.h"
 
 #include "store/outside_files.h"

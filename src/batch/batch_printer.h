@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The printers of the batch program. "Registro", the default, records drawings. "PDF" asks for its file and writes the
 // same PDF as the desktop.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "batch/command_lines.h"
 
 #include <array>

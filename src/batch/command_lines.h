@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads the lines of commands until their end, or until a signal ends the program.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "batch/control_commands.h"
 
 #include <algorithm>

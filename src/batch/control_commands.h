@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Commands that act on one control as a user would, or show its state.
 #pragma once
 

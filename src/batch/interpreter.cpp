@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "batch/interpreter.h"
 
 #include <algorithm>

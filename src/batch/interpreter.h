@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs command lines and returns an answer for each.
 #pragma once
 

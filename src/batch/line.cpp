@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "batch/line.h"
 
 #include <algorithm>

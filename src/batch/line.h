@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Splits command lines.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // vanzer-batch: reads commands, one a line, and writes one line of JSON for each.
 
 #include <cstdio>

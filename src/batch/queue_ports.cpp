@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "batch/queue_ports.h"
 
 #include <QJsonObject>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The ports of the batch program. Queues answer message boxes and file dialogs. The clock can be set. A yield can run
 // one waiting command.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "batch/recorded_page.h"
 
 #include <cmath>

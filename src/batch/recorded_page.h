@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Recorded drawings. A page is a list of operations in the order in which they were drawn. Positions and sizes are in
 // mm.
 #pragma once

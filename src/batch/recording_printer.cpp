@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "batch/recording_printer.h"
 
 #include <utility>

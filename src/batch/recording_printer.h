@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The printer "Registro" records instead of drawing. It measures text without any font, so that a layout is the same
 // everywhere.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "batch/session.h"
 
 #include <cerrno>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The window and its surroundings for a whole run of the batch program. The window can be started, left and started
 // again.
 #pragma once

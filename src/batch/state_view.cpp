@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "batch/state_view.h"
 
 #include <array>

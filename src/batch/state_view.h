@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The window's state as JSON.
 #pragma once
 

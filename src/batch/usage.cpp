@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "batch/usage.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The help texts of the batch program.
 #pragma once
 

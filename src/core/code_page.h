@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The 8-bit code page 1252 of the text files.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The sort order of texts, and LIKE for the archive. Both work on UTF-8.
 //
 // The order has two levels. The first ignores case and accents: it decomposes each character canonically, skips

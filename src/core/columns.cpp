@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "core/columns.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Splits a line of text into columns at its separator.
 #pragma once
 

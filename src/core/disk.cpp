@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "core/disk.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Facts about files on the disk: where a name leads, what kind of file it is, whether its data are safe.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A draft is a JSON object:
 //
 //   "bozza"      version of the format, 1

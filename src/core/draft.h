@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A draft: work that was typed but not stored, as plain texts, and its format in a file.
 #pragma once
 

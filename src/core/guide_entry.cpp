@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "core/guide_entry.h"
 
 #include "core/text.h"

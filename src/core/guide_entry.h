@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An entry of the guide as a plain value, and the time that its visit takes.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Columns of the table while it holds legs. A schedule has the same headings.
 #pragma once
 

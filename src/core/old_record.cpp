@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "core/old_record.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files of fixed-length records, in which an earlier generation of the program kept destinations, itineraries and
 // guide. Texts are in code page 1252, padded with blanks. docs/old_files.md describes the layout.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "core/place_name.h"
 
 #include "core/text.h"

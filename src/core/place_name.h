@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Names of places: the stretch marks that a leg's name may carry, and the forms in which names of legs and of the guide
 // are compared.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Positions on a sheet.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "core/table_texts.h"
 
 #include <algorithm>

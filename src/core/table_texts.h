@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The texts of a table's cells, stored column by column. Texts of one column lie next to each other, which makes a pass
 // over a long column fast. A column that was never written takes no memory.
 #pragma once

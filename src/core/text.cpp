@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "core/text.h"
 
 #include <algorithm>

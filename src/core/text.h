@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Text helpers for all rooms. Positions count from 1 (Left, Mid, Right). Functions that ignore case use simple folding,
 // letter by letter: "ß" stays one letter and accents count.
 #pragma once

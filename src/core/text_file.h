@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Text files exchanged with other programs. They are written in code page 1252 with CR LF at line ends, and read with
 // any usual encoding and line ends.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "core/time_values.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Times, durations and dates, and their texts.
 //
 // A clock time or a duration is a float in hundredths of an hour: 8:30 is 850. A duration longer than a day is written

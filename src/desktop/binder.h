@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Ties each widget to the control model of the same name: cmbOra_3 to cmbOra(3). Changes of models are shown when the
 // command that made them ends, or when a long command lets the window's events run. Inputs of the user go to the
 // models. The binder has no rules of its own.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The ports of the desktop: the platform's message boxes, file dialogs and clock, and a yield that runs events.
 #pragma once
 

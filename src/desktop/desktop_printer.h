@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The printers of the desktop: the platform's, and "PDF", which asks for its file. With the preview, all pages are kept
 // until the user decides.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/fields.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Widgets that Qt lacks: fields as wide as a number of characters, a drop-down list whose text need not be an entry, a
 // button with two lines, the notice and the bar of the progress line.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/frames.h"
 
 #include <algorithm>

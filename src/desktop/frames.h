@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The frames that appear over or beside the table. Each has a form of its own. A new frame needs a form, whose property
 // "posto" says where it appears, and a line in the list in frames.cpp.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/hint_line.h"
 
 #include <QApplication>

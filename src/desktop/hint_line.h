@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Shows a hint about a control in the status line while nothing runs.
 #pragma once
 

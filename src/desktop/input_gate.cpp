@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/input_gate.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Holds inputs back while a command runs: keys and clicks wait for its end, in their order. Inputs that interrupt the
 // command pass.
 #pragma once

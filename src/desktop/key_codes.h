@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The key codes that the models use.
 #pragma once
 

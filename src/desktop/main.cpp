@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // vanzer: the window on a desktop.
 
 #include <QApplication>

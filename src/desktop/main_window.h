@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The window: the fixed forms, the frames over and beside the table, and what every window needs: Enter, Esc, the close
 // button, size and position.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/manual_window.h"
 
 #include <QFile>

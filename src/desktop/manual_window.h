@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The manual, in a window of its own, so that the user can read it while working.
 #pragma once
 

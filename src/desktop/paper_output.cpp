@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/paper_output.h"
 
 #include <QCoreApplication>

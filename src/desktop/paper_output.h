@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Prints pages on the platform's printers.
 #pragma once
 

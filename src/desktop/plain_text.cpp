@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/plain_text.h"
 
 #include <QTextDocument>

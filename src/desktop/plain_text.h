@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Shows texts of the user literally, even if they look like mark-up.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/print_preview.h"
 
 #include <algorithm>

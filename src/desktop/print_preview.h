@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The preview of a document before it is printed, and the check box that enables it.
 #pragma once
 

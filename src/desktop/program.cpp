@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/program.h"
 
 #include <QApplication>

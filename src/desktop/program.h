@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The whole program on a desktop: connects ports, form and window.
 #pragma once
 

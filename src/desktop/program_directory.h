@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The archive's directory.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/row_delegate.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Draws the cells of a table view. Days alternate in bands and end with a line, stops are indented, totals have a
 // background of their own. In the guide, places have a background and entries have a badge for their category.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/settings_file.h"
 
 #include <QCoreApplication>

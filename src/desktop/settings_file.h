@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Checks the file of the user's settings before the settings are used.
 #pragma once
 

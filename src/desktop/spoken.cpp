@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/spoken.h"
 
 #include <QAccessibleWidget>

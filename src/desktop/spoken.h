@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What our own widgets say to a screen reader.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The view of a grid, which draws its rows by their kind.
 #pragma once
 

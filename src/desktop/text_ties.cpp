@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/text_ties.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Ties of controls that take text: entry fields, drop-down lists, list boxes. Each character that the user types or
 // pastes goes through the model's key handler, which may change or drop it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/ties.h"
 
 #include <QAbstractButton>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Ties of widgets to their models, one class for each kind of control.
 #pragma once
 

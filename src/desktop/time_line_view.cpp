@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "desktop/time_line_view.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The time line on the screen. Each day is a row, with its activities as bars along the hours.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The window's own colours, derived from the platform's palette so that they suit dark and high-contrast themes.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exchange/choice_screen.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The choice of the destinations to export or import: two lists, and the buttons between them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exchange/chosen_file_screen.h"
 
 #include <QDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The file that the user chose for an export, import or route.
 #pragma once
 

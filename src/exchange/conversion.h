@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How records of the old files become records of the archive.
 #pragma once
 

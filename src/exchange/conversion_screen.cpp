@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exchange/conversion_screen.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Converts the files of an earlier version into the archive. A button in the window starts it while there are such
 // files.
 #pragma once

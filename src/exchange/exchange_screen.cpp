@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exchange/exchange_screen.h"
 
 #include <QDir>

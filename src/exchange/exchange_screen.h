@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Exchange between travellers: exports destinations with their legs and the guide to a file, or imports them. Two lists
 // stand side by side, and a click moves a destination from one to the other.
 #pragma once

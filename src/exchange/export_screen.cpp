@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exchange/export_screen.h"
 
 #include <QDir>

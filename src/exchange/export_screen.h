@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An export: writes the chosen destinations, their legs and the whole guide to a file.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exchange/first_steps_screen.h"
 
 #include <QDir>

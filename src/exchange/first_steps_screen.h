@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The first steps: what the window offers while the archive holds no trip, and opening a file of trips.
 #pragma once
 

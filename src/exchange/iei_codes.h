@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The codes of imported destinations: the code in the file, and the code in this archive.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exchange/iei_file.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The lines of the exchange file of destinations (.iei).
 //
 // The file is a text of up to three sections, in this order: destinations, legs, guide. A section begins with a head

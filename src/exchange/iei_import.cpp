@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exchange/iei_import.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Imports the lines of an exchange file. A chosen destination comes in under its new code, with its legs, unless one of
 // that name is in the archive. A guide entry comes in if it is new and the legs in the archive visit its place.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exchange/import_screen.h"
 
 #include <QDir>

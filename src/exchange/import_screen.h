@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An import: the chosen destinations of a file, their legs, and the guide's entries for the places in the archive.
 #pragma once
 

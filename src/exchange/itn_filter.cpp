@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exchange/itn_filter.h"
 
 #include <algorithm>

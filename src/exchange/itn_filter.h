@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads the stops that ITN Converter writes, and reduces an itinerary to them.
 //
 // A line of the stop file is a stop if its first four characters are a number:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exchange/place_patterns.h"
 
 #include <bit>

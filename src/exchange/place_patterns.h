@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Finds places by patterns. Only the letters A to Z of a pattern must be equal, case ignored. Any other character
 // (blank, apostrophe, accented letter) stands for any one character, so that different spellings of a name meet.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "exchange/route_package.h"
 
 #include <algorithm>

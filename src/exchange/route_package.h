@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads the legs of an itinerary from route lists that route planners save as text.
 //
 // Each line is a row, with columns separated by tabs. Three formats are known by their head row, which is one of the

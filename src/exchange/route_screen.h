@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Routes from route planners, in the window. A route list becomes the legs of an empty itinerary. A stop file then
 // reduces them to the real stops. The archive doesn't change before the user saves.
 #pragma once

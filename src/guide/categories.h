@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The categories of the guide in a new archive.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "guide/categories_screen.h"
 
 #include "core/place_name.h"

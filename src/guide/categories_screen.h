@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Prepares the guide before it opens: its categories, and the places of its entries.
 #pragma once
 

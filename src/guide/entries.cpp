@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "guide/entries.h"
 
 #include <algorithm>

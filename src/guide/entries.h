@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The rules for a guide entry that need no window: its category, group marks, time, and the fields that it needs.
 //
 // A group is one or more marks joined by "-". A blank and "0" both mean no group. A time is "hh:mm". The hours may also

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The guide in the window: the list of the trip's places and their entries, the frame that edits one entry, the search,
 // and the way back to the legs.
 #pragma once

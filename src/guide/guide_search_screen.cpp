@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "core/text.h"
 #include "guide/entries.h"
 #include "guide/guide_screen.h"

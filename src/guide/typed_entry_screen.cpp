@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "guide/typed_entry_screen.h"
 
 #include "core/place_name.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Whether the guide editor's fields hold an entry that the list doesn't have.
 #pragma once
 

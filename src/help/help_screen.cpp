@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "help/help_screen.h"
 
 #include "help/messages.h"

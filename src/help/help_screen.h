@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The "?" buttons of the window: each shows its message and changes nothing.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The texts of the help: one message for each thing that a "?" button explains. Lines are separated by carriage return
 // and line feed. Blanks at the beginning of a line align it with the text above.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "itinerary/copy.h"
 
 #include <algorithm>

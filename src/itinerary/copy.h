@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Copying a stretch of another destination's legs, forward or backward.
 #pragma once
 

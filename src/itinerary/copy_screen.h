@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Copying a stretch from another destination, in the window. The user picks a destination, then its legs, then the ends
 // of the stretch. The archive doesn't change before the user saves.
 #pragma once

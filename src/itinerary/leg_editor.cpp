@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "itinerary/leg_editor.h"
 
 #include "core/place_name.h"

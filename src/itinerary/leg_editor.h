@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The rules of the leg editor that need no window.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "itinerary/leg_editor_screen.h"
 
 #include <algorithm>

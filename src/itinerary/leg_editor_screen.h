@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The leg editor in the window. Its fields mirror the current row. The archive doesn't change before a save.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "itinerary/list_pick_screen.h"
 
 #include "core/text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A choice in the list of places, for the leg editor and the guide.
 #pragma once
 

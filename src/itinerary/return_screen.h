@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The way back to the start, in the window's leg table.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "itinerary/return_to_start.h"
 
 #include "core/place_name.h"

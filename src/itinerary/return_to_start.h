@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The way home: the outward route in reverse, from the place where the trip turned back to its start.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "itinerary/stretch.h"
 
 #include <algorithm>

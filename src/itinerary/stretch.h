@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A stretch: a run of legs that get one road type together. Its two ends are kept as the texts that show them.
 #pragma once
 

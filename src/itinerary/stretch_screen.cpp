@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "itinerary/stretch_screen.h"
 
 #include "core/leg_columns.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Road types for a run of legs, in the window: the frame beside the table and its five buttons.
 #pragma once
 

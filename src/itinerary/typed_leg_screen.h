@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Whether the leg editor's fields hold something that the table doesn't have.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "paper/face.h"
 
 #include <cstdint>

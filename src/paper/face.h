@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A face of a font family, and the fonts used for letters that it lacks. Internal to this room.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "paper/fonts.h"
 
 #include <array>

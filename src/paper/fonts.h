@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Finds the installed font for a name and measures texts in it. Texts are measured without hinting, so that a layout is
 // the same on every printer, in a PDF and on the screen.
 #pragma once

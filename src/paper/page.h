@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A page as a list of drawings, later ones on top. Positions and sizes are in mm, right and down from the sheet's top
 // left corner. PDFs, pictures and printed pages are made from it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "paper/painter.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Draws pages with Cairo. Internal to this room.
 #pragma once
 

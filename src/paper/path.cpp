@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "paper/path.h"
 
 namespace vanzer::paper {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Outlines made of lines and curves.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "paper/pdf.h"
 
 #include <cairo-pdf.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Writes pages as a PDF. Its texts can be searched and copied; fonts are embedded.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "paper/picture.h"
 
 #include "paper/painter.h"

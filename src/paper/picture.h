@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Draws a page into a picture, for the screen.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "paper/sign.h"
 
 #include <QDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The product's logo.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reports/calendar_file.h"
 
 #include <map>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The trip as a calendar for other programs, in iCalendar format (RFC 5545). Times have no zone: a traveller's clock
 // shows local time wherever the trip goes.
 #pragma once

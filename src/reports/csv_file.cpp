@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reports/csv_file.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A table as comma-separated values (RFC 4180), UTF-8.
 #pragma once
 

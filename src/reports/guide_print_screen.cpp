@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reports/guide_print_screen.h"
 
 #include "core/place_name.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The print of the guide.
 #pragma once
 

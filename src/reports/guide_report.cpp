@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reports/guide_report.h"
 
 #include "core/text.h"

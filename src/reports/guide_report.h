@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The guide on paper: the names of its places, five in a row, or every entry in a row of its own.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reports/page_printer.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The common part of printers that draw pages. It sets texts in the paper's fonts, and sends a page when the next one
 // begins.
 #pragma once

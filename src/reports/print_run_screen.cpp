@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reports/print_run_screen.h"
 
 namespace vanzer {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A print while it runs: its printer and sheet, the user's wish to stop, and failures.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reports/print_screen.h"
 
 #include "reports/guide_print_screen.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A print from its command to the printer: the options, the choice of the printer, and the two reports.
 #pragma once
 

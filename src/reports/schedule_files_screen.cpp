@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reports/schedule_files_screen.h"
 
 #include <QDir>

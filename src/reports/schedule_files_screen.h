@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files of the schedule for other programs: calendar and table.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reports/schedule_print_screen.h"
 
 #include <utility>

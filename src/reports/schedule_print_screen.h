@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The print of the schedule: pages, text files, logbook forms.
 #pragma once
 

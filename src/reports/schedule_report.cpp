@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reports/schedule_report.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The schedule on paper: covers, page heads, and rows. The first page's head has the trip's data.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reports/sheet.h"
 
 #include "core/text.h"

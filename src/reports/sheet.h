@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The sheet that a report draws on. It fits texts into boxes, draws lines and boxes with the current pen and fill, and
 // frames the table at the end of a page. All lengths are mm from the top left corner.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reports/text_files.h"
 
 #include "core/text.h"

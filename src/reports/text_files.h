@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The text files of a print: the schedule as a table, the list of places by nation, and the command line for the
 // program of the logbook forms. The lines have no line ends.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reports/time_line_report.h"
 
 #include <algorithm>

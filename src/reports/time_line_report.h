@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The line of time on paper, with a row for each day. Days share a page as long as their rows are high enough to read.
 #pragma once
 

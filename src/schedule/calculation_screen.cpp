@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "schedule/calculation_screen.h"
 
 #include "core/text.h"

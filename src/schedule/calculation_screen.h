@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The calculation in the window: preparation, tests, fitting, closing.
 #pragma once
 

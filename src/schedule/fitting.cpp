@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "schedule/fitting.h"
 
 #include <algorithm>

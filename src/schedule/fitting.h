@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The search for the factor of the guide's stops that makes a trip last the wanted days. It changes the factor in steps
 // that are halved after each test.
 #pragma once

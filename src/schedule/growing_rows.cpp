@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "schedule/growing_rows.h"
 
 #include <algorithm>

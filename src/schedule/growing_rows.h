@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The schedule during its test: the rows so far as texts, and how often to show them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The table during a calculation. In a window it shows the rows so far.
 #pragma once
 

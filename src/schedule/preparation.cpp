@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "schedule/preparation.h"
 
 #include <QStringBuilder>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Turns the legs and the guide into the working rows of a calculation.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "schedule/preparation_screen.h"
 
 #include "core/leg_columns.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Prepares a calculation from the window's legs and the archive's guide.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "schedule/row_look.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How to show a row of the table. The texts of the row decide; the view only picks colours.
 #pragma once
 

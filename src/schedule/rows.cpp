@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "schedule/rows.h"
 
 #include <algorithm>

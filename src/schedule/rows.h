@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The schedule as texts for the table, made from the numbers of a simulation.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "schedule/simulation.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A simulated trip through the working rows, with a clock and a calendar. One run is called a test.
 //
 // The day is a chain of milestones: lunch, dinner, night. It isn't a span of 24 hours. A drive that would end after a

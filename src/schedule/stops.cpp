@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "schedule/stops.h"
 
 #include "core/time_values.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Adds the guide's times of a place to the stop of its leg.
 #pragma once
 

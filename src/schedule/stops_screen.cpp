@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "schedule/stops_screen.h"
 
 #include "core/leg_columns.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The two commands of the leg editor that change all stops at once. They change only the table.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "schedule/time_line.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The trip as activities on one line of time: the drives and stops of the schedule, with meals, breaks, nights and free
 // hours between them. Independent of window and paper, which both draw it.
 #pragma once

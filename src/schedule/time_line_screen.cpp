@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "schedule/time_line_screen.h"
 
 #include "core/text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The schedule in the table as a line of time.
 #pragma once
 

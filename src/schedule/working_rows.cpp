@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "schedule/working_rows.h"
 
 #include <QStringBuilder>

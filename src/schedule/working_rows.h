@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The flat list that a simulation reads: each leg, then its itinerary stop, then the guide's entries of its place.
 #pragma once
 

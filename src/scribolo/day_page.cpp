@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "scribolo/page_parts.h"
 
 namespace vanzer::scribolo {

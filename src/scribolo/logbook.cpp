@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "scribolo/logbook.h"
 
 #include "scribolo/page_parts.h"

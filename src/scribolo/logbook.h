@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Draws the pages of the logbook, without any file or printer.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Scribolo: the blank pages of a trip's logbook, as a PDF.
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The bodies of the kinds of pages, each in a file of its own. The logbook draws head and foot.
 #pragma once
 

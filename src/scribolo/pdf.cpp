@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "scribolo/pdf.h"
 
 #include <QDir>

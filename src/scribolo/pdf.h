@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Writes the logbook as a PDF file.
 #pragma once
 

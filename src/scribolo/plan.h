@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which pages a logbook has.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An A4 sheet to draw on, in millimetres: the shapes that all pages share, in one style.
 #pragma once
 

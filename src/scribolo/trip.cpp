@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "scribolo/trip.h"
 
 #include <algorithm>

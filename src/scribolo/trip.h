@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The trip of a logbook, as Vanzer passes it, and the texts of its dates.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "startup/enter_key.h"
 
 #include "guide/typed_entry_screen.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The button that the Enter key presses if no button has the focus.
 #pragma once
 

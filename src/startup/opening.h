@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What happens before the user can act: opens, checks and copies the archive, and shows the current trip.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program's entry from outside: makes and opens a window, and serves requests that don't come from a control.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "startup/unsaved_work.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The draft: work that the user has typed and not stored. It is kept in a file beside the archive, so that neither a
 // signal nor a loss of power destroys it. The next start offers it, and it comes back as unsaved work. It
 // never changes the archive. Scripts have no draft.

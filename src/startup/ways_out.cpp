@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "startup/ways_out.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The window's close button and the Esc key. Both press the buttons that are there to leave, so that no question is
 // skipped.
 #pragma once

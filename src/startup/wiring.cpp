@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "startup/wiring.h"
 
 #include "core/text.h"

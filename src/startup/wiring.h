@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Connects the form's controls with their handlers, and the signals between the rooms.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The archive as the other rooms use it: one file beside the program, its tables, and numbered slots that hold the
 // records of a query.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Opens the archive, makes a new one, and rebuilds a file whose tables differ from the declared ones.
 //
 // A rebuild fills a new file beside the old one. The old file stays open, and so locked, until the new one is complete,

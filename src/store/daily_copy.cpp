@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/daily_copy.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Daily copies of the archive, in a folder beside it: one for each day on which it was opened.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A connection to an archive file. It is exclusive for its whole life, and a crash at any point leaves a valid file.
 #pragma once
 

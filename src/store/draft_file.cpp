@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/draft_file.h"
 
 #include <filesystem>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The draft's file beside the archive. Reading doesn't trust what is there. Writing replaces the file in one step, so
 // that a complete draft is there at any time.
 #pragma once

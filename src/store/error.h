@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The exceptions of the store. Their kinds follow what the user can do about them.
 #pragma once
 

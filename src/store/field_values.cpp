@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/field_values.h"
 
 #include <algorithm>

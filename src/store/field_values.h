@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Converts texts to stored values and back.
 #pragma once
 

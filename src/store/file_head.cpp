@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/file_head.h"
 
 #include <limits>

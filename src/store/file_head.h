@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads the first bytes of an archive and of its journal without the engine, to find out whether they belong together.
 //
 // The head of a file has three numbers of four bytes, highest byte first. At offset 24 is the engine's change counter,

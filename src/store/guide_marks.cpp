@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/guide_marks.h"
 
 namespace vanzer::store {

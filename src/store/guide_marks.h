@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Marks of use of the guide's entries. While an itinerary is loaded, stored or prepared, each entry counts once, when
 // its place is first passed. A run begins without marks, keeps them in memory and writes them at its end.
 #pragma once

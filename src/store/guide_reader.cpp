@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/guide_reader.h"
 
 #include <cmath>

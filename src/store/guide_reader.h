@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads the guide's entries of a place. Loading, calculating and storing a trip ask for the same places again, so
 // entries are cached until the guide is written.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/kept_archive.h"
 
 #include <optional>

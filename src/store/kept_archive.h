@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Keeps the archive from before a rebuild among the copies, for a number of starts.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/old_files.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Finds the old files beside the archive. Case of their names is ignored.
 #pragma once
 

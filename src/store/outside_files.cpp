@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/outside_files.h"
 
 #include <algorithm>

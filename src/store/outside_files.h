@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads and writes files of other programs, but never the archive or what belongs to it.
 #pragma once
 

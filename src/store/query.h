@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Queries: all fields of one table, conditions joined by AND, and an order.
 #pragma once
 

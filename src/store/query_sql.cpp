@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/query_sql.h"
 
 #include <utility>

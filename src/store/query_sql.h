@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Translates queries to SQL for the engine.
 //
 // An equality, or a LIKE without wildcards, becomes an index lookup with a bound value. A LIKE that begins with plain

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/recordset.h"
 
 #include <optional>

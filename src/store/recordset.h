@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The records that a query found, read and changed one at a time.
 //
 // Opening reads nothing; records are read when they are needed. Records may be changed during a walk. A field is named

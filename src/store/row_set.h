@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A set of records of a table, by rowid.
 #pragma once
 

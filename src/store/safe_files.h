@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Puts files into place: complete and safe on the disk, or not at all.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/schema.h"
 
 #include "core/text.h"

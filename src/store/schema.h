@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The tables of the archive. Each has a descriptor, a text that lists its fields. Making a table, checking it and the
 // columns of exchange files all use the descriptor, so a new field is added there alone.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A prepared statement of the engine, and a lease on one that the connection keeps for later use.
 #pragma once
 

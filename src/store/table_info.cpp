@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "store/table_info.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A table as the file has it, and the SQL that makes tables and indexes.
 #pragma once
 

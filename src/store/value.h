@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A value of a record, independent of the engine.
 #pragma once
 

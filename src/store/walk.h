@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A walk through the records of a query. Records are read only when they are needed. Before the table is written, the
 // rest of the set is read, so that the write doesn't change what the walk will see. A walk that fails is at its end; it
 // can be started again.

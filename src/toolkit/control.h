@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Control models: the state of a control of the window, without the widget. The window's logic reads and writes them; a
 // view connects to `changed`. A change that matters to the logic calls a handler, which start-up sets.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "toolkit/end_signals.h"
 
 #include <cstdlib>

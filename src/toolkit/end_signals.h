@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Turns the signals that end a program (SIGTERM, SIGINT, SIGHUP) into a byte in a pipe. The program can then finish its
 // work and end in order.
 #pragma once

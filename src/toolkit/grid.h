@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A grid of text cells with a fixed head row, a fixed column, a current row and a selection. Row 0 is the head row. As
 // an item model, rows from 1 on are the model's rows and row 0 gives the headings.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The item model of a grid, for table views.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Ports: everything that the window asks of the platform. The desktop, the batch program and the tests each have their
 // own implementation.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The printer as the reports use it. Positions and sizes are in mm, right and down from the top left corner of the
 // sheet.
 #pragma once

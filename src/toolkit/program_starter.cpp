@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "toolkit/program_starter.h"
 
 #include <QProcess>

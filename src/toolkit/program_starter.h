@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Starts other programs.
 #pragma once
 

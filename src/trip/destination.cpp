@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "trip/destination.h"
 
 #include "core/place_name.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Rules about destinations that need no window.
 #pragma once
 

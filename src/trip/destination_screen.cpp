@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "trip/destination_screen.h"
 
 #include <span>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The destination record in the window: load, create, save, delete, find.
 #pragma once
 

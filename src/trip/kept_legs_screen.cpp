@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "trip/kept_legs_screen.h"
 
 #include "core/leg_columns.h"

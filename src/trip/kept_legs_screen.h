@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The legs in the window, compared with the stored ones.
 #pragma once
 

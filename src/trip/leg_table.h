@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A leg as a row of the table and as the records that store it.
 //
 // A record holds at most 999 km: a longer leg is several records of one place, and comes back as several rows. The

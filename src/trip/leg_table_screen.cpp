@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "trip/leg_table_screen.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The leg table in the window: empty it, load it from the archive, store it.
 #pragma once
 

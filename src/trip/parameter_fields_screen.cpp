@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "trip/parameter_fields_screen.h"
 
 #include "core/text.h"

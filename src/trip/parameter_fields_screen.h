@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The planning parameters in the window: their lists, the user's defaults, and the checks that keep the times of a day
 // in order.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "trip/parameters.h"
 
 #include "core/time_values.h"

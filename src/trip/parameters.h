@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The planning parameters of a trip: clock times, their pairs of lists, and their bounds.
 #pragma once
 

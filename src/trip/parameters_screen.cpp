@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "trip/parameters_screen.h"
 
 #include "trip/destination_screen.h"

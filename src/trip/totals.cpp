@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "trip/totals.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Kilometres and driving times of an itinerary without a simulation: the least that the trip needs.
 #pragma once
 

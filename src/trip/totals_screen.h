@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The totals of the legs in the window.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The numbers of the trip, for everything that calculates. They are copies: the window's controls hold the truth, and
 // every check of the parameters copies them anew. Clock times and durations are hundredths of an hour.
 #pragma once

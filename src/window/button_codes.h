@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Codes of enabled buttons. PulsantiMeta and PulsantiItinerario hold two letters for each enabled button, or one of a
 // few words. These are the texts that commands store there.
 #pragma once

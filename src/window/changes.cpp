@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "window/changes.h"
 
 #include <vector>

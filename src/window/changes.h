@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Tracks fields of the destination and its parameters that were changed and not stored. Users are asked before such
 // fields are cleared or reloaded, scripts are not.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs commands of the user. All that a command writes to the archive is stored together, or not at all.
 #pragma once
 

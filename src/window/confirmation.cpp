@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "window/confirmation.h"
 
 #include "core/text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The question before a command is run.
 #pragma once
 

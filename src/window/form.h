@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The window's controls and variables, without logic. Handlers work on this, and start-up connects them. A control is
 // found by its name; an element of an array by its name and index: cmbOra(3).
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Initial captions, tool tips and positions of the controls.
 #pragma once
 

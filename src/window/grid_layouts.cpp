@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "window/grid_layouts.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Layouts of the grids (headings, widths and alignments), and the selection of a block of cells.
 #pragma once
 

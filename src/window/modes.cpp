@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "window/modes.h"
 
 #include "core/text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The modes of the window: PulsantiMeta and PulsantiItinerario say which buttons are enabled, and commands apply them
 // at their end. Also leaves the program.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "window/progress.h"
 
 #include "core/text.h"

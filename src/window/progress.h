@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The progress line, and long work that shows its progress there.
 #pragma once
 

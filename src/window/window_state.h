@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Modes and flags of the window: enabled buttons, the meaning of a pick, running work.
 #pragma once
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Checks that clang-format would change no source file.
 set -uo pipefail
 cd "$(dirname "$0")/../.." || exit 1

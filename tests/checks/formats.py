@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Compares the calendar and the table of a schedule with its grid: formats.py ANSWERS ICS CSV."""
 
 import csv

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # formats.sh BUILD: other programs read the files that are made for them. Computes the sample trip. Readers that know
 # nothing of Vanzer compare its calendar and its table with the schedule. The manual pages must format without
 # complaints.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # hardened.sh BUILD [PROGRAM...]: checks that users' programs are built against memory faults. Each loads at a random
 # address, has read-only tables of functions and no executable stack, and guards its stacks and the C library's calls.
 # Prints what a program lacks.

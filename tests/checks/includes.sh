@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Checks the rules for includes between rooms that the linker can't check. Some rules count indirect includes as well.
 # Prints each line that breaks a rule.
 set -uo pipefail

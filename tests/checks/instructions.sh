@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # instructions.sh BUILD: no key work may take over a tenth more instructions for a row than benchmarks/instructions.txt
 # says.
 set -uo pipefail

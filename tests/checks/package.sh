@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # package.sh BUILD: checks what a traveller gets. Makes and installs the Debian package, runs it as an ordinary user,
 # and removes it without a trace. Starts the portable folder from a copy. The machine is left as it was.
 set -uo pipefail

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # Checks what a new user sees. ./run without a display must show the whole sample trip. The first trip of README.md must
 # give the table that is printed there.
 set -uo pipefail

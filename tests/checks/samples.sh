@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # samples.sh BUILD: samples/make must give the exchange files of the repository, byte for byte. They are imported into
 # one archive, one after the other. Each must give the schedule of the script that it came from.
 set -uo pipefail

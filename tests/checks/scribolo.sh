@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # scribolo.sh BUILD-FOLDER: checks the logbook as its users get it. That is the pages and texts of the PDF, an older
 # file that survives a failure, the error messages, and the viewer on a display.
 set -uo pipefail

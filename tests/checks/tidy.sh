@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # tidy.sh BUILD BENCHMARKS: runs clang-tidy on all sources. The arguments are two folders of unity builds, the second
 # one with the benchmarks. It checks a room or a few tests at a time, since Qt's headers take most of the work.
 set -uo pipefail

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a user does by keyboard alone, and what the window shows.
 #include <QAbstractScrollArea>
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The window's close button in every state of the window.
 #include <QScreen>
 

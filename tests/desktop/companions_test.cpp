@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the window has beside the table: the first steps, texts shown without mark-up, the manual.
 #include <QHelpEvent>
 #include <QLabel>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every control of the model and its widget.
 #include <algorithm>
 #include <set>

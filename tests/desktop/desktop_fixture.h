@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The whole program with its real window on an archive of its own, used by keys and clicks.
 #pragma once
 

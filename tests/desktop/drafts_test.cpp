@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Ends of the program that the user didn't ask for, and the next start.
 #include <csignal>
 

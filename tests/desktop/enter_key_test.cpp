@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Enter in the editors: it first takes what was typed, and then leaves the editor.
 #include "desktop_fixture.h"
 

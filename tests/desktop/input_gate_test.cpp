@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the user does during a command waits for its end. What stops the command gets through.
 #include <QLineEdit>
 

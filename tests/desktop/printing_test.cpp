@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the desktop's printers put on paper, read from the PDF. Also the preview and the frames of printing.
 #include <QApplication>
 #include <QDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The window for users who see badly or not at all, or have no mouse: what it tells a screen reader, its contrasts, and
 // its layout with large letters.
 #include <algorithm>

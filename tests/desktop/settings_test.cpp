@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Settings that could make the program wait.
 #include "desktop/settings_file.h"
 

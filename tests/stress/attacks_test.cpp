@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Attacks each work at each of its calls on files, and by losses of power.
 #include <algorithm>
 #include <cerrno>

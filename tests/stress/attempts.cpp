@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "stress/attempts.h"
 
 #include <algorithm>

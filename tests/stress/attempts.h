@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs tries, each in its own process, and counts how they ended.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Damaged archives and journals, and a large archive with unreadable pages.
 #include <algorithm>
 #include <cerrno>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "stress/desk.h"
 
 #include <filesystem>

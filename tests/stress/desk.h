@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A program at work in a folder, and the commands to run there.
 #pragma once
 

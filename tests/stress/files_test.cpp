@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Folders that can't be written, an archive in use by another program, an itinerary that is too long.
 #include <cerrno>
 #include <functional>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "stress/users.h"
 
 #include <map>

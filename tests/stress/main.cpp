@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs attacks on the program and its files. Takes the options below and those of the test framework; --gtest_filter
 // selects attacks.
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "stress/system_calls.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Stands between the program with its libraries and the system's calls on files. It counts the calls, lets one fail,
 // kills the program at one, or records the changes. Also gives the disk as it may look after a loss of power.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Random users, and the promises that hold whatever they do.
 #pragma once
 

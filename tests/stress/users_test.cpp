@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Random users, and each command inside each other one. The promises hold after every line.
 #include <functional>
 #include <numeric>

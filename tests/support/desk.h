@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A program at work in a folder.
 #pragma once
 

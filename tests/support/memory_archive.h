@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An archive in memory, with only what an import needs. It isn't fast.
 #pragma once
 

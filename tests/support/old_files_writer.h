@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Writes files in the format of the earlier version: records of fixed length, texts padded with blanks.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A day of a trip, with drives and visits.
 #pragma once
 

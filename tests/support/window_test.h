@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The window with a user present, on an archive in its own folder.
 #pragma once
 

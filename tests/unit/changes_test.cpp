@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Typed fields that aren't stored, with a user present. The user is asked once before they are cleared or reloaded.
 #include "support/window_test.h"
 #include "window/changes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The basic values: texts, durations, dates, columns, names of places.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The daily copies: which ones are kept, when none is made, and what the user is told.
 #include "store_fixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The draft of unsaved work: what it keeps, how it comes back, and other files in its place.
 #include <sys/stat.h>
 

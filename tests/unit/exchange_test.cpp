@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The exchange file: its lines, the codes and places of an import, and the records that an import takes.
 #include <random>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The table during a calculation: the rows so far, their pace, and nothing left afterwards.
 #include <thread>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Legs as rows and records. What a user sees is tested by scenarios.
 #include <limits>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The files of the earlier version: their records, and their conversion into the archive.
 #include <QDir>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Names of files for others that lead to the archive or its companions. Files without an end.
 #include "store/outside_files.h"
 

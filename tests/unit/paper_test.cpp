@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // PDF pages as other programs see them: their texts, properties and picture.
 #include <algorithm>
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where reports begin a new page, according to the recording printer.
 #include <algorithm>
 

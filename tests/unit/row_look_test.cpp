@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the rows of the table are recognized.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Running kilometres and times of a table. Updated by differences, they equal those that are worked out anew.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The logbook's trip: its arguments, its file name, and the pages that it needs.
 #include <algorithm>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The simulation of the days: the data of its rows, and its early ends. Other behaviour is tested by scenarios.
 #include <gtest/gtest.h>
 

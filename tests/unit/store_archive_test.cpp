@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The archive's file: creation, check, rebuild, lock, damage, crashes.
 #include "store_fixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An archive in its own directory.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the archive compares, sorts and searches.
 #include "store_fixture.h"
 

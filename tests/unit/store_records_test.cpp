@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Walking and changing records, commands, marks of use.
 #include "store_fixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The trip as a line of time, and the files made of it for other programs.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The control models: the behaviour that the window relies on, and the notices to a view.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The days of a trip: where the search for the wanted days begins.
 #include <gtest/gtest.h>
 

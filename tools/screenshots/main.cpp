@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Makes the pictures of the window for the README. screenshots ARCHIVE-FOLDER EMPTY-FOLDER PICTURE-FOLDER [NAME...]
 // makes the named ones, or all of them. "pagine" prints the schedule to viandoria.pdf in the first folder. The archive
 // holds some trips; the current one has legs and a guide. Uses the real widgets. docs/screenshots/make prepares the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Readers of files from others: exchange files, route lists, stop files, old files.
 #include <algorithm>
 #include <numeric>

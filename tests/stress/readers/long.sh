@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
 # long.sh BUILD-FOLDER SECONDS [READER...]: fuzzes each reader for so many seconds, or all readers if none is named.
 # First runs each file of the reader's corpus once. An input that breaks a reader is left in
 # BUILD-FOLDER/fuzz/READER/broken. Inputs that cover more than the corpus are left in BUILD-FOLDER/fuzz/READER/found.

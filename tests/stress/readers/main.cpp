@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs libFuzzer on the reader that the environment names: VANZER_FUZZ=READER vanzer_fuzz [OPTION...] FOLDER... long.sh
 // runs all readers.
 #include <cstdint>

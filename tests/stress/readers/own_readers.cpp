@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Readers of files that the programs themselves write: archives, drafts, settings, the logbook's command.
 #include <algorithm>
 #include <tuple>

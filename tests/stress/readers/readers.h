@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Readers under attack. Each takes any bytes, and must not crash, hang or break its promises.
 #pragma once
 
