@@ -21,7 +21,7 @@ enum ColonnaGuida {
     guidaDescrizione = 4,
     guidaTempo = 5,
     guidaTipo = 6, ///< name of the category
-    guidaSegno = 8 ///< separates an entry from a place
+    guidaSegno = 8 ///< tells an entry from a place: "1" for an entry
 };
 
 inline constexpr QStringView segnoVoce = u"1";

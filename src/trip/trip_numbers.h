@@ -17,7 +17,7 @@ struct NumeriViaggio {
     float OreTraghetti = 0; ///< time for one ferry
 
     float OreGuidaGiorno = 0;  ///< driving time of a planned day: the day unit of driving times
-    float OreVisitaGiorno = 0; ///< driving time of a planned day; one day of a driving time has this length
+    float OreVisitaGiorno = 0; ///< visiting time of a day
 
     int RiposoMinuti = 0;     ///< length of a break, hundredths of an hour in spite of the name
     int RiposoOre = 0;        ///< whole hours of travel after which a break falls due
