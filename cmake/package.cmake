@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# What is installed, and the two forms in which Vanzer is given away: a Debian package (target "package") and a folder that holds
-# program and archive together (target "portable").
+# What is installed, and the two forms in which Vanzer is given away: a Debian package (target "package"), and a folder
+# that holds program and archive together (target "portable").
 include(GNUInstallDirs)
 set(documents ${CMAKE_INSTALL_DATADIR}/doc/vanzer)
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)

@@ -93,11 +93,11 @@ void Program::goOnEnding() {
     if (QWidget* const modal = QApplication::activeModalWidget()) {
         auto* const box = qobject_cast<QMessageBox*>(modal);
         if (working && (box == nullptr || box->button(QMessageBox::Ok) == nullptr))
-            draft_.notHisChoice();
+            draft_.notUsersChoice();
         auto* const dialog = qobject_cast<QDialog*>(modal);
         dialog != nullptr ? dialog->reject() : static_cast<void>(modal->close());
     } else if (working && interruptUnasked(*form_)) {
-        draft_.notHisChoice();
+        draft_.notUsersChoice();
     }
 }
 

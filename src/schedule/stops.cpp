@@ -5,8 +5,6 @@
 
 namespace vanzer {
 
-namespace {}
-
 QString sostaConGuida(const QString& stop, const std::vector<QString>& times, float visitingDay) {
     const float day = visitingDay > 0 ? visitingDay : giornoIntero;
     float sum = ghmStringa2Centesimi(stop, day);

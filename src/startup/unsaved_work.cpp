@@ -221,7 +221,7 @@ void CustodeBozza::keep() {
         form_.lblAvviso.setCaption(QStringLiteral("La bozza del lavoro non salvato non è scritta: ") +
                                    motivoNonScritto(path_));
     }
-    const std::optional<Bozza> work = form_.comandoInCorso || chosenForHim_ ? before_ : lavoroNonSalvato(form_);
+    const std::optional<Bozza> work = form_.comandoInCorso || notChosen_ ? before_ : lavoroNonSalvato(form_);
     if (!work)
         takesAway();
     else if (work != written_)

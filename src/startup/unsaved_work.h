@@ -42,7 +42,7 @@ class CustodeBozza {
     void keep();
     /// From here on the running command doesn't follow the user's choices. The draft keeps the work from before the
     /// command.
-    void notHisChoice() { chosenForHim_ = true; }
+    void notUsersChoice() { notChosen_ = true; }
     /// Called when the user has left the window and answered its questions. Removes the draft.
     void wasLeft();
     /// Writes for the last time and waits for it. The file doesn't change any more.
@@ -60,7 +60,7 @@ class CustodeBozza {
     std::optional<Bozza> before_; ///< the work before the running command, or before the last one
     std::optional<Bozza> written_;
     bool exists_ = false; ///< there is a draft of this window's work
-    bool chosenForHim_ = false;
+    bool notChosen_ = false;
     std::atomic<bool> failed_ = false;
     QThreadPool pool_; ///< one thread, so that writes happen in order
 };

@@ -257,7 +257,7 @@ TEST_F(DraftScreen, ACommandAtWorkDoesNotCount) {
             return false;
         keep();
         draft = store::readDraft(path());
-        custodian->notHisChoice();
+        custodian->notUsersChoice();
         form().stato.InterrompiCalcolo = true; // a stop loads the stored legs
         return true;
     });
