@@ -2,6 +2,7 @@
 #include "itinerary/typed_leg_screen.h"
 
 #include "core/leg_columns.h"
+#include "core/place_name.h"
 #include "core/text.h"
 #include "itinerary/leg_editor.h"
 #include "itinerary/leg_editor_screen.h"
