@@ -9,6 +9,7 @@
 #include "store/outside_files.h"
 #include "window/button_codes.h"
 #include "window/modes.h"
+#include "window/progress.h"
 
 namespace vanzer {
 

@@ -10,6 +10,7 @@
 #include "exchange/iei_import.h"
 #include "window/button_codes.h"
 #include "window/modes.h"
+#include "window/progress.h"
 
 namespace vanzer {
 

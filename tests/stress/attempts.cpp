@@ -5,6 +5,7 @@
 #include <array>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <map>
 #include <numeric>
 #include <string>
@@ -37,10 +38,9 @@ const testing::TestInfo& running() {
 }
 
 [[noreturn]] void runChild(const Body& body, bool muted) noexcept {
-    if (muted) {
-        static_cast<void>(std::freopen("/dev/null", "w", stdout));
-        static_cast<void>(std::freopen("/dev/null", "w", stderr));
-    }
+    if (muted &&
+        (std::freopen("/dev/null", "w", stdout) == nullptr || std::freopen("/dev/null", "w", stderr) == nullptr))
+        std::abort();
     // The sanitizers' shadow memory takes terabytes of addresses.
     const rlimit room{rlim_t{4} << 30, rlim_t{4} << 30};
     if (__lsan_do_recoverable_leak_check == nullptr)
