@@ -70,52 +70,49 @@ struct CellValue {
 
 } // namespace
 
-#define VANZER_VARIABLE(name)                                                                                          \
-    { QStringLiteral(#name), value(s.name) }
-#define VANZER_NUMBER(name)                                                                                            \
-    { QStringLiteral(#name), value(trip.name) }
+#define VANZER_VARIABLE(of, name)                                                                                      \
+    { QStringLiteral(#name), value((of).name) }
 QJsonObject variables(const Form& form) {
-    const StatoFinestra& s = form.stato;
+    const StatoFinestra& window = form.stato;
     const NumeriViaggio& trip = *form.viaggio;
     return {
-        VANZER_VARIABLE(CodiceMeta),
-        VANZER_NUMBER(OraColazione),
-        VANZER_NUMBER(OraPranzo),
-        VANZER_NUMBER(OraCena),
-        VANZER_NUMBER(OraNotte),
-        VANZER_NUMBER(DurataPranzo),
-        VANZER_NUMBER(DurataCena),
-        VANZER_NUMBER(InizioVisita),
-        VANZER_NUMBER(FineVisita),
-        VANZER_NUMBER(OreTraghetti),
-        VANZER_NUMBER(OreGuidaGiorno),
-        VANZER_NUMBER(OreVisitaGiorno),
-        VANZER_NUMBER(RiposoMinuti),
-        VANZER_NUMBER(RiposoOre),
-        VANZER_NUMBER(RiposoGiorno),
-        VANZER_NUMBER(RiposoDopoGiorni),
-        VANZER_NUMBER(GiornoInizio),
-        VANZER_NUMBER(MeseInizio),
-        VANZER_NUMBER(AnnoInizio),
-        VANZER_NUMBER(GiulianoInizio),
-        VANZER_NUMBER(GiulianoCorrente),
-        VANZER_NUMBER(OraInizioViaggio),
-        VANZER_NUMBER(GiorniDesiderati),
-        VANZER_NUMBER(NumeroTraghetti),
-        VANZER_VARIABLE(PulsantiMeta),
-        VANZER_VARIABLE(PulsantiItinerario),
-        VANZER_VARIABLE(ViandoriaCalcolata),
-        VANZER_VARIABLE(ModoRicerca),
-        VANZER_VARIABLE(ModoGuida),
-        VANZER_VARIABLE(Risposta),
-        VANZER_VARIABLE(NumeroTappe),
-        VANZER_VARIABLE(RigaCorrente),
-        VANZER_NUMBER(Coefficiente),
-        VANZER_NUMBER(NumeroTest),
-        VANZER_NUMBER(GiorniCalcolati),
+        VANZER_VARIABLE(window, CodiceMeta),
+        VANZER_VARIABLE(trip, OraColazione),
+        VANZER_VARIABLE(trip, OraPranzo),
+        VANZER_VARIABLE(trip, OraCena),
+        VANZER_VARIABLE(trip, OraNotte),
+        VANZER_VARIABLE(trip, DurataPranzo),
+        VANZER_VARIABLE(trip, DurataCena),
+        VANZER_VARIABLE(trip, InizioVisita),
+        VANZER_VARIABLE(trip, FineVisita),
+        VANZER_VARIABLE(trip, OreTraghetti),
+        VANZER_VARIABLE(trip, OreGuidaGiorno),
+        VANZER_VARIABLE(trip, OreVisitaGiorno),
+        VANZER_VARIABLE(trip, RiposoMinuti),
+        VANZER_VARIABLE(trip, RiposoOre),
+        VANZER_VARIABLE(trip, RiposoGiorno),
+        VANZER_VARIABLE(trip, RiposoDopoGiorni),
+        VANZER_VARIABLE(trip, GiornoInizio),
+        VANZER_VARIABLE(trip, MeseInizio),
+        VANZER_VARIABLE(trip, AnnoInizio),
+        VANZER_VARIABLE(trip, GiulianoInizio),
+        VANZER_VARIABLE(trip, GiulianoCorrente),
+        VANZER_VARIABLE(trip, OraInizioViaggio),
+        VANZER_VARIABLE(trip, GiorniDesiderati),
+        VANZER_VARIABLE(trip, NumeroTraghetti),
+        VANZER_VARIABLE(window, PulsantiMeta),
+        VANZER_VARIABLE(window, PulsantiItinerario),
+        VANZER_VARIABLE(window, ViandoriaCalcolata),
+        VANZER_VARIABLE(window, ModoRicerca),
+        VANZER_VARIABLE(window, ModoGuida),
+        VANZER_VARIABLE(window, Risposta),
+        VANZER_VARIABLE(window, NumeroTappe),
+        VANZER_VARIABLE(window, RigaCorrente),
+        VANZER_VARIABLE(trip, Coefficiente),
+        VANZER_VARIABLE(trip, NumeroTest),
+        VANZER_VARIABLE(trip, GiorniCalcolati),
     };
 }
-#undef VANZER_NUMBER
 #undef VANZER_VARIABLE
 
 QJsonObject controlState(const Control& control) {
